@@ -1,0 +1,41 @@
+# What every target of the project is compiled with, and how the folders of src/ become targets.
+
+add_library(cabledoc_strict INTERFACE)
+target_compile_options(cabledoc_strict INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion)
+target_compile_definitions(cabledoc_strict INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+if(CABLEDOC_SANITIZERS)
+  target_compile_options(cabledoc_strict INTERFACE
+    -fsanitize=${CABLEDOC_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(cabledoc_strict INTERFACE -fsanitize=${CABLEDOC_SANITIZERS})
+endif()
+
+# Public headers are gathered here, flat, as they are when installed: <cabledoc/jobeditor.h>.
+# The program and the examples see this folder only.
+set(CABLEDOC_PUBLIC_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
+
+function(cabledoc_public_headers)
+  foreach(header IN LISTS ARGN)
+    cmake_path(GET header FILENAME name)
+    configure_file(${header} ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${name} COPYONLY)
+  endforeach()
+  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+endfunction()
+
+# cabledoc_layer(NAME SOURCES ... HEADERS ... USES ...)
+# One folder of src/ as a set of objects. It finds the headers of the folders it uses and of no
+# others, so the compiler keeps the order of the folders. HEADERS are the public ones.
+function(cabledoc_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;HEADERS;USES")
+  add_library(cabledoc_${name} OBJECT ${layer_SOURCES} ${layer_HEADERS})
+  target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_compile_definitions(cabledoc_${name} PRIVATE cabledoc_EXPORTS)
+  target_link_libraries(cabledoc_${name}
+    PUBLIC Qt${CABLEDOC_QT_MAJOR}::Core Qt${CABLEDOC_QT_MAJOR}::Xml ${layer_USES}
+    PRIVATE cabledoc_strict)
+  cabledoc_public_headers(${layer_HEADERS})
+  target_sources(cabledoc PRIVATE $<TARGET_OBJECTS:cabledoc_${name}>)
+  set_property(GLOBAL APPEND PROPERTY CABLEDOC_LAYERS cabledoc_${name})
+endfunction()

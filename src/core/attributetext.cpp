@@ -1,0 +1,44 @@
+#include "attributetext.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace cabledoc {
+
+QString toText(int value)
+{
+    return QString::number(value);
+}
+
+QString toText(double value)
+{
+    // Not QString::number: its shortest form differs between the versions of Qt ("100000", "1e+05").
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    return QString::fromLatin1(text.data(), int(end - text.data()));
+}
+
+void fromText(const QString &text, int *value)
+{
+    *value = text.toInt();
+}
+
+void fromText(const QString &text, double *value)
+{
+    *value = text.toDouble();
+}
+
+int truncated(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    if (value <= std::numeric_limits<int>::min())
+        return std::numeric_limits<int>::min();
+    if (value >= std::numeric_limits<int>::max())
+        return std::numeric_limits<int>::max();
+    return int(value);
+}
+
+} // namespace cabledoc

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// How values become the text of an attribute, and back. Nothing here depends on the locale.
+namespace cabledoc {
+
+inline QString toText(const QString &value)
+{
+    return value;
+}
+QString toText(int value);
+/// The shortest text that reads back to the same value: "8", "9.5", "0.1".
+QString toText(double value);
+
+inline void fromText(const QString &text, QString *value)
+{
+    *value = text;
+}
+/// 0 for a text that is no number.
+void fromText(const QString &text, int *value);
+void fromText(const QString &text, double *value);
+
+/// value without its fraction; the nearest int for a value beyond them, 0 for one that is no number.
+int truncated(double value);
+
+} // namespace cabledoc

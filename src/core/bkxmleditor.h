@@ -1,0 +1,124 @@
+#pragma once
+
+#include "cabledoc_export.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtXml/QDomDocument>
+
+class PageSettings;
+class PrintSettings;
+class ScaleSettings;
+
+namespace cabledoc::xmlfile {
+struct AttributeOrder;
+}
+
+/// What the job document and the template document have in common: one XML tree in memory, the name of
+/// its file, the text of the last failure, and whether the tree was changed since it was last created,
+/// loaded or saved.
+///
+/// Failures are values: an operation that fails returns false or an empty value and, where it says so,
+/// leaves a text in error(). A document and all that is read from it belong to one thread at a time.
+class CABLEDOC_EXPORT BKXMLEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An empty document, unchanged, without a file name.
+    explicit BKXMLEditor(const QString &documentTypeName);
+    /// A document that shares the other's tree, file name and error text, with the same parent, and is
+    /// unchanged.
+    BKXMLEditor(BKXMLEditor &other);
+    /// Shares the other's tree and takes its file name and error text. The target stays changed or
+    /// unchanged as it was.
+    BKXMLEditor &operator=(const BKXMLEditor &other);
+    ~BKXMLEditor() override;
+
+    /// Full path of the document's file; empty when there is none. May be assigned through.
+    QString &filename() { return m_filename; }
+    /// Sets the path without any check. Does not change the document.
+    void setFilename(const QString &filename) { m_filename = filename; }
+    /// The last failure in words for the user, or a status word; empty when there was none. May be
+    /// assigned through.
+    QString &error() { return m_error; }
+
+    // Print, page and scale settings, one entry for each report or view: "JobInfo_Settings",
+    // "NetView_Settings", "Inventory_Settings", "FloorPlan_Settings", "TestSched_Settings",
+    // "DetailedCable_Settings", "JobNotes_Settings", "ActiveNetworkTestResults_Settings". Page and scale
+    // settings exist for "NetView_Settings" and "FloorPlan_Settings" only.
+
+    /// Stores the settings of the named entry, which is created when it is missing. Changes the document
+    /// only by what differs from the stored settings; nothing is stored for an unknown name or in a
+    /// document without the list of settings.
+    void setPrintSettings(const PrintSettings &settings, const QString &name);
+    void setPageSettings(const PageSettings &settings, const QString &name);
+    void setScaleSettings(const ScaleSettings &settings, const QString &name);
+
+    /// The settings of the named entry; default settings for an unknown name or in a document without
+    /// the list of settings. Changes the document when a known entry, or an attribute of it, is missing:
+    /// it is added with its default.
+    PrintSettings getPrintSettings(const QString &name);
+    PageSettings getPageSettings(const QString &name);
+    ScaleSettings getScaleSettings(const QString &name);
+
+protected:
+    /// Whether the tree was changed since it was last created, loaded or saved.
+    bool fileChanged() const { return m_dirty; }
+    void setDirty(bool dirty) { m_dirty = dirty; }
+
+    // Finding elements. Elements are handles into the tree and live as long as it does.
+
+    /// The first child of the root element. The document's first child is taken for the root, whatever
+    /// it is; null when there is none or it is empty.
+    QDomNode getDomNodeFirstChild() const;
+    /// The first element named tagName among start and the siblings that follow it; null when there is
+    /// none. Never looks into children.
+    static QDomElement getChildElement(const QString &tagName, const QDomNode &start);
+    static bool hasChildElement(const QString &tagName, const QDomNode &start);
+    /// The first child of the root named tagName; null when there is none.
+    QDomElement getElement(const QString &tagName) const;
+
+    // Reading and writing attributes. None of these sets the dirty flag.
+
+    /// The attribute's value; null for a null element or a missing attribute.
+    static QString getChildAttr(const QString &attribute, const QDomElement &element);
+    /// Sets an attribute that the element has. A missing attribute is deliberately not created: elements
+    /// get all their attributes when they are added.
+    static void setChildAttr(const QString &attribute, const QString &value, QDomElement &element);
+    /// The same for the attribute "id".
+    static QString getElementId(const QDomElement &element);
+    static void setElementId(const QString &id, QDomElement &element);
+
+    // The containers that both documents have; null when the path to them does not exist.
+    QDomElement getToTestDefList() const;
+    QDomElement getToBundledCableTypeList() const;
+    QDomElement getToPrintSettingsList() const;
+    QDomElement getToPageSettingsList() const;
+    QDomElement getToScaleSettingsList() const;
+
+    /// Appends the default settings of a new document to parent, and an empty "JobNotes_Text".
+    void addSettingsList(QDomElement *parent);
+
+    /// Four flags as "0" and "1", in their order.
+    static QString boolArrayToString(const bool *flags);
+    /// Reads four flags. False at the first character that is neither "0" nor "1", or missing: the flags
+    /// before it are written, the others are not.
+    static bool stringToBoolArray(const QString &text, bool *flags);
+
+    /// Appends a new element to parent.
+    QDomElement appendElement(const QString &tagName, QDomNode parent);
+    /// Writes the tree to a file. On a failure the file is as it was, the dirty flag too, and error()
+    /// says why.
+    bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order);
+
+    QDomDocument m_document;
+    QString m_filename;
+    QString m_error;
+    bool m_dirty = false;
+
+private:
+    QDomElement settingsList(const QString &tagName) const;
+    template <typename Settings, typename Kind> void store(const Settings &settings, const QString &name, const Kind &);
+    template <typename Settings, typename Kind> Settings fetch(const QString &name, const Kind &);
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtXml/QDomElement>
+
+namespace cabledoc {
+
+/// The child elements of an element in document order, for range-based loops. The loop must not remove
+/// the element that it is at.
+class ChildElements
+{
+public:
+    class Iterator
+    {
+    public:
+        explicit Iterator(const QDomElement &element)
+            : m_element(element)
+        {
+        }
+        const QDomElement &operator*() const { return m_element; }
+        Iterator &operator++()
+        {
+            m_element = m_element.nextSiblingElement();
+            return *this;
+        }
+        bool operator!=(const Iterator &other) const { return m_element != other.m_element; }
+
+    private:
+        QDomElement m_element;
+    };
+
+    explicit ChildElements(const QDomElement &parent)
+        : m_parent(parent)
+    {
+    }
+    Iterator begin() const { return Iterator(m_parent.firstChildElement()); }
+    Iterator end() const { return Iterator(QDomElement()); }
+
+private:
+    QDomElement m_parent;
+};
+
+} // namespace cabledoc

@@ -1,0 +1,49 @@
+#include "settingsattributes.h"
+
+namespace cabledoc {
+
+const AttributeTable<PrintSettingsFields> &printSettingsAttributes()
+{
+    using F = PrintSettingsFields;
+    static const AttributeTable<F> table{
+        attribute<&F::paperSize>(QStringLiteral("paper_size"), WhenMissing::AddDefault),
+        attribute<&F::orientation>(QStringLiteral("orientation"), WhenMissing::AddDefault),
+        attribute<&F::printZoom>(QStringLiteral("print_zoom"), WhenMissing::AddDefault),
+        attribute<&F::fitToAcross>(QStringLiteral("fit_to_across"), WhenMissing::AddDefault),
+        attribute<&F::fitToDown>(QStringLiteral("fit_to_down"), WhenMissing::AddDefault),
+        attribute<&F::printZoomStyle>(QStringLiteral("print_zoom_style"), WhenMissing::AddDefault),
+    };
+    return table;
+}
+
+const AttributeTable<PageSettingsFields> &pageSettingsAttributes()
+{
+    using F = PageSettingsFields;
+    static const AttributeTable<F> table{
+        attribute<&F::pageSize>(QStringLiteral("page_size"), WhenMissing::AddDefault),
+        attribute<&F::pageStandard>(QStringLiteral("page_standard"), WhenMissing::AddDefault),
+        attribute<&F::orientation>(QStringLiteral("orientation"), WhenMissing::AddDefault),
+        attribute<&F::pageSizeStyle>(QStringLiteral("page_size_style"), WhenMissing::AddDefault),
+        attribute<&F::pageUnits>(QStringLiteral("page_units"), WhenMissing::AddDefault),
+        attribute<&F::customHeight>(QStringLiteral("custom_height"), WhenMissing::AddDefault),
+        attribute<&F::customWidth>(QStringLiteral("custom_width"), WhenMissing::AddDefault),
+    };
+    return table;
+}
+
+const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes()
+{
+    using F = ScaleSettingsFields;
+    static const AttributeTable<F> table{
+        attribute<&F::predefinedScale>(QStringLiteral("predefined_scale"), WhenMissing::AddDefault),
+        attribute<&F::predefinedStyle>(QStringLiteral("predefined_style"), WhenMissing::AddDefault),
+        attribute<&F::widthUnits>(QStringLiteral("width_units"), WhenMissing::AddDefault),
+        attribute<&F::heightUnits>(QStringLiteral("height_units"), WhenMissing::AddDefault),
+        attribute<&F::customHeight>(QStringLiteral("custom_height"), WhenMissing::AddDefault),
+        attribute<&F::customWidth>(QStringLiteral("custom_width"), WhenMissing::AddDefault),
+        attribute<&F::style>(QStringLiteral("style"), WhenMissing::AddDefault),
+    };
+    return table;
+}
+
+} // namespace cabledoc

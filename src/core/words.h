@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// The fixed words of both file kinds. Every element or attribute name stands here once.
+namespace cabledoc::words {
+
+// Version
+inline const QString Version = QStringLiteral("Version");
+inline const QString Number = QStringLiteral("number");
+inline const QString CurrentVersion = QStringLiteral("3.0");
+inline const QString Release = QStringLiteral("Release");
+
+// Contractor, site and notes
+inline const QString ContractorInfo = QStringLiteral("Contractor_Info");
+inline const QString SiteInfo = QStringLiteral("Site_Info");
+inline const QString Address = QStringLiteral("Address");
+inline const QString JobNotesText = QStringLiteral("JobNotes_Text");
+inline const QString Text = QStringLiteral("text");
+
+// Containers that both documents hold
+inline const QString TestDefList = QStringLiteral("TestDef_List");
+inline const QString BundledCableList = QStringLiteral("BundledCable_List");
+inline const QString SettingsList = QStringLiteral("Settings_List");
+inline const QString PrintSettingsList = QStringLiteral("PrintSettings_List");
+inline const QString PageSettingsList = QStringLiteral("PageSettings_List");
+inline const QString ScaleSettingsList = QStringLiteral("ScaleSettings_List");
+
+// Settings entries: one for each report or view
+inline const QString JobInfoSettings = QStringLiteral("JobInfo_Settings");
+inline const QString NetViewSettings = QStringLiteral("NetView_Settings");
+inline const QString InventorySettings = QStringLiteral("Inventory_Settings");
+inline const QString FloorPlanSettings = QStringLiteral("FloorPlan_Settings");
+inline const QString TestSchedSettings = QStringLiteral("TestSched_Settings");
+inline const QString DetailedCableSettings = QStringLiteral("DetailedCable_Settings");
+inline const QString JobNotesSettings = QStringLiteral("JobNotes_Settings");
+inline const QString ActiveNetworkTestResultsSettings = QStringLiteral("ActiveNetworkTestResults_Settings");
+
+// The name that every element of a kind of its own shows to the user
+inline const QString Id = QStringLiteral("id");
+
+} // namespace cabledoc::words

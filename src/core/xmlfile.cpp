@@ -1,0 +1,91 @@
+#include "xmlfile.h"
+
+#include "qtcompat.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace cabledoc::xmlfile {
+
+ReadResult read(const QString &fileName, const QString &documentTypeName)
+{
+    ReadResult result;
+    result.document = QDomDocument(documentTypeName);
+
+    QFile file(fileName);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        result.status = ReadResult::NotOpened;
+        result.deviceError = file.errorString();
+        return result;
+    }
+
+    result.problem = scanXml(bytes);
+    if (result.problem.message.isNull()) {
+        QXmlStreamReader reader(QString::fromLatin1(bytes));
+        reader.setNamespaceProcessing(false);
+        result.problem = qtcompat::setContent(&result.document, &reader);
+    }
+    if (!result.problem.message.isNull()) {
+        result.status = ReadResult::NotParsed;
+        // A failed parse leaves half a tree behind.
+        result.document = QDomDocument(documentTypeName);
+    }
+    return result;
+}
+
+namespace {
+
+QString systemError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
+/// Makes a rename within the folder survive a power cut. A folder that may not be read cannot be
+/// synced; the file itself is safe then.
+QString syncFolder(const QString &folder)
+{
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return QString();
+    const QString error = ::fsync(handle) == 0 || errno == EINVAL ? QString() : systemError();
+    ::close(handle);
+    return error;
+}
+
+} // namespace
+
+QString write(const QString &fileName, const QByteArray &bytes)
+{
+    QSaveFile file(fileName);
+    // Unbuffered and with every result looked at: QSaveFile by itself moves a torn file into place when
+    // the disk fills up while it empties its buffer.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    QString error;
+    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError)
+        error = file.error() == QFileDevice::NoError
+                    ? QCoreApplication::translate("XmlFile", "The file could not be written whole.")
+                    : file.errorString();
+    else if (::fsync(file.handle()) != 0)
+        error = systemError();
+    if (!error.isEmpty()) {
+        file.cancelWriting();
+        return error;
+    }
+    if (!file.commit())
+        return file.errorString();
+    return syncFolder(QFileInfo(QFileInfo(fileName).canonicalFilePath()).path());
+}
+
+} // namespace cabledoc::xmlfile

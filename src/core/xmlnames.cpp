@@ -1,0 +1,24 @@
+#include "xmlnames.h"
+
+#include <algorithm>
+
+namespace {
+
+bool startsName(char16_t c)
+{
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_'
+           || (c >= 0xC0 && c <= 0xFF && c != 0xD7 && c != 0xF7);
+}
+
+bool continuesName(char16_t c)
+{
+    return startsName(c) || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.' || c == 0xB7;
+}
+
+} // namespace
+
+bool cabledoc::isXmlName(const QString &text)
+{
+    return !text.isEmpty() && startsName(text.at(0).unicode())
+           && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return continuesName(c.unicode()); });
+}

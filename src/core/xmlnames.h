@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace cabledoc {
+
+/// Whether the text can name an element or attribute of a file: an XML name without a colon, of
+/// Latin-1 characters only, since names cannot be escaped.
+bool isXmlName(const QString &text);
+
+/// Whether the files' encoding and XML 1.0 can both carry the character.
+constexpr bool isStorable(char16_t character)
+{
+    return character <= 0xFF && (character >= 0x20 || character == u'\t' || character == u'\n' || character == u'\r');
+}
+
+} // namespace cabledoc

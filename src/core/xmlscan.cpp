@@ -1,0 +1,130 @@
+#include "xmlscan.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// Walks the markup of a text. Where the text is not well-formed the walk may go astray, but not before
+/// the place at which the parser stops.
+class Scanner
+{
+public:
+    explicit Scanner(const QByteArray &text)
+        : m_begin(text.constData())
+        , m_position(m_begin)
+        , m_end(m_begin + text.size())
+    {
+    }
+
+    cabledoc::XmlProblem run()
+    {
+        while (m_problem.message.isNull() && goTo("<")) {
+            if (skip("<!--"))
+                goBehind("-->");
+            else if (skip("<![CDATA["))
+                goBehind("]]>");
+            else if (skip("<?"))
+                goBehind("?>");
+            else if (skip("</"))
+                --m_depth;
+            else if (skip("<!"))
+                documentType();
+            else
+                startTag();
+        }
+        return m_problem;
+    }
+
+private:
+    void startTag()
+    {
+        const char *tag = m_position;
+        int attributes = 0;
+        for (; m_position != m_end && *m_position != '>'; ++m_position) {
+            if (!atQuote())
+                continue;
+            if (++attributes > cabledoc::maximumAttributes) {
+                report(QCoreApplication::translate("XmlFile", "An element has more than %1 attributes.")
+                           .arg(cabledoc::maximumAttributes));
+                return;
+            }
+            if (!goToClosingQuote())
+                return;
+        }
+        const bool isEmptyElement = m_position != m_end && m_position[-1] == '/';
+        if (m_depth + 1 > cabledoc::maximumDepth) {
+            m_position = tag;
+            report(QCoreApplication::translate("XmlFile", "Elements are nested more than %1 levels deep.")
+                       .arg(cabledoc::maximumDepth));
+        } else if (!isEmptyElement) {
+            ++m_depth;
+        }
+    }
+
+    void documentType()
+    {
+        for (; m_position != m_end && *m_position != '>'; ++m_position) {
+            if (*m_position == '[' || atQuote()) {
+                report(
+                    QCoreApplication::translate("XmlFile", "Only a document type without declarations is supported."));
+                return;
+            }
+        }
+    }
+
+    bool atQuote() const { return *m_position == '"' || *m_position == '\''; }
+
+    bool goToClosingQuote()
+    {
+        const char quote = *m_position;
+        m_position = std::find(m_position + 1, m_end, quote);
+        return m_position != m_end;
+    }
+
+    bool goTo(const char *mark)
+    {
+        m_position = std::search(m_position, m_end, mark, mark + std::strlen(mark));
+        return m_position != m_end;
+    }
+
+    void goBehind(const char *mark)
+    {
+        if (goTo(mark))
+            m_position += std::strlen(mark);
+    }
+
+    bool skip(const char *mark)
+    {
+        const std::size_t length = std::strlen(mark);
+        if (std::size_t(m_end - m_position) < length || std::strncmp(m_position, mark, length) != 0)
+            return false;
+        m_position += length;
+        return true;
+    }
+
+    void report(const QString &message)
+    {
+        m_problem.message = message;
+        m_problem.line = 1 + int(std::count(m_begin, m_position, '\n'));
+        const char *lineStart = m_position;
+        while (lineStart != m_begin && lineStart[-1] != '\n')
+            --lineStart;
+        m_problem.column = 1 + int(m_position - lineStart);
+    }
+
+    const char *m_begin;
+    const char *m_position;
+    const char *m_end;
+    int m_depth = 0;
+    cabledoc::XmlProblem m_problem;
+};
+
+} // namespace
+
+cabledoc::XmlProblem cabledoc::scanXml(const QByteArray &text)
+{
+    return Scanner(text).run();
+}

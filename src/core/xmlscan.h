@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+/// Limits that a file must keep, so that neither the parser nor the tree can be made to fail.
+namespace cabledoc {
+
+/// Beyond some thousands of levels the tree's recursive functions end the process.
+constexpr int maximumDepth = 256;
+/// The parser's time grows with the square of the attributes of one element.
+constexpr int maximumAttributes = 4096;
+
+/// Where and why a text cannot be taken as it is. A null message: nothing was found.
+struct XmlProblem
+{
+    QString message;
+    int line = 0;   ///< counted from 1
+    int column = 0; ///< counted from 1
+};
+
+/// Looks through an undecoded XML text for what the parser must not see: too many levels or attributes,
+/// and document types that say more than a name (they could hold entities that grow without end, or
+/// that cannot be resolved). Faults of syntax are left to the parser.
+XmlProblem scanXml(const QByteArray &text);
+
+} // namespace cabledoc

@@ -1,0 +1,271 @@
+#include "xmlfile.h"
+#include "xmlnames.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QVector>
+#include <QtXml/QDomAttr>
+#include <QtXml/QDomProcessingInstruction>
+
+#include <algorithm>
+
+namespace cabledoc::xmlfile {
+
+namespace {
+
+enum class Escape {
+    Nothing, ///< comments, CDATA sections and names
+    Text,
+    AttributeValue,
+};
+
+bool isCharacterData(const QDomNode &node)
+{
+    return node.isText() || node.isCDATASection();
+}
+
+/// Whether blanks between the children would change what the element holds.
+bool isMixed(const QDomElement &element)
+{
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (isCharacterData(child))
+            return true;
+    }
+    return false;
+}
+
+class TextWriter
+{
+public:
+    explicit TextWriter(const AttributeOrder &order)
+        : m_order(order)
+    {
+    }
+
+    /// Goes through the tree without recursion, so that no depth can exhaust the stack.
+    Text write(const QDomDocument &document)
+    {
+        int roots = 0;
+        for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling())
+            roots += node.isElement() ? 1 : 0;
+        if (roots != 1) {
+            m_text.error = roots == 0
+                               ? QCoreApplication::translate("XmlFile", "The document is empty.")
+                               : QCoreApplication::translate("XmlFile", "The document has more than one root element.");
+        }
+
+        QDomNode node = document.firstChild();
+        while (!node.isNull() && m_text.error.isEmpty()) {
+            start(node);
+            if (node.isElement() && node.hasChildNodes()) {
+                node = node.firstChild();
+                continue;
+            }
+            while (node.nextSibling().isNull() && !m_open.isEmpty()) {
+                end();
+                node = node.parentNode();
+            }
+            node = node.nextSibling();
+        }
+        return m_text;
+    }
+
+private:
+    struct OpenElement
+    {
+        QByteArray name;
+        bool isMixed;                  ///< itself or by one of its ancestors
+        const QStringList *childOrder; ///< of its children's attributes; null when there is none
+    };
+
+    void start(const QDomNode &node)
+    {
+        // The declaration is never written: the encoding is fixed, whatever an old file said.
+        if (node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml"))
+            return;
+        if (!isCharacterData(node))
+            indent();
+        if (node.isElement())
+            startElement(node.toElement());
+        else
+            writeLeaf(node);
+        if (!node.isElement() && !isCharacterData(node))
+            endLine();
+    }
+
+    void startElement(const QDomElement &element)
+    {
+        const QString name = element.tagName();
+        m_text.bytes += '<';
+        append(name, Escape::Nothing);
+        writeAttributes(element);
+        if (!element.hasChildNodes()) {
+            m_text.bytes += "/>";
+            endLine();
+            return;
+        }
+        if (m_open.size() == maximumDepth - 1) {
+            m_text.error = QCoreApplication::translate("XmlFile", "Elements are nested more than %1 levels deep.")
+                               .arg(maximumDepth);
+            return;
+        }
+        m_text.bytes += '>';
+        const bool mixed = isMixedHere() || isMixed(element);
+        const auto childOrder = m_order.inContainer.constFind(name);
+        m_open.append({name.toLatin1(), mixed, childOrder == m_order.inContainer.cend() ? nullptr : &*childOrder});
+        endLine();
+    }
+
+    void end()
+    {
+        const OpenElement element = m_open.takeLast();
+        if (!element.isMixed)
+            m_text.bytes.append(m_open.size(), ' ');
+        m_text.bytes += "</";
+        m_text.bytes += element.name;
+        m_text.bytes += '>';
+        endLine();
+    }
+
+    void writeLeaf(const QDomNode &node)
+    {
+        if (node.isCDATASection()) {
+            // Qt 5 drops an empty section on reading, Qt 6 keeps it.
+            if (node.nodeValue().isEmpty())
+                return;
+            m_text.bytes += "<![CDATA[";
+            append(node.nodeValue(), Escape::Nothing);
+            m_text.bytes += "]]>";
+        } else if (node.isText()) {
+            append(node.nodeValue(), Escape::Text);
+        } else if (node.isComment()) {
+            m_text.bytes += "<!--";
+            append(node.nodeValue(), Escape::Nothing);
+            m_text.bytes += "-->";
+        } else if (node.isProcessingInstruction()) {
+            const QDomProcessingInstruction instruction = node.toProcessingInstruction();
+            m_text.bytes += "<?";
+            append(instruction.target(), Escape::Nothing);
+            m_text.bytes += ' ';
+            append(instruction.data(), Escape::Nothing);
+            m_text.bytes += "?>";
+        }
+    }
+
+    void writeAttributes(QDomElement element)
+    {
+        const QDomNamedNodeMap attributes = element.attributes();
+        if (attributes.count() > maximumAttributes) {
+            m_text.error = QCoreApplication::translate("XmlFile", "An element has more than %1 attributes.")
+                               .arg(maximumAttributes);
+            return;
+        }
+        const QStringList *order = orderOf(element);
+        int written = 0;
+        if (order != nullptr) {
+            for (const QString &name : *order) {
+                const QDomAttr attribute = element.attributeNode(name);
+                if (attribute.isNull())
+                    continue;
+                writeAttribute(name, attribute.value());
+                ++written;
+            }
+        }
+        if (written == attributes.count())
+            return;
+
+        QStringList others;
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QString name = attributes.item(i).nodeName();
+            if (order == nullptr || !order->contains(name))
+                others.append(name);
+        }
+        std::sort(others.begin(), others.end());
+        for (const QString &name : std::as_const(others))
+            writeAttribute(name, element.attribute(name));
+    }
+
+    void writeAttribute(const QString &name, const QString &value)
+    {
+        m_text.bytes += ' ';
+        append(name, Escape::Nothing);
+        m_text.bytes += "=\"";
+        append(value, Escape::AttributeValue);
+        m_text.bytes += '"';
+    }
+
+    const QStringList *orderOf(const QDomElement &element) const
+    {
+        if (!m_open.isEmpty() && m_open.last().childOrder != nullptr)
+            return m_open.last().childOrder;
+        const auto own = m_order.ofElement.constFind(element.tagName());
+        return own == m_order.ofElement.cend() ? nullptr : &*own;
+    }
+
+    bool isMixedHere() const { return !m_open.isEmpty() && m_open.last().isMixed; }
+
+    void indent()
+    {
+        if (!isMixedHere())
+            m_text.bytes.append(m_open.size(), ' ');
+    }
+
+    void endLine()
+    {
+        if (!isMixedHere())
+            m_text.bytes += '\n';
+    }
+
+    void append(const QString &text, Escape escape)
+    {
+        for (auto character = text.cbegin(); character != text.cend(); ++character) {
+            const char16_t code = character->unicode();
+            if (const char *escaped = reference(code, escape)) {
+                m_text.bytes += escaped;
+            } else if (isStorable(code)) {
+                m_text.bytes += char(code);
+            } else {
+                if (character->isHighSurrogate() && character + 1 != text.cend() && character[1].isLowSurrogate())
+                    ++character;
+                m_text.bytes += '?';
+                ++m_text.replacedCharacters;
+            }
+        }
+    }
+
+    /// What a character must be written as; null when it can stand as it is.
+    static const char *reference(char16_t character, Escape escape)
+    {
+        switch (character) {
+        case u'&':
+            return escape == Escape::Nothing ? nullptr : "&amp;";
+        case u'<':
+            return escape == Escape::Nothing ? nullptr : "&lt;";
+        case u'>':
+            return escape == Escape::Nothing ? nullptr : "&gt;";
+        case u'\r':
+            return escape == Escape::Nothing ? nullptr : "&#13;";
+        case u'"':
+            return escape == Escape::AttributeValue ? "&quot;" : nullptr;
+        // As they stand in a value the parser would make blanks of them.
+        case u'\t':
+            return escape == Escape::AttributeValue ? "&#9;" : nullptr;
+        case u'\n':
+            return escape == Escape::AttributeValue ? "&#10;" : nullptr;
+        default:
+            return nullptr;
+        }
+    }
+
+    const AttributeOrder &m_order;
+    QVector<OpenElement> m_open;
+    Text m_text;
+};
+
+} // namespace
+
+Text toText(const QDomDocument &document, const AttributeOrder &order)
+{
+    return TextWriter(order).write(document);
+}
+
+} // namespace cabledoc::xmlfile

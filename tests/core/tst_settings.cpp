@@ -1,0 +1,215 @@
+#include "bkxmleditor.h"
+#include "pagesettings.h"
+#include "printsettings.h"
+#include "scalesettings.h"
+
+#include <QtTest/QtTest>
+
+namespace {
+
+const QString NetView = QStringLiteral("NetView_Settings");
+const QString A4 = QStringLiteral("A4: 210 mm. x 297 mm.");
+
+class SettingsEditor : public BKXMLEditor
+{
+public:
+    SettingsEditor()
+        : BKXMLEditor(QStringLiteral("Test"))
+    {
+        QDomElement root = appendElement(QStringLiteral("Test"), m_document);
+        addSettingsList(&root);
+        setDirty(false);
+    }
+
+    using BKXMLEditor::fileChanged;
+    using BKXMLEditor::getToPrintSettingsList;
+    using BKXMLEditor::setDirty;
+
+    QString text() const { return m_document.toString(); }
+    void clear() { m_document.clear(); }
+    QDomElement printEntry(const QString &name) const { return getToPrintSettingsList().firstChildElement(name); }
+};
+
+QString dimensions(const PageSettings &settings)
+{
+    return QStringLiteral("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
+}
+
+QString dimensions(const PrintSettings &settings)
+{
+    return QStringLiteral("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
+}
+
+} // namespace
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pageDimensions()
+    {
+        PageSettings page;
+        QCOMPARE(dimensions(page), QStringLiteral("-1 x -1"));
+        page.setPageSizeStyle(1);
+        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        page.setPageSizeStyle(2);
+        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        page.setOrientation(0);
+        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        page.setPageSizeStyle(1);
+        QCOMPARE(dimensions(page), QStringLiteral("8.5 x 11"));
+        for (const int style : {-1, 3, 4}) {
+            page.setPageSizeStyle(style);
+            QCOMPARE(dimensions(page), QStringLiteral("-1 x -1"));
+        }
+        const PageSettings custom(A4, QStringLiteral("Standard"), 1, 2, 0, 30.0, 20.0);
+        QCOMPARE(dimensions(custom), QStringLiteral("30 x 20"));
+    }
+
+    void printDimensions_data()
+    {
+        QTest::addColumn<QString>("paper");
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("portrait") << A4 << 0 << "8.26 x 11.692";
+        QTest::newRow("landscape") << A4 << 1 << "11.692 x 8.26";
+        QTest::newRow("A5 is higher than A4 is wide") << "A5: 148 mm. x 210 mm." << 0 << "5.826 x 8.267";
+        QTest::newRow("last of the table") << "30 in. x 42 in." << 0 << "30 x 42";
+        QTest::newRow("other orientation") << A4 << 2 << "-1 x -1";
+        QTest::newRow("unknown paper") << "A4" << 0 << "-1 x -1";
+    }
+
+    void printDimensions()
+    {
+        QFETCH(QString, paper);
+        QFETCH(int, orientation);
+        QTEST(dimensions(PrintSettings(paper, orientation, 100, 1, 1, 0)), "expected");
+    }
+
+    void paperSizesOfferedInOrder()
+    {
+        const QStringList sizes = SettingsStrings::paperSizes();
+        QCOMPARE(sizes.size(), 38);
+        QCOMPARE(sizes.mid(4, 4).join(QLatin1Char('|')),
+                 QStringLiteral("Tabloid: 11 in. x 17 in.|DLE: 110 mm. x 220 mm.|C5E: 163 mm. x 229 mm.|"
+                                "B10: 32 mm. x 45 mm."));
+        QCOMPARE(sizes.at(17), QStringLiteral("B0: 1030 mm. x 1456 mm."));
+        QCOMPARE(sizes.at(18), QStringLiteral("A9: 37 mm. x 52 mm."));
+        for (const QString &size : sizes)
+            QVERIFY2(PrintSettings(size, 0, 100, 1, 1, 0).getPageWidthDimension() > 0, qPrintable(size));
+    }
+
+    void scales()
+    {
+        ScaleSettings scale;
+        QCOMPARE(scale.scale(), 20);
+        QVERIFY(!scale.isMetric());
+        scale.setPredefinedStyle(QStringLiteral("Metric"));
+        scale.setWidthUnits(1);
+        scale.setHeightUnits(2);
+        QVERIFY(!scale.isMetric());
+        scale.setStyle(1);
+        QVERIFY(scale.isMetric());
+        scale.setPredefinedScale(QStringLiteral("1 : 5"));
+        QCOMPARE(scale.scale(), 5);
+        scale.setPredefinedScale(QStringLiteral("1 : 3"));
+        QCOMPARE(scale.scale(), 10);
+        scale.setStyle(2);
+        scale.setCustomHeight(2.9);
+        QCOMPARE(scale.scale(), 2);
+        scale.setCustomHeight(1e300);
+        QCOMPARE(scale.scale(), std::numeric_limits<int>::max());
+        QVERIFY(scale.isMetric());
+        scale.setHeightUnits(0);
+        QVERIFY(!scale.isMetric());
+    }
+
+    void recordsAreValues()
+    {
+        QObject parent;
+        ScaleSettings original;
+        original.setParent(&parent);
+        original.setObjectName(QStringLiteral("name"));
+        original.setCustomWidth(3.0);
+        const ScaleSettings copy(original);
+        QVERIFY(copy == original);
+        QVERIFY(copy.parent() == nullptr && copy.objectName().isEmpty());
+        QVERIFY(copy != ScaleSettings());
+        ScaleSettings assigned;
+        assigned = original;
+        QVERIFY(assigned == original);
+        original.setParent(nullptr);
+    }
+
+    void newDocumentHasDefaults()
+    {
+        SettingsEditor editor;
+        for (const char *name : {"JobInfo", "NetView", "Inventory", "FloorPlan", "TestSched", "DetailedCable",
+                                 "JobNotes", "ActiveNetworkTestResults"}) {
+            const QString entry = QString::fromLatin1(name) + QStringLiteral("_Settings");
+            const bool isDrawing = qstrcmp(name, "NetView") == 0 || qstrcmp(name, "FloorPlan") == 0;
+            PrintSettings expected;
+            expected.setOrientation(isDrawing ? 1 : 0);
+            QVERIFY2(!editor.printEntry(entry).isNull(), name);
+            QVERIFY2(editor.getPrintSettings(entry) == expected, name);
+        }
+        for (const char *name : {"NetView_Settings", "FloorPlan_Settings"}) {
+            QVERIFY(editor.getPageSettings(QString::fromLatin1(name)) == PageSettings());
+            QVERIFY(editor.getScaleSettings(QString::fromLatin1(name)) == ScaleSettings());
+        }
+        QVERIFY(!editor.fileChanged());
+        QVERIFY(editor.text().contains(QStringLiteral("<JobNotes_Text text=\"\"/>")));
+    }
+
+    void storesWhatDiffers()
+    {
+        SettingsEditor editor;
+        const PrintSettings print(A4, 0, 75, 2, 3, 1);
+        const PageSettings page(A4, QStringLiteral("Metric (ISO)"), 0, 2, 1, 0.1, 1.0 / 3);
+        const ScaleSettings scale(QStringLiteral("Metric"), QStringLiteral("1 : 2"), 1, 2, 1e-7, 12345678.5, 2);
+        editor.setPrintSettings(print, NetView);
+        QVERIFY(editor.fileChanged());
+        editor.setPageSettings(page, NetView);
+        editor.setScaleSettings(scale, NetView);
+        editor.setDirty(false);
+        editor.setPrintSettings(print, NetView);
+        editor.setPageSettings(page, NetView);
+        editor.setScaleSettings(scale, NetView);
+        QVERIFY(!editor.fileChanged());
+        QVERIFY(editor.getPrintSettings(NetView) == print);
+        QVERIFY(editor.getPageSettings(NetView) == page);
+        QVERIFY(editor.getScaleSettings(NetView) == scale);
+    }
+
+    void fetchCompletesOlderFiles()
+    {
+        SettingsEditor editor;
+        editor.getToPrintSettingsList().removeChild(editor.printEntry(NetView));
+        QVERIFY(editor.getPrintSettings(NetView) == PrintSettings());
+        QVERIFY(editor.fileChanged());
+        QCOMPARE(editor.printEntry(NetView).attribute(QStringLiteral("print_zoom")), QStringLiteral("100"));
+
+        editor.setDirty(false);
+        editor.printEntry(NetView).removeAttribute(QStringLiteral("print_zoom"));
+        QCOMPARE(editor.getPrintSettings(NetView).printZoom(), 100);
+        QVERIFY(editor.fileChanged());
+        QVERIFY(editor.printEntry(NetView).hasAttribute(QStringLiteral("print_zoom")));
+    }
+
+    void unknownNamesAndMissingLists()
+    {
+        SettingsEditor editor;
+        const QString before = editor.text();
+        editor.setPageSettings(PageSettings(A4, A4, 0, 1, 1, 1, 1), QStringLiteral("JobInfo_Settings"));
+        QVERIFY(editor.getPageSettings(QStringLiteral("JobInfo_Settings")) == PageSettings());
+        QCOMPARE(editor.text(), before);
+        editor.clear();
+        editor.setPrintSettings(PrintSettings(A4, 0, 1, 1, 1, 1), NetView);
+        QVERIFY(editor.getPrintSettings(NetView) == PrintSettings());
+        QVERIFY(!editor.fileChanged());
+    }
+};
+
+QTEST_APPLESS_MAIN(SettingsTest)
+#include "tst_settings.moc"
