@@ -1,0 +1,220 @@
+#include "elementindex.h"
+
+#include "words.h"
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+QString idOf(const QDomElement &element)
+{
+    return element.attribute(words::Id);
+}
+
+/// Passes on the names in an ordered container that begin with the prefix.
+template <typename Iterator, typename NameOf>
+NumberedNames::Names namesWithPrefix(const QString &prefix, Iterator first, Iterator end, NameOf nameOf)
+{
+    return [=](const std::function<void(const QString &)> &use) {
+        for (Iterator it = first; it != end && nameOf(*it).startsWith(prefix); ++it)
+            use(nameOf(*it));
+    };
+}
+
+} // namespace
+
+void ElementIndex::clear()
+{
+    *this = ElementIndex();
+}
+
+void ElementIndex::append(const QDomElement &element)
+{
+    const auto entry = m_entries.insert({element.tagName(), {idOf(element), element}});
+    if (isFirst(entry))
+        show(entry);
+}
+
+void ElementIndex::remove(const QDomElement &element)
+{
+    const auto entry = find(element);
+    if (entry == m_entries.end())
+        return;
+    const bool wasFirst = isFirst(entry);
+    if (wasFirst)
+        hide(entry);
+    const auto next = m_entries.erase(entry);
+    if (wasFirst && next != m_entries.end() && isFirst(next) && next->first == element.tagName())
+        show(next);
+}
+
+void ElementIndex::updateId(const QDomElement &element)
+{
+    const auto entry = find(element);
+    if (entry == m_entries.end())
+        return;
+    if (!isFirst(entry)) {
+        entry->second.id = idOf(element);
+        return;
+    }
+    hide(entry);
+    entry->second.id = idOf(element);
+    show(entry);
+}
+
+void ElementIndex::forgetElements()
+{
+    for (auto &[tag, entry] : m_entries)
+        entry.element = QDomElement();
+}
+
+bool ElementIndex::containsTag(const QString &tag) const
+{
+    return m_entries.find(tag) != m_entries.end();
+}
+
+bool ElementIndex::containsId(const QString &id) const
+{
+    const auto found = m_ids.lower_bound({id, QString()});
+    return found != m_ids.end() && found->first == id;
+}
+
+QDomElement ElementIndex::element(const QString &tag) const
+{
+    const auto entry = m_entries.lower_bound(tag);
+    return entry != m_entries.end() && entry->first == tag ? entry->second.element : QDomElement();
+}
+
+bool ElementIndex::isRepeated(const QString &tag) const
+{
+    const auto first = m_entries.lower_bound(tag);
+    return first != m_entries.end() && first->first == tag && std::next(first) != m_entries.end()
+           && !isFirst(std::next(first));
+}
+
+QString ElementIndex::id(const QString &tag) const
+{
+    const auto entry = m_entries.lower_bound(tag);
+    return entry != m_entries.end() && entry->first == tag ? entry->second.id : QString();
+}
+
+QString ElementIndex::tagOfId(const QString &id) const
+{
+    const auto found = m_ids.lower_bound({id, QString()});
+    return found != m_ids.end() && found->first == id ? found->second : QString();
+}
+
+QStringList ElementIndex::tags() const
+{
+    QStringList tags;
+    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+        if (isFirst(entry))
+            tags.append(entry->first);
+    }
+    return tags;
+}
+
+QStringList ElementIndex::ids() const
+{
+    QStringList ids;
+    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+        if (isFirst(entry))
+            ids.append(entry->second.id);
+    }
+    return ids;
+}
+
+QString ElementIndex::lastTag() const
+{
+    return m_entries.empty() ? QString() : m_entries.rbegin()->first;
+}
+
+QString ElementIndex::lastId() const
+{
+    return m_ids.empty() ? QString() : m_ids.rbegin()->first;
+}
+
+qint64 ElementIndex::firstFreeTagNumber(const QString &prefix, qint64 from)
+{
+    return m_numberedTags.firstFree(prefix, from,
+                                    namesWithPrefix(prefix, m_entries.lower_bound(prefix), m_entries.end(),
+                                                    [](const auto &entry) { return entry.first; }));
+}
+
+qint64 ElementIndex::firstFreeIdNumber(const QString &prefix, qint64 from)
+{
+    return m_numberedIds.firstFree(prefix, from,
+                                   namesWithPrefix(prefix, m_ids.lower_bound({prefix, QString()}), m_ids.end(),
+                                                   [](const auto &name) { return name.first; }));
+}
+
+bool ElementIndex::operator==(const ElementIndex &other) const
+{
+    return m_entries == other.m_entries && m_ids == other.m_ids;
+}
+
+bool ElementIndex::isFirst(Entries::const_iterator entry) const
+{
+    return entry == m_entries.begin() || std::prev(entry)->first != entry->first;
+}
+
+ElementIndex::Entries::iterator ElementIndex::find(const QDomElement &element)
+{
+    const auto [first, last] = m_entries.equal_range(element.tagName());
+    const auto entry =
+        std::find_if(first, last, [&element](const auto &candidate) { return candidate.second.element == element; });
+    return entry == last ? m_entries.end() : entry;
+}
+
+void ElementIndex::show(Entries::const_iterator entry)
+{
+    const auto &[tag, value] = *entry;
+    m_numberedTags.insert(tag);
+    m_ids.insert({value.id, tag});
+    m_numberedIds.insert(value.id);
+}
+
+void ElementIndex::hide(Entries::const_iterator entry)
+{
+    const auto &[tag, value] = *entry;
+    m_numberedTags.remove(tag);
+    m_ids.erase({value.id, tag});
+    if (!containsId(value.id))
+        m_numberedIds.remove(value.id);
+}
+
+void ContainerIndex::append(const QDomElement &element)
+{
+    m_elements.insert({idOf(element), element});
+    m_numberedIds.insert(idOf(element));
+}
+
+QDomElement ContainerIndex::element(const QString &id) const
+{
+    const auto found = m_elements.lower_bound(id);
+    return found != m_elements.end() && found->first == id ? found->second : QDomElement();
+}
+
+qint64 ContainerIndex::firstFreeIdNumber(const QString &prefix, qint64 from)
+{
+    return m_numberedIds.firstFree(prefix, from,
+                                   namesWithPrefix(prefix, m_elements.lower_bound(prefix), m_elements.end(),
+                                                   [](const auto &entry) { return entry.first; }));
+}
+
+void ContainerIndex::remove(const QDomElement &element)
+{
+    const auto [first, last] = m_elements.equal_range(idOf(element));
+    const auto found =
+        std::find_if(first, last, [&element](const auto &candidate) { return candidate.second == element; });
+    if (found == last)
+        return;
+    const QString id = found->first;
+    m_elements.erase(found);
+    if (m_elements.find(id) == m_elements.end())
+        m_numberedIds.remove(id);
+}
+
+} // namespace cabledoc

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "numberednames.h"
+
+#include <QtCore/QStringList>
+#include <QtXml/QDomElement>
+
+#include <map>
+#include <set>
+#include <utility>
+
+namespace cabledoc {
+
+/// The elements of one kind by tag and by id. Whatever is looked up costs the same among ten elements
+/// and among a hundred thousand, but for the logarithm.
+///
+/// A tag should be unique. Where a file has it twice, the first element in document order stands for it
+/// and the others wait behind: when it is removed, the next one takes its place.
+class ElementIndex
+{
+public:
+    void clear();
+    /// Adds an element that comes behind all elements of its tag in document order.
+    void append(const QDomElement &element);
+    void remove(const QDomElement &element);
+    /// Takes over the element's "id" after it was changed.
+    void updateId(const QDomElement &element);
+    /// Lets go of the elements, whose tree is about to end; tags and ids stay.
+    void forgetElements();
+
+    bool isEmpty() const { return m_entries.empty(); }
+    bool containsTag(const QString &tag) const;
+    bool containsId(const QString &id) const;
+    /// The element of that tag; null when there is none.
+    QDomElement element(const QString &tag) const;
+    /// Whether several elements have that tag.
+    bool isRepeated(const QString &tag) const;
+    /// The id of that tag; empty when there is none.
+    QString id(const QString &tag) const;
+    /// The first tag, in string order, that has that id; empty when there is none.
+    QString tagOfId(const QString &id) const;
+    /// All tags in string order, and the id of each in the order of the tags.
+    QStringList tags() const;
+    QStringList ids() const;
+    /// The last tag and the last id in string order; empty for an empty index.
+    QString lastTag() const;
+    QString lastId() const;
+
+    /// The smallest number, at least from, that makes an unused tag or id with the prefix.
+    qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
+    qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
+
+    bool operator==(const ElementIndex &other) const;
+
+private:
+    struct Entry
+    {
+        QString id;
+        QDomElement element;
+
+        bool operator==(const Entry &other) const { return id == other.id && element == other.element; }
+    };
+    using Entries = std::multimap<QString, Entry>;
+
+    bool isFirst(Entries::const_iterator entry) const;
+    Entries::iterator find(const QDomElement &element);
+    void show(Entries::const_iterator entry);
+    void hide(Entries::const_iterator entry);
+
+    Entries m_entries;                           ///< by tag; those of one tag in document order
+    std::set<std::pair<QString, QString>> m_ids; ///< id and tag, of the first element of each tag
+    NumberedNames m_numberedTags;
+    NumberedNames m_numberedIds;
+};
+
+/// The elements of one container by id, those that share an id in document order.
+class ContainerIndex
+{
+public:
+    void append(const QDomElement &element);
+    /// The first element in document order that has that id; null when there is none.
+    QDomElement element(const QString &id) const;
+    /// The smallest number, at least from, that makes an unused id with the prefix.
+    qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
+    void remove(const QDomElement &element);
+
+    bool operator==(const ContainerIndex &other) const { return m_elements == other.m_elements; }
+
+private:
+    std::multimap<QString, QDomElement> m_elements; ///< by id
+    NumberedNames m_numberedIds;
+};
+
+} // namespace cabledoc

@@ -1,0 +1,227 @@
+#include "jobeditor.h"
+
+#include "addmode.h"
+#include "jobattributes.h"
+#include "jobindex.h"
+#include "jobwords.h"
+
+#include <algorithm>
+
+using namespace cabledoc;
+
+namespace {
+
+/// The number behind the last occurrence of the prefix; 0 when there is none.
+int numberAfter(const QString &prefix, const QString &text)
+{
+    const auto position = text.lastIndexOf(prefix);
+    if (position < 0)
+        return 0;
+    const QString number = text.mid(position + prefix.size());
+    const bool isDigits = std::all_of(number.cbegin(), number.cend(),
+                                      [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    return isDigits ? number.toInt() : 0;
+}
+
+Room undefinedRoom()
+{
+    Room room;
+    room.setElement(words::Undefined);
+    room.setID(words::Undefined);
+    return room;
+}
+
+void moveChildren(const QDomElement &from, QDomElement to)
+{
+    while (from.hasChildNodes())
+        to.appendChild(from.firstChild());
+}
+
+} // namespace
+
+QString JobEditor::addRoom(const QString &floorTag, int x, int y, int width, int height, const QString &tag,
+                           const QString &id, int nameX, int nameY, int showDimensions, int showName, int layer,
+                           int mode)
+{
+    return addRoom(Room(tag, x, y, width, height, id, floorTag, nameX, nameY, showDimensions, showName, layer), mode);
+}
+
+QString JobEditor::addRoom(const Room &room, int mode)
+{
+    if (addmode::keepsTag(mode) && !mayBeTag(room.element()))
+        return QString();
+    const QDomElement roomList = getToRoomList(room.floor());
+    if (roomList.isNull())
+        return QString();
+    RoomFields fields = room.fields();
+    if (!addmode::keepsTag(mode))
+        fields.element = newRoomTag();
+    if (!addmode::keepsId(mode))
+        fields.id = newRoomId(fields.floor, fields.id);
+    if (!roomElement(fields.floor, fields.element).isNull())
+        return fields.element;
+
+    const QDomElement element = appendElement(fields.element, roomList);
+    roomAttributes().write(element, fields);
+    completeNewRoom(element);
+    setDirty(true);
+    return fields.element;
+}
+
+QString JobEditor::newRoomTag() const
+{
+    ElementIndex &rooms = (*m_index)[JobIndex::Rooms];
+    // The last tag in string order is "Room9" beside "Room10", and "Undefined" beside any of them.
+    const int last = numberAfter(words::RoomTagPrefix, rooms.lastTag());
+    return words::RoomTagPrefix + QString::number(rooms.firstFreeTagNumber(words::RoomTagPrefix, last + qint64(1)));
+}
+
+QString JobEditor::newRoomId(const QString &floorTag, const QString &prefix) const
+{
+    const int last = numberAfter(prefix, (*m_index)[JobIndex::Rooms].lastId());
+    ContainerIndex &roomsOnFloor = m_index->roomsOfFloor[floorTag];
+    return prefix + QString::number(roomsOnFloor.firstFreeIdNumber(prefix, last + qint64(1)));
+}
+
+/// The floor's room "Undefined", which is added when it is missing. It has no attributes but its id.
+QDomElement JobEditor::undefinedRoomElement(const QDomElement &roomList)
+{
+    QDomElement room = roomList.firstChildElement(words::Undefined);
+    if (room.isNull()) {
+        room = appendElement(words::Undefined, roomList);
+        room.setAttribute(words::Id, words::Undefined);
+        completeNewRoom(room);
+    }
+    return room;
+}
+
+/// Gives a room that was just appended to its floor its containers and its places in the indexes.
+void JobEditor::completeNewRoom(const QDomElement &room)
+{
+    appendElement(words::PortList, room);
+    appendElement(words::VerticalRunList, room);
+
+    const QDomNode floor = room.parentNode().parentNode();
+    // A second floor of the same tag cannot be reached, nor can its rooms.
+    if (floorElement(floor.nodeName()) != floor)
+        return;
+    ElementIndex &rooms = (*m_index)[JobIndex::Rooms];
+    if (rooms.containsTag(room.tagName()) && !floor.nextSiblingElement().isNull()) {
+        // Which room of that tag is the first in the document, only the document can tell.
+        populateRoomMap();
+        return;
+    }
+    rooms.append(room);
+    m_index->roomsOfFloor[floor.nodeName()].append(room);
+}
+
+void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
+{
+    const QDomElement room = roomElement(floorTag, tag);
+    if (room.isNull() || tag == words::Undefined)
+        return;
+    QDomElement roomList = getToRoomList(floorTag);
+    const QDomElement undefined = undefinedRoomElement(roomList);
+    for (const QString &containerName : {words::PortList, words::VerticalRunList})
+        moveChildren(room.firstChildElement(containerName), undefined.firstChildElement(containerName));
+    (*m_index)[JobIndex::Rooms].remove(room);
+    m_index->roomsOfFloor[floorTag].remove(room);
+    roomList.removeChild(room);
+    populatePortMap();
+    populateVerticalRunMap();
+    setDirty(true);
+}
+
+void JobEditor::removeRoom(const Room &room)
+{
+    removeRoom(room.floor(), room.element());
+}
+
+Room JobEditor::getRoomByTag(const QString &floorTag, const QString &tag)
+{
+    if (tag == words::Undefined)
+        return undefinedRoom();
+    return readRoom(roomElement(floorTag, tag));
+}
+
+Room JobEditor::getRoomByTag(const QString &tag)
+{
+    if (tag == words::Undefined)
+        return undefinedRoom();
+    return readRoom((*m_index)[JobIndex::Rooms].element(tag));
+}
+
+Room JobEditor::getRoomById(const QString &floorTag, const QString &id)
+{
+    // Of the room "Undefined" tag and id are the same.
+    if (id == words::Undefined)
+        return undefinedRoom();
+    return readRoom(roomElementById(floorTag, id));
+}
+
+Room JobEditor::readRoom(const QDomElement &element)
+{
+    if (element.isNull())
+        return Room();
+    // Reading brings rooms of older files up to date, on purpose.
+    if (roomAttributes().complete(element))
+        setDirty(true);
+    RoomFields fields = roomAttributes().read(element);
+    fields.element = element.tagName();
+    fields.floor = element.parentNode().parentNode().nodeName();
+    return Room(fields);
+}
+
+void JobEditor::setRoomPos(const QString &floorTag, const QString &id, int x, int y, int width, int height)
+{
+    writeRoomAttributes(floorTag, id, {{words::X, x}, {words::Y, y}, {words::Width, width}, {words::Height, height}});
+}
+
+void JobEditor::setRoomName(const QString &floorTag, const QString &id, const QString &newId)
+{
+    QDomElement room = roomElementById(floorTag, id);
+    if (room.isNull())
+        return;
+    ContainerIndex &roomsOnFloor = m_index->roomsOfFloor[floorTag];
+    roomsOnFloor.remove(room);
+    const bool isTaken = !roomsOnFloor.element(newId).isNull();
+    room.setAttribute(words::Id, newId);
+    if (isTaken) {
+        // Which room of that id is the first on the floor, only the document can tell.
+        populateRoomMap();
+    } else {
+        roomsOnFloor.append(room);
+        (*m_index)[JobIndex::Rooms].updateId(room);
+    }
+    setDirty(true);
+}
+
+void JobEditor::setRoomNamePos(const QString &floorTag, const QString &id, const QPoint &position)
+{
+    writeRoomAttributes(floorTag, id, {{words::NameX, position.x()}, {words::NameY, position.y()}});
+}
+
+void JobEditor::setRoomLayer(const QString &floorTag, const QString &id, int layer)
+{
+    writeRoomAttributes(floorTag, id, {{words::Layer, layer}});
+}
+
+void JobEditor::setShowRoomName(const QString &floorTag, const QString &id, int show)
+{
+    writeRoomAttributes(floorTag, id, {{words::ShowName, show}});
+}
+
+void JobEditor::setShowRoomDimensions(const QString &floorTag, const QString &id, int show)
+{
+    writeRoomAttributes(floorTag, id, {{words::ShowDimensions, show}});
+}
+
+void JobEditor::writeRoomAttributes(const QString &floorTag, const QString &id, const QMap<QString, int> &values)
+{
+    QDomElement room = roomElementById(floorTag, id);
+    if (room.isNull())
+        return;
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        room.setAttribute(value.key(), toText(value.value()));
+    setDirty(true);
+}

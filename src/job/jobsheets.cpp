@@ -1,0 +1,83 @@
+#include "jobeditor.h"
+
+#include "addmode.h"
+#include "jobattributes.h"
+#include "jobindex.h"
+#include "jobwords.h"
+
+using namespace cabledoc;
+
+QString JobEditor::addSheet(const QString &tag, const QString &id, int mode)
+{
+    const QString badSheet = QStringLiteral("Bad Sheet");
+    if (addmode::keepsTag(mode) && !mayBeTag(tag))
+        return badSheet;
+    const QDomElement sheetList = getElement(words::SheetList);
+    if (sheetList.isNull())
+        return badSheet;
+
+    ElementIndex &sheets = (*m_index)[JobIndex::Sheets];
+    const QString prefix = words::SheetTagPrefix;
+    const QString sheetTag =
+        addmode::keepsTag(mode) ? tag : prefix + QString::number(sheets.firstFreeTagNumber(prefix, 1));
+    const QString sheetId = addmode::keepsId(mode) ? id : id + QString::number(sheets.firstFreeIdNumber(id, 1));
+
+    const QDomElement sheet = appendElement(sheetTag, sheetList);
+    sheetAttributes().write(sheet, {sheetId, sheetTag});
+    appendElement(words::DeviceList, sheet);
+    appendElement(words::VerticeList, sheet);
+    appendElement(words::FreeTextList, sheet);
+    sheets.append(sheet);
+    setDirty(true);
+    return sheetTag;
+}
+
+QString JobEditor::addSheet(const Sheet &sheet, int mode)
+{
+    return addSheet(sheet.element(), sheet.id(), mode);
+}
+
+void JobEditor::removeSheet(const QString &tag)
+{
+    const QDomElement sheet = sheetElement(tag);
+    if (sheet.isNull())
+        return;
+    (*m_index)[JobIndex::Sheets].remove(sheet);
+    sheet.parentNode().removeChild(sheet);
+    setDirty(true);
+    populateDeviceMap();
+    populateVerticeMap();
+    populateFreeTextMap();
+}
+
+Sheet JobEditor::getSheet(const QString &tag) const
+{
+    const QDomElement element = sheetElement(tag);
+    if (element.isNull())
+        return Sheet();
+    SheetFields fields = sheetAttributes().read(element);
+    fields.element = tag;
+    return Sheet(fields);
+}
+
+void JobEditor::setSheetID(const QString &tag, const QString &id)
+{
+    QDomElement sheet = sheetElement(tag);
+    if (sheet.isNull())
+        return;
+    sheet.setAttribute(words::Id, id);
+    (*m_index)[JobIndex::Sheets].updateId(sheet);
+    setDirty(true);
+}
+
+void JobEditor::setAllSheetIDs(const QMap<QString, QString> &idsByTag)
+{
+    for (auto sheet = idsByTag.cbegin(); sheet != idsByTag.cend(); ++sheet)
+        setSheetID(sheet.key(), sheet.value());
+}
+
+QString JobEditor::getSheetNumber(const QString &tag)
+{
+    const int number = tag.section(QLatin1Char('_'), 1, 1).toInt();
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}

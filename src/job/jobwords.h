@@ -1,0 +1,61 @@
+#pragma once
+
+#include "words.h"
+
+/// The fixed words of the job file, beside those that it shares with the template file.
+namespace cabledoc::words {
+
+inline const QString Job = QStringLiteral("Job");
+inline const QString JobExtension = QStringLiteral("job");
+
+// Containers under the root
+inline const QString CableList = QStringLiteral("Cable_List");
+inline const QString ConnectionList = QStringLiteral("Connection_List");
+inline const QString FloorList = QStringLiteral("Floor_List");
+inline const QString SheetList = QStringLiteral("Sheet_List");
+inline const QString ActiveNetworkTestList = QStringLiteral("ActiveNetworkTest_List");
+inline const QString ActivePortList = QStringLiteral("ActivePort_List");
+
+// Containers in floors and rooms
+inline const QString RoomList = QStringLiteral("Room_List");
+inline const QString PortList = QStringLiteral("Port_List");
+inline const QString VerticalRunList = QStringLiteral("VerticalRun_List");
+inline const QString PointList = QStringLiteral("Point_List");
+
+// Containers in sheets; floors have a list of texts too
+inline const QString DeviceList = QStringLiteral("Device_List");
+inline const QString VerticeList = QStringLiteral("Vertice_List");
+inline const QString FreeTextList = QStringLiteral("FreeText_List");
+
+// Generated tags are one of these and a number
+inline const QString FloorTagPrefix = QStringLiteral("FFloor_");
+inline const QString SheetTagPrefix = QStringLiteral("SSheet_");
+inline const QString RoomTagPrefix = QStringLiteral("Room");
+
+/// Tag and id of the room that every floor has for what lies in no drawn room.
+inline const QString Undefined = QStringLiteral("Undefined");
+
+// Attributes of floors beyond those of the record
+inline const QString Picture = QStringLiteral("pic");
+inline const QString PictureX = QStringLiteral("pic_x");
+inline const QString PictureY = QStringLiteral("pic_y");
+inline const QString BackgroundOption = QStringLiteral("option");
+inline const QString CeilingHeight = QStringLiteral("ceiling_height");
+
+// Attributes of rooms
+inline const QString X = QStringLiteral("x");
+inline const QString Y = QStringLiteral("y");
+inline const QString Width = QStringLiteral("width");
+inline const QString Height = QStringLiteral("height");
+inline const QString NameX = QStringLiteral("namex");
+inline const QString NameY = QStringLiteral("namey");
+inline const QString Layer = QStringLiteral("layer");
+inline const QString ShowName = QStringLiteral("show_name");
+inline const QString ShowDimensions = QStringLiteral("show_dimensions");
+
+// Attributes of cables
+inline const QString To = QStringLiteral("to");
+inline const QString From = QStringLiteral("from");
+inline const QString Type = QStringLiteral("type");
+
+} // namespace cabledoc::words

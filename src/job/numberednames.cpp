@@ -1,0 +1,115 @@
+#include "numberednames.h"
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+/// Numbers with more digits are no numbers that this program has given.
+constexpr int maximumDigits = 18;
+
+/// Calls use with each way to read the name as a prefix and a number without leading zeros: "B12" is
+/// "B" and 12, and "B1" and 2.
+template <typename Use> void forEachReading(const QString &name, Use use)
+{
+    qint64 number = 0;
+    qint64 placeValue = 1;
+    for (int digits = 1; digits <= std::min(int(name.size()), maximumDigits); ++digits) {
+        const char16_t character = name.at(name.size() - digits).unicode();
+        if (character < u'0' || character > u'9')
+            return;
+        number += (character - u'0') * placeValue;
+        placeValue *= 10;
+        if (character != u'0' || digits == 1)
+            use(name.left(name.size() - digits), number);
+    }
+}
+
+} // namespace
+
+void NumberSet::insert(qint64 number)
+{
+    auto next = m_intervals.upper_bound(number);
+    auto interval = m_intervals.end();
+    if (next != m_intervals.begin()) {
+        const auto previous = std::prev(next);
+        if (previous->second >= number)
+            return;
+        if (previous->second == number - 1) {
+            previous->second = number;
+            interval = previous;
+        }
+    }
+    if (interval == m_intervals.end())
+        interval = m_intervals.emplace_hint(next, number, number);
+    if (next != m_intervals.end() && next->first == number + 1) {
+        interval->second = next->second;
+        m_intervals.erase(next);
+    }
+}
+
+void NumberSet::remove(qint64 number)
+{
+    auto interval = m_intervals.upper_bound(number);
+    if (interval == m_intervals.begin())
+        return;
+    --interval;
+    const auto [first, last] = *interval;
+    if (number > last)
+        return;
+    if (number == first)
+        m_intervals.erase(interval);
+    else
+        interval->second = number - 1;
+    if (number < last)
+        m_intervals.emplace(number + 1, last);
+}
+
+qint64 NumberSet::firstFree(qint64 from) const
+{
+    auto interval = m_intervals.upper_bound(from);
+    if (interval == m_intervals.begin())
+        return from;
+    --interval;
+    return interval->second < from ? from : interval->second + 1;
+}
+
+void NumberedNames::insert(const QString &name)
+{
+    if (m_numbers.isEmpty())
+        return;
+    forEachReading(name, [this](const QString &prefix, qint64 number) {
+        const auto numbers = m_numbers.find(prefix);
+        if (numbers != m_numbers.end())
+            numbers->insert(number);
+    });
+}
+
+void NumberedNames::remove(const QString &name)
+{
+    if (m_numbers.isEmpty())
+        return;
+    forEachReading(name, [this](const QString &prefix, qint64 number) {
+        const auto numbers = m_numbers.find(prefix);
+        if (numbers != m_numbers.end())
+            numbers->remove(number);
+    });
+}
+
+qint64 NumberedNames::firstFree(const QString &prefix, qint64 from, const Names &names)
+{
+    if (!m_numbers.contains(prefix)) {
+        NumberSet numbers;
+        names([&](const QString &name) {
+            forEachReading(name, [&](const QString &itsPrefix, qint64 number) {
+                if (itsPrefix == prefix)
+                    numbers.insert(number);
+            });
+        });
+        m_numbers.insert(prefix, numbers);
+    }
+    return m_numbers.constFind(prefix)->firstFree(from);
+}
+
+} // namespace cabledoc

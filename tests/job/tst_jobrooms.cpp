@@ -1,0 +1,217 @@
+#include "jobeditorprobe.h"
+#include "sitejob.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+const QString Ground = QStringLiteral("FFloor_1");
+const QString Upper = QStringLiteral("FFloor_2");
+
+Room room(const QString &tag, const QString &id, const QString &floor = Ground)
+{
+    return Room(tag, 1.9, 2, 30, 40, id, floor, 5, 6, 0, 1, 2);
+}
+
+} // namespace
+
+class JobRoomsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+    void loadSite()
+    {
+        const QString name = m_directory.filePath(QStringLiteral("site.job"));
+        writeFile(name, siteJob());
+        QVERIFY(JobEditor::Instance().Load(name));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(JobEditor::Instance().New(QStringLiteral("site")));
+        JobEditor::Instance().addFloor(QString(), QString(), 8, QString(), 0);
+        JobEditor::Instance().setDirty(false);
+    }
+
+    void cleanup() { JobEditor::Destroy(); }
+
+    void tagsAndIds()
+    {
+        JobEditor &job = JobEditor::Instance();
+        const QString office = QStringLiteral("Office");
+        QCOMPARE(job.addRoom(Ground, 1, 2, 3, 4, QString(), office, 5, 6, 7, 8, 9, 0), QStringLiteral("Room1"));
+        QVERIFY(job.fileChanged());
+        const Room first(QStringLiteral("Room1"), 1, 2, 3, 4, QStringLiteral("Office1"), Ground, 5, 6, 7, 8, 9);
+        QVERIFY(job.getRoomByTag(QStringLiteral("Room1")) == first);
+        QCOMPARE(job.addRoom(room(QString(), office), 0), QStringLiteral("Room2"));
+        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Office2"), Ground, false));
+        // Ids are unique on a floor, tags in the job.
+        QCOMPARE(job.addRoom(room(QString(), office, Upper), 0), QStringLiteral("Room3"));
+        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Office1"), Upper, false));
+        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), office), 2), QStringLiteral("Mine"));
+        QCOMPARE(job.getRoomByTag(QStringLiteral("Mine")).id(), office);
+        QCOMPARE(job.addRoom(room(QStringLiteral("Yours"), office), 3), QStringLiteral("Yours"));
+        QCOMPARE(job.getRoomByTag(QStringLiteral("Yours")).id(), QStringLiteral("Office3"));
+        QCOMPARE(job.addRoom(room(QString(), office), 1), QStringLiteral("Room4"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void tagAfterTheLastInStringOrder()
+    {
+        JobEditor &job = JobEditor::Instance();
+        // Without "Undefined", which would be the last, the rooms themselves show the rule.
+        for (const QString &floor : {Ground, Upper}) {
+            QDomElement list = job.getToRoomList(floor);
+            list.removeChild(list.firstChild());
+        }
+        job.updateAllInternalLists();
+        QCOMPARE(job.addRoom(room(QStringLiteral("Room9"), QStringLiteral("Hall9")), 2), QStringLiteral("Room9"));
+        QCOMPARE(job.addRoom(room(QStringLiteral("Room10"), QStringLiteral("Hall10")), 2), QStringLiteral("Room10"));
+        QCOMPARE(job.addRoom(room(QString(), QStringLiteral("Hall")), 0), QStringLiteral("Room11"));
+        QCOMPARE(job.getRoomByTag(QStringLiteral("Room11")).id(), QStringLiteral("Hall11"));
+        QCOMPARE(job.addRoom(room(QStringLiteral("Room97x"), QString()), 3), QStringLiteral("Room97x"));
+        QCOMPARE(job.addRoom(room(QString(), QString()), 0), QStringLiteral("Room1"));
+    }
+
+    void refusedRooms()
+    {
+        JobEditor &job = JobEditor::Instance();
+        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("a")), 2), QStringLiteral("Mine"));
+        const QByteArray before = JobEditorProbe(job).text();
+        job.setDirty(false);
+        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("b")), 2), QStringLiteral("Mine"));
+        QCOMPARE(job.addRoom(room(QString(), QString(), QStringLiteral("none")), 0), QString());
+        job.error().clear();
+        QCOMPARE(job.addRoom(room(QStringLiteral("no name"), QString()), 2), QString());
+        QVERIFY(!job.error().isEmpty());
+        QCOMPARE(JobEditorProbe(job).text(), before);
+        QVERIFY(!job.fileChanged());
+        // The same tag on another floor is not in the way.
+        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("b"), Upper), 2), QStringLiteral("Mine"));
+        QCOMPARE(job.getRoomByTag(Upper, QStringLiteral("Mine")).id(), QStringLiteral("b"));
+    }
+
+    void readingCompletesOlderRooms()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.getRoomByTag(Ground, QStringLiteral("Room1"))
+                == Room(QStringLiteral("Room1"), 1, 2, 30, 40, QStringLiteral("Lab"), Ground, 5, 6, 0, 2, 1));
+        QVERIFY(!job.fileChanged());
+        QVERIFY(job.getRoomById(Upper, QStringLiteral("Lab"))
+                == Room(QStringLiteral("Room1"), 7, -1, -1, -1, QStringLiteral("Lab"), Upper, 0, 0, 3, 3, 3));
+        QVERIFY(job.fileChanged());
+        const QDomElement element = JobEditorProbe(job).roomElement(Upper, QStringLiteral("Room1"));
+        for (const char *name : {"layer", "show_name", "show_dimensions"})
+            QCOMPARE(element.attribute(QString::fromLatin1(name)), QStringLiteral("3"));
+        QVERIFY(!element.hasAttribute(QStringLiteral("y")));
+        job.setDirty(false);
+        job.getRoomByTag(Upper, QStringLiteral("Room1"));
+        QVERIFY(!job.fileChanged());
+    }
+
+    void undefinedIsAnsweredWithoutLooking()
+    {
+        JobEditor &job = JobEditor::Instance();
+        const QString undefined = QStringLiteral("Undefined");
+        Room expected;
+        expected.setElement(undefined);
+        expected.setID(undefined);
+        QVERIFY(job.getRoomByTag(QStringLiteral("no floor"), undefined) == expected);
+        QVERIFY(job.getRoomByTag(undefined) == expected);
+        QVERIFY(job.getRoomById(Ground, undefined) == expected);
+        QVERIFY(!job.fileChanged());
+        job.setRoomLayer(Upper, undefined, 5);
+        QCOMPARE(JobEditorProbe(job).roomElement(Upper, undefined).attribute(QStringLiteral("layer")),
+                 QStringLiteral("5"));
+    }
+
+    void setters()
+    {
+        JobEditor &job = JobEditor::Instance();
+        const QString hall = QStringLiteral("Hall");
+        const QString tag = job.addRoom(room(QString(), hall), 1);
+        job.addRoom(room(QString(), hall, Upper), 1);
+        job.setDirty(false);
+        job.setRoomPos(Ground, hall, -10, 20, 300, 400);
+        QVERIFY(job.fileChanged());
+        job.setRoomNamePos(Ground, hall, QPoint(50, 60));
+        job.setRoomLayer(Ground, hall, 7);
+        job.setShowRoomName(Ground, hall, 8);
+        job.setShowRoomDimensions(Ground, hall, 9);
+        job.setRoomName(Ground, hall, QStringLiteral("Foyer"));
+        QVERIFY(job.getRoomById(Ground, QStringLiteral("Foyer"))
+                == Room(tag, -10, 20, 300, 400, QStringLiteral("Foyer"), Ground, 50, 60, 9, 8, 7));
+        QCOMPARE(job.getRoomById(Upper, hall).x(), 1.0);
+        QVERIFY(!job.roomExistsOnFloor(hall, Ground, false));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void unknownRooms()
+    {
+        JobEditor &job = JobEditor::Instance();
+        const QByteArray before = JobEditorProbe(job).text();
+        const QString none = QStringLiteral("none");
+        for (const QString &floor : {Ground, none}) {
+            QVERIFY(job.getRoomByTag(floor, none) == Room());
+            QVERIFY(job.getRoomById(floor, none) == Room());
+            job.setRoomPos(floor, none, 1, 1, 1, 1);
+            job.setRoomName(floor, none, none);
+            job.setRoomLayer(floor, none, 1);
+            job.removeRoom(floor, none);
+        }
+        QVERIFY(job.getRoomByTag(none) == Room());
+        QCOMPARE(JobEditorProbe(job).text(), before);
+        QVERIFY(!job.fileChanged());
+    }
+
+    void firstOfTheSameIdIsMeant()
+    {
+        JobEditor &job = JobEditor::Instance();
+        const QString a = QStringLiteral("a");
+        job.addRoom(room(QStringLiteral("Z"), a), 2);
+        job.addRoom(room(QStringLiteral("A"), a), 2);
+        job.addRoom(room(QStringLiteral("B"), QStringLiteral("b")), 2);
+        job.setRoomName(Ground, a, QStringLiteral("b"));
+        QCOMPARE(job.getRoomById(Ground, QStringLiteral("b")).element(), QStringLiteral("Z"));
+        QCOMPARE(job.getRoomById(Ground, a).element(), QStringLiteral("A"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void removingARoomKeepsWhatIsInIt()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        const QString undefined = QStringLiteral("Undefined");
+        job.removeRoom(job.getRoomByTag(Ground, QStringLiteral("Room1")));
+        QCOMPARE(job.getRooms(Ground, true), QStringList(undefined));
+        QCOMPARE(job.getPorts(Ground, undefined, true).join(QLatin1Char(',')), QStringLiteral("P1,P2"));
+        QCOMPARE(job.getVertRuns(Ground, undefined, true), QStringList(QStringLiteral("V1")));
+        QCOMPARE(job.getCables(true).size(), 3);
+        // The room of that tag on the other floor is still there.
+        QCOMPARE(job.getRoomByTag(QStringLiteral("Room1")).floor(), Upper);
+        job.removeRoom(Ground, undefined);
+        QCOMPARE(job.getPorts(Ground, undefined, true).size(), 2);
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void removingARoomMakesAPlaceForWhatIsInIt()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        QDomElement list = job.getToRoomList(Ground);
+        list.removeChild(list.firstChild());
+        job.updateAllInternalLists();
+        job.removeRoom(Ground, QStringLiteral("Room1"));
+        QCOMPARE(job.getPorts(Ground, QStringLiteral("Undefined"), true).size(), 2);
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+};
+
+QTEST_APPLESS_MAIN(JobRoomsTest)
+#include "tst_jobrooms.moc"
