@@ -1,0 +1,120 @@
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+/// The program as a person or a script runs it.
+class ProgramTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+    QByteArray m_output;
+    QByteArray m_messages;
+
+    QString path(const char *name) const { return m_directory.filePath(QString::fromLatin1(name)); }
+
+    int run(const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(CABLEDOC_PROGRAM), arguments);
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+            return -1;
+        m_output = process.readAllStandardOutput();
+        m_messages = process.readAllStandardError();
+        return process.exitCode();
+    }
+
+private Q_SLOTS:
+    void newAndInfo()
+    {
+        QCOMPARE(run({QStringLiteral("new"), path("site"), QStringLiteral("--floors"), QStringLiteral("12")}), 0);
+        QCOMPARE(m_output + m_messages, QByteArray());
+        QVERIFY(QFile::exists(path("site.job")));
+
+        QCOMPARE(run({QStringLiteral("info"), path("site.job"), QStringLiteral("--json")}), 0);
+        const QJsonObject info = QJsonDocument::fromJson(m_output).object();
+        const QJsonArray floors = info.value(QStringLiteral("floors")).toArray();
+        QCOMPARE(floors.size(), 12);
+        QCOMPARE(floors.at(1).toObject().value(QStringLiteral("id")).toString(), QStringLiteral("Floor_10"));
+        QCOMPARE(floors.at(1).toObject().value(QStringLiteral("ceilingHeight")).toDouble(), 8.0);
+        QCOMPARE(info.value(QStringLiteral("sheets")).toArray().size(), 1);
+        QCOMPARE(info.value(QStringLiteral("cables")).toInt(-1), 0);
+
+        QCOMPARE(run({QStringLiteral("info"), path("site.job")}), 0);
+        QVERIFY(m_output.startsWith("Floor     Tag        Ceiling  Rooms  Ports  Vertical runs  Points  Texts\n"
+                                    "Floor_1   FFloor_1         8      0      0              0       0      0\n"));
+        QCOMPARE(m_messages, QByteArray());
+    }
+
+    void newReplacesNothing()
+    {
+        QFile file(path("there.job"));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        file.write("precious");
+        file.flush();
+        QCOMPARE(run({QStringLiteral("new"), path("there")}), 4);
+        QVERIFY(m_messages.contains("there.job"));
+        file.seek(0);
+        QCOMPARE(file.readAll(), QByteArray("precious"));
+        QCOMPARE(run({QStringLiteral("new"), path("none/there.job")}), 4);
+        QVERIFY(m_messages.contains("none/there.job"));
+    }
+
+    void wrongCommandLines_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        const QString file = path("never.job");
+        const QString create = QStringLiteral("new");
+        const QString floors = QStringLiteral("--floors");
+        QTest::newRow("nothing") << QStringList();
+        QTest::newRow("unknown command") << QStringList{QStringLiteral("draw"), file};
+        QTest::newRow("no file") << QStringList{create};
+        QTest::newRow("two files") << QStringList{create, file, file};
+        QTest::newRow("unknown option") << QStringList{create, file, QStringLiteral("--force")};
+        QTest::newRow("no floors") << QStringList{create, file, floors, QStringLiteral("0")};
+        QTest::newRow("too many floors") << QStringList{create, file, floors, QStringLiteral("1001")};
+        QTest::newRow("floors in words") << QStringList{create, file, floors, QStringLiteral("two")};
+        QTest::newRow("option of another command") << QStringList{create, file, QStringLiteral("--json")};
+    }
+
+    void wrongCommandLines()
+    {
+        QFETCH(QStringList, arguments);
+        QCOMPARE(run(arguments), 2);
+        QCOMPARE(m_output, QByteArray());
+        QVERIFY(m_messages.startsWith("cabledoc: "));
+        QVERIFY(m_messages.contains("--help"));
+        QVERIFY(!QFile::exists(path("never.job")));
+    }
+
+    void infoOfWhatCannotBeLoaded()
+    {
+        QFile file(path("broken.job"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<Job>");
+        file.close();
+        for (const QString &name : {path("broken.job"), path("missing.job"), m_directory.path()}) {
+            QCOMPARE(run({QStringLiteral("info"), name}), 3);
+            QCOMPARE(m_output, QByteArray());
+            QVERIFY2(m_messages.contains(name.toLocal8Bit()), m_messages.constData());
+        }
+    }
+
+    void help()
+    {
+        QCOMPARE(run({QStringLiteral("--help")}), 0);
+        QVERIFY(m_output.contains("info FILE"));
+        QCOMPARE(run({QStringLiteral("info"), QStringLiteral("--help")}), 0);
+        QVERIFY(m_output.contains("--json"));
+        QCOMPARE(run({QStringLiteral("--version")}), 0);
+        QVERIFY(m_output.startsWith("cabledoc "));
+    }
+};
+
+QTEST_MAIN(ProgramTest)
+#include "tst_program.moc"

@@ -1,0 +1,66 @@
+#include "command.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cstdio>
+
+namespace {
+
+void write(std::FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+Command::Command(const QString &name, const QString &description)
+    : m_name(name)
+{
+    m_parser.setApplicationDescription(description);
+    m_parser.addPositionalArgument(name, QString(), name);
+    m_parser.addPositionalArgument(QStringLiteral("FILE"), QCoreApplication::translate("Command", "The file."),
+                                   QStringLiteral("FILE"));
+    m_parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("Command", "Show this help.")});
+}
+
+bool Command::parse(const QStringList &arguments)
+{
+    if (!m_parser.parse(arguments)) {
+        m_exitCode = usageError(m_parser.errorText());
+        return false;
+    }
+    if (m_parser.isSet(QStringLiteral("help"))) {
+        printData(m_parser.helpText());
+        return false;
+    }
+    if (m_parser.positionalArguments().size() != 1) {
+        m_exitCode = usageError(QCoreApplication::translate("Command", "one file name is needed"));
+        return false;
+    }
+    return true;
+}
+
+ExitCode Command::usageError(const QString &message) const
+{
+    printMessage(QStringLiteral("%1: %2").arg(m_name, message));
+    printMessage(QCoreApplication::translate("Command", "\"cabledoc %1 --help\" tells how it is used").arg(m_name));
+    return WrongUsage;
+}
+
+void printMessage(const QString &message)
+{
+    write(stderr, QStringLiteral("cabledoc: %1\n").arg(message));
+}
+
+void printMessage(const QString &fileName, const QString &message)
+{
+    printMessage(message.contains(fileName) ? message : QStringLiteral("%1: %2").arg(fileName, message));
+}
+
+void printData(const QString &text)
+{
+    write(stdout, text);
+}

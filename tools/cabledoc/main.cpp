@@ -1,0 +1,65 @@
+#include "command.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLoggingCategory>
+
+#include <csignal>
+
+namespace {
+
+QString usage()
+{
+    return QCoreApplication::translate(
+        "main", "Usage: cabledoc COMMAND ...\n"
+                "\n"
+                "Commands:\n"
+                "  new FILE.job [--floors N]  make a new job file\n"
+                "  info FILE.job [--json]     show what a job file holds\n"
+                "\n"
+                "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
+                "\n"
+                "Exit codes:\n"
+                "  0  all was done\n"
+                "  2  wrong command line\n"
+                "  3  a file could not be loaded\n"
+                "  4  a file could not be saved\n");
+}
+
+ExitCode run(QStringList arguments)
+{
+    if (arguments.size() < 2) {
+        printMessage(QCoreApplication::translate("main", "a command is needed"));
+        printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
+        return WrongUsage;
+    }
+    const QString command = arguments.takeAt(1);
+    if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
+        printData(usage());
+        return Done;
+    }
+    if (command == QLatin1String("--version")) {
+        printData(QStringLiteral("cabledoc %1\n").arg(QCoreApplication::applicationVersion()));
+        return Done;
+    }
+    if (command == QLatin1String("new"))
+        return runNew(arguments);
+    if (command == QLatin1String("info"))
+        return runInfo(arguments);
+    printMessage(QCoreApplication::translate("main", "there is no command \"%1\"").arg(command));
+    printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
+    return WrongUsage;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // A write beyond the file-size limit shall fail with a message, not end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+    // The library's debug lines are for its developers.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CABLEDOC_VERSION));
+    return run(QCoreApplication::arguments());
+}
