@@ -2,7 +2,6 @@
 
 #include "qtcompat.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -72,11 +71,17 @@ QString write(const QString &fileName, const QByteArray &bytes)
     // the disk fills up while it empties its buffer.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        // After a short write the next one tells the reason.
+        const qint64 more = file.write(bytes.constData() + written, bytes.size() - written);
+        if (more <= 0)
+            break;
+        written += more;
+    }
     QString error;
-    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError)
-        error = file.error() == QFileDevice::NoError
-                    ? QCoreApplication::translate("XmlFile", "The file could not be written whole.")
-                    : file.errorString();
+    if (written != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError)
+        error = file.errorString();
     else if (::fsync(file.handle()) != 0)
         error = systemError();
     if (!error.isEmpty()) {

@@ -31,12 +31,6 @@ Room undefinedRoom()
     return room;
 }
 
-void moveChildren(const QDomElement &from, QDomElement to)
-{
-    while (from.hasChildNodes())
-        to.appendChild(from.firstChild());
-}
-
 } // namespace
 
 QString JobEditor::addRoom(const QString &floorTag, int x, int y, int width, int height, const QString &tag,
@@ -122,13 +116,28 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
         return;
     QDomElement roomList = getToRoomList(floorTag);
     const QDomElement undefined = undefinedRoomElement(roomList);
-    for (const QString &containerName : {words::PortList, words::VerticalRunList})
-        moveChildren(room.firstChildElement(containerName), undefined.firstChildElement(containerName));
+    // Whether elements that share a tag change their order, or come into reach: then only the document can
+    // tell which of them is the first.
+    bool isOrderLost = (*m_index)[JobIndex::Rooms].isRepeated(tag);
+    const std::pair<QString, JobIndex::Kind> contents[] = {{words::PortList, JobIndex::Ports},
+                                                           {words::VerticalRunList, JobIndex::VerticalRuns}};
+    for (const auto &[containerName, kind] : contents) {
+        QDomElement source = room.firstChildElement(containerName);
+        QDomElement target = undefined.firstChildElement(containerName);
+        if (target.isNull())
+            target = appendElement(containerName, undefined);
+        while (source.hasChildNodes()) {
+            isOrderLost = isOrderLost || (*m_index)[kind].isRepeated(source.firstChild().nodeName());
+            target.appendChild(source.firstChild());
+        }
+    }
     (*m_index)[JobIndex::Rooms].remove(room);
     m_index->roomsOfFloor[floorTag].remove(room);
     roomList.removeChild(room);
-    populatePortMap();
-    populateVerticalRunMap();
+    if (isOrderLost) {
+        populatePortMap();
+        populateVerticalRunMap();
+    }
     setDirty(true);
 }
 

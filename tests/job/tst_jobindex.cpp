@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(joined(job.getRooms(upper, false)), QStringLiteral("Undefined,Lab,Store"));
         QCOMPARE(joined(job.getRooms(QString(), true)), QString());
         QCOMPARE(joined(job.getPorts(ground, lab, false)), QStringLiteral("Jack 1,Jack 2"));
-        QCOMPARE(joined(job.getPorts(upper, QStringLiteral("Undefined"), true)), QStringLiteral("P3"));
+        QCOMPARE(joined(job.getPorts(upper, QStringLiteral("Undefined"), true)), QStringLiteral("P3,P2"));
         QCOMPARE(joined(job.getVertRuns(ground, lab, true)), QStringLiteral("V1"));
         QCOMPARE(joined(job.getPoints(ground, true)), QStringLiteral("Point1"));
         QCOMPARE(joined(job.getFloorFreeTexts(ground, false)), QStringLiteral("North"));

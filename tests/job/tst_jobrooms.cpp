@@ -200,15 +200,26 @@ private Q_SLOTS:
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
+    void removingARoomMakesAPlaceForWhatIsInIt_data()
+    {
+        QTest::addColumn<QString>("missing");
+        QTest::newRow("no room for it") << QString();
+        QTest::newRow("no list of ports") << "Port_List";
+    }
+
     void removingARoomMakesAPlaceForWhatIsInIt()
     {
+        QFETCH(QString, missing);
         loadSite();
         JobEditor &job = JobEditor::Instance();
-        QDomElement list = job.getToRoomList(Ground);
-        list.removeChild(list.firstChild());
+        QDomElement taken = JobEditorProbe(job).roomElement(Ground, QStringLiteral("Undefined"));
+        if (!missing.isEmpty())
+            taken = taken.firstChildElement(missing);
+        taken.parentNode().removeChild(taken);
         job.updateAllInternalLists();
         job.removeRoom(Ground, QStringLiteral("Room1"));
         QCOMPARE(job.getPorts(Ground, QStringLiteral("Undefined"), true).size(), 2);
+        QCOMPARE(job.getVertRuns(Ground, QStringLiteral("Undefined"), true).size(), 1);
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 };

@@ -3,7 +3,7 @@
 #include <QtCore/QByteArray>
 
 /// A job file in the one form of our files that holds elements of every kind, among them two floors whose
-/// rooms share an id, a room tag that is there twice, and content that this version does not know.
+/// rooms share an id, a room tag and a port tag that are there twice, and content that this version does not know.
 inline QByteArray siteJob()
 {
     return R"(<Job>
@@ -47,6 +47,7 @@ inline QByteArray siteJob()
     <Undefined id="Undefined">
      <Port_List>
       <P3 id="Jack 1"/>
+      <P2 id="Twin"/>
      </Port_List>
      <VerticalRun_List/>
     </Undefined>

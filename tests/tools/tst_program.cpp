@@ -105,6 +105,16 @@ private Q_SLOTS:
         }
     }
 
+    void outputThatCannotBeWritten()
+    {
+        QProcess process;
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(QStringLiteral(CABLEDOC_PROGRAM), {QStringLiteral("--help")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 4);
+        QVERIFY(process.readAllStandardError().contains("standard output"));
+    }
+
     void help()
     {
         QCOMPARE(run({QStringLiteral("--help")}), 0);

@@ -4,17 +4,6 @@
 
 #include <cstdio>
 
-namespace {
-
-void write(std::FILE *stream, const QString &text)
-{
-    const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream);
-    std::fflush(stream);
-}
-
-} // namespace
-
 Command::Command(const QString &name, const QString &description)
     : m_name(name)
 {
@@ -33,7 +22,7 @@ bool Command::parse(const QStringList &arguments)
         return false;
     }
     if (m_parser.isSet(QStringLiteral("help"))) {
-        printData(m_parser.helpText());
+        m_exitCode = printData(m_parser.helpText().toLocal8Bit());
         return false;
     }
     if (m_parser.positionalArguments().size() != 1) {
@@ -52,7 +41,7 @@ ExitCode Command::usageError(const QString &message) const
 
 void printMessage(const QString &message)
 {
-    write(stderr, QStringLiteral("cabledoc: %1\n").arg(message));
+    std::fprintf(stderr, "cabledoc: %s\n", qPrintable(message));
 }
 
 void printMessage(const QString &fileName, const QString &message)
@@ -60,7 +49,11 @@ void printMessage(const QString &fileName, const QString &message)
     printMessage(message.contains(fileName) ? message : QStringLiteral("%1: %2").arg(fileName, message));
 }
 
-void printData(const QString &text)
+ExitCode printData(const QByteArray &data)
 {
-    write(stdout, text);
+    if (std::fwrite(data.constData(), 1, std::size_t(data.size()), stdout) == std::size_t(data.size())
+        && std::fflush(stdout) == 0)
+        return Done;
+    printMessage(QCoreApplication::translate("Command", "standard output: %1").arg(qt_error_string()));
+    return CannotSave;
 }

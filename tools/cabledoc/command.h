@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -9,7 +10,7 @@ enum ExitCode {
     Done = 0,
     WrongUsage = 2,
     CannotLoad = 3,
-    CannotSave = 4,
+    CannotSave = 4, ///< or cannot write to standard output
 };
 
 /// The command line of one command. It takes one file name.
@@ -41,8 +42,8 @@ private:
 void printMessage(const QString &message);
 /// The same about a file, whose name is put before a text that does not hold it.
 void printMessage(const QString &fileName, const QString &message);
-/// Writes data to standard output.
-void printData(const QString &text);
+/// Writes data to standard output. When that fails, says so and returns CannotSave.
+ExitCode printData(const QByteArray &data);
 
 // The commands. Each takes the words behind the program's name and returns how the program ends.
 ExitCode runNew(const QStringList &arguments);

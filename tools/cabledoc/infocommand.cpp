@@ -128,7 +128,6 @@ ExitCode runInfo(const QStringList &arguments)
         return CannotLoad;
     }
     const QJsonObject description = describeJob(job);
-    printData(command.isSet(jsonOption) ? QString::fromUtf8(QJsonDocument(description).toJson())
-                                        : tablesOf(description));
-    return Done;
+    return printData(command.isSet(jsonOption) ? QJsonDocument(description).toJson()
+                                               : tablesOf(description).toLocal8Bit());
 }

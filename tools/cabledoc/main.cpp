@@ -22,7 +22,7 @@ QString usage()
                 "  0  all was done\n"
                 "  2  wrong command line\n"
                 "  3  a file could not be loaded\n"
-                "  4  a file could not be saved\n");
+                "  4  a file could not be saved, or the output not be written\n");
 }
 
 ExitCode run(QStringList arguments)
@@ -34,12 +34,10 @@ ExitCode run(QStringList arguments)
     }
     const QString command = arguments.takeAt(1);
     if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
-        printData(usage());
-        return Done;
+        return printData(usage().toLocal8Bit());
     }
     if (command == QLatin1String("--version")) {
-        printData(QStringLiteral("cabledoc %1\n").arg(QCoreApplication::applicationVersion()));
-        return Done;
+        return printData("cabledoc " CABLEDOC_VERSION "\n");
     }
     if (command == QLatin1String("new"))
         return runNew(arguments);
@@ -60,6 +58,5 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(CABLEDOC_VERSION));
     return run(QCoreApplication::arguments());
 }
