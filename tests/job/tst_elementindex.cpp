@@ -84,6 +84,23 @@ private Q_SLOTS:
         QCOMPARE(index.lastId(), QStringLiteral("Plan 2"));
     }
 
+    void idsOfAContainer()
+    {
+        ContainerIndex index;
+        const QDomElement first = element(QStringLiteral("b"), QStringLiteral("Hall1"));
+        const QDomElement second = element(QStringLiteral("a"), QStringLiteral("Hall1"));
+        index.append(first);
+        index.append(second);
+        QCOMPARE(index.element(QStringLiteral("Hall1")), first);
+        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 2);
+        index.remove(first);
+        QCOMPARE(index.element(QStringLiteral("Hall1")), second);
+        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 2);
+        index.remove(second);
+        QVERIFY(index.element(QStringLiteral("Hall1")).isNull());
+        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 1);
+    }
+
     void firstOfATagCounts()
     {
         ElementIndex index;

@@ -169,6 +169,7 @@ private Q_SLOTS:
         QVERIFY(job.floorExists(QStringLiteral("FFloor_2"), true));
         QCOMPARE(job.getFloor(QStringLiteral("FFloor_2")).id(), QString());
         QVERIFY(job.getRooms(QStringLiteral("FFloor_1"), true).isEmpty());
+        QVERIFY(!job.roomExistsOnFloor(QStringLiteral("Undefined"), QStringLiteral("FFloor_1"), false));
         job.setFloorId(QStringLiteral("FFloor_2"), QStringLiteral("x"));
         job.removeFloor(QStringLiteral("FFloor_2"));
         QVERIFY(!job.fileChanged());

@@ -200,6 +200,21 @@ private Q_SLOTS:
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
+    void removingARoomUncoversItsTwin()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        const QString lab = QStringLiteral("Room1");
+        QDomElement twin = JobEditorProbe(job).roomElement(Ground, lab).cloneNode(true).toElement();
+        twin.firstChildElement().firstChildElement().setTagName(QStringLiteral("P7"));
+        job.getToRoomList(Ground).appendChild(twin);
+        job.updateAllInternalLists();
+        QVERIFY(!job.portExists(QStringLiteral("P7"), true));
+        job.removeRoom(Ground, lab);
+        QVERIFY(job.portExists(QStringLiteral("P7"), true));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
     void removingARoomMakesAPlaceForWhatIsInIt_data()
     {
         QTest::addColumn<QString>("missing");
