@@ -33,7 +33,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QTemporaryDir directory;
         if (!content.isEmpty()) {
-            QFile file(directory.filePath(QStringLiteral("settings.ini")));
+            QFile file(directory.filePath("settings.ini"));
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(content);
             BKUtilities::setSettingsFile(file.fileName());

@@ -11,7 +11,7 @@ class OpenEditor : public BKXMLEditor
 {
 public:
     explicit OpenEditor(const QString &content = QString())
-        : BKXMLEditor(QStringLiteral("Test"))
+        : BKXMLEditor("Test")
     {
         m_document.setContent(content);
     }
@@ -51,26 +51,26 @@ private Q_SLOTS:
         QCOMPARE(editor.filename() + editor.error(), QString());
         QVERIFY(!editor.fileChanged());
         QVERIFY(editor.getDomNodeFirstChild().isNull());
-        QVERIFY(editor.getElement(QStringLiteral("a")).isNull());
+        QVERIFY(editor.getElement("a").isNull());
     }
 
     void copiesShareTheTreeButNotTheDirtyFlag()
     {
         QObject parent;
-        OpenEditor original(QStringLiteral("<r><a id='1'/></r>"));
+        OpenEditor original("<r><a id='1'/></r>");
         original.setParent(&parent);
-        original.filename() = QStringLiteral("name");
-        original.error() = QStringLiteral("failure");
+        original.filename() = "name";
+        original.error() = "failure";
         original.setDirty(true);
 
         OpenEditor copy(original);
         QCOMPARE(copy.parent(), &parent);
-        QCOMPARE(copy.filename(), QStringLiteral("name"));
-        QCOMPARE(copy.error(), QStringLiteral("failure"));
+        QCOMPARE(copy.filename(), QString("name"));
+        QCOMPARE(copy.error(), QString("failure"));
         QVERIFY(!copy.fileChanged());
-        QDomElement shared = copy.getElement(QStringLiteral("a"));
-        OpenEditor::setElementId(QStringLiteral("2"), shared);
-        QCOMPARE(OpenEditor::getElementId(original.getElement(QStringLiteral("a"))), QStringLiteral("2"));
+        QDomElement shared = copy.getElement("a");
+        OpenEditor::setElementId("2", shared);
+        QCOMPARE(OpenEditor::getElementId(original.getElement("a")), QString("2"));
 
         OpenEditor clean;
         clean = original;
@@ -83,65 +83,65 @@ private Q_SLOTS:
 
     void findsAmongSiblingsOnly()
     {
-        const OpenEditor editor(QStringLiteral("<r><!--c--><a n='1'><b/></a><c/><a n='2'/></r>"));
+        const OpenEditor editor("<r><!--c--><a n='1'><b/></a><c/><a n='2'/></r>");
         const QDomNode start = editor.getDomNodeFirstChild();
         QVERIFY(start.isComment());
-        const QDomElement first = OpenEditor::getChildElement(QStringLiteral("a"), start);
-        QCOMPARE(OpenEditor::getChildAttr(QStringLiteral("n"), first), QStringLiteral("1"));
-        QCOMPARE(OpenEditor::getChildElement(QStringLiteral("a"), first), first);
-        QVERIFY(!OpenEditor::hasChildElement(QStringLiteral("b"), start));
-        QVERIFY(!OpenEditor::hasChildElement(QStringLiteral("A"), start));
+        const QDomElement first = OpenEditor::getChildElement("a", start);
+        QCOMPARE(OpenEditor::getChildAttr("n", first), QString("1"));
+        QCOMPARE(OpenEditor::getChildElement("a", first), first);
+        QVERIFY(!OpenEditor::hasChildElement("b", start));
+        QVERIFY(!OpenEditor::hasChildElement("A", start));
         QVERIFY(!OpenEditor::hasChildElement(QString(), start));
-        QVERIFY(!OpenEditor::hasChildElement(QStringLiteral("a"), QDomNode()));
+        QVERIFY(!OpenEditor::hasChildElement("a", QDomNode()));
     }
 
     void takesTheFirstNodeForTheRoot()
     {
-        const OpenEditor editor(QStringLiteral("<!--c--><r><a/></r>"));
-        QVERIFY(editor.getElement(QStringLiteral("a")).isNull());
+        const OpenEditor editor("<!--c--><r><a/></r>");
+        QVERIFY(editor.getElement("a").isNull());
     }
 
     void writesOnlyAttributesThatExist()
     {
-        const OpenEditor editor(QStringLiteral("<r><a x='1'/></r>"));
-        QDomElement element = editor.getElement(QStringLiteral("a"));
-        OpenEditor::setElementId(QStringLiteral("new"), element);
-        QVERIFY(!element.hasAttribute(QStringLiteral("id")));
+        const OpenEditor editor("<r><a x='1'/></r>");
+        QDomElement element = editor.getElement("a");
+        OpenEditor::setElementId("new", element);
+        QVERIFY(!element.hasAttribute("id"));
         QVERIFY(OpenEditor::getElementId(element).isNull());
-        OpenEditor::setChildAttr(QStringLiteral("x"), QStringLiteral("2"), element);
-        QCOMPARE(OpenEditor::getChildAttr(QStringLiteral("x"), element), QStringLiteral("2"));
+        OpenEditor::setChildAttr("x", "2", element);
+        QCOMPARE(OpenEditor::getChildAttr("x", element), QString("2"));
         QDomElement none;
-        OpenEditor::setChildAttr(QStringLiteral("x"), QStringLiteral("2"), none);
+        OpenEditor::setChildAttr("x", "2", none);
         QVERIFY(none.isNull());
     }
 
     void navigatesToContainers()
     {
-        const OpenEditor empty(QStringLiteral("<r><Settings_List/></r>"));
+        const OpenEditor empty("<r><Settings_List/></r>");
         QVERIFY(empty.getToPrintSettingsList().isNull());
         QVERIFY(empty.getToTestDefList().isNull());
-        const OpenEditor full(QStringLiteral("<r><PrintSettings_List/><TestDef_List n='1'/><BundledCable_List n='2'/>"
-                                             "<Settings_List><PrintSettings_List n='3'/><PageSettings_List n='4'/>"
-                                             "<ScaleSettings_List n='5'/></Settings_List></r>"));
+        const OpenEditor full("<r><PrintSettings_List/><TestDef_List n='1'/><BundledCable_List n='2'/>"
+                              "<Settings_List><PrintSettings_List n='3'/><PageSettings_List n='4'/>"
+                              "<ScaleSettings_List n='5'/></Settings_List></r>");
         QStringList found;
         for (const QDomElement &list :
              {full.getToTestDefList(), full.getToBundledCableTypeList(), full.getToPrintSettingsList(),
               full.getToPageSettingsList(), full.getToScaleSettingsList()})
-            found.append(list.attribute(QStringLiteral("n")));
-        QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("1 2 3 4 5"));
+            found.append(list.attribute("n"));
+        QCOMPARE(found.join(' '), QString("1 2 3 4 5"));
     }
 
     void flagsAsText()
     {
         const std::array<bool, 4> given{true, false, false, true};
-        QCOMPARE(OpenEditor::boolArrayToString(given.data()), QStringLiteral("1001"));
+        QCOMPARE(OpenEditor::boolArrayToString(given.data()), QString("1001"));
 
         std::array<bool, 4> flags{false, true, true, true};
-        QVERIFY(!OpenEditor::stringToBoolArray(QStringLiteral("10x1"), flags.data()));
+        QVERIFY(!OpenEditor::stringToBoolArray("10x1", flags.data()));
         QCOMPARE(flags, (std::array<bool, 4>{true, false, true, true}));
-        QVERIFY(!OpenEditor::stringToBoolArray(QStringLiteral("010"), flags.data()));
+        QVERIFY(!OpenEditor::stringToBoolArray("010", flags.data()));
         QCOMPARE(flags, (std::array<bool, 4>{false, true, false, true}));
-        QVERIFY(OpenEditor::stringToBoolArray(QStringLiteral("1010more"), flags.data()));
+        QVERIFY(OpenEditor::stringToBoolArray("1010more", flags.data()));
         QCOMPARE(flags, (std::array<bool, 4>{true, false, true, false}));
     }
 };

@@ -7,16 +7,16 @@
 
 namespace {
 
-const QString NetView = QStringLiteral("NetView_Settings");
-const QString A4 = QStringLiteral("A4: 210 mm. x 297 mm.");
+const QString NetView = "NetView_Settings";
+const QString A4 = "A4: 210 mm. x 297 mm.";
 
 class SettingsEditor : public BKXMLEditor
 {
 public:
     SettingsEditor()
-        : BKXMLEditor(QStringLiteral("Test"))
+        : BKXMLEditor("Test")
     {
-        QDomElement root = appendElement(QStringLiteral("Test"), m_document);
+        QDomElement root = appendElement("Test", m_document);
         addSettingsList(&root);
         setDirty(false);
     }
@@ -32,12 +32,12 @@ public:
 
 QString dimensions(const PageSettings &settings)
 {
-    return QStringLiteral("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
+    return QString("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
 }
 
 QString dimensions(const PrintSettings &settings)
 {
-    return QStringLiteral("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
+    return QString("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
 }
 
 } // namespace
@@ -50,21 +50,21 @@ private Q_SLOTS:
     void pageDimensions()
     {
         PageSettings page;
-        QCOMPARE(dimensions(page), QStringLiteral("-1 x -1"));
+        QCOMPARE(dimensions(page), QString("-1 x -1"));
         page.setPageSizeStyle(1);
-        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        QCOMPARE(dimensions(page), QString("11 x 8.5"));
         page.setPageSizeStyle(2);
-        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        QCOMPARE(dimensions(page), QString("11 x 8.5"));
         page.setOrientation(0);
-        QCOMPARE(dimensions(page), QStringLiteral("11 x 8.5"));
+        QCOMPARE(dimensions(page), QString("11 x 8.5"));
         page.setPageSizeStyle(1);
-        QCOMPARE(dimensions(page), QStringLiteral("8.5 x 11"));
+        QCOMPARE(dimensions(page), QString("8.5 x 11"));
         for (const int style : {-1, 3, 4}) {
             page.setPageSizeStyle(style);
-            QCOMPARE(dimensions(page), QStringLiteral("-1 x -1"));
+            QCOMPARE(dimensions(page), QString("-1 x -1"));
         }
-        const PageSettings custom(A4, QStringLiteral("Standard"), 1, 2, 0, 30.0, 20.0);
-        QCOMPARE(dimensions(custom), QStringLiteral("30 x 20"));
+        const PageSettings custom(A4, "Standard", 1, 2, 0, 30.0, 20.0);
+        QCOMPARE(dimensions(custom), QString("30 x 20"));
     }
 
     void printDimensions_data()
@@ -91,11 +91,11 @@ private Q_SLOTS:
     {
         const QStringList sizes = SettingsStrings::paperSizes();
         QCOMPARE(sizes.size(), 38);
-        QCOMPARE(sizes.mid(4, 4).join(QLatin1Char('|')),
-                 QStringLiteral("Tabloid: 11 in. x 17 in.|DLE: 110 mm. x 220 mm.|C5E: 163 mm. x 229 mm.|"
-                                "B10: 32 mm. x 45 mm."));
-        QCOMPARE(sizes.at(17), QStringLiteral("B0: 1030 mm. x 1456 mm."));
-        QCOMPARE(sizes.at(18), QStringLiteral("A9: 37 mm. x 52 mm."));
+        QCOMPARE(sizes.mid(4, 4).join('|'),
+                 QString("Tabloid: 11 in. x 17 in.|DLE: 110 mm. x 220 mm.|C5E: 163 mm. x 229 mm.|"
+                         "B10: 32 mm. x 45 mm."));
+        QCOMPARE(sizes.at(17), QString("B0: 1030 mm. x 1456 mm."));
+        QCOMPARE(sizes.at(18), QString("A9: 37 mm. x 52 mm."));
         for (const QString &size : sizes)
             QVERIFY2(PrintSettings(size, 0, 100, 1, 1, 0).getPageWidthDimension() > 0, qPrintable(size));
     }
@@ -105,15 +105,15 @@ private Q_SLOTS:
         ScaleSettings scale;
         QCOMPARE(scale.scale(), 20);
         QVERIFY(!scale.isMetric());
-        scale.setPredefinedStyle(QStringLiteral("Metric"));
+        scale.setPredefinedStyle("Metric");
         scale.setWidthUnits(1);
         scale.setHeightUnits(2);
         QVERIFY(!scale.isMetric());
         scale.setStyle(1);
         QVERIFY(scale.isMetric());
-        scale.setPredefinedScale(QStringLiteral("1 : 5"));
+        scale.setPredefinedScale("1 : 5");
         QCOMPARE(scale.scale(), 5);
-        scale.setPredefinedScale(QStringLiteral("1 : 3"));
+        scale.setPredefinedScale("1 : 3");
         QCOMPARE(scale.scale(), 10);
         scale.setStyle(2);
         scale.setCustomHeight(2.9);
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QObject parent;
         ScaleSettings original;
         original.setParent(&parent);
-        original.setObjectName(QStringLiteral("name"));
+        original.setObjectName("name");
         original.setCustomWidth(3.0);
         const ScaleSettings copy(original);
         QVERIFY(copy == original);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         SettingsEditor editor;
         for (const char *name : {"JobInfo", "NetView", "Inventory", "FloorPlan", "TestSched", "DetailedCable",
                                  "JobNotes", "ActiveNetworkTestResults"}) {
-            const QString entry = QString::fromLatin1(name) + QStringLiteral("_Settings");
+            const QString entry = QString(name) + "_Settings";
             const bool isDrawing = qstrcmp(name, "NetView") == 0 || qstrcmp(name, "FloorPlan") == 0;
             PrintSettings expected;
             expected.setOrientation(isDrawing ? 1 : 0);
@@ -155,19 +155,19 @@ private Q_SLOTS:
             QVERIFY2(editor.getPrintSettings(entry) == expected, name);
         }
         for (const char *name : {"NetView_Settings", "FloorPlan_Settings"}) {
-            QVERIFY(editor.getPageSettings(QString::fromLatin1(name)) == PageSettings());
-            QVERIFY(editor.getScaleSettings(QString::fromLatin1(name)) == ScaleSettings());
+            QVERIFY(editor.getPageSettings(name) == PageSettings());
+            QVERIFY(editor.getScaleSettings(name) == ScaleSettings());
         }
         QVERIFY(!editor.fileChanged());
-        QVERIFY(editor.text().contains(QStringLiteral("<JobNotes_Text text=\"\"/>")));
+        QVERIFY(editor.text().contains("<JobNotes_Text text=\"\"/>"));
     }
 
     void storesWhatDiffers()
     {
         SettingsEditor editor;
         const PrintSettings print(A4, 0, 75, 2, 3, 1);
-        const PageSettings page(A4, QStringLiteral("Metric (ISO)"), 0, 2, 1, 0.1, 1.0 / 3);
-        const ScaleSettings scale(QStringLiteral("Metric"), QStringLiteral("1 : 2"), 1, 2, 1e-7, 12345678.5, 2);
+        const PageSettings page(A4, "Metric (ISO)", 0, 2, 1, 0.1, 1.0 / 3);
+        const ScaleSettings scale("Metric", "1 : 2", 1, 2, 1e-7, 12345678.5, 2);
         editor.setPrintSettings(print, NetView);
         QVERIFY(editor.fileChanged());
         editor.setPageSettings(page, NetView);
@@ -188,21 +188,21 @@ private Q_SLOTS:
         editor.getToPrintSettingsList().removeChild(editor.printEntry(NetView));
         QVERIFY(editor.getPrintSettings(NetView) == PrintSettings());
         QVERIFY(editor.fileChanged());
-        QCOMPARE(editor.printEntry(NetView).attribute(QStringLiteral("print_zoom")), QStringLiteral("100"));
+        QCOMPARE(editor.printEntry(NetView).attribute("print_zoom"), QString("100"));
 
         editor.setDirty(false);
-        editor.printEntry(NetView).removeAttribute(QStringLiteral("print_zoom"));
+        editor.printEntry(NetView).removeAttribute("print_zoom");
         QCOMPARE(editor.getPrintSettings(NetView).printZoom(), 100);
         QVERIFY(editor.fileChanged());
-        QVERIFY(editor.printEntry(NetView).hasAttribute(QStringLiteral("print_zoom")));
+        QVERIFY(editor.printEntry(NetView).hasAttribute("print_zoom"));
     }
 
     void unknownNamesAndMissingLists()
     {
         SettingsEditor editor;
         const QString before = editor.text();
-        editor.setPageSettings(PageSettings(A4, A4, 0, 1, 1, 1, 1), QStringLiteral("JobInfo_Settings"));
-        QVERIFY(editor.getPageSettings(QStringLiteral("JobInfo_Settings")) == PageSettings());
+        editor.setPageSettings(PageSettings(A4, A4, 0, 1, 1, 1, 1), "JobInfo_Settings");
+        QVERIFY(editor.getPageSettings("JobInfo_Settings") == PageSettings());
         QCOMPARE(editor.text(), before);
         editor.clear();
         editor.setPrintSettings(PrintSettings(A4, 0, 1, 1, 1, 1), NetView);

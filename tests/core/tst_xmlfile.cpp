@@ -22,16 +22,13 @@ private:
 
     QString fileWith(const QByteArray &content) const
     {
-        QFile file(m_directory.filePath(QStringLiteral("file.xml")));
+        QFile file(m_directory.filePath("file.xml"));
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
             qFatal("cannot prepare the file");
         return file.fileName();
     }
 
-    xmlfile::ReadResult read(const QByteArray &content) const
-    {
-        return xmlfile::read(fileWith(content), QStringLiteral("Test"));
-    }
+    xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test"); }
 
 private Q_SLOTS:
     /// What is read is written in the one form of our files, and read and written again stays as it is.
@@ -71,8 +68,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(QByteArray, expected);
         xmlfile::AttributeOrder order;
-        order.inContainer.insert(QStringLiteral("List"), {QStringLiteral("first"), QStringLiteral("second")});
-        order.ofElement.insert(QStringLiteral("own"), {QStringLiteral("z")});
+        order.inContainer.insert("List", {"first", "second"});
+        order.ofElement.insert("own", {"z"});
         for (const QByteArray &text : {content, expected}) {
             const xmlfile::ReadResult result = read(text);
             QCOMPARE(result.problem.message, QString());
@@ -82,15 +79,15 @@ private Q_SLOTS:
 
     void charactersBeyondTheFormat()
     {
-        QDomDocument document(QStringLiteral("Test"));
-        QDomElement root = document.createElement(QStringLiteral("a"));
+        QDomDocument document("Test");
+        QDomElement root = document.createElement("a");
         document.appendChild(root);
         // A letter beyond Latin-1, an emoji, half an emoji, two control characters.
-        QString value = QString::fromUtf8("\u0161\U0001F600|");
+        QString value = "\u0161\U0001F600|";
         value += QChar(0xD83D);
-        value += QLatin1Char('\x01');
+        value += '\x01';
         value += QChar(0);
-        root.setAttribute(QStringLiteral("b"), value + QChar(0xFF));
+        root.setAttribute("b", value + QChar(0xFF));
         const xmlfile::Text text = xmlfile::toText(document, NoOrder);
         QCOMPARE(text.bytes, QByteArray("<a b=\"??|???\xff\"/>\n"));
         QCOMPARE(text.replacedCharacters, 5);
@@ -147,28 +144,28 @@ private Q_SLOTS:
 
     void refusesTreesThatCouldNotBeRead()
     {
-        QDomDocument document(QStringLiteral("Test"));
+        QDomDocument document("Test");
         QVERIFY(!xmlfile::toText(document, NoOrder).error.isEmpty());
-        document.appendChild(document.createElement(QStringLiteral("a")));
+        document.appendChild(document.createElement("a"));
         QVERIFY(xmlfile::toText(document, NoOrder).error.isEmpty());
 
         QDomElement wide = document.documentElement();
         for (int i = 0; i <= maximumAttributes; ++i)
-            wide.setAttribute(QStringLiteral("a%1").arg(i), 0);
+            wide.setAttribute(QString("a%1").arg(i), 0);
         QVERIFY(!xmlfile::toText(document, NoOrder).error.isEmpty());
-        wide.removeAttribute(QStringLiteral("a0"));
+        wide.removeAttribute("a0");
         QVERIFY(xmlfile::toText(document, NoOrder).error.isEmpty());
 
         QDomNode deepest = wide;
         for (int level = 2; level <= maximumDepth; ++level)
-            deepest = deepest.appendChild(document.createElement(QStringLiteral("b")));
+            deepest = deepest.appendChild(document.createElement("b"));
         QVERIFY(xmlfile::toText(document, NoOrder).error.isEmpty());
-        deepest.appendChild(document.createElement(QStringLiteral("b")));
+        deepest.appendChild(document.createElement("b"));
         QVERIFY(!xmlfile::toText(document, NoOrder).error.isEmpty());
 
-        QDomDocument twoRoots(QStringLiteral("Test"));
-        twoRoots.appendChild(twoRoots.createElement(QStringLiteral("a")));
-        twoRoots.appendChild(twoRoots.createElement(QStringLiteral("b")));
+        QDomDocument twoRoots("Test");
+        twoRoots.appendChild(twoRoots.createElement("a"));
+        twoRoots.appendChild(twoRoots.createElement("b"));
         QVERIFY(!xmlfile::toText(twoRoots, NoOrder).error.isEmpty());
     }
 
@@ -177,7 +174,7 @@ private Q_SLOTS:
         const QString fileName = fileWith("old");
         QVERIFY(QFile::setPermissions(fileName, QFileDevice::ReadOwner | QFileDevice::WriteOwner));
         const auto permissions = QFile::permissions(fileName);
-        const QString link = m_directory.filePath(QStringLiteral("link"));
+        const QString link = m_directory.filePath("link");
         QVERIFY(QFile::link(fileName, link));
 
         QCOMPARE(xmlfile::write(link, "new"), QString());
@@ -191,10 +188,9 @@ private Q_SLOTS:
     void writeReportsFailures()
     {
         QVERIFY(!xmlfile::write(m_directory.path(), "x").isEmpty());
-        QVERIFY(!xmlfile::write(m_directory.filePath(QStringLiteral("none/file")), "x").isEmpty());
-        QVERIFY(!xmlfile::write(fileWith("x") + QStringLiteral("/file"), "x").isEmpty());
-        QCOMPARE(int(xmlfile::read(m_directory.path(), QStringLiteral("Test")).status),
-                 int(xmlfile::ReadResult::NotOpened));
+        QVERIFY(!xmlfile::write(m_directory.filePath("none/file"), "x").isEmpty());
+        QVERIFY(!xmlfile::write(fileWith("x") + "/file", "x").isEmpty());
+        QCOMPARE(int(xmlfile::read(m_directory.path(), "Test").status), int(xmlfile::ReadResult::NotOpened));
     }
 };
 

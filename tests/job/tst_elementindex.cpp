@@ -13,12 +13,12 @@ class ElementIndexTest : public QObject
     Q_OBJECT
 
 private:
-    QDomDocument m_document{QStringLiteral("Test")};
+    QDomDocument m_document{"Test"};
 
     QDomElement element(const QString &tag, const QString &id)
     {
         QDomElement element = m_document.createElement(tag);
-        element.setAttribute(QStringLiteral("id"), id);
+        element.setAttribute("id", id);
         return element;
     }
 
@@ -50,14 +50,14 @@ private Q_SLOTS:
     {
         ElementIndex index;
         for (const char *tag : {"T1", "T2", "T02", "T4", "T", "T3x", "U3", "T10", "T1000000000000000000000"})
-            index.append(element(QString::fromLatin1(tag), QString::fromLatin1(tag)));
-        const QString prefix = QStringLiteral("T");
+            index.append(element(tag, tag));
+        const QString prefix = "T";
         QCOMPARE(index.firstFreeTagNumber(prefix, 1), 3);
         QCOMPARE(index.firstFreeTagNumber(prefix, 10), 11);
         // "T10" is also "T1" and 0.
-        QCOMPARE(index.firstFreeTagNumber(QStringLiteral("T1"), 0), 1);
+        QCOMPARE(index.firstFreeTagNumber("T1", 0), 1);
         // From here on the numbers are kept in step.
-        const QDomElement third = element(QStringLiteral("T3"), QStringLiteral("Plan 1"));
+        const QDomElement third = element("T3", "Plan 1");
         index.append(third);
         QCOMPARE(index.firstFreeTagNumber(prefix, 1), 5);
         index.remove(third);
@@ -68,60 +68,60 @@ private Q_SLOTS:
     void idsAreSharedAndChange()
     {
         ElementIndex index;
-        QDomElement a = element(QStringLiteral("a"), QStringLiteral("Plan 1"));
-        const QDomElement b = element(QStringLiteral("b"), QStringLiteral("Plan 1"));
+        QDomElement a = element("a", "Plan 1");
+        const QDomElement b = element("b", "Plan 1");
         index.append(b);
         index.append(a);
-        QCOMPARE(index.tagOfId(QStringLiteral("Plan 1")), QStringLiteral("a"));
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Plan "), 1), 2);
-        a.setAttribute(QStringLiteral("id"), QStringLiteral("Plan 2"));
+        QCOMPARE(index.tagOfId("Plan 1"), QString("a"));
+        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 2);
+        a.setAttribute("id", "Plan 2");
         index.updateId(a);
-        QCOMPARE(index.tagOfId(QStringLiteral("Plan 1")), QStringLiteral("b"));
-        QCOMPARE(index.ids().join(QLatin1Char(',')), QStringLiteral("Plan 2,Plan 1"));
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Plan "), 1), 3);
+        QCOMPARE(index.tagOfId("Plan 1"), QString("b"));
+        QCOMPARE(index.ids().join(','), QString("Plan 2,Plan 1"));
+        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 3);
         index.remove(b);
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Plan "), 1), 1);
-        QCOMPARE(index.lastId(), QStringLiteral("Plan 2"));
+        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 1);
+        QCOMPARE(index.lastId(), QString("Plan 2"));
     }
 
     void idsOfAContainer()
     {
         ContainerIndex index;
-        const QDomElement first = element(QStringLiteral("b"), QStringLiteral("Hall1"));
-        const QDomElement second = element(QStringLiteral("a"), QStringLiteral("Hall1"));
+        const QDomElement first = element("b", "Hall1");
+        const QDomElement second = element("a", "Hall1");
         index.append(first);
         index.append(second);
-        QCOMPARE(index.element(QStringLiteral("Hall1")), first);
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 2);
+        QCOMPARE(index.element("Hall1"), first);
+        QCOMPARE(index.firstFreeIdNumber("Hall", 1), 2);
         index.remove(first);
-        QCOMPARE(index.element(QStringLiteral("Hall1")), second);
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 2);
+        QCOMPARE(index.element("Hall1"), second);
+        QCOMPARE(index.firstFreeIdNumber("Hall", 1), 2);
         index.remove(second);
-        QVERIFY(index.element(QStringLiteral("Hall1")).isNull());
-        QCOMPARE(index.firstFreeIdNumber(QStringLiteral("Hall"), 1), 1);
+        QVERIFY(index.element("Hall1").isNull());
+        QCOMPARE(index.firstFreeIdNumber("Hall", 1), 1);
     }
 
     void firstOfATagCounts()
     {
         ElementIndex index;
-        const QDomElement first = element(QStringLiteral("t"), QStringLiteral("1"));
-        QDomElement second = element(QStringLiteral("t"), QStringLiteral("2"));
+        const QDomElement first = element("t", "1");
+        QDomElement second = element("t", "2");
         index.append(first);
         index.append(second);
         QCOMPARE(index.tags().size(), 1);
-        QCOMPARE(index.element(QStringLiteral("t")), first);
-        QVERIFY(index.isRepeated(QStringLiteral("t")));
-        QVERIFY(!index.containsId(QStringLiteral("2")));
-        second.setAttribute(QStringLiteral("id"), QStringLiteral("3"));
+        QCOMPARE(index.element("t"), first);
+        QVERIFY(index.isRepeated("t"));
+        QVERIFY(!index.containsId("2"));
+        second.setAttribute("id", "3");
         index.updateId(second);
-        QVERIFY(!index.containsId(QStringLiteral("3")));
+        QVERIFY(!index.containsId("3"));
         index.remove(first);
-        QCOMPARE(index.element(QStringLiteral("t")), second);
-        QCOMPARE(index.tagOfId(QStringLiteral("3")), QStringLiteral("t"));
-        QVERIFY(!index.isRepeated(QStringLiteral("t")));
+        QCOMPARE(index.element("t"), second);
+        QCOMPARE(index.tagOfId("3"), QString("t"));
+        QVERIFY(!index.isRepeated("t"));
         index.forgetElements();
-        QVERIFY(index.containsTag(QStringLiteral("t")));
-        QVERIFY(index.element(QStringLiteral("t")).isNull());
+        QVERIFY(index.containsTag("t"));
+        QVERIFY(index.element("t").isNull());
     }
 };
 

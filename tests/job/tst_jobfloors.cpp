@@ -1,5 +1,4 @@
 #include "jobeditorprobe.h"
-#include "sitejob.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -13,15 +12,15 @@ private:
 
     static QString attribute(const QString &floorTag, const char *name)
     {
-        return JobEditorProbe(JobEditor::Instance()).floorElement(floorTag).attribute(QString::fromLatin1(name));
+        return JobEditorProbe(JobEditor::Instance()).floorElement(floorTag).attribute(name);
     }
 
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(JobEditor::Instance().New(QStringLiteral("site")));
-        JobEditor::Instance().removeFloor(QStringLiteral("FFloor_1"));
-        JobEditor::Instance().removeSheet(QStringLiteral("SSheet_1"));
+        QVERIFY(JobEditor::Instance().New("site"));
+        JobEditor::Instance().removeFloor("FFloor_1");
+        JobEditor::Instance().removeSheet("SSheet_1");
         JobEditor::Instance().setDirty(false);
     }
 
@@ -50,19 +49,19 @@ private Q_SLOTS:
         QFETCH(QString, tag);
         QFETCH(QString, id);
         JobEditor &job = JobEditor::Instance();
-        const QString level = QStringLiteral("Level ");
-        job.addFloor(QStringLiteral("Other"), QStringLiteral("Level 1"), 8, QString(), 2);
-        job.addSheet(QStringLiteral("Other"), QStringLiteral("Level 1"), 2);
+        const QString level = "Level ";
+        job.addFloor("Other", "Level 1", 8, QString(), 2);
+        job.addSheet("Other", "Level 1", 2);
         job.setDirty(false);
 
-        const QString floor = job.addFloor(Floor(QStringLiteral("Mine"), level, QStringLiteral("a.png"), 9.5), mode);
+        const QString floor = job.addFloor(Floor("Mine", level, "a.png", 9.5), mode);
         QVERIFY(job.fileChanged());
-        QCOMPARE(floor, tag.startsWith(QLatin1Char('_')) ? QStringLiteral("FFloor") + tag : tag);
-        QVERIFY(job.getFloor(floor) == Floor(floor, id, QStringLiteral("a.png"), 9.5));
-        QCOMPARE(attribute(floor, "ceiling_height"), QStringLiteral("9.5"));
+        QCOMPARE(floor, tag.startsWith('_') ? "FFloor" + tag : tag);
+        QVERIFY(job.getFloor(floor) == Floor(floor, id, "a.png", 9.5));
+        QCOMPARE(attribute(floor, "ceiling_height"), QString("9.5"));
 
-        const QString sheet = job.addSheet(Sheet(QStringLiteral("Mine"), level), mode);
-        QCOMPARE(sheet, tag.startsWith(QLatin1Char('_')) ? QStringLiteral("SSheet") + tag : tag);
+        const QString sheet = job.addSheet(Sheet("Mine", level), mode);
+        QCOMPARE(sheet, tag.startsWith('_') ? "SSheet" + tag : tag);
         QVERIFY(job.getSheet(sheet) == Sheet(sheet, id));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
@@ -70,15 +69,15 @@ private Q_SLOTS:
     void freedNumbersAreTakenAgain()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString level = QStringLiteral("Level");
+        const QString level = "Level";
         for (int i = 1; i <= 12; ++i)
-            QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QStringLiteral("FFloor_%1").arg(i));
-        job.removeFloor(QStringLiteral("FFloor_2"));
-        job.setFloorId(QStringLiteral("FFloor_7"), QStringLiteral("Attic"));
-        QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QStringLiteral("FFloor_2"));
-        QCOMPARE(job.getFloorIdByTag(QStringLiteral("FFloor_2")), QStringLiteral("Level2"));
-        QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QStringLiteral("FFloor_13"));
-        QCOMPARE(job.getFloorIdByTag(QStringLiteral("FFloor_13")), QStringLiteral("Level7"));
+            QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QString("FFloor_%1").arg(i));
+        job.removeFloor("FFloor_2");
+        job.setFloorId("FFloor_7", "Attic");
+        QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QString("FFloor_2"));
+        QCOMPARE(job.getFloorIdByTag("FFloor_2"), QString("Level2"));
+        QCOMPARE(job.addFloor(QString(), level, 8, QString(), 0), QString("FFloor_13"));
+        QCOMPARE(job.getFloorIdByTag("FFloor_13"), QString("Level7"));
     }
 
     void tagsThatCannotBeNames()
@@ -87,61 +86,60 @@ private Q_SLOTS:
         const QByteArray before = JobEditorProbe(job).text();
         for (const char *tag : {"", "has space", "1st", "a:b", "a<b", "\u0142", "a\x01", "\u00d7"}) {
             job.error().clear();
-            QCOMPARE(job.addFloor(QString::fromUtf8(tag), QString(), 8, QString(), 2), QStringLiteral("Bad Floor"));
+            QCOMPARE(job.addFloor(QString::fromUtf8(tag), QString(), 8, QString(), 2), QString("Bad Floor"));
             QVERIFY2(!job.error().isEmpty(), tag);
-            QCOMPARE(job.addSheet(QString::fromUtf8(tag), QString(), 3), QStringLiteral("Bad Sheet"));
+            QCOMPARE(job.addSheet(QString::fromUtf8(tag), QString(), 3), QString("Bad Sheet"));
         }
         QCOMPARE(JobEditorProbe(job).text(), before);
         QVERIFY(!job.fileChanged());
-        QCOMPARE(job.addFloor(QString::fromUtf8("\u00e9tage-1.b"), QString(), 8, QString(), 2),
-                 QString::fromUtf8("\u00e9tage-1.b"));
+        QCOMPARE(job.addFloor("\u00e9tage-1.b", QString(), 8, QString(), 2), QString("\u00e9tage-1.b"));
     }
 
     void backgroundKeepsItsFirstVerticalOrigin()
     {
         JobEditor &job = JobEditor::Instance();
         const QString tag = job.addFloor(QString(), QString(), 8, QString(), 0);
-        job.setFloorBackgroundPic(tag, QStringLiteral("a.png"), 10, 20);
+        job.setFloorBackgroundPic(tag, "a.png", 10, 20);
         QCOMPARE(job.getFloorBackgroundOrigin(tag), QPoint(10, 20));
-        job.setFloorBackgroundPic(tag, QStringLiteral("b.png"), 30, 40);
+        job.setFloorBackgroundPic(tag, "b.png", 30, 40);
         QCOMPARE(job.getFloorBackgroundOrigin(tag), QPoint(30, 20));
-        QCOMPARE(job.getFloorBackgroundPic(tag), QStringLiteral("b.png"));
+        QCOMPARE(job.getFloorBackgroundPic(tag), QString("b.png"));
     }
 
     void readingCompletesOlderFloors()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString name = m_directory.filePath(QStringLiteral("site.job"));
-        writeFile(name, siteJob());
+        const QString name = m_directory.filePath("site.job");
+        writeFile(name, testData("site.job"));
         QVERIFY(job.Load(name));
-        const QString tag = QStringLiteral("FFloor_2");
+        const QString tag = "FFloor_2";
         QCOMPARE(job.getFloor(tag).ceilingHeight(), 8.0);
         QVERIFY(!job.fileChanged());
         QCOMPARE(job.getFloorCeilingHeight(tag), 8.0);
-        QCOMPARE(attribute(tag, "ceiling_height"), QStringLiteral("8"));
+        QCOMPARE(attribute(tag, "ceiling_height"), QString("8"));
         QVERIFY(job.fileChanged());
         job.setDirty(false);
         QCOMPARE(job.getFloorBackgroundOrigin(tag), QPoint(0, 0));
-        QCOMPARE(attribute(tag, "pic_x") + attribute(tag, "pic_y"), QStringLiteral("00"));
+        QCOMPARE(attribute(tag, "pic_x") + attribute(tag, "pic_y"), QString("00"));
         QVERIFY(job.fileChanged());
         job.setDirty(false);
-        QCOMPARE(job.getBackgroundOption(tag), QStringLiteral("Center"));
-        QCOMPARE(attribute(tag, "option"), QStringLiteral("Center"));
+        QCOMPARE(job.getBackgroundOption(tag), QString("Center"));
+        QCOMPARE(attribute(tag, "option"), QString("Center"));
         QVERIFY(job.fileChanged());
         job.setDirty(false);
-        QCOMPARE(job.getBackgroundOption(tag), QStringLiteral("Center"));
+        QCOMPARE(job.getBackgroundOption(tag), QString("Center"));
         QVERIFY(!job.fileChanged());
         job.setFloorCeilingHeight(tag, 0.1);
-        QCOMPARE(attribute(tag, "ceiling_height"), QStringLiteral("0.1"));
-        job.setBackgroundOption(tag, QStringLiteral("Stretch"));
-        QCOMPARE(job.getBackgroundOption(tag), QStringLiteral("Stretch"));
+        QCOMPARE(attribute(tag, "ceiling_height"), QString("0.1"));
+        job.setBackgroundOption(tag, "Stretch");
+        QCOMPARE(job.getBackgroundOption(tag), QString("Stretch"));
     }
 
     void unknownTags()
     {
         JobEditor &job = JobEditor::Instance();
         const QByteArray before = JobEditorProbe(job).text();
-        const QString tag = QStringLiteral("FFloor_9");
+        const QString tag = "FFloor_9";
         QVERIFY(job.getFloor(tag) == Floor());
         QVERIFY(job.getSheet(tag) == Sheet());
         QCOMPARE(job.getFloorCeilingHeight(tag), 8.0);
@@ -164,28 +162,28 @@ private Q_SLOTS:
         JobEditor &job = JobEditor::Instance();
         const QString floor = job.addFloor(QString(), QString(), 8, QString(), 0);
         const QString sheet = job.addSheet(QString(), QString(), 0);
-        job.setAllFloorIds({{floor, QStringLiteral("Roof")}, {QStringLiteral("none"), QStringLiteral("x")}});
-        job.setAllSheetIDs({{sheet, QStringLiteral("Core")}});
-        QCOMPARE(job.getFloorTagById(QStringLiteral("Roof")), floor);
-        QCOMPARE(job.getSheet(sheet).id(), QStringLiteral("Core"));
-        QVERIFY(!job.floorExists(QStringLiteral("1"), false));
+        job.setAllFloorIds({{floor, "Roof"}, {"none", "x"}});
+        job.setAllSheetIDs({{sheet, "Core"}});
+        QCOMPARE(job.getFloorTagById("Roof"), floor);
+        QCOMPARE(job.getSheet(sheet).id(), QString("Core"));
+        QVERIFY(!job.floorExists("1", false));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
     void removingAFloorTakesItsCables()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString name = m_directory.filePath(QStringLiteral("site.job"));
-        writeFile(name, siteJob());
+        const QString name = m_directory.filePath("site.job");
+        writeFile(name, testData("site.job"));
         QVERIFY(job.Load(name));
-        job.removeFloor(job.getFloor(QStringLiteral("FFloor_1")));
+        job.removeFloor(job.getFloor("FFloor_1"));
         // The third cable ends on the other floor and nowhere.
-        QCOMPARE(job.getCables(true), QStringList(QStringLiteral("Cable3")));
-        QVERIFY(job.getCablesByType(QStringLiteral("CAT6")).isEmpty());
-        QVERIFY(!job.portExists(QStringLiteral("P1"), true));
-        QVERIFY(!job.pointExists(QStringLiteral("Point1"), true));
-        QVERIFY(job.portExists(QStringLiteral("P3"), true));
-        QCOMPARE(job.getRoomByTag(QStringLiteral("Room1")).floor(), QStringLiteral("FFloor_2"));
+        QCOMPARE(job.getCables(true), QStringList("Cable3"));
+        QVERIFY(job.getCablesByType("CAT6").isEmpty());
+        QVERIFY(!job.portExists("P1", true));
+        QVERIFY(!job.pointExists("Point1", true));
+        QVERIFY(job.portExists("P3", true));
+        QCOMPARE(job.getRoomByTag("Room1").floor(), QString("FFloor_2"));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
@@ -214,8 +212,8 @@ private Q_SLOTS:
         QFETCH(QString, tag);
         QTEST(JobEditor::getFloorNumber(tag), "number");
         QTEST(JobEditor::getSheetNumber(tag), "number");
-        QCOMPARE(JobEditor::getFloorNumber(QString()), QStringLiteral("1"));
-        QCOMPARE(JobEditor::getSheetNumber(QString()), QStringLiteral("00"));
+        QCOMPARE(JobEditor::getFloorNumber(QString()), QString("1"));
+        QCOMPARE(JobEditor::getSheetNumber(QString()), QString("00"));
     }
 
     void floorsInBetween()
@@ -224,14 +222,12 @@ private Q_SLOTS:
         for (int i = 0; i < 12; ++i)
             job.addFloor(QString(), QString(), 8, QString(), 0);
         const JobEditorProbe probe(job);
-        const QString five = QStringLiteral("FFloor_5");
-        QCOMPARE(probe.floorsInBetween(five, QStringLiteral("FFloor_2")).join(QLatin1Char(',')),
-                 QStringLiteral("FFloor_3,FFloor_4"));
+        const QString five = "FFloor_5";
+        QCOMPARE(probe.floorsInBetween(five, "FFloor_2").join(','), QString("FFloor_3,FFloor_4"));
         // In the order of the tags, not of the numbers.
-        QCOMPARE(probe.floorsInBetween(QStringLiteral("FFloor_12"), QStringLiteral("FFloor_8")).join(QLatin1Char(',')),
-                 QStringLiteral("FFloor_10,FFloor_11,FFloor_9"));
+        QCOMPARE(probe.floorsInBetween("FFloor_12", "FFloor_8").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
         QVERIFY(probe.floorsInBetween(five, five).isEmpty());
-        QVERIFY(probe.floorsInBetween(five, QStringLiteral("FFloor_6")).isEmpty());
+        QVERIFY(probe.floorsInBetween(five, "FFloor_6").isEmpty());
     }
 };
 

@@ -1,5 +1,4 @@
 #include "jobeditorprobe.h"
-#include "sitejob.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -14,13 +13,13 @@ class JobIndexTest : public QObject
 private:
     QTemporaryDir m_directory;
 
-    static QString joined(const QStringList &list) { return list.join(QLatin1Char(',')); }
+    static QString joined(const QStringList &list) { return list.join(','); }
 
 private Q_SLOTS:
     void initTestCase()
     {
-        const QString name = m_directory.filePath(QStringLiteral("site.job"));
-        writeFile(name, siteJob());
+        const QString name = m_directory.filePath("site.job");
+        writeFile(name, testData("site.job"));
         QVERIFY(JobEditor::Instance().Load(name));
     }
 
@@ -32,7 +31,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("id");
         QTest::addColumn<Exists>("exists");
         const auto row = [](const char *tag, const char *id, Exists exists) {
-            QTest::newRow(tag) << QString::fromLatin1(tag) << QString::fromLatin1(id) << exists;
+            QTest::newRow(tag) << tag << id << exists;
         };
         row("Cable2", "Cable002", &JobEditor::cableExists);
         row("Connection1", "Uplink", &JobEditor::connectionExists);
@@ -68,75 +67,75 @@ private Q_SLOTS:
     void lists()
     {
         const JobEditor &job = JobEditor::Instance();
-        const QString ground = QStringLiteral("FFloor_1");
-        const QString upper = QStringLiteral("FFloor_2");
-        const QString sheet = QStringLiteral("SSheet_1");
-        const QString lab = QStringLiteral("Room1");
-        QCOMPARE(joined(job.getFloorTags()), QStringLiteral("FFloor_1,FFloor_2"));
-        QCOMPARE(joined(job.getFloorIds()), QStringLiteral("Ground,Upper"));
-        QCOMPARE(job.getFloorIdByTag(upper), QStringLiteral("Upper"));
-        QCOMPARE(job.getFloorTagById(QStringLiteral("Upper")), upper);
-        QCOMPARE(job.getFloorTagById(QStringLiteral("FFloor_2")), QString());
-        QCOMPARE(job.getSheetTagById(QStringLiteral("Network")), sheet);
-        QCOMPARE(joined(job.getCables(true)), QStringLiteral("Cable1,Cable2,Cable3"));
-        QCOMPARE(joined(job.getCables(false)), QStringLiteral("Cable001,Cable002,Cable003"));
-        QCOMPARE(joined(job.getCablesByType(QStringLiteral("CAT5E"))), QStringLiteral("Cable1,Cable3"));
-        QCOMPARE(joined(job.getConnections(false)), QStringLiteral("Uplink"));
-        QCOMPARE(joined(job.getActivePorts(true)), QStringLiteral("ActivePort1"));
-        QCOMPARE(joined(job.getRooms(upper, true)), QStringLiteral("Undefined,Room1,Room2"));
-        QCOMPARE(joined(job.getRooms(upper, false)), QStringLiteral("Undefined,Lab,Store"));
+        const QString ground = "FFloor_1";
+        const QString upper = "FFloor_2";
+        const QString sheet = "SSheet_1";
+        const QString lab = "Room1";
+        QCOMPARE(joined(job.getFloorTags()), QString("FFloor_1,FFloor_2"));
+        QCOMPARE(joined(job.getFloorIds()), QString("Ground,Upper"));
+        QCOMPARE(job.getFloorIdByTag(upper), QString("Upper"));
+        QCOMPARE(job.getFloorTagById("Upper"), upper);
+        QCOMPARE(job.getFloorTagById("FFloor_2"), QString());
+        QCOMPARE(job.getSheetTagById("Network"), sheet);
+        QCOMPARE(joined(job.getCables(true)), QString("Cable1,Cable2,Cable3"));
+        QCOMPARE(joined(job.getCables(false)), QString("Cable001,Cable002,Cable003"));
+        QCOMPARE(joined(job.getCablesByType("CAT5E")), QString("Cable1,Cable3"));
+        QCOMPARE(joined(job.getConnections(false)), QString("Uplink"));
+        QCOMPARE(joined(job.getActivePorts(true)), QString("ActivePort1"));
+        QCOMPARE(joined(job.getRooms(upper, true)), QString("Undefined,Room1,Room2"));
+        QCOMPARE(joined(job.getRooms(upper, false)), QString("Undefined,Lab,Store"));
         QCOMPARE(joined(job.getRooms(QString(), true)), QString());
-        QCOMPARE(joined(job.getPorts(ground, lab, false)), QStringLiteral("Jack 1,Jack 2"));
-        QCOMPARE(joined(job.getPorts(upper, QStringLiteral("Undefined"), true)), QStringLiteral("P3,P2"));
-        QCOMPARE(joined(job.getVertRuns(ground, lab, true)), QStringLiteral("V1"));
-        QCOMPARE(joined(job.getPoints(ground, true)), QStringLiteral("Point1"));
-        QCOMPARE(joined(job.getFloorFreeTexts(ground, false)), QStringLiteral("North"));
-        QCOMPARE(joined(job.getDevices(sheet, true)), QStringLiteral("Device1"));
-        QCOMPARE(joined(job.getVertices(sheet, true)), QStringLiteral("Vertice1"));
-        QCOMPARE(joined(job.getFreeTexts(sheet, true)), QStringLiteral("Text1"));
+        QCOMPARE(joined(job.getPorts(ground, lab, false)), QString("Jack 1,Jack 2"));
+        QCOMPARE(joined(job.getPorts(upper, "Undefined", true)), QString("P3,P2"));
+        QCOMPARE(joined(job.getVertRuns(ground, lab, true)), QString("V1"));
+        QCOMPARE(joined(job.getPoints(ground, true)), QString("Point1"));
+        QCOMPARE(joined(job.getFloorFreeTexts(ground, false)), QString("North"));
+        QCOMPARE(joined(job.getDevices(sheet, true)), QString("Device1"));
+        QCOMPARE(joined(job.getVertices(sheet, true)), QString("Vertice1"));
+        QCOMPARE(joined(job.getFreeTexts(sheet, true)), QString("Text1"));
     }
 
     void navigationEndsInNothing()
     {
         const JobEditor &job = JobEditor::Instance();
-        const QString upper = QStringLiteral("FFloor_2");
+        const QString upper = "FFloor_2";
         QVERIFY(job.getToPointList(upper).isNull());
         QVERIFY(job.getToFloorFreeTextList(upper).isNull());
-        QVERIFY(job.getToPortList(upper, QStringLiteral("Room2")).isNull());
-        QVERIFY(job.getToVertRunList(upper, QStringLiteral("Room9")).isNull());
-        QVERIFY(job.getToRoomList(QStringLiteral("SSheet_1")).isNull());
+        QVERIFY(job.getToPortList(upper, "Room2").isNull());
+        QVERIFY(job.getToVertRunList(upper, "Room9").isNull());
+        QVERIFY(job.getToRoomList("SSheet_1").isNull());
         QVERIFY(job.getToDeviceList(QString()).isNull());
     }
 
     void roomsOfAFloor()
     {
         const JobEditor &job = JobEditor::Instance();
-        const QString ground = QStringLiteral("FFloor_1");
-        const QString upper = QStringLiteral("FFloor_2");
-        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Undefined"), upper, true));
-        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Undefined"), upper, false));
-        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Store"), upper, false));
-        QVERIFY(!job.roomExistsOnFloor(QStringLiteral("Store"), ground, false));
-        QVERIFY(!job.roomExistsOnFloor(QStringLiteral("Room2"), ground, true));
+        const QString ground = "FFloor_1";
+        const QString upper = "FFloor_2";
+        QVERIFY(job.roomExistsOnFloor("Undefined", upper, true));
+        QVERIFY(job.roomExistsOnFloor("Undefined", upper, false));
+        QVERIFY(job.roomExistsOnFloor("Store", upper, false));
+        QVERIFY(!job.roomExistsOnFloor("Store", ground, false));
+        QVERIFY(!job.roomExistsOnFloor("Room2", ground, true));
         QVERIFY(!job.roomExistsOnFloor(QString(), ground, true));
         // Both floors have a "Room1"; each is found where it is.
-        QCOMPARE(job.getToPortList(ground, QStringLiteral("Room1")).childNodes().size(), 2);
-        QCOMPARE(job.getToPortList(upper, QStringLiteral("Room1")).childNodes().size(), 0);
+        QCOMPARE(job.getToPortList(ground, "Room1").childNodes().size(), 2);
+        QCOMPARE(job.getToPortList(upper, "Room1").childNodes().size(), 0);
     }
 
     void firstOfARepeatedTagCounts()
     {
         JobEditor &job = JobEditor::Instance();
-        QDomElement floorList = JobEditorProbe(job).root().firstChildElement(QStringLiteral("Floor_List"));
+        QDomElement floorList = JobEditorProbe(job).root().firstChildElement("Floor_List");
         QDomElement twin = floorList.firstChildElement().cloneNode(true).toElement();
-        twin.setAttribute(QStringLiteral("id"), QStringLiteral("Twin"));
+        twin.setAttribute("id", "Twin");
         floorList.appendChild(twin);
         job.updateAllInternalLists();
-        QVERIFY(!job.floorExists(QStringLiteral("Twin"), false));
-        QCOMPARE(job.getFloorIdByTag(QStringLiteral("FFloor_1")), QStringLiteral("Ground"));
-        job.removeFloor(QStringLiteral("FFloor_1"));
-        QCOMPARE(job.getFloorIdByTag(QStringLiteral("FFloor_1")), QStringLiteral("Twin"));
-        QVERIFY(job.portExists(QStringLiteral("P1"), true));
+        QVERIFY(!job.floorExists("Twin", false));
+        QCOMPARE(job.getFloorIdByTag("FFloor_1"), QString("Ground"));
+        job.removeFloor("FFloor_1");
+        QCOMPARE(job.getFloorIdByTag("FFloor_1"), QString("Twin"));
+        QVERIFY(job.portExists("P1", true));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 };

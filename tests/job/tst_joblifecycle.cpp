@@ -1,6 +1,5 @@
 #include "bkutilities.h"
 #include "jobeditorprobe.h"
-#include "sitejob.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -8,53 +7,6 @@
 #include <QtTest/QtTest>
 
 #include <memory>
-
-namespace {
-
-const char NewJob[] = R"(<Job>
- <Release/>
- <Version number="3.0"/>
- <Contractor_Info tester="" company="" email="" phone="" logo="">
-  <Address address1="" address2="" city="" state="" zipcode="" country=""/>
- </Contractor_Info>
- <Site_Info phone="" jobid="" company="" email="" contact="">
-  <Address address1="" address2="" city="" state="" zipcode="" country=""/>
- </Site_Info>
- <Cable_List/>
- <Connection_List/>
- <Floor_List>
-  <FFloor_1 id="Floor_1" pic="" ceiling_height="9.5">
-   <Room_List>
-    <Undefined id="Undefined">
-     <Port_List/>
-     <VerticalRun_List/>
-    </Undefined>
-   </Room_List>
-  </FFloor_1>
- </Floor_List>
- <Sheet_List>
-  <SSheet_1 id="Sheet_1">
-   <Device_List/>
-   <Vertice_List/>
-   <FreeText_List/>
-  </SSheet_1>
- </Sheet_List>
- <TestDef_List/>
- <BundledCable_List/>
- <Settings_List>
-  <PrintSettings_List>
-   <JobInfo_Settings paper_size="Letter: 8.5 in. x 11 in." orientation="0" print_zoom="100" fit_to_across="1" fit_to_down="1" print_zoom_style="0"/>
-)";
-
-const char NewJobEnd[] = R"( </Settings_List>
- <JobNotes_Text text=""/>
- <ActiveNetworkTest_List>
-  <ActivePort_List/>
- </ActiveNetworkTest_List>
-</Job>
-)";
-
-} // namespace
 
 class JobLifecycleTest : public QObject
 {
@@ -66,17 +18,16 @@ private:
     QString path(const QString &name) const { return m_directory->filePath(name); }
     QString fileWith(const QByteArray &content) const
     {
-        writeFile(path(QStringLiteral("given.job")), content);
-        return path(QStringLiteral("given.job"));
+        writeFile(path("given.job"), content);
+        return path("given.job");
     }
 
 private Q_SLOTS:
     void init()
     {
         m_directory = std::make_unique<QTemporaryDir>();
-        writeFile(path(QStringLiteral("settings.ini")),
-                  "[Settings]\n1=" + QFile::encodeName(m_directory->path()) + "\n24=9.5\n");
-        BKUtilities::setSettingsFile(path(QStringLiteral("settings.ini")));
+        writeFile(path("settings.ini"), "[Settings]\n1=" + QFile::encodeName(m_directory->path()) + "\n24=9.5\n");
+        BKUtilities::setSettingsFile(path("settings.ini"));
     }
 
     void cleanup() { JobEditor::Destroy(); }
@@ -86,9 +37,9 @@ private Q_SLOTS:
         JobEditor &job = JobEditor::Instance();
         QCOMPARE(&JobEditor::Instance(), &job);
         QVERIFY(!job.fileChanged());
-        QCOMPARE(job.addFloor(QString(), QString(), 8, QString(), 0), QStringLiteral("Bad Floor"));
-        QCOMPARE(job.addSheet(QString(), QString(), 0), QStringLiteral("Bad Sheet"));
-        QVERIFY(job.New(QStringLiteral("site")));
+        QCOMPARE(job.addFloor(QString(), QString(), 8, QString(), 0), QString("Bad Floor"));
+        QCOMPARE(job.addSheet(QString(), QString(), 0), QString("Bad Sheet"));
+        QVERIFY(job.New("site"));
         JobEditor::Destroy();
         JobEditor::Destroy();
         QVERIFY(JobEditor::Instance().getFloorTags().isEmpty());
@@ -97,31 +48,28 @@ private Q_SLOTS:
     void newJobHasTheTreeOfTheFormat()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString name = path(QStringLiteral("new.job"));
+        const QString name = path("new.job");
         QVERIFY(job.New(name));
         QVERIFY(!job.fileChanged());
         QVERIFY(!QFile::exists(name));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
         QVERIFY(job.save());
-        const QByteArray saved = readFile(name);
-        QVERIFY2(saved.startsWith(NewJob), saved.constData());
-        QVERIFY2(saved.endsWith(NewJobEnd), saved.constData());
-
+        QCOMPARE(readFile(name), testData("new.job"));
         QVERIFY(job.Load(name));
         QVERIFY(job.save());
-        QCOMPARE(readFile(name), saved);
+        QCOMPARE(readFile(name), testData("new.job"));
     }
 
     void newNamesTheFile()
     {
         JobEditor &job = JobEditor::Instance();
         QVERIFY(!job.New(QString()));
-        QCOMPARE(job.error(), QStringLiteral("Null filename given to New(const &Qstring)"));
+        QCOMPARE(job.error(), QString("Null filename given to New(const &Qstring)"));
         const QVector<QPair<QString, QString>> names{
-            {QStringLiteral("site"), QStringLiteral("site.job")},
-            {QStringLiteral("site.JOB"), QStringLiteral("site.JOB")},
-            {QStringLiteral("site.job.bak"), QStringLiteral("site.job.bak.job")},
-            {QLatin1String(""), QStringLiteral(".job")},
+            {"site", "site.job"},
+            {"site.JOB", "site.JOB"},
+            {"site.job.bak", "site.job.bak.job"},
+            {QLatin1String(""), ".job"},
         };
         for (const auto &[given, expected] : names) {
             QVERIFY(job.New(given));
@@ -133,26 +81,26 @@ private Q_SLOTS:
     void newUntitledTakesTheFirstFreeName()
     {
         JobEditor &job = JobEditor::Instance();
-        QCOMPARE(job.New(), path(QStringLiteral("Untitled1.job")));
+        QCOMPARE(job.New(), path("Untitled1.job"));
         QVERIFY(job.save());
         job.Unload();
-        writeFile(path(QStringLiteral("Untitled2.job")), "");
-        QCOMPARE(job.New(), path(QStringLiteral("Untitled3.job")));
-        QCOMPARE(job.filename(), path(QStringLiteral("Untitled3.job")));
-        QCOMPARE(job.getFloor(QStringLiteral("FFloor_1")).ceilingHeight(), 9.5);
+        writeFile(path("Untitled2.job"), "");
+        QCOMPARE(job.New(), path("Untitled3.job"));
+        QCOMPARE(job.filename(), path("Untitled3.job"));
+        QCOMPARE(job.getFloor("FFloor_1").ceilingHeight(), 9.5);
         QVERIFY(!job.fileChanged());
     }
 
     void newIsRefusedWhileAJobIsOpen()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("open")));
-        job.addSheet(QString(), QStringLiteral("Sheet "), 0);
+        QVERIFY(job.New("open"));
+        job.addSheet(QString(), "Sheet ", 0);
         const QByteArray before = JobEditorProbe(job).text();
-        QVERIFY(!job.New(QStringLiteral("other")));
+        QVERIFY(!job.New("other"));
         QVERIFY(!job.error().isEmpty());
         QCOMPARE(job.New(), QString());
-        QCOMPARE(job.filename(), QStringLiteral("open.job"));
+        QCOMPARE(job.filename(), QString("open.job"));
         QCOMPARE(JobEditorProbe(job).text(), before);
         QVERIFY(job.fileChanged());
     }
@@ -160,24 +108,24 @@ private Q_SLOTS:
     void unloadKeepsNamesButNoElements()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("old")));
-        job.addFloor(QString(), QStringLiteral("Upper "), 8, QString(), 0);
+        QVERIFY(job.New("old"));
+        job.addFloor(QString(), "Upper ", 8, QString(), 0);
         job.Unload();
         QCOMPARE(job.filename(), QString());
-        QCOMPARE(job.error(), QStringLiteral("Unloading"));
+        QCOMPARE(job.error(), QString("Unloading"));
         QVERIFY(!job.fileChanged());
-        QVERIFY(job.floorExists(QStringLiteral("FFloor_2"), true));
-        QCOMPARE(job.getFloor(QStringLiteral("FFloor_2")).id(), QString());
-        QVERIFY(job.getRooms(QStringLiteral("FFloor_1"), true).isEmpty());
-        QVERIFY(!job.roomExistsOnFloor(QStringLiteral("Undefined"), QStringLiteral("FFloor_1"), false));
-        job.setFloorId(QStringLiteral("FFloor_2"), QStringLiteral("x"));
-        job.removeFloor(QStringLiteral("FFloor_2"));
+        QVERIFY(job.floorExists("FFloor_2", true));
+        QCOMPARE(job.getFloor("FFloor_2").id(), QString());
+        QVERIFY(job.getRooms("FFloor_1", true).isEmpty());
+        QVERIFY(!job.roomExistsOnFloor("Undefined", "FFloor_1", false));
+        job.setFloorId("FFloor_2", "x");
+        job.removeFloor("FFloor_2");
         QVERIFY(!job.fileChanged());
         QVERIFY(!job.save());
 
-        QVERIFY(job.New(QStringLiteral("next")));
-        QCOMPARE(job.getFloorTags(), QStringList(QStringLiteral("FFloor_1")));
-        QCOMPARE(job.getSheetTags(), QStringList(QStringLiteral("SSheet_1")));
+        QVERIFY(job.New("next"));
+        QCOMPARE(job.getFloorTags(), QStringList("FFloor_1"));
+        QCOMPARE(job.getSheetTags(), QStringList("SSheet_1"));
     }
 
     void failedLoads_data()
@@ -185,17 +133,17 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("error");
         QTest::addColumn<bool>("keepsTree");
-        const QString version = QStringLiteral("Incompatible version of job file %1");
+        const QString version = "Incompatible version of job file %1";
         QTest::newRow("parse error") << QByteArray("<Job>\n<a></Job>")
-                                     << QStringLiteral("Error parsing job file %1\n on line 2,\n column 9,\n"
-                                                       "Opening and ending tag mismatch.")
+                                     << "Error parsing job file %1\n on line 2,\n column 9,\n"
+                                        "Opening and ending tag mismatch."
                                      << false;
-        QTest::newRow("empty") << QByteArray() << QStringLiteral("Unable to parse job file %1") << false;
+        QTest::newRow("empty") << QByteArray() << "Unable to parse job file %1" << false;
         QTest::newRow("old version") << QByteArray("<Job><Version number='2.0'/></Job>") << version << true;
         QTest::newRow("no version") << QByteArray("<Job><Floor_List><F id='x'/></Floor_List></Job>") << version << true;
         QTest::newRow("other root") << QByteArray("<Bkt><Version number='3.0'/></Bkt>") << version << true;
-        QTest::newRow("comment first") << "<!--c-->" + siteJob() << version << true;
-        QTest::newRow("declaration first") << "<?xml version='1.0'?>" + siteJob() << version << true;
+        QTest::newRow("comment first") << "<!--c-->" + testData("site.job") << version << true;
+        QTest::newRow("declaration first") << "<?xml version='1.0'?>" + testData("site.job") << version << true;
     }
 
     void failedLoads()
@@ -204,7 +152,7 @@ private Q_SLOTS:
         QFETCH(QString, error);
         QFETCH(bool, keepsTree);
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("before")));
+        QVERIFY(job.New("before"));
         const QString name = fileWith(content);
         QVERIFY(!job.Load(name));
         QCOMPARE(job.error(), error.arg(name));
@@ -222,14 +170,14 @@ private Q_SLOTS:
     void loadsThatFindNothing()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("open")));
+        QVERIFY(job.New("open"));
         const QByteArray before = JobEditorProbe(job).text();
         QVERIFY(!job.Load(QString()));
-        QCOMPARE(job.error(), QStringLiteral("Empty or null filename in JobEditor::Load"));
-        QCOMPARE(job.filename(), QStringLiteral("open.job"));
-        const QString missing = path(QStringLiteral("missing.job"));
+        QCOMPARE(job.error(), QString("Empty or null filename in JobEditor::Load"));
+        QCOMPARE(job.filename(), QString("open.job"));
+        const QString missing = path("missing.job");
         QVERIFY(!job.Load(missing));
-        QCOMPARE(job.error(), QStringLiteral("Job file %1 does not exist").arg(missing));
+        QCOMPARE(job.error(), QString("Job file %1 does not exist").arg(missing));
         QCOMPARE(job.filename(), missing);
         QVERIFY(!job.Load(m_directory->path()));
         QVERIFY(!job.error().isEmpty());
@@ -240,33 +188,33 @@ private Q_SLOTS:
     void loadedFileStaysAsItWas()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("before")));
+        QVERIFY(job.New("before"));
         job.setDirty(true);
         job.Unload();
-        const QString name = fileWith(siteJob());
+        const QString name = fileWith(testData("site.job"));
         QVERIFY2(job.Load(name), qPrintable(job.error()));
         QVERIFY(!job.fileChanged());
         QVERIFY(job.save());
-        QCOMPARE(readFile(name), siteJob());
+        QCOMPARE(readFile(name), testData("site.job"));
         // A load replaces what was open.
         QVERIFY(job.Load(name));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-        QCOMPARE(JobEditorProbe(job).text(), siteJob());
+        QCOMPARE(JobEditorProbe(job).text(), testData("site.job"));
     }
 
     void saveNeedsAName()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(QStringLiteral("site")));
-        for (const QString &name : {QString(), QStringLiteral(".job")}) {
+        QVERIFY(job.New("site"));
+        for (const QString &name : {QString(), QString(".job")}) {
             job.setFilename(name);
             job.setDirty(true);
             job.error().clear();
             QVERIFY(!job.save());
-            QCOMPARE(job.error(), QStringLiteral("Filename is Empty"));
+            QCOMPARE(job.error(), QString("Filename is Empty"));
             job.error().clear();
             QVERIFY(!job.saveAs(name));
-            QCOMPARE(job.error(), QStringLiteral("Filename is Empty"));
+            QCOMPARE(job.error(), QString("Filename is Empty"));
             QVERIFY(job.fileChanged());
         }
     }
@@ -274,51 +222,51 @@ private Q_SLOTS:
     void saveAsMovesTheDocument()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(path(QStringLiteral("one.job"))));
+        QVERIFY(job.New(path("one.job")));
         job.setDirty(true);
         QVERIFY(!job.saveAs(m_directory->path()));
-        QCOMPARE(job.error(), QStringLiteral("Filename given is a directory"));
-        QVERIFY(!job.saveAs(path(QStringLiteral("none/two.job"))));
+        QCOMPARE(job.error(), QString("Filename given is a directory"));
+        QVERIFY(!job.saveAs(path("none/two.job")));
         QVERIFY(job.fileChanged());
-        QCOMPARE(job.filename(), path(QStringLiteral("one.job")));
+        QCOMPARE(job.filename(), path("one.job"));
 
-        writeFile(path(QStringLiteral("two")), "old");
+        writeFile(path("two"), "old");
         QTest::ignoreMessage(QtDebugMsg, "Overwriting in JobEditor::saveAs");
-        QVERIFY(job.saveAs(path(QStringLiteral("two"))));
+        QVERIFY(job.saveAs(path("two")));
         QVERIFY(!job.fileChanged());
-        QCOMPARE(job.filename(), path(QStringLiteral("two")));
-        QVERIFY(readFile(path(QStringLiteral("two"))).startsWith("<Job>"));
-        QVERIFY(!QFile::exists(path(QStringLiteral("one.job"))));
+        QCOMPARE(job.filename(), path("two"));
+        QVERIFY(readFile(path("two")).startsWith("<Job>"));
+        QVERIFY(!QFile::exists(path("one.job")));
     }
 
     void lostCharactersAreCounted()
     {
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New(path(QStringLiteral("lost.job"))));
-        job.addSheet(QString(), QString::fromUtf8("\u0142\u00f3d\u017a\x01"), 1);
+        QVERIFY(job.New(path("lost.job")));
+        job.addSheet(QString(), "\u0142\u00f3d\u017a\x01", 1);
         QTest::ignoreMessage(QtDebugMsg, "3 characters that the file cannot hold were written as \"?\"");
         QVERIFY(job.save());
         QVERIFY(job.Load(job.filename()));
-        QCOMPARE(job.getSheetIdByTag(QStringLiteral("SSheet_2")), QString::fromUtf8("?\u00f3d??"));
+        QCOMPARE(job.getSheetIdByTag("SSheet_2"), QString("?\u00f3d??"));
     }
 
     void fileNameChecks()
     {
-        QVERIFY(JobEditor::checkJobExtension(QStringLiteral("/x/a.b.JoB")));
-        QVERIFY(!JobEditor::checkJobExtension(QStringLiteral("/x.job/a")));
-        QVERIFY(!JobEditor::checkJobExtension(QStringLiteral("a.job.bak")));
-        QVERIFY(JobEditor::checkUntitledJob(QStringLiteral("/x/untitled.job")));
-        QVERIFY(JobEditor::checkUntitledJob(QStringLiteral("UNTITLED7.job")));
-        QVERIFY(!JobEditor::checkUntitledJob(QStringLiteral("Untitle.job")));
-        QVERIFY(!JobEditor::checkUntitledJob(QStringLiteral("/untitled/my.untitled")));
+        QVERIFY(JobEditor::checkJobExtension("/x/a.b.JoB"));
+        QVERIFY(!JobEditor::checkJobExtension("/x.job/a"));
+        QVERIFY(!JobEditor::checkJobExtension("a.job.bak"));
+        QVERIFY(JobEditor::checkUntitledJob("/x/untitled.job"));
+        QVERIFY(JobEditor::checkUntitledJob("UNTITLED7.job"));
+        QVERIFY(!JobEditor::checkUntitledJob("Untitle.job"));
+        QVERIFY(!JobEditor::checkUntitledJob("/untitled/my.untitled"));
     }
 
     void defaultTemplateIgnoresEmptyNames()
     {
         JobEditor &job = JobEditor::Instance();
-        job.setDefaultBktFile(QStringLiteral("a.bkt"));
+        job.setDefaultBktFile("a.bkt");
         job.setDefaultBktFile(QString());
-        QCOMPARE(job.defaultBktFile(), QStringLiteral("a.bkt"));
+        QCOMPARE(job.defaultBktFile(), QString("a.bkt"));
     }
 
     /// The constructor that takes a name may end the process: another one runs it.
@@ -328,7 +276,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QByteArray>("output");
-        QTest::newRow("existing") << "a.job" << siteJob() << 0 << QByteArray("Ground,Upper|");
+        QTest::newRow("existing") << "a.job" << testData("site.job") << 0 << QByteArray("Ground,Upper|");
         QTest::newRow("missing") << "a.job" << QByteArray() << 0 << QByteArray("Floor_1|");
         QTest::newRow("directory") << "." << QByteArray() << 0
                                    << QByteArray("|Filename given to JobEditor is a directory");
@@ -342,7 +290,7 @@ private Q_SLOTS:
         if (!content.isEmpty())
             writeFile(path(name), content);
         QProcess process;
-        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--construct"), path(name)});
+        process.start(QCoreApplication::applicationFilePath(), {"--construct", path(name)});
         QVERIFY(process.waitForFinished());
         QCOMPARE(int(process.exitStatus()), int(QProcess::NormalExit));
         QTEST(process.exitCode(), "exitCode");
@@ -356,7 +304,7 @@ int main(int argc, char *argv[])
     if (argc == 3 && qstrcmp(argv[1], "--construct") == 0) {
         // Only Destroy() deletes a job document, and only the instance: this one ends with the process.
         static auto *job = new JobEditor(QFile::decodeName(argv[2]));
-        std::printf("%s|%s", qPrintable(job->getFloorIds().join(QLatin1Char(','))), qPrintable(job->error()));
+        std::printf("%s|%s", qPrintable(job->getFloorIds().join(',')), qPrintable(job->error()));
         return 0;
     }
     JobLifecycleTest test;

@@ -1,13 +1,12 @@
 #include "jobeditorprobe.h"
-#include "sitejob.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 namespace {
 
-const QString Ground = QStringLiteral("FFloor_1");
-const QString Upper = QStringLiteral("FFloor_2");
+const QString Ground = "FFloor_1";
+const QString Upper = "FFloor_2";
 
 Room room(const QString &tag, const QString &id, const QString &floor = Ground)
 {
@@ -25,15 +24,15 @@ private:
 
     void loadSite()
     {
-        const QString name = m_directory.filePath(QStringLiteral("site.job"));
-        writeFile(name, siteJob());
+        const QString name = m_directory.filePath("site.job");
+        writeFile(name, testData("site.job"));
         QVERIFY(JobEditor::Instance().Load(name));
     }
 
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(JobEditor::Instance().New(QStringLiteral("site")));
+        QVERIFY(JobEditor::Instance().New("site"));
         JobEditor::Instance().addFloor(QString(), QString(), 8, QString(), 0);
         JobEditor::Instance().setDirty(false);
     }
@@ -43,21 +42,21 @@ private Q_SLOTS:
     void tagsAndIds()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString office = QStringLiteral("Office");
-        QCOMPARE(job.addRoom(Ground, 1, 2, 3, 4, QString(), office, 5, 6, 7, 8, 9, 0), QStringLiteral("Room1"));
+        const QString office = "Office";
+        QCOMPARE(job.addRoom(Ground, 1, 2, 3, 4, QString(), office, 5, 6, 7, 8, 9, 0), QString("Room1"));
         QVERIFY(job.fileChanged());
-        const Room first(QStringLiteral("Room1"), 1, 2, 3, 4, QStringLiteral("Office1"), Ground, 5, 6, 7, 8, 9);
-        QVERIFY(job.getRoomByTag(QStringLiteral("Room1")) == first);
-        QCOMPARE(job.addRoom(room(QString(), office), 0), QStringLiteral("Room2"));
-        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Office2"), Ground, false));
+        const Room first("Room1", 1, 2, 3, 4, "Office1", Ground, 5, 6, 7, 8, 9);
+        QVERIFY(job.getRoomByTag("Room1") == first);
+        QCOMPARE(job.addRoom(room(QString(), office), 0), QString("Room2"));
+        QVERIFY(job.roomExistsOnFloor("Office2", Ground, false));
         // Ids are unique on a floor, tags in the job.
-        QCOMPARE(job.addRoom(room(QString(), office, Upper), 0), QStringLiteral("Room3"));
-        QVERIFY(job.roomExistsOnFloor(QStringLiteral("Office1"), Upper, false));
-        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), office), 2), QStringLiteral("Mine"));
-        QCOMPARE(job.getRoomByTag(QStringLiteral("Mine")).id(), office);
-        QCOMPARE(job.addRoom(room(QStringLiteral("Yours"), office), 3), QStringLiteral("Yours"));
-        QCOMPARE(job.getRoomByTag(QStringLiteral("Yours")).id(), QStringLiteral("Office3"));
-        QCOMPARE(job.addRoom(room(QString(), office), 1), QStringLiteral("Room4"));
+        QCOMPARE(job.addRoom(room(QString(), office, Upper), 0), QString("Room3"));
+        QVERIFY(job.roomExistsOnFloor("Office1", Upper, false));
+        QCOMPARE(job.addRoom(room("Mine", office), 2), QString("Mine"));
+        QCOMPARE(job.getRoomByTag("Mine").id(), office);
+        QCOMPARE(job.addRoom(room("Yours", office), 3), QString("Yours"));
+        QCOMPARE(job.getRoomByTag("Yours").id(), QString("Office3"));
+        QCOMPARE(job.addRoom(room(QString(), office), 1), QString("Room4"));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
@@ -70,71 +69,68 @@ private Q_SLOTS:
             list.removeChild(list.firstChild());
         }
         job.updateAllInternalLists();
-        QCOMPARE(job.addRoom(room(QStringLiteral("Room9"), QStringLiteral("Hall9")), 2), QStringLiteral("Room9"));
-        QCOMPARE(job.addRoom(room(QStringLiteral("Room10"), QStringLiteral("Hall10")), 2), QStringLiteral("Room10"));
-        QCOMPARE(job.addRoom(room(QString(), QStringLiteral("Hall")), 0), QStringLiteral("Room11"));
-        QCOMPARE(job.getRoomByTag(QStringLiteral("Room11")).id(), QStringLiteral("Hall11"));
-        QCOMPARE(job.addRoom(room(QStringLiteral("Room97x"), QString()), 3), QStringLiteral("Room97x"));
-        QCOMPARE(job.addRoom(room(QString(), QString()), 0), QStringLiteral("Room1"));
+        QCOMPARE(job.addRoom(room("Room9", "Hall9"), 2), QString("Room9"));
+        QCOMPARE(job.addRoom(room("Room10", "Hall10"), 2), QString("Room10"));
+        QCOMPARE(job.addRoom(room(QString(), "Hall"), 0), QString("Room11"));
+        QCOMPARE(job.getRoomByTag("Room11").id(), QString("Hall11"));
+        QCOMPARE(job.addRoom(room("Room97x", QString()), 3), QString("Room97x"));
+        QCOMPARE(job.addRoom(room(QString(), QString()), 0), QString("Room1"));
     }
 
     void refusedRooms()
     {
         JobEditor &job = JobEditor::Instance();
-        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("a")), 2), QStringLiteral("Mine"));
+        QCOMPARE(job.addRoom(room("Mine", "a"), 2), QString("Mine"));
         const QByteArray before = JobEditorProbe(job).text();
         job.setDirty(false);
-        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("b")), 2), QStringLiteral("Mine"));
-        QCOMPARE(job.addRoom(room(QString(), QString(), QStringLiteral("none")), 0), QString());
+        QCOMPARE(job.addRoom(room("Mine", "b"), 2), QString("Mine"));
+        QCOMPARE(job.addRoom(room(QString(), QString(), "none"), 0), QString());
         job.error().clear();
-        QCOMPARE(job.addRoom(room(QStringLiteral("no name"), QString()), 2), QString());
+        QCOMPARE(job.addRoom(room("no name", QString()), 2), QString());
         QVERIFY(!job.error().isEmpty());
         QCOMPARE(JobEditorProbe(job).text(), before);
         QVERIFY(!job.fileChanged());
         // The same tag on another floor is not in the way.
-        QCOMPARE(job.addRoom(room(QStringLiteral("Mine"), QStringLiteral("b"), Upper), 2), QStringLiteral("Mine"));
-        QCOMPARE(job.getRoomByTag(Upper, QStringLiteral("Mine")).id(), QStringLiteral("b"));
+        QCOMPARE(job.addRoom(room("Mine", "b", Upper), 2), QString("Mine"));
+        QCOMPARE(job.getRoomByTag(Upper, "Mine").id(), QString("b"));
     }
 
     void readingCompletesOlderRooms()
     {
         loadSite();
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.getRoomByTag(Ground, QStringLiteral("Room1"))
-                == Room(QStringLiteral("Room1"), 1, 2, 30, 40, QStringLiteral("Lab"), Ground, 5, 6, 0, 2, 1));
+        QVERIFY(job.getRoomByTag(Ground, "Room1") == Room("Room1", 1, 2, 30, 40, "Lab", Ground, 5, 6, 0, 2, 1));
         QVERIFY(!job.fileChanged());
-        QVERIFY(job.getRoomById(Upper, QStringLiteral("Lab"))
-                == Room(QStringLiteral("Room1"), 7, -1, -1, -1, QStringLiteral("Lab"), Upper, 0, 0, 3, 3, 3));
+        QVERIFY(job.getRoomById(Upper, "Lab") == Room("Room1", 7, -1, -1, -1, "Lab", Upper, 0, 0, 3, 3, 3));
         QVERIFY(job.fileChanged());
-        const QDomElement element = JobEditorProbe(job).roomElement(Upper, QStringLiteral("Room1"));
+        const QDomElement element = JobEditorProbe(job).roomElement(Upper, "Room1");
         for (const char *name : {"layer", "show_name", "show_dimensions"})
-            QCOMPARE(element.attribute(QString::fromLatin1(name)), QStringLiteral("3"));
-        QVERIFY(!element.hasAttribute(QStringLiteral("y")));
+            QCOMPARE(element.attribute(name), QString("3"));
+        QVERIFY(!element.hasAttribute("y"));
         job.setDirty(false);
-        job.getRoomByTag(Upper, QStringLiteral("Room1"));
+        job.getRoomByTag(Upper, "Room1");
         QVERIFY(!job.fileChanged());
     }
 
     void undefinedIsAnsweredWithoutLooking()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString undefined = QStringLiteral("Undefined");
+        const QString undefined = "Undefined";
         Room expected;
         expected.setElement(undefined);
         expected.setID(undefined);
-        QVERIFY(job.getRoomByTag(QStringLiteral("no floor"), undefined) == expected);
+        QVERIFY(job.getRoomByTag("no floor", undefined) == expected);
         QVERIFY(job.getRoomByTag(undefined) == expected);
         QVERIFY(job.getRoomById(Ground, undefined) == expected);
         QVERIFY(!job.fileChanged());
         job.setRoomLayer(Upper, undefined, 5);
-        QCOMPARE(JobEditorProbe(job).roomElement(Upper, undefined).attribute(QStringLiteral("layer")),
-                 QStringLiteral("5"));
+        QCOMPARE(JobEditorProbe(job).roomElement(Upper, undefined).attribute("layer"), QString("5"));
     }
 
     void setters()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString hall = QStringLiteral("Hall");
+        const QString hall = "Hall";
         const QString tag = job.addRoom(room(QString(), hall), 1);
         job.addRoom(room(QString(), hall, Upper), 1);
         job.setDirty(false);
@@ -144,9 +140,8 @@ private Q_SLOTS:
         job.setRoomLayer(Ground, hall, 7);
         job.setShowRoomName(Ground, hall, 8);
         job.setShowRoomDimensions(Ground, hall, 9);
-        job.setRoomName(Ground, hall, QStringLiteral("Foyer"));
-        QVERIFY(job.getRoomById(Ground, QStringLiteral("Foyer"))
-                == Room(tag, -10, 20, 300, 400, QStringLiteral("Foyer"), Ground, 50, 60, 9, 8, 7));
+        job.setRoomName(Ground, hall, "Foyer");
+        QVERIFY(job.getRoomById(Ground, "Foyer") == Room(tag, -10, 20, 300, 400, "Foyer", Ground, 50, 60, 9, 8, 7));
         QCOMPARE(job.getRoomById(Upper, hall).x(), 1.0);
         QVERIFY(!job.roomExistsOnFloor(hall, Ground, false));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
@@ -156,7 +151,7 @@ private Q_SLOTS:
     {
         JobEditor &job = JobEditor::Instance();
         const QByteArray before = JobEditorProbe(job).text();
-        const QString none = QStringLiteral("none");
+        const QString none = "none";
         for (const QString &floor : {Ground, none}) {
             QVERIFY(job.getRoomByTag(floor, none) == Room());
             QVERIFY(job.getRoomById(floor, none) == Room());
@@ -173,13 +168,13 @@ private Q_SLOTS:
     void firstOfTheSameIdIsMeant()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString a = QStringLiteral("a");
-        job.addRoom(room(QStringLiteral("Z"), a), 2);
-        job.addRoom(room(QStringLiteral("A"), a), 2);
-        job.addRoom(room(QStringLiteral("B"), QStringLiteral("b")), 2);
-        job.setRoomName(Ground, a, QStringLiteral("b"));
-        QCOMPARE(job.getRoomById(Ground, QStringLiteral("b")).element(), QStringLiteral("Z"));
-        QCOMPARE(job.getRoomById(Ground, a).element(), QStringLiteral("A"));
+        const QString a = "a";
+        job.addRoom(room("Z", a), 2);
+        job.addRoom(room("A", a), 2);
+        job.addRoom(room("B", "b"), 2);
+        job.setRoomName(Ground, a, "b");
+        QCOMPARE(job.getRoomById(Ground, "b").element(), QString("Z"));
+        QCOMPARE(job.getRoomById(Ground, a).element(), QString("A"));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
@@ -187,14 +182,14 @@ private Q_SLOTS:
     {
         loadSite();
         JobEditor &job = JobEditor::Instance();
-        const QString undefined = QStringLiteral("Undefined");
-        job.removeRoom(job.getRoomByTag(Ground, QStringLiteral("Room1")));
+        const QString undefined = "Undefined";
+        job.removeRoom(job.getRoomByTag(Ground, "Room1"));
         QCOMPARE(job.getRooms(Ground, true), QStringList(undefined));
-        QCOMPARE(job.getPorts(Ground, undefined, true).join(QLatin1Char(',')), QStringLiteral("P1,P2"));
-        QCOMPARE(job.getVertRuns(Ground, undefined, true), QStringList(QStringLiteral("V1")));
+        QCOMPARE(job.getPorts(Ground, undefined, true).join(','), QString("P1,P2"));
+        QCOMPARE(job.getVertRuns(Ground, undefined, true), QStringList("V1"));
         QCOMPARE(job.getCables(true).size(), 3);
         // The room of that tag on the other floor is still there.
-        QCOMPARE(job.getRoomByTag(QStringLiteral("Room1")).floor(), Upper);
+        QCOMPARE(job.getRoomByTag("Room1").floor(), Upper);
         job.removeRoom(Ground, undefined);
         QCOMPARE(job.getPorts(Ground, undefined, true).size(), 2);
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
@@ -204,14 +199,14 @@ private Q_SLOTS:
     {
         loadSite();
         JobEditor &job = JobEditor::Instance();
-        const QString lab = QStringLiteral("Room1");
+        const QString lab = "Room1";
         QDomElement twin = JobEditorProbe(job).roomElement(Ground, lab).cloneNode(true).toElement();
-        twin.firstChildElement().firstChildElement().setTagName(QStringLiteral("P7"));
+        twin.firstChildElement().firstChildElement().setTagName("P7");
         job.getToRoomList(Ground).appendChild(twin);
         job.updateAllInternalLists();
-        QVERIFY(!job.portExists(QStringLiteral("P7"), true));
+        QVERIFY(!job.portExists("P7", true));
         job.removeRoom(Ground, lab);
-        QVERIFY(job.portExists(QStringLiteral("P7"), true));
+        QVERIFY(job.portExists("P7", true));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
@@ -227,14 +222,14 @@ private Q_SLOTS:
         QFETCH(QString, missing);
         loadSite();
         JobEditor &job = JobEditor::Instance();
-        QDomElement taken = JobEditorProbe(job).roomElement(Ground, QStringLiteral("Undefined"));
+        QDomElement taken = JobEditorProbe(job).roomElement(Ground, "Undefined");
         if (!missing.isEmpty())
             taken = taken.firstChildElement(missing);
         taken.parentNode().removeChild(taken);
         job.updateAllInternalLists();
-        job.removeRoom(Ground, QStringLiteral("Room1"));
-        QCOMPARE(job.getPorts(Ground, QStringLiteral("Undefined"), true).size(), 2);
-        QCOMPARE(job.getVertRuns(Ground, QStringLiteral("Undefined"), true).size(), 1);
+        job.removeRoom(Ground, "Room1");
+        QCOMPARE(job.getPorts(Ground, "Undefined", true).size(), 2);
+        QCOMPARE(job.getVertRuns(Ground, "Undefined", true).size(), 1);
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 };

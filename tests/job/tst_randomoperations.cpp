@@ -1,5 +1,4 @@
 #include "jobeditorprobe.h"
-#include "sitejob.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -25,27 +24,15 @@ private:
     /// Mostly a tag that exists, sometimes one that does not or cannot.
     QString someTag(const QStringList &tags)
     {
-        static const QStringList others{QString(),
-                                        QStringLiteral("none"),
-                                        QStringLiteral("no name"),
-                                        QStringLiteral("FFloor_2"),
-                                        QStringLiteral("SSheet_3"),
-                                        QStringLiteral("Room2"),
-                                        QStringLiteral("Mine"),
-                                        QStringLiteral("Undefined")};
+        static const QStringList others{QString(),  "none",  "no name", "FFloor_2",
+                                        "SSheet_3", "Room2", "Mine",    "Undefined"};
         return number(4) == 0 ? oneOf(others) : oneOf(tags);
     }
 
     QString someId()
     {
-        static const QStringList ids{QString(),
-                                     QStringLiteral("Hall"),
-                                     QStringLiteral("Hall "),
-                                     QStringLiteral("Hall1"),
-                                     QStringLiteral("7"),
-                                     QString::fromUtf8("<\u00dc\"&'>\r\n\t"),
-                                     QStringLiteral("Undefined"),
-                                     QStringLiteral("Room")};
+        static const QStringList ids{QString(),   "Hall", "Hall ", "Hall1", "7", "<\u00dc\"&'>\r\n\t",
+                                     "Undefined", "Room"};
         return oneOf(ids);
     }
 
@@ -55,7 +42,7 @@ private:
         const bool isFloor = number(2) == 0;
         const QStringList before = isFloor ? job.getFloorTags() : job.getSheetTags();
         const QString given = someTag(before);
-        const QString prefix = isFloor ? QStringLiteral("FFloor_") : QStringLiteral("SSheet_");
+        const QString prefix = isFloor ? "FFloor_" : "SSheet_";
         const QString tag = isFloor ? job.addFloor(given, someId(), number(20) / 4.0, someId(), mode)
                                     : job.addSheet(given, someId(), mode);
         if (mode == 2 || mode == 3)
@@ -163,9 +150,9 @@ private Q_SLOTS:
         QFETCH(unsigned, seed);
         m_random.seed(seed);
         JobEditor &job = JobEditor::Instance();
-        const QString name = m_directory.filePath(QStringLiteral("random.job"));
+        const QString name = m_directory.filePath("random.job");
         if (seed % 2 == 0) {
-            writeFile(name, siteJob());
+            writeFile(name, testData("site.job"));
             QVERIFY(job.Load(name));
         } else {
             QVERIFY(job.New(name));
@@ -177,7 +164,7 @@ private Q_SLOTS:
             step(job);
             if (QTest::currentTestFailed())
                 return;
-            QVERIFY2(probe.indexesMatchTheTree(), qPrintable(QStringLiteral("after step %1").arg(i)));
+            QVERIFY2(probe.indexesMatchTheTree(), qPrintable(QString("after step %1").arg(i)));
             // The flag may be raised for a value that was there before, but never missing.
             QVERIFY(job.fileChanged() || probe.text() == before);
         }

@@ -56,9 +56,9 @@ private:
         QVERIFY(job.New(fileName));
         for (int i = 1; i < floorsInJob; ++i)
             job.addFloor(QString(), QString(), 8, QString(), 0);
-        nameFloors(job, QStringLiteral("0"));
+        nameFloors(job, "0");
         QVERIFY2(job.save(), qPrintable(job.error()));
-        nameFloors(job, QStringLiteral("1"));
+        nameFloors(job, "1");
     }
 
     void expectFailedSave(const QByteArray &before)
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void killedWhileSaving()
     {
-        const QString fileName = m_directory.filePath(QStringLiteral("killed.job"));
+        const QString fileName = m_directory.filePath("killed.job");
         prepare(fileName);
         const QByteArray first = readFile(fileName);
         QVERIFY(JobEditor::Instance().save());
@@ -86,20 +86,20 @@ private Q_SLOTS:
         QVERIFY(first != second);
         for (int kill = 0; kill < 40; ++kill) {
             QProcess process;
-            process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--save-forever"), fileName});
+            process.start(QCoreApplication::applicationFilePath(), {"--save-forever", fileName});
             QVERIFY(process.waitForReadyRead());
             QTest::qSleep(1 + kill % 13);
             process.kill();
             QVERIFY(process.waitForFinished());
             QCOMPARE(int(process.exitStatus()), int(QProcess::CrashExit));
             const QByteArray content = readFile(fileName);
-            QVERIFY2(content == first || content == second, qPrintable(QStringLiteral("kill %1").arg(kill)));
+            QVERIFY2(content == first || content == second, qPrintable(QString("kill %1").arg(kill)));
         }
     }
 
     void fileSizeLimit()
     {
-        prepare(m_directory.filePath(QStringLiteral("limited.job")));
+        prepare(m_directory.filePath("limited.job"));
         const QByteArray before = readFile(JobEditor::Instance().filename());
         std::signal(SIGXFSZ, SIG_IGN);
         rlimit unlimited{};
@@ -118,26 +118,24 @@ private Q_SLOTS:
 
     void diskFull()
     {
-        const QString folder = m_directory.filePath(QStringLiteral("small"));
+        const QString folder = m_directory.filePath("small");
         QVERIFY(QDir().mkdir(folder));
         const auto mount = [&folder] {
-            return QProcess::execute(QStringLiteral("mount"),
-                                     {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
-                                      QStringLiteral("size=256k"), QStringLiteral("tmpfs"), folder});
+            return QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=256k", "tmpfs", folder});
         };
         if (mount() != 0)
             QSKIP("no file system can be mounted here");
         const auto unmount = qScopeGuard([&folder] {
             JobEditor::Destroy();
-            QProcess::execute(QStringLiteral("umount"), {folder});
+            QProcess::execute("umount", {folder});
         });
 
-        prepare(folder + QStringLiteral("/full.job"));
+        prepare(folder + "/full.job");
         if (QTest::currentTestFailed())
             return;
         const QByteArray before = readFile(JobEditor::Instance().filename());
         // The disk is filled until nothing more fits, and emptied page by page until the save succeeds.
-        QFile ballast(folder + QStringLiteral("/ballast"));
+        QFile ballast(folder + "/ballast");
         QVERIFY(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         while (ballast.write(QByteArray(4096, 'x')) == 4096) {
         }

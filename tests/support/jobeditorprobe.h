@@ -42,6 +42,14 @@ private:
     JobEditor &m_job;
 };
 
+inline QByteArray readFile(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(fileName));
+    return file.readAll();
+}
+
 inline void writeFile(const QString &fileName, const QByteArray &content)
 {
     QFile file(fileName);
@@ -49,10 +57,8 @@ inline void writeFile(const QString &fileName, const QByteArray &content)
         qFatal("cannot write %s", qPrintable(fileName));
 }
 
-inline QByteArray readFile(const QString &fileName)
+/// The content of a file in tests/data.
+inline QByteArray testData(const char *name)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(fileName));
-    return file.readAll();
+    return readFile(QStringLiteral(CABLEDOC_TEST_DATA "/") + QString::fromLatin1(name));
 }

@@ -16,7 +16,7 @@ private:
     QByteArray m_output;
     QByteArray m_messages;
 
-    QString path(const char *name) const { return m_directory.filePath(QString::fromLatin1(name)); }
+    QString path(const char *name) const { return m_directory.filePath(name); }
 
     int run(const QStringList &arguments)
     {
@@ -32,20 +32,20 @@ private:
 private Q_SLOTS:
     void newAndInfo()
     {
-        QCOMPARE(run({QStringLiteral("new"), path("site"), QStringLiteral("--floors"), QStringLiteral("12")}), 0);
+        QCOMPARE(run({"new", path("site"), "--floors", "12"}), 0);
         QCOMPARE(m_output + m_messages, QByteArray());
         QVERIFY(QFile::exists(path("site.job")));
 
-        QCOMPARE(run({QStringLiteral("info"), path("site.job"), QStringLiteral("--json")}), 0);
+        QCOMPARE(run({"info", path("site.job"), "--json"}), 0);
         const QJsonObject info = QJsonDocument::fromJson(m_output).object();
-        const QJsonArray floors = info.value(QStringLiteral("floors")).toArray();
+        const QJsonArray floors = info.value("floors").toArray();
         QCOMPARE(floors.size(), 12);
-        QCOMPARE(floors.at(1).toObject().value(QStringLiteral("id")).toString(), QStringLiteral("Floor_10"));
-        QCOMPARE(floors.at(1).toObject().value(QStringLiteral("ceilingHeight")).toDouble(), 8.0);
-        QCOMPARE(info.value(QStringLiteral("sheets")).toArray().size(), 1);
-        QCOMPARE(info.value(QStringLiteral("cables")).toInt(-1), 0);
+        QCOMPARE(floors.at(1).toObject().value("id").toString(), QString("Floor_10"));
+        QCOMPARE(floors.at(1).toObject().value("ceilingHeight").toDouble(), 8.0);
+        QCOMPARE(info.value("sheets").toArray().size(), 1);
+        QCOMPARE(info.value("cables").toInt(-1), 0);
 
-        QCOMPARE(run({QStringLiteral("info"), path("site.job")}), 0);
+        QCOMPARE(run({"info", path("site.job")}), 0);
         QVERIFY(m_output.startsWith("Floor     Tag        Ceiling  Rooms  Ports  Vertical runs  Points  Texts\n"
                                     "Floor_1   FFloor_1         8      0      0              0       0      0\n"));
         QCOMPARE(m_messages, QByteArray());
@@ -57,11 +57,11 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadWrite));
         file.write("precious");
         file.flush();
-        QCOMPARE(run({QStringLiteral("new"), path("there")}), 4);
+        QCOMPARE(run({"new", path("there")}), 4);
         QVERIFY(m_messages.contains("there.job"));
         file.seek(0);
         QCOMPARE(file.readAll(), QByteArray("precious"));
-        QCOMPARE(run({QStringLiteral("new"), path("none/there.job")}), 4);
+        QCOMPARE(run({"new", path("none/there.job")}), 4);
         QVERIFY(m_messages.contains("none/there.job"));
     }
 
@@ -69,17 +69,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("arguments");
         const QString file = path("never.job");
-        const QString create = QStringLiteral("new");
-        const QString floors = QStringLiteral("--floors");
+        const QString create = "new";
+        const QString floors = "--floors";
         QTest::newRow("nothing") << QStringList();
-        QTest::newRow("unknown command") << QStringList{QStringLiteral("draw"), file};
+        QTest::newRow("unknown command") << QStringList{"draw", file};
         QTest::newRow("no file") << QStringList{create};
         QTest::newRow("two files") << QStringList{create, file, file};
-        QTest::newRow("unknown option") << QStringList{create, file, QStringLiteral("--force")};
-        QTest::newRow("no floors") << QStringList{create, file, floors, QStringLiteral("0")};
-        QTest::newRow("too many floors") << QStringList{create, file, floors, QStringLiteral("1001")};
-        QTest::newRow("floors in words") << QStringList{create, file, floors, QStringLiteral("two")};
-        QTest::newRow("option of another command") << QStringList{create, file, QStringLiteral("--json")};
+        QTest::newRow("unknown option") << QStringList{create, file, "--force"};
+        QTest::newRow("no floors") << QStringList{create, file, floors, "0"};
+        QTest::newRow("too many floors") << QStringList{create, file, floors, "1001"};
+        QTest::newRow("floors in words") << QStringList{create, file, floors, "two"};
+        QTest::newRow("option of another command") << QStringList{create, file, "--json"};
     }
 
     void wrongCommandLines()
@@ -99,7 +99,7 @@ private Q_SLOTS:
         file.write("<Job>");
         file.close();
         for (const QString &name : {path("broken.job"), path("missing.job"), m_directory.path()}) {
-            QCOMPARE(run({QStringLiteral("info"), name}), 3);
+            QCOMPARE(run({"info", name}), 3);
             QCOMPARE(m_output, QByteArray());
             QVERIFY2(m_messages.contains(name.toLocal8Bit()), m_messages.constData());
         }
@@ -108,8 +108,8 @@ private Q_SLOTS:
     void outputThatCannotBeWritten()
     {
         QProcess process;
-        process.setStandardOutputFile(QStringLiteral("/dev/full"));
-        process.start(QStringLiteral(CABLEDOC_PROGRAM), {QStringLiteral("--help")});
+        process.setStandardOutputFile("/dev/full");
+        process.start(QStringLiteral(CABLEDOC_PROGRAM), {"--help"});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 4);
         QVERIFY(process.readAllStandardError().contains("standard output"));
@@ -117,11 +117,11 @@ private Q_SLOTS:
 
     void help()
     {
-        QCOMPARE(run({QStringLiteral("--help")}), 0);
+        QCOMPARE(run({"--help"}), 0);
         QVERIFY(m_output.contains("info FILE"));
-        QCOMPARE(run({QStringLiteral("info"), QStringLiteral("--help")}), 0);
+        QCOMPARE(run({"info", "--help"}), 0);
         QVERIFY(m_output.contains("--json"));
-        QCOMPARE(run({QStringLiteral("--version")}), 0);
+        QCOMPARE(run({"--version"}), 0);
         QVERIFY(m_output.startsWith("cabledoc "));
     }
 };
