@@ -38,7 +38,7 @@ function(cabledoc_layer name)
   target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_compile_definitions(cabledoc_${name} PRIVATE cabledoc_EXPORTS)
   target_link_libraries(cabledoc_${name}
-    PUBLIC Qt${CABLEDOC_QT_MAJOR}::Core Qt${CABLEDOC_QT_MAJOR}::Xml ${layer_USES}
+    PUBLIC Qt${CABLEDOC_QT_MAJOR}::Core Qt${CABLEDOC_QT_MAJOR}::Gui Qt${CABLEDOC_QT_MAJOR}::Xml ${layer_USES}
     PRIVATE cabledoc_strict)
   cabledoc_public_headers(${layer_HEADERS})
   target_sources(cabledoc PRIVATE $<TARGET_OBJECTS:cabledoc_${name}>)

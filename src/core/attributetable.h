@@ -1,6 +1,7 @@
 #pragma once
 
 #include "attributetext.h"
+#include "testencoding.h"
 
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
@@ -22,8 +23,8 @@ template <typename Fields> struct Attribute
     QString name;
     QString defaultText; ///< what stands for a missing attribute
     WhenMissing whenMissing;
-    QString (*text)(const Fields &);          ///< null for an attribute that is no field of the record
-    void (*parse)(const QString &, Fields *); ///< null likewise
+    QString (*text)(const Fields &);          ///< null when writing a record leaves the attribute alone
+    void (*parse)(const QString &, Fields *); ///< null when reading a record does
 };
 
 template <typename Fields, typename Value> Fields fieldsOf(Value Fields::*);
@@ -37,6 +38,15 @@ template <auto Field> auto attribute(const QString &name, WhenMissing whenMissin
                              [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); }};
 }
 
+/// The same for a number that loses its fraction when it is written.
+template <auto Field> auto truncatedNumber(const QString &name)
+{
+    using Fields = decltype(fieldsOf(Field));
+    return Attribute<Fields>{name, toText(truncated(double(Fields().*Field))), WhenMissing::UseDefault,
+                             [](const Fields &fields) { return toText(truncated(double(fields.*Field))); },
+                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); }};
+}
+
 /// The same for a field that is a double in the record and a whole number in the file.
 template <auto Field> auto wholeNumber(const QString &name)
 {
@@ -44,6 +54,14 @@ template <auto Field> auto wholeNumber(const QString &name)
     return Attribute<Fields>{name, toText(truncated(Fields().*Field)), WhenMissing::UseDefault,
                              [](const Fields &fields) { return toText(truncated(fields.*Field)); },
                              [](const QString &text, Fields *fields) { fields->*Field = text.toInt(); }};
+}
+
+/// An attribute whose field is read with the record, but which new elements lack.
+template <auto Field> auto readOnly(const QString &name)
+{
+    auto row = attribute<Field>(name);
+    row.text = nullptr;
+    return row;
 }
 
 /// An attribute that no record holds and new elements lack: it comes with the first operation that
@@ -95,6 +113,15 @@ public:
             changed = true;
         }
         return changed;
+    }
+
+    /// Writes the fields into those attributes that the element has.
+    void change(QDomElement element, const Fields &fields) const
+    {
+        for (const Attribute<Fields> &attribute : m_attributes) {
+            if (attribute.text != nullptr && element.hasAttribute(attribute.name))
+                element.setAttribute(attribute.name, attribute.text(fields));
+        }
     }
 
     /// The fields that the element holds, defaults where it lacks them.

@@ -12,6 +12,11 @@ QString toText(int value)
     return QString::number(value);
 }
 
+QString toText(bool value)
+{
+    return QLatin1String(value ? "1" : "0");
+}
+
 QString toText(double value)
 {
     // Not QString::number: its shortest form differs between the versions of Qt ("100000", "1e+05").
@@ -25,9 +30,29 @@ void fromText(const QString &text, int *value)
     *value = text.toInt();
 }
 
+void fromText(const QString &text, float *value)
+{
+    *value = text.toFloat();
+}
+
+void fromText(const QString &text, bool *value)
+{
+    *value = text == QLatin1String("1");
+}
+
 void fromText(const QString &text, double *value)
 {
     *value = text.toDouble();
+}
+
+QString toText(const QStringList &entries)
+{
+    return entries.join(QLatin1Char(','));
+}
+
+void fromText(const QString &text, QStringList *entries)
+{
+    *entries = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
 }
 
 int truncated(double value)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /// How values become the text of an attribute, and back. Nothing here depends on the locale.
 namespace cabledoc {
@@ -10,8 +10,12 @@ inline QString toText(const QString &value)
     return value;
 }
 QString toText(int value);
+/// "1" or "0".
+QString toText(bool value);
 /// The shortest text that reads back to the same value: "8", "9.5", "0.1".
 QString toText(double value);
+/// The entries, separated by commas.
+QString toText(const QStringList &entries);
 
 inline void fromText(const QString &text, QString *value)
 {
@@ -19,7 +23,13 @@ inline void fromText(const QString &text, QString *value)
 }
 /// 0 for a text that is no number.
 void fromText(const QString &text, int *value);
+void fromText(const QString &text, float *value);
 void fromText(const QString &text, double *value);
+/// True for "1" and nothing else.
+void fromText(const QString &text, bool *value);
+
+/// An empty text has no entries.
+void fromText(const QString &text, QStringList *entries);
 
 /// value without its fraction; the nearest int for a value beyond them, 0 for one that is no number.
 int truncated(double value);

@@ -1,9 +1,13 @@
 #include "bkxmleditor.h"
 
+#include "childelements.h"
+#include "testencoding.h"
 #include "words.h"
 #include "xmlfile.h"
 
 #include <QtCore/QDebug>
+
+#include <algorithm>
 
 using namespace cabledoc;
 
@@ -93,26 +97,69 @@ QDomElement BKXMLEditor::getToBundledCableTypeList() const
 
 QString BKXMLEditor::boolArrayToString(const bool *flags)
 {
-    QString text;
-    for (int i = 0; i < 4; ++i)
-        text += QLatin1Char(flags[i] ? '1' : '0');
-    return text;
+    return toText(std::array<bool, 4>{flags[0], flags[1], flags[2], flags[3]});
 }
 
 bool BKXMLEditor::stringToBoolArray(const QString &text, bool *flags)
 {
-    for (int i = 0; i < 4; ++i) {
-        const QChar character = i < text.size() ? text.at(i) : QChar();
-        if (character != QLatin1Char('0') && character != QLatin1Char('1'))
-            return false;
-        flags[i] = character == QLatin1Char('1');
-    }
-    return true;
+    std::array<bool, 4> read{flags[0], flags[1], flags[2], flags[3]};
+    const bool isWhole = fromText(text, &read);
+    std::copy(read.begin(), read.end(), flags);
+    return isWhole;
 }
 
 QDomElement BKXMLEditor::appendElement(const QString &tagName, QDomNode parent)
 {
     return parent.appendChild(m_document.createElement(tagName)).toElement();
+}
+
+void BKXMLEditor::renameElement(QDomElement element, const QString &id)
+{
+    if (element.isNull())
+        return;
+    element.setAttribute(words::Id, id);
+    setDirty(true);
+}
+
+void BKXMLEditor::removeElement(const QDomElement &element)
+{
+    if (element.isNull())
+        return;
+    element.parentNode().removeChild(element);
+    setDirty(true);
+}
+
+QString BKXMLEditor::firstFreeTag(const QDomElement &list, const QString &prefix)
+{
+    const QStringList taken = childTags(list);
+    int number = 1;
+    while (taken.contains(prefix + QString::number(number)))
+        ++number;
+    return prefix + QString::number(number);
+}
+
+QString BKXMLEditor::dataToString(const cable_struct &block)
+{
+    return toText(block);
+}
+
+cable_struct BKXMLEditor::stringToData(const QString &text)
+{
+    cable_struct block;
+    fromText(text, &block);
+    return block;
+}
+
+QString BKXMLEditor::responseDataToString(const TRUEPHY_PLOT_DATA &curve)
+{
+    return toText(curve);
+}
+
+TRUEPHY_PLOT_DATA BKXMLEditor::responseStringToData(const QString &text)
+{
+    TRUEPHY_PLOT_DATA curve;
+    fromText(text, &curve);
+    return curve;
 }
 
 bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order)

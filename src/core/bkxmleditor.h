@@ -1,14 +1,19 @@
 #pragma once
 
 #include "cabledoc_export.h"
+#include "testdata.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtXml/QDomDocument>
 
+class Address;
+class BundledCable;
+class ContractorData;
 class PageSettings;
 class PrintSettings;
 class ScaleSettings;
+class TestDef;
 
 namespace cabledoc::xmlfile {
 struct AttributeOrder;
@@ -62,6 +67,78 @@ public:
     PageSettings getPageSettings(const QString &name);
     ScaleSettings getScaleSettings(const QString &name);
 
+    // Test definitions, one for each cable type, known by their names. Without the list of definitions
+    // nothing is stored and nothing found.
+
+    /// Adds a definition. One of that name that is there already stays as it is. The length constant and
+    /// the maximum length are stored without their fractions.
+    void addTestDef(const TestDef &definition);
+    void renameTestDef(const QString &oldName, const QString &newName);
+    void removeTestDef(const QString &name);
+    /// The definition of that name; a default definition with that name when there is none.
+    TestDef getTestDef(const QString &name) const;
+    bool testDefExists(const QString &name) const;
+    /// Whether there is a definition whose element has that tag.
+    bool testDefElementExists(const QString &tag) const;
+    /// The tags, and the names, of all definitions in document order.
+    QStringList getTestDefElements() const;
+    QStringList getTestDefNames() const;
+
+    // Bundles of cable types. Without the list of bundles nothing is stored and nothing found.
+
+    /// Adds a bundle of that name. One that is there already stays as it is. Types after the eighth are not
+    /// stored.
+    void addBundledCableType(const QString &id, const QStringList &types, const QString &color,
+                             const bool &defaultType);
+    /// The same from a record, whose tag does not count.
+    void addBundledCableType(const BundledCable &bundle);
+    void renameBundledCableType(const QString &oldName, const QString &newName);
+    void removeBundledCableTypeByTag(const QString &tag);
+    /// The bundle of that name; a record whose id is "error" when there is none.
+    BundledCable getBundledCableType(const QString &name) const;
+    /// The name of a tag and the tag of a name; empty when there is none.
+    QString getBundledCableTypeIdByTag(const QString &tag) const;
+    QString getBundledCableTypeTagById(const QString &id) const;
+    /// All tags, and all names, in document order.
+    QStringList getBundledCableTypeTags() const;
+    QStringList getBundledCableTypeIds() const;
+    bool bundledCableTypeTagExists(const QString &tag) const;
+    bool bundledCableTypeIdExists(const QString &id) const;
+
+    // The contractor. Each setter marks the document as changed, also when the value is the same, and
+    // creates an attribute that an older file lacks. Without the element nothing is stored, and the getters
+    // return empty values.
+
+    void setContractorTester(const QString &tester);
+    void setContractorCompany(const QString &company);
+    void setContractorEmail(const QString &email);
+    void setContractorPhone(const QString &phone);
+    void setContractorLogo(const QString &logo);
+    void setContractorAddress(const Address &address);
+    void setContractorData(const ContractorData &data);
+    void setContractorData(const QString &tester, const QString &company, const QString &email, const QString &phone,
+                           const QString &logo, const Address &address);
+    QString getContractorTester() const;
+    QString getContractorCompany() const;
+    QString getContractorEmail() const;
+    QString getContractorPhone() const;
+    QString getContractorLogo() const;
+    Address getContractorAddress() const;
+    ContractorData getContractorData() const;
+
+    // The text forms of test data. None of these touches the document.
+
+    /// 96 hexadecimal digits: the fields in their order, each 32-bit one by its lower 16 bits.
+    static QString dataToString(const cable_struct &block);
+    /// Reads them back. word_group_c and word_group_d have -1 for 0xFFFF, the other groups 65535. Only
+    /// upper-case digits count. What the text is too short for keeps its untested value.
+    static cable_struct stringToData(const QString &text);
+    /// The samples of a curve and their count, each followed by a comma; empty for a curve that does not
+    /// hold 257. The header is left out.
+    static QString responseDataToString(const TRUEPHY_PLOT_DATA &curve);
+    /// Reads it back. What is missing or no number is 0, and so is the header.
+    static TRUEPHY_PLOT_DATA responseStringToData(const QString &text);
+
 protected:
     /// Whether the tree was changed since it was last created, loaded or saved.
     bool fileChanged() const { return m_dirty; }
@@ -106,8 +183,17 @@ protected:
     /// before it are written, the others are not.
     static bool stringToBoolArray(const QString &text, bool *flags);
 
+    // Changing lists of elements. These mark the document as changed, but for appendElement().
+
     /// Appends a new element to parent.
     QDomElement appendElement(const QString &tagName, QDomNode parent);
+    /// Gives the element another "id"; nothing for a null element.
+    void renameElement(QDomElement element, const QString &id);
+    /// Takes the element out of the tree; nothing for a null element.
+    void removeElement(const QDomElement &element);
+    /// The prefix with the smallest number, from 1, that no child of the list has for its tag.
+    static QString firstFreeTag(const QDomElement &list, const QString &prefix);
+
     /// Writes the tree to a file. On a failure the file is as it was, the dirty flag too, and error()
     /// says why.
     bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order);
@@ -116,6 +202,12 @@ protected:
     QString m_filename;
     QString m_error;
     bool m_dirty = false;
+
+    /// Writes an attribute of a child of the root, or of the "Address" in it, creating it when it is
+    /// missing, and marks the document as changed. Nothing without the child.
+    void writeInfo(const QString &elementName, const QString &attribute, const QString &value);
+    void writeInfoAddress(const QString &elementName, const Address &address);
+    Address readInfoAddress(const QString &elementName) const;
 
 private:
     QDomElement settingsList(const QString &tagName) const;

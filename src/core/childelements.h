@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QStringList>
 #include <QtXml/QDomElement>
 
 namespace cabledoc {
@@ -38,5 +39,12 @@ public:
 private:
     QDomElement m_parent;
 };
+
+/// The tags of the child elements in document order.
+QStringList childTags(const QDomElement &parent);
+/// Their attributes "id".
+QStringList childIds(const QDomElement &parent);
+/// The first child element with that "id"; null when there is none.
+QDomElement childWithId(const QDomElement &parent, const QString &id);
 
 } // namespace cabledoc

@@ -18,9 +18,17 @@ inline const QString Address = QStringLiteral("Address");
 inline const QString JobNotesText = QStringLiteral("JobNotes_Text");
 inline const QString Text = QStringLiteral("text");
 
+// Attributes of the contractor and the site
+inline const QString Tester = QStringLiteral("tester");
+inline const QString Company = QStringLiteral("company");
+inline const QString Email = QStringLiteral("email");
+inline const QString Phone = QStringLiteral("phone");
+inline const QString Logo = QStringLiteral("logo");
+
 // Containers that both documents hold
 inline const QString TestDefList = QStringLiteral("TestDef_List");
 inline const QString BundledCableList = QStringLiteral("BundledCable_List");
+inline const QString BundledCableTypeList = QStringLiteral("BundledCableType_List");
 inline const QString SettingsList = QStringLiteral("Settings_List");
 inline const QString PrintSettingsList = QStringLiteral("PrintSettings_List");
 inline const QString PageSettingsList = QStringLiteral("PageSettings_List");
@@ -35,6 +43,15 @@ inline const QString TestSchedSettings = QStringLiteral("TestSched_Settings");
 inline const QString DetailedCableSettings = QStringLiteral("DetailedCable_Settings");
 inline const QString JobNotesSettings = QStringLiteral("JobNotes_Settings");
 inline const QString ActiveNetworkTestResultsSettings = QStringLiteral("ActiveNetworkTestResults_Settings");
+
+// Generated tags are one of these and a number
+inline const QString TestDefTagPrefix = QStringLiteral("TestDef");
+inline const QString BundledCableTagPrefix = QStringLiteral("BundledCable");
+inline const QString BundledCableTypeTagPrefix = QStringLiteral("BundledCableType");
+
+// Attributes that several kinds of element have
+inline const QString Color = QStringLiteral("color");
+inline const QString DefaultType = QStringLiteral("default_type");
 
 // The name that every element of a kind of its own shows to the user
 inline const QString Id = QStringLiteral("id");

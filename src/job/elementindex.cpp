@@ -27,7 +27,7 @@ NumberedNames::Names namesWithPrefix(const QString &prefix, Iterator first, Iter
 
 void ElementIndex::clear()
 {
-    *this = ElementIndex();
+    *this = ElementIndex(m_idDigits);
 }
 
 void ElementIndex::append(const QDomElement &element)
@@ -174,6 +174,8 @@ void ElementIndex::show(Entries::const_iterator entry)
     m_numberedTags.insert(tag);
     m_ids.insert({value.id, tag});
     m_numberedIds.insert(value.id);
+    if (isNumberedId(value.id))
+        m_tagsWithNumberedId.insert(tag);
 }
 
 void ElementIndex::hide(Entries::const_iterator entry)
@@ -181,8 +183,29 @@ void ElementIndex::hide(Entries::const_iterator entry)
     const auto &[tag, value] = *entry;
     m_numberedTags.remove(tag);
     m_ids.erase({value.id, tag});
+    m_tagsWithNumberedId.erase(tag);
     if (!containsId(value.id))
         m_numberedIds.remove(value.id);
+}
+
+bool ElementIndex::isNumberedId(const QString &id) const
+{
+    return !m_idPrefix.isNull() && id.size() == m_idPrefix.size() + m_idDigits && id.startsWith(m_idPrefix)
+           && std::all_of(id.cend() - m_idDigits, id.cend(),
+                          [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+}
+
+QString ElementIndex::lastTagWithNumberedId(const QString &prefix)
+{
+    if (m_idPrefix.isNull() || m_idPrefix != prefix) {
+        m_idPrefix = prefix;
+        m_tagsWithNumberedId.clear();
+        for (const auto &[id, tag] : m_ids) {
+            if (isNumberedId(id))
+                m_tagsWithNumberedId.insert(tag);
+        }
+    }
+    return m_tagsWithNumberedId.empty() ? QString() : *m_tagsWithNumberedId.rbegin();
 }
 
 void ContainerIndex::append(const QDomElement &element)

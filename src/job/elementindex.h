@@ -19,6 +19,13 @@ namespace cabledoc {
 class ElementIndex
 {
 public:
+    /// The numbers in generated ids have that many digits at least.
+    explicit ElementIndex(int idDigits = 1)
+        : m_idDigits(idDigits)
+        , m_numberedIds(idDigits)
+    {
+    }
+
     void clear();
     /// Adds an element that comes behind all elements of its tag in document order.
     void append(const QDomElement &element);
@@ -49,6 +56,11 @@ public:
     /// The smallest number, at least from, that makes an unused tag or id with the prefix.
     qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
     qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
+    /// The id of that prefix and number.
+    QString numberedId(const QString &prefix, qint64 number) const { return m_numberedIds.name(prefix, number); }
+    /// The last tag, in string order, whose id is the prefix and as many digits as ids have at least; empty
+    /// when there is none.
+    QString lastTagWithNumberedId(const QString &prefix);
 
     bool operator==(const ElementIndex &other) const;
 
@@ -66,11 +78,15 @@ private:
     Entries::iterator find(const QDomElement &element);
     void show(Entries::const_iterator entry);
     void hide(Entries::const_iterator entry);
+    bool isNumberedId(const QString &id) const;
 
     Entries m_entries;                           ///< by tag; those of one tag in document order
     std::set<std::pair<QString, QString>> m_ids; ///< id and tag, of the first element of each tag
+    int m_idDigits;
     NumberedNames m_numberedTags;
     NumberedNames m_numberedIds;
+    QString m_idPrefix;                     ///< what lastTagWithNumberedId() was last asked for; null before
+    std::set<QString> m_tagsWithNumberedId; ///< those with that prefix
 };
 
 /// The elements of one container by id, those that share an id in document order.

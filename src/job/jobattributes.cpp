@@ -1,7 +1,7 @@
 #include "jobattributes.h"
 
-#include "attributeorder.h"
 #include "jobwords.h"
+#include "sharedattributes.h"
 
 namespace cabledoc {
 
@@ -43,10 +43,57 @@ const AttributeTable<RoomFields> &roomAttributes()
     return table;
 }
 
+const AttributeTable<CableFields> &cableAttributes()
+{
+    using F = CableFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::use>(words::Use),
+        attribute<&F::to>(words::To),
+        attribute<&F::from>(words::From),
+        attribute<&F::type>(words::Type),
+        attribute<&F::bundleName>(words::BundleName),
+        attribute<&F::bundleNum>(words::BundleNum),
+        attribute<&F::bundleGroupNum>(words::BundleGroupNum),
+        attribute<&F::color>(words::Color),
+        attribute<&F::path>(words::Path),
+        readOnly<&F::defaultType>(words::DefaultType),
+    };
+    return table;
+}
+
+const AttributeTable<TestResultsFields> &testResultsAttributes()
+{
+    using F = TestResultsFields;
+    static const AttributeTable<F> table{
+        attribute<&F::status>(words::Status),
+        attribute<&F::softwareVersion>(words::SoftwareVersion, WhenMissing::AddDefault),
+        attribute<&F::serialNumber>(words::Serial, WhenMissing::AddDefault),
+        attribute<&F::time>(QStringLiteral("time")),
+        attribute<&F::results>(QStringLiteral("data"), WhenMissing::AddDefault),
+        attribute<&F::bertErrors>(QStringLiteral("bert_errors"), WhenMissing::AddDefault),
+        attribute<&F::echo>(QStringLiteral("echo"), WhenMissing::AddDefault),
+        attribute<&F::next>(QStringLiteral("next"), WhenMissing::AddDefault),
+        attribute<&F::channel>(QStringLiteral("chan"), WhenMissing::AddDefault),
+    };
+    return table;
+}
+
+const AttributeTable<DeviceConnectionFields> &connectionAttributes()
+{
+    using F = DeviceConnectionFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::to>(words::To),
+        attribute<&F::from>(words::From),
+        attribute<&F::type>(words::Type),
+    };
+    return table;
+}
+
 const QStringList &siteInfoAttributes()
 {
-    static const QStringList names{QStringLiteral("phone"), QStringLiteral("jobid"), QStringLiteral("company"),
-                                   QStringLiteral("email"), QStringLiteral("contact")};
+    static const QStringList names{words::Phone, words::JobID, words::Company, words::Email, words::Contact};
     return names;
 }
 
@@ -57,6 +104,9 @@ const xmlfile::AttributeOrder &jobAttributeOrder()
         all.inContainer.insert(words::FloorList, floorAttributes().names());
         all.inContainer.insert(words::SheetList, sheetAttributes().names());
         all.inContainer.insert(words::RoomList, roomAttributes().names());
+        all.inContainer.insert(words::CableList, cableAttributes().names());
+        all.inContainer.insert(words::ConnectionList, connectionAttributes().names());
+        all.ofElement.insert(words::TestResults, testResultsAttributes().names());
         all.ofElement.insert(words::SiteInfo, siteInfoAttributes());
         return all;
     }();

@@ -8,9 +8,16 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <memory>
+
+class Address;
+class Cable;
+class DeviceConnection;
+class SiteData;
+class TestResults;
 
 namespace cabledoc {
 struct JobIndex;
@@ -166,8 +173,6 @@ public:
     QStringList getDevices(const QString &sheetTag, bool byTag) const;
     QStringList getVertices(const QString &sheetTag, bool byTag) const;
     QStringList getFreeTexts(const QString &sheetTag, bool byTag) const;
-    /// The tags of the cables of a type, in document order.
-    QStringList getCablesByType(const QString &type) const;
 
     // Navigation: the containers of the tree. Null when a step of the way is missing. The elements are
     // handles into the tree: see updateAllInternalLists() before changing them.
@@ -277,6 +282,156 @@ public:
     void setShowRoomName(const QString &floorTag, const QString &id, int show);
     void setShowRoomDimensions(const QString &floorTag, const QString &id, int show);
 
+    // Cables. A tag that no cable has makes setters do nothing and getters return an empty text or list or a
+    // default record. The setter of a single field changes an attribute that the cable has and creates none.
+
+    /// Adds a cable behind the others and returns its id. See above for the mode; a generated id is the
+    /// translated "Cable" and a number of three digits at least, whatever id is given. A colour that is no
+    /// colour name is replaced by that of the type's test definition; the use "cable_box" is stored as
+    /// "TV". What the shorter forms leave out is empty, and the cable untested. A record's default-type flag
+    /// is not stored. An empty string, and nothing changes, in a document without a list of cables.
+    QString addCable(const QString &tag, const QString &id, const QString &use, const QString &to, const QString &from,
+                     const QString &type, const QString &bundleName, const QString &bundleNum,
+                     const QString &bundleGroupNum, const QString &color, const QStringList &path,
+                     const TestResults &testResults, int mode);
+    QString addCable(const QString &tag, const QString &id, const QString &use, const QString &to, const QString &from,
+                     const QString &type, const TestResults &testResults, int mode);
+    QString addCable(const QString &tag, const QString &id, const QString &use, const QString &to, const QString &from,
+                     const QString &type, int mode);
+    QString addCable(const QString &tag, const QString &id, const QString &use, const QString &to, const QString &from,
+                     int mode);
+    QString addCable(const QString &tag, const QString &id, const QString &use, const QString &to, int mode);
+    QString addCable(const QString &tag, const QString &id, const QString &use, int mode);
+    QString addCable(const QString &tag, const QString &id, int mode);
+    QString addCable(const Cable &cable, int mode);
+    void removeCable(const QString &tag);
+    void removeCable(const Cable &cable);
+
+    /// The whole cable. Test results that an older file left short are completed, as with
+    /// getCableTestResults().
+    Cable getCable(const QString &tag);
+    /// The same of the first cable, in the order of the tags, that has the id.
+    Cable getCableById(const QString &id);
+    /// The tag itself when there is such a cable.
+    QString getCableElement(const QString &tag) const;
+
+    QString getCableID(const QString &tag) const;
+    QString getCableUse(const QString &tag) const;
+    QString getCableTo(const QString &tag) const;
+    QString getCableFrom(const QString &tag) const;
+    QString getCableType(const QString &tag) const;
+    QStringList getCablePath(const QString &tag) const;
+    QString getCableBundleName(const QString &tag) const;
+    QString getCableBundleNum(const QString &tag) const;
+    QString getCableBundleGroupNum(const QString &tag) const;
+    QString getCableColor(const QString &tag) const;
+    bool getCableDefaultType(const QString &tag) const;
+    void setCableID(const QString &tag, const QString &id);
+    void setCableUse(const QString &tag, const QString &use);
+    void setCableTo(const QString &tag, const QString &to);
+    void setCableFrom(const QString &tag, const QString &from);
+    void setCableType(const QString &tag, const QString &type);
+    void setCablePath(const QString &tag, const QStringList &path);
+    void setCableBundleName(const QString &tag, const QString &name);
+    void setCableBundleNum(const QString &tag, const QString &number);
+    void setCableBundleGroupNum(const QString &tag, const QString &number);
+    void setCableColor(const QString &tag, const QString &color);
+    /// New cables have no such attribute, and this does not create it.
+    void setCableDefaultType(const QString &tag, bool isDefault);
+
+    /// Whether the cable's bundle has a name.
+    bool cableIsInBundle(const QString &tag) const;
+    /// Whether a cable has that bundle group number. Looks at all cables.
+    bool bundleGroupNumExists(const QString &bundleGroupNum) const;
+
+    /// The tags of the cables of a type, in document order.
+    QStringList getCablesByType(const QString &type) const;
+    /// The tags of the cables of that use, bundle or bundle group, in document order. These and the
+    /// following look at all cables.
+    QStringList getCablesByUse(const QString &use) const;
+    QStringList getCablesByBundle(const QString &bundleName) const;
+    QStringList getCablesByBundleGroup(const QString &bundleGroupNum) const;
+    /// The tags of the cables with an end at that port or vertical run.
+    QStringList getCablesByPort(const QString &tag) const;
+    /// The tags of the cables with an end at a port or vertical run on that floor.
+    QStringList getCablesByFloor(const QString &floorTag) const;
+    /// The tags of the cables whose test has that status.
+    QStringList getCablesByStatus(const QString &status) const;
+
+    // Test results of cables
+
+    /// Stores the results. Of the attributes that an older file lacks, only the tester's version and serial
+    /// number are created; getCableTestResults() creates the others.
+    void setCableTestResults(const QString &cableTag, const TestResults &results);
+    /// The results; a default record for an unknown cable. What an older file lacks but for status and time
+    /// is added with its default.
+    TestResults getCableTestResults(const QString &cableTag);
+    /// The measured length of a pair (0 to 3): its reading divided by the length constant, in pF per foot,
+    /// of the type's test definition. To the nearest half metre (metric) or tenth of a foot. 0 for another
+    /// pair. Reads, and may complete, the results.
+    float getRoundedCableLength(const QString &cableTag, int pair, bool metric);
+    /// The measured length of the cable, that of its shortest measured pair, likewise; below zero when none
+    /// was measured. Uncorrected, the reading itself counts as feet: whole metres (metric, cut off) or feet,
+    /// 0 when none was measured.
+    float getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected);
+
+    // Connections of devices
+
+    /// Adds a connection behind the others and returns its id. See above for the mode. An empty string, and
+    /// nothing changes, in a document without a list of connections.
+    QString addConnection(const QString &tag, const QString &id, const QString &to, const QString &from,
+                          const QString &type, int mode);
+    QString addConnection(const DeviceConnection &connection, int mode);
+    void removeConnection(const QString &tag);
+    void removeConnection(const DeviceConnection &connection);
+    /// The connection of that tag; an empty record when there is none.
+    DeviceConnection getConnection(const QString &tag) const;
+    /// The first tag, in string order, that has the id; empty when there is none.
+    QString getConnectionTagById(const QString &id) const;
+    QString getConnectionTo(const QString &tag) const;
+    QString getConnectionFrom(const QString &tag) const;
+    /// The type read as a number; 0 when it is none.
+    int getConnectionType(const QString &tag) const;
+    void setConnectionTo(const QString &tag, const QString &to);
+    void setConnectionFrom(const QString &tag, const QString &from);
+    void setConnectionType(const QString &tag, const QString &type);
+
+    // The site, releases and notes. Setters of the site mark the document as changed, also when the value is
+    // the same, and create an attribute that an older file lacks. Without the element nothing is stored, and
+    // the getters return empty values.
+
+    void setSiteContact(const QString &contact);
+    void setSiteJobID(const QString &jobID);
+    void setSiteCompany(const QString &company);
+    void setSitePhone(const QString &phone);
+    void setSiteEmail(const QString &email);
+    void setSiteAddress(const Address &address);
+    void setSiteData(const SiteData &data);
+    void setSiteData(const QString &contact, const QString &jobID, const QString &company, const QString &phone,
+                     const QString &email, const Address &address);
+    QString getSiteContact() const;
+    QString getSiteJobID() const;
+    QString getSiteCompany() const;
+    QString getSitePhone() const;
+    QString getSiteEmail() const;
+    Address getSiteAddress() const;
+    SiteData getSiteData() const;
+
+    /// Stores a value under a name. A name that is no XML name is refused, with a text in error(), and so is
+    /// one more than 4096.
+    void addRelease(const QString &name, const QString &value);
+    /// The value of a name; empty when there is none.
+    QString getRelease(const QString &name) const;
+    /// Marks the document as changed even when there is no such name.
+    void removeRelease(const QString &name);
+    /// Stores the notes; the document changes only when they differ. Their element is created when an older
+    /// file lacks it.
+    void setJobNotesText(const QString &text);
+    QString getJobNotesText() const;
+    /// The list of connections, which is created when it is missing. The name is kept for callers that know
+    /// it under this one.
+    QDomElement getToJobNotesList();
+
 private:
     friend class JobEditorProbe; // what tests may see
 
@@ -285,7 +440,8 @@ private:
     bool refuseWhenOpen();
     void create(double ceilingHeight);
     bool checkVersion();
-    bool mayBeTag(const QString &tag);
+    bool mayBeName(const QString &name);
+    void changeAttribute(QDomElement element, const QString &attribute, const QString &value);
 
     QDomElement floorElement(const QString &tag) const;
     QDomElement sheetElement(const QString &tag) const;
@@ -295,9 +451,15 @@ private:
     QStringList getFloorsInBetween(const QString &tagA, const QString &tagB) const;
     QString completedFloorAttribute(const QString &tag, const QString &attribute);
     void writeFloorAttribute(const QString &tag, const QString &attribute, const QString &value);
-    void removeCablesOnFloor(const QDomElement &floor);
     QDomElement undefinedRoomElement(const QDomElement &roomList);
     void completeNewRoom(const QDomElement &room);
+    QDomElement cableElement(const QString &tag) const;
+    QString newCableTag() const;
+    QString newCableId() const;
+    QStringList cablesEndingAt(const QSet<QString> &ends) const;
+    void forgetCableLists();
+    float correctedLength(int reading, const QString &cableTag) const;
+
     QString newRoomTag() const;
     QString newRoomId(const QString &floorTag, const QString &prefix) const;
     Room readRoom(const QDomElement &element);

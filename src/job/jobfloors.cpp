@@ -1,13 +1,9 @@
 #include "jobeditor.h"
 
 #include "addmode.h"
-#include "childelements.h"
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
-
-#include <QtCore/QSet>
-#include <QtCore/QVector>
 
 #include <algorithm>
 
@@ -16,7 +12,7 @@ using namespace cabledoc;
 QString JobEditor::addFloor(const QString &tag, const QString &id, double ceilingHeight, const QString &pic, int mode)
 {
     const QString badFloor = QStringLiteral("Bad Floor");
-    if (addmode::keepsTag(mode) && !mayBeTag(tag))
+    if (addmode::keepsTag(mode) && !mayBeName(tag))
         return badFloor;
     const QDomElement floorList = getElement(words::FloorList);
     if (floorList.isNull())
@@ -48,7 +44,9 @@ void JobEditor::removeFloor(const QString &tag)
     const QDomElement floor = floorElement(tag);
     if (floor.isNull())
         return;
-    removeCablesOnFloor(floor);
+    const QStringList cables = getCablesByFloor(tag);
+    for (const QString &cable : cables)
+        removeCable(cable);
     (*m_index)[JobIndex::Floors].remove(floor);
     floor.parentNode().removeChild(floor);
     setDirty(true);
@@ -64,27 +62,6 @@ void JobEditor::removeFloor(const QString &tag)
 void JobEditor::removeFloor(const Floor &floor)
 {
     removeFloor(floor.element());
-}
-
-void JobEditor::removeCablesOnFloor(const QDomElement &floor)
-{
-    QSet<QString> ends;
-    for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
-        for (const QString &containerName : {words::PortList, words::VerticalRunList}) {
-            for (const QDomElement &end : ChildElements(room.firstChildElement(containerName)))
-                ends.insert(end.tagName());
-        }
-    }
-    QVector<QDomElement> cables;
-    for (const QDomElement &cable : ChildElements(getToCableList())) {
-        if (ends.contains(getChildAttr(words::To, cable)) || ends.contains(getChildAttr(words::From, cable)))
-            cables.append(cable);
-    }
-    QDomElement cableList = getToCableList();
-    for (const QDomElement &cable : std::as_const(cables))
-        cableList.removeChild(cable);
-    populateCurrentCablesLists();
-    populateCableTypeMap();
 }
 
 Floor JobEditor::getFloor(const QString &tag) const

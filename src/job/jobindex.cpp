@@ -56,10 +56,7 @@ void rebuild(ElementIndex *index, const Elements &containers)
 
 QStringList namesIn(const QDomElement &container, bool byTag)
 {
-    QStringList names;
-    for (const QDomElement &element : ChildElements(container))
-        names.append(byTag ? element.tagName() : element.attribute(words::Id));
-    return names;
+    return byTag ? childTags(container) : childIds(container);
 }
 
 bool exists(const ElementIndex &index, const QString &text, bool byTag)
@@ -68,6 +65,19 @@ bool exists(const ElementIndex &index, const QString &text, bool byTag)
 }
 
 } // namespace
+
+CableNames cabledoc::cableNamesIn(const QDomElement &cableList)
+{
+    return {childTags(cableList), childIds(cableList)};
+}
+
+QMap<QString, QStringList> cabledoc::cablesByTypeIn(const QDomElement &cableList)
+{
+    QMap<QString, QStringList> tags;
+    for (const QDomElement &cable : ChildElements(cableList))
+        tags[cable.attribute(words::Type)].append(cable.tagName());
+    return tags;
+}
 
 // Rebuilding
 
@@ -92,8 +102,7 @@ void JobEditor::updateAllInternalLists()
 
 void JobEditor::populateCurrentCablesLists()
 {
-    m_index->cableTags = namesIn(getToCableList(), true);
-    m_index->cableIds = namesIn(getToCableList(), false);
+    m_index->cables = cableNamesIn(getToCableList());
 }
 
 void JobEditor::populateCableMap()
@@ -103,9 +112,7 @@ void JobEditor::populateCableMap()
 
 void JobEditor::populateCableTypeMap()
 {
-    m_index->cablesOfType.clear();
-    for (const QDomElement &cable : ChildElements(getToCableList()))
-        m_index->cablesOfType[getChildAttr(words::Type, cable)].append(cable.tagName());
+    m_index->cablesOfType = cablesByTypeIn(getToCableList());
 }
 
 void JobEditor::populateConnectionMap()
@@ -301,11 +308,6 @@ QString JobEditor::getSheetTagById(const QString &id) const
     return (*m_index)[JobIndex::Sheets].tagOfId(id);
 }
 
-QStringList JobEditor::getCables(bool byTag) const
-{
-    return byTag ? m_index->cableTags : m_index->cableIds;
-}
-
 QStringList JobEditor::getConnections(bool byTag) const
 {
     return namesIn(getToConnectionList(), byTag);
@@ -354,11 +356,6 @@ QStringList JobEditor::getVertices(const QString &sheetTag, bool byTag) const
 QStringList JobEditor::getFreeTexts(const QString &sheetTag, bool byTag) const
 {
     return namesIn(getToFreeTextList(sheetTag), byTag);
-}
-
-QStringList JobEditor::getCablesByType(const QString &type) const
-{
-    return m_index->cablesOfType.value(type);
 }
 
 // Navigation
@@ -445,7 +442,7 @@ QDomElement JobEditor::roomElementById(const QString &floorTag, const QString &i
     return rooms == m_index->roomsOfFloor.cend() ? QDomElement() : rooms->element(id);
 }
 
-bool JobEditor::mayBeTag(const QString &tag)
+bool JobEditor::mayBeName(const QString &tag)
 {
     if (isXmlName(tag))
         return true;

@@ -7,8 +7,22 @@
 #include <QtCore/QStringList>
 
 #include <array>
+#include <optional>
 
 namespace cabledoc {
+
+/// The tags of all cables, and their ids.
+struct CableNames
+{
+    QStringList tags;
+    QStringList ids;
+
+    bool operator==(const CableNames &other) const { return tags == other.tags && ids == other.ids; }
+};
+
+CableNames cableNamesIn(const QDomElement &cableList);
+/// The tags of all cables by their type.
+QMap<QString, QStringList> cablesByTypeIn(const QDomElement &cableList);
 
 /// Everything that a job document knows beside its tree. All of it can be rebuilt from the tree.
 struct JobIndex
@@ -33,17 +47,21 @@ struct JobIndex
     ElementIndex &operator[](Kind kind) { return elements[kind]; }
     const ElementIndex &operator[](Kind kind) const { return elements[kind]; }
 
+    JobIndex() { elements[Cables] = ElementIndex(3); } // "Cable001"
+
     bool operator==(const JobIndex &other) const
     {
-        return elements == other.elements && roomsOfFloor == other.roomsOfFloor && cableTags == other.cableTags
-               && cableIds == other.cableIds && cablesOfType == other.cablesOfType;
+        return elements == other.elements && roomsOfFloor == other.roomsOfFloor && cables == other.cables
+               && cablesOfType == other.cablesOfType;
     }
 
     std::array<ElementIndex, KindCount> elements;
     QHash<QString, ContainerIndex> roomsOfFloor; ///< by floor tag: room ids are unique on a floor only
-    QStringList cableTags;                       ///< in document order
-    QStringList cableIds;                        ///< likewise
-    QMap<QString, QStringList> cablesOfType;     ///< cable tags in document order, by cable type
+
+    // Lists of cables, all in document order. A change of the cables drops them; the next question for them
+    // makes them anew, as costly as the answer. Adding or removing one cable does not cost all the others.
+    std::optional<CableNames> cables;
+    std::optional<QMap<QString, QStringList>> cablesOfType; ///< tags by cable type
 };
 
 } // namespace cabledoc

@@ -1,11 +1,11 @@
 #include "jobeditor.h"
 
 #include "addmode.h"
-#include "attributeorder.h"
 #include "bkutilities.h"
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
+#include "sharedattributes.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QFileInfo>
@@ -123,10 +123,10 @@ void JobEditor::create(double ceilingHeight)
     appendElement(words::Version, root).setAttribute(words::Number, words::CurrentVersion);
     const QDomElement contractor = appendElement(words::ContractorInfo, root);
     addEmptyAttributes(contractor, contractorInfoAttributes());
-    addEmptyAttributes(appendElement(words::Address, contractor), addressAttributes());
+    addressAttributes().write(appendElement(words::Address, contractor), AddressFields());
     const QDomElement site = appendElement(words::SiteInfo, root);
     addEmptyAttributes(site, siteInfoAttributes());
-    addEmptyAttributes(appendElement(words::Address, site), addressAttributes());
+    addressAttributes().write(appendElement(words::Address, site), AddressFields());
     appendElement(words::CableList, root);
     appendElement(words::ConnectionList, root);
     appendElement(words::FloorList, root);
@@ -187,6 +187,9 @@ bool JobEditor::Load(const QString &filename)
 
 void JobEditor::Unload()
 {
+    // The lists of cables stay, as all names do.
+    getCables(true);
+    getCablesByType(QString());
     m_document = QDomDocument(words::Job);
     for (ElementIndex &index : m_index->elements)
         index.forgetElements();

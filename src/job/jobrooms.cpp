@@ -5,23 +5,9 @@
 #include "jobindex.h"
 #include "jobwords.h"
 
-#include <algorithm>
-
 using namespace cabledoc;
 
 namespace {
-
-/// The number behind the last occurrence of the prefix; 0 when there is none.
-int numberAfter(const QString &prefix, const QString &text)
-{
-    const auto position = text.lastIndexOf(prefix);
-    if (position < 0)
-        return 0;
-    const QString number = text.mid(position + prefix.size());
-    const bool isDigits = std::all_of(number.cbegin(), number.cend(),
-                                      [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
-    return isDigits ? number.toInt() : 0;
-}
 
 Room undefinedRoom()
 {
@@ -42,7 +28,7 @@ QString JobEditor::addRoom(const QString &floorTag, int x, int y, int width, int
 
 QString JobEditor::addRoom(const Room &room, int mode)
 {
-    if (addmode::keepsTag(mode) && !mayBeTag(room.element()))
+    if (addmode::keepsTag(mode) && !mayBeName(room.element()))
         return QString();
     const QDomElement roomList = getToRoomList(room.floor());
     if (roomList.isNull())

@@ -10,7 +10,7 @@ using namespace cabledoc;
 QString JobEditor::addSheet(const QString &tag, const QString &id, int mode)
 {
     const QString badSheet = QStringLiteral("Bad Sheet");
-    if (addmode::keepsTag(mode) && !mayBeTag(tag))
+    if (addmode::keepsTag(mode) && !mayBeName(tag))
         return badSheet;
     const QDomElement sheetList = getElement(words::SheetList);
     if (sheetList.isNull())

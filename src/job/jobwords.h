@@ -31,6 +31,8 @@ inline const QString FreeTextList = QStringLiteral("FreeText_List");
 inline const QString FloorTagPrefix = QStringLiteral("FFloor_");
 inline const QString SheetTagPrefix = QStringLiteral("SSheet_");
 inline const QString RoomTagPrefix = QStringLiteral("Room");
+inline const QString CableTagPrefix = QStringLiteral("Cable");
+inline const QString ConnectionTagPrefix = QStringLiteral("Connection");
 
 /// Tag and id of the room that every floor has for what lies in no drawn room.
 inline const QString Undefined = QStringLiteral("Undefined");
@@ -53,9 +55,24 @@ inline const QString Layer = QStringLiteral("layer");
 inline const QString ShowName = QStringLiteral("show_name");
 inline const QString ShowDimensions = QStringLiteral("show_dimensions");
 
-// Attributes of cables
+// Attributes of cables and connections
+inline const QString Use = QStringLiteral("use");
 inline const QString To = QStringLiteral("to");
 inline const QString From = QStringLiteral("from");
 inline const QString Type = QStringLiteral("type");
+inline const QString BundleName = QStringLiteral("bundleName");
+inline const QString BundleNum = QStringLiteral("bundleNum");
+inline const QString BundleGroupNum = QStringLiteral("bundleGroupNum");
+inline const QString Path = QStringLiteral("path");
+
+// The results of a cable's test
+inline const QString TestResults = QStringLiteral("Test_Results");
+inline const QString Status = QStringLiteral("status");
+inline const QString SoftwareVersion = QStringLiteral("software_version");
+inline const QString Serial = QStringLiteral("serial");
+
+// Attributes of the site
+inline const QString Contact = QStringLiteral("contact");
+inline const QString JobID = QStringLiteral("jobid");
 
 } // namespace cabledoc::words

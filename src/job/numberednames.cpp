@@ -9,9 +9,9 @@ namespace {
 /// Numbers with more digits are no numbers that this program has given.
 constexpr int maximumDigits = 18;
 
-/// Calls use with each way to read the name as a prefix and a number without leading zeros: "B12" is
-/// "B" and 12, and "B1" and 2.
-template <typename Use> void forEachReading(const QString &name, Use use)
+/// Calls use with each way to read the name as a prefix and a number of that many digits, or of more without
+/// leading zeros: "B12" is "B" and 12, and with one digit "B1" and 2 too.
+template <typename Use> void forEachReading(const QString &name, int minimumDigits, Use use)
 {
     qint64 number = 0;
     qint64 placeValue = 1;
@@ -21,12 +21,23 @@ template <typename Use> void forEachReading(const QString &name, Use use)
             return;
         number += (character - u'0') * placeValue;
         placeValue *= 10;
-        if (character != u'0' || digits == 1)
+        if (digits == minimumDigits || (digits > minimumDigits && character != u'0'))
             use(name.left(name.size() - digits), number);
     }
 }
 
 } // namespace
+
+int numberAfter(const QString &prefix, const QString &name)
+{
+    const auto position = name.lastIndexOf(prefix);
+    if (position < 0)
+        return 0;
+    const QString number = name.mid(position + prefix.size());
+    const bool isDigits = std::all_of(number.cbegin(), number.cend(),
+                                      [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    return isDigits ? number.toInt() : 0;
+}
 
 void NumberSet::insert(qint64 number)
 {
@@ -75,11 +86,16 @@ qint64 NumberSet::firstFree(qint64 from) const
     return interval->second < from ? from : interval->second + 1;
 }
 
+QString NumberedNames::name(const QString &prefix, qint64 number) const
+{
+    return prefix + QString::number(number).rightJustified(m_digits, QLatin1Char('0'));
+}
+
 void NumberedNames::insert(const QString &name)
 {
     if (m_numbers.isEmpty())
         return;
-    forEachReading(name, [this](const QString &prefix, qint64 number) {
+    forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
         const auto numbers = m_numbers.find(prefix);
         if (numbers != m_numbers.end())
             numbers->insert(number);
@@ -90,7 +106,7 @@ void NumberedNames::remove(const QString &name)
 {
     if (m_numbers.isEmpty())
         return;
-    forEachReading(name, [this](const QString &prefix, qint64 number) {
+    forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
         const auto numbers = m_numbers.find(prefix);
         if (numbers != m_numbers.end())
             numbers->remove(number);
@@ -102,7 +118,7 @@ qint64 NumberedNames::firstFree(const QString &prefix, qint64 from, const Names 
     if (!m_numbers.contains(prefix)) {
         NumberSet numbers;
         names([&](const QString &name) {
-            forEachReading(name, [&](const QString &itsPrefix, qint64 number) {
+            forEachReading(name, m_digits, [&](const QString &itsPrefix, qint64 number) {
                 if (itsPrefix == prefix)
                     numbers.insert(number);
             });

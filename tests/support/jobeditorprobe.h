@@ -31,6 +31,9 @@ public:
     /// Whether the indexes equal what a rebuild makes of the tree. They are left as they are, not rebuilt.
     bool indexesMatchTheTree() const
     {
+        // These lists are made when they are asked for.
+        m_job.getCables(true);
+        m_job.getCablesByType(QString());
         const cabledoc::JobIndex kept = *m_job.m_index;
         m_job.updateAllInternalLists();
         const bool match = kept == *m_job.m_index;

@@ -126,5 +126,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ProgramTest)
+QTEST_GUILESS_MAIN(ProgramTest)
 #include "tst_program.moc"

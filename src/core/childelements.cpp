@@ -1,0 +1,32 @@
+#include "childelements.h"
+
+#include "words.h"
+
+namespace cabledoc {
+
+QStringList childTags(const QDomElement &parent)
+{
+    QStringList tags;
+    for (const QDomElement &child : ChildElements(parent))
+        tags.append(child.tagName());
+    return tags;
+}
+
+QStringList childIds(const QDomElement &parent)
+{
+    QStringList ids;
+    for (const QDomElement &child : ChildElements(parent))
+        ids.append(child.attribute(words::Id));
+    return ids;
+}
+
+QDomElement childWithId(const QDomElement &parent, const QString &id)
+{
+    for (const QDomElement &child : ChildElements(parent)) {
+        if (child.hasAttribute(words::Id) && child.attribute(words::Id) == id)
+            return child;
+    }
+    return QDomElement();
+}
+
+} // namespace cabledoc

@@ -1,0 +1,55 @@
+#include "bkxmleditor.h"
+
+#include "childelements.h"
+#include "sharedattributes.h"
+#include "words.h"
+
+using namespace cabledoc;
+
+TestDef BKXMLEditor::getTestDef(const QString &name) const
+{
+    const QDomElement element = childWithId(getToTestDefList(), name);
+    if (element.isNull())
+        return TestDef(name);
+    return TestDef(testDefAttributes().read(element));
+}
+
+void BKXMLEditor::addTestDef(const TestDef &definition)
+{
+    const QDomElement list = getToTestDefList();
+    if (list.isNull() || testDefExists(definition.id()))
+        return;
+    const QDomElement element = appendElement(firstFreeTag(list, words::TestDefTagPrefix), list);
+    testDefAttributes().write(element, definition.fields());
+    setDirty(true);
+}
+
+void BKXMLEditor::renameTestDef(const QString &oldName, const QString &newName)
+{
+    renameElement(childWithId(getToTestDefList(), oldName), newName);
+}
+
+void BKXMLEditor::removeTestDef(const QString &name)
+{
+    removeElement(childWithId(getToTestDefList(), name));
+}
+
+bool BKXMLEditor::testDefExists(const QString &name) const
+{
+    return !childWithId(getToTestDefList(), name).isNull();
+}
+
+bool BKXMLEditor::testDefElementExists(const QString &tag) const
+{
+    return hasChildElement(tag, getToTestDefList().firstChild());
+}
+
+QStringList BKXMLEditor::getTestDefElements() const
+{
+    return childTags(getToTestDefList());
+}
+
+QStringList BKXMLEditor::getTestDefNames() const
+{
+    return childIds(getToTestDefList());
+}

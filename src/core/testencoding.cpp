@@ -1,0 +1,201 @@
+#include "testencoding.h"
+
+#include <charconv>
+
+namespace cabledoc {
+
+namespace {
+
+constexpr int blockBytes = 48;
+
+/// Calls the two functions with each one-byte and each 32-bit field of a results block, in the order of
+/// its text form.
+template <typename Block, typename ByteUse, typename WordUse>
+void forEachField(Block *block, ByteUse useByte, WordUse useWord)
+{
+    const auto bytes = [&useByte](auto &fields) {
+        for (auto &field : fields)
+            useByte(field);
+    };
+    const auto words = [&useWord](auto &fields) {
+        for (auto &field : fields)
+            useWord(field);
+    };
+    bytes(block->flag_bytes);
+    words(block->word_group_a);
+    bytes(block->wire_map);
+    useByte(block->map_flag);
+    words(block->pair_length);
+    useByte(block->byte_c);
+    useByte(block->byte_d);
+    words(block->word_group_c);
+    words(block->word_group_d);
+}
+
+/// Only upper-case digits have their values. Files hold no others, and what others give must not change.
+int nibble(QChar character)
+{
+    const int code = character.unicode();
+    return code < ':' ? code - '0' : code - '7';
+}
+
+/// Reads the numbers of a curve one after the other, without a list of them.
+class NumberReader
+{
+public:
+    explicit NumberReader(const QString &text)
+        : m_position(text.constData())
+        , m_end(m_position + text.size())
+    {
+    }
+
+    bool atEnd() const { return m_isBehind; }
+
+    /// The number up to the next comma; 0 when it is none.
+    qint32 next()
+    {
+        const QChar *start = m_position;
+        const bool isNegative = m_position != m_end && *m_position == QLatin1Char('-');
+        if (isNegative)
+            ++m_position;
+        const QChar *digits = m_position;
+        qint64 number = 0;
+        while (m_position != m_end && m_position - digits < 18 && isDigit(*m_position)) {
+            number = number * 10 + (m_position->unicode() - u'0');
+            ++m_position;
+        }
+        if (m_position == digits || (m_position != m_end && *m_position != QLatin1Char(',')))
+            return oddNumber(start);
+        goBehindComma();
+        return qint32(isNegative ? -number : number);
+    }
+
+private:
+    static bool isDigit(QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('9'); }
+
+    /// Anything but a plain number: blanks, signs, more digits than any number needs, or nothing.
+    qint32 oddNumber(const QChar *start)
+    {
+        while (m_position != m_end && *m_position != QLatin1Char(','))
+            ++m_position;
+        const qint64 number = QString(start, int(m_position - start)).toLongLong();
+        goBehindComma();
+        return qint32(number);
+    }
+
+    void goBehindComma()
+    {
+        if (m_position == m_end)
+            m_isBehind = true;
+        else
+            ++m_position;
+    }
+
+    const QChar *m_position;
+    const QChar *m_end;
+    bool m_isBehind = false;
+};
+
+} // namespace
+
+QString toText(const cable_struct &block)
+{
+    const char digits[] = "0123456789ABCDEF";
+    std::array<char, 2 * blockBytes> text{};
+    auto next = text.begin();
+    const auto useByte = [&](quint8 value) {
+        *next++ = digits[value >> 4];
+        *next++ = digits[value & 0xF];
+    };
+    forEachField(&block, useByte, [&](qint32 value) {
+        useByte(quint8(quint32(value) >> 8));
+        useByte(quint8(value));
+    });
+    return QString::fromLatin1(text.data(), int(text.size()));
+}
+
+void fromText(const QString &text, cable_struct *block)
+{
+    *block = cable_struct::untested();
+    const QChar *next = text.constData();
+    const QChar *end = next + text.size();
+    const auto takeByte = [&next] {
+        const int high = nibble(*next++);
+        return quint8(high * 16 + nibble(*next++));
+    };
+    // What the text is too short for keeps its untested value.
+    forEachField(
+        block,
+        [&](quint8 &field) {
+            if (end - next >= 2)
+                field = takeByte();
+        },
+        [&](qint32 &field) {
+            if (end - next >= 4) {
+                const quint8 high = takeByte();
+                field = high * 256 + takeByte();
+            } else {
+                next = end;
+            }
+        });
+    // The lengths and the first group keep 65535, deliberately.
+    for (auto *group : {&block->word_group_c, &block->word_group_d}) {
+        for (qint32 &value : *group)
+            value = value > 65534 ? -1 : value;
+    }
+}
+
+QString toText(const TRUEPHY_PLOT_DATA &curve)
+{
+    if (curve.count != TRUEPHY_PLOT_DATA::sampleCount)
+        return QString();
+    constexpr int charactersOfNumber = 12; // "-2147483648,"
+    std::array<char, (2 * TRUEPHY_PLOT_DATA::sampleCount + 2) * charactersOfNumber> text;
+    char *next = text.data();
+    const auto write = [&](qint32 number) {
+        next = std::to_chars(next, next + charactersOfNumber, number).ptr;
+        *next++ = ',';
+    };
+    for (const qint32 sample : curve.plot_a)
+        write(sample);
+    for (const qint32 sample : curve.plot_b)
+        write(sample);
+    write(curve.count);
+    return QString::fromLatin1(text.data(), int(next - text.data()));
+}
+
+void fromText(const QString &text, TRUEPHY_PLOT_DATA *curve)
+{
+    *curve = {};
+    NumberReader reader(text);
+    for (auto *series : {&curve->plot_a, &curve->plot_b}) {
+        for (qint32 &sample : *series) {
+            if (reader.atEnd())
+                return;
+            sample = reader.next();
+        }
+    }
+    if (!reader.atEnd())
+        curve->count = reader.next();
+}
+
+QString toText(const std::array<bool, 4> &flags)
+{
+    QString text;
+    for (const bool flag : flags)
+        text += QLatin1Char(flag ? '1' : '0');
+    return text;
+}
+
+bool fromText(const QString &text, std::array<bool, 4> *flags)
+{
+    for (int i = 0; i < int(flags->size()); ++i) {
+        const QChar character = i < text.size() ? text.at(i) : QChar();
+        if (character != QLatin1Char('0') && character != QLatin1Char('1'))
+            return false;
+        (*flags)[i] = character == QLatin1Char('1');
+    }
+    return true;
+}
+
+} // namespace cabledoc

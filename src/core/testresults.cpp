@@ -1,0 +1,49 @@
+#include "testresults.h"
+
+TestResults::TestResults(const Fields &fields)
+    : Record(fields)
+{
+}
+
+TestResults::TestResults(const QString &time, const QString &status, const cable_struct &results, int bertErrors)
+    : TestResults(time, status, QString(), QString(), results, bertErrors)
+{
+    // Intended: the first argument does not survive.
+    m_fields.time.clear();
+}
+
+TestResults::TestResults(const QString &time, const QString &status, const QString &softwareVersion,
+                         const QString &serialNumber, const cable_struct &results, int bertErrors)
+{
+    m_fields.time = time;
+    m_fields.softwareVersion = softwareVersion;
+    m_fields.serialNumber = serialNumber;
+    m_fields.status = status;
+    m_fields.bertErrors = bertErrors;
+    m_fields.results = results;
+}
+
+void TestResults::initializeCableStruct()
+{
+    m_fields.results = cable_struct::untested();
+}
+
+void TestResults::initializeResponsePlotData()
+{
+    for (TRUEPHY_PLOT_DATA *curve : {&m_fields.next, &m_fields.echo, &m_fields.channel}) {
+        curve->plot_a.fill(0);
+        curve->plot_b.fill(0);
+        curve->count = 0;
+    }
+}
+
+int TestResults::cableLength() const
+{
+    constexpr int notMeasured = 60000;
+    int shortest = notMeasured;
+    for (const qint32 length : m_fields.results.pair_length) {
+        if (length > 0 && length < shortest)
+            shortest = length;
+    }
+    return shortest == notMeasured ? -1 : shortest;
+}

@@ -1,0 +1,372 @@
+#include "jobeditor.h"
+
+#include "addmode.h"
+#include "cable.h"
+#include "childelements.h"
+#include "jobattributes.h"
+#include "jobindex.h"
+#include "jobwords.h"
+#include "testdef.h"
+
+#include <QtCore/QSet>
+#include <QtGui/QColor>
+
+using namespace cabledoc;
+
+bool Cable::hasResponseData() const
+{
+    const TestResultsFields &results = m_fields.testResults.fields();
+    return results.next.count == TRUEPHY_PLOT_DATA::sampleCount || results.echo.count == TRUEPHY_PLOT_DATA::sampleCount
+           || results.channel.count == TRUEPHY_PLOT_DATA::sampleCount;
+}
+
+// Adding and removing
+
+QString JobEditor::addCable(const Cable &cable, int mode)
+{
+    if (addmode::keepsTag(mode) && !mayBeName(cable.tag()))
+        return QString();
+    const QDomElement list = getToCableList();
+    if (list.isNull())
+        return QString();
+    CableFields fields = cable.fields();
+    if (!addmode::keepsTag(mode))
+        fields.tag = newCableTag();
+    if (!addmode::keepsId(mode))
+        fields.id = newCableId();
+    if (!QColor(fields.color).isValid())
+        fields.color = getTestDef(fields.type).color();
+    // Intended: what is planned as a cable box is stored as television.
+    if (fields.use == tr("cable_box", "use name for Cable Box (Cblbx)"))
+        fields.use = tr("TV", "short for television");
+
+    const QDomElement element = appendElement(fields.tag, list);
+    cableAttributes().write(element, fields);
+    testResultsAttributes().write(appendElement(words::TestResults, element), fields.testResults.fields());
+    (*m_index)[JobIndex::Cables].append(element);
+    forgetCableLists();
+    setDirty(true);
+    return fields.id;
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, const QString &to,
+                            const QString &from, const QString &type, const QString &bundleName,
+                            const QString &bundleNum, const QString &bundleGroupNum, const QString &color,
+                            const QStringList &path, const TestResults &testResults, int mode)
+{
+    return addCable(
+        Cable(tag, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color), mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, const QString &to,
+                            const QString &from, const QString &type, const TestResults &testResults, int mode)
+{
+    return addCable(tag, id, use, to, from, type, QString(), QString(), QString(), QString(), QStringList(),
+                    testResults, mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, const QString &to,
+                            const QString &from, const QString &type, int mode)
+{
+    return addCable(tag, id, use, to, from, type, TestResults(), mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, const QString &to,
+                            const QString &from, int mode)
+{
+    return addCable(tag, id, use, to, from, QString(), mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, const QString &to, int mode)
+{
+    return addCable(tag, id, use, to, QString(), mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, const QString &use, int mode)
+{
+    return addCable(tag, id, use, QString(), mode);
+}
+
+QString JobEditor::addCable(const QString &tag, const QString &id, int mode)
+{
+    return addCable(tag, id, QString(), mode);
+}
+
+QString JobEditor::newCableTag() const
+{
+    ElementIndex &cables = (*m_index)[JobIndex::Cables];
+    const QString prefix = words::CableTagPrefix;
+    return prefix
+           + QString::number(cables.firstFreeTagNumber(prefix, numberAfter(prefix, cables.lastTag()) + qint64(1)));
+}
+
+QString JobEditor::newCableId() const
+{
+    ElementIndex &cables = (*m_index)[JobIndex::Cables];
+    const QString prefix = tr("Cable");
+    // The last in the order of the tags, deliberately, not the highest number.
+    const QString lastId = cables.id(cables.lastTagWithNumberedId(prefix));
+    return cables.numberedId(prefix, cables.firstFreeIdNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));
+}
+
+void JobEditor::removeCable(const QString &tag)
+{
+    const QDomElement cable = cableElement(tag);
+    (*m_index)[JobIndex::Cables].remove(cable);
+    forgetCableLists();
+    removeElement(cable);
+}
+
+void JobEditor::removeCable(const Cable &cable)
+{
+    removeCable(cable.tag());
+}
+
+void JobEditor::forgetCableLists()
+{
+    m_index->cables.reset();
+    m_index->cablesOfType.reset();
+}
+
+// Whole cables
+
+Cable JobEditor::getCable(const QString &tag)
+{
+    const QDomElement element = cableElement(tag);
+    if (element.isNull())
+        return Cable();
+    CableFields fields = cableAttributes().read(element);
+    fields.tag = tag;
+    fields.testResults = getCableTestResults(tag);
+    return Cable(fields);
+}
+
+Cable JobEditor::getCableById(const QString &id)
+{
+    return getCable((*m_index)[JobIndex::Cables].tagOfId(id));
+}
+
+QString JobEditor::getCableElement(const QString &tag) const
+{
+    return cableElement(tag).tagName();
+}
+
+QDomElement JobEditor::cableElement(const QString &tag) const
+{
+    return (*m_index)[JobIndex::Cables].element(tag);
+}
+
+// Single fields
+
+QString JobEditor::getCableID(const QString &tag) const
+{
+    return (*m_index)[JobIndex::Cables].id(tag);
+}
+
+QString JobEditor::getCableUse(const QString &tag) const
+{
+    return getChildAttr(words::Use, cableElement(tag));
+}
+
+QString JobEditor::getCableTo(const QString &tag) const
+{
+    return getChildAttr(words::To, cableElement(tag));
+}
+
+QString JobEditor::getCableFrom(const QString &tag) const
+{
+    return getChildAttr(words::From, cableElement(tag));
+}
+
+QString JobEditor::getCableType(const QString &tag) const
+{
+    return getChildAttr(words::Type, cableElement(tag));
+}
+
+QStringList JobEditor::getCablePath(const QString &tag) const
+{
+    QStringList path;
+    fromText(getChildAttr(words::Path, cableElement(tag)), &path);
+    return path;
+}
+
+QString JobEditor::getCableBundleName(const QString &tag) const
+{
+    return getChildAttr(words::BundleName, cableElement(tag));
+}
+
+QString JobEditor::getCableBundleNum(const QString &tag) const
+{
+    return getChildAttr(words::BundleNum, cableElement(tag));
+}
+
+QString JobEditor::getCableBundleGroupNum(const QString &tag) const
+{
+    return getChildAttr(words::BundleGroupNum, cableElement(tag));
+}
+
+QString JobEditor::getCableColor(const QString &tag) const
+{
+    return getChildAttr(words::Color, cableElement(tag));
+}
+
+bool JobEditor::getCableDefaultType(const QString &tag) const
+{
+    bool isDefault = false;
+    fromText(getChildAttr(words::DefaultType, cableElement(tag)), &isDefault);
+    return isDefault;
+}
+
+void JobEditor::setCableID(const QString &tag, const QString &id)
+{
+    const QDomElement cable = cableElement(tag);
+    changeAttribute(cable, words::Id, id);
+    (*m_index)[JobIndex::Cables].updateId(cable);
+    forgetCableLists();
+}
+
+void JobEditor::setCableUse(const QString &tag, const QString &use)
+{
+    changeAttribute(cableElement(tag), words::Use, use);
+}
+
+void JobEditor::setCableTo(const QString &tag, const QString &to)
+{
+    changeAttribute(cableElement(tag), words::To, to);
+}
+
+void JobEditor::setCableFrom(const QString &tag, const QString &from)
+{
+    changeAttribute(cableElement(tag), words::From, from);
+}
+
+void JobEditor::setCableType(const QString &tag, const QString &type)
+{
+    changeAttribute(cableElement(tag), words::Type, type);
+    forgetCableLists();
+}
+
+void JobEditor::setCablePath(const QString &tag, const QStringList &path)
+{
+    changeAttribute(cableElement(tag), words::Path, toText(path));
+}
+
+void JobEditor::setCableBundleName(const QString &tag, const QString &name)
+{
+    changeAttribute(cableElement(tag), words::BundleName, name);
+}
+
+void JobEditor::setCableBundleNum(const QString &tag, const QString &number)
+{
+    changeAttribute(cableElement(tag), words::BundleNum, number);
+}
+
+void JobEditor::setCableBundleGroupNum(const QString &tag, const QString &number)
+{
+    changeAttribute(cableElement(tag), words::BundleGroupNum, number);
+}
+
+void JobEditor::setCableColor(const QString &tag, const QString &color)
+{
+    changeAttribute(cableElement(tag), words::Color, color);
+}
+
+void JobEditor::setCableDefaultType(const QString &tag, bool isDefault)
+{
+    changeAttribute(cableElement(tag), words::DefaultType, toText(isDefault));
+}
+
+// Lists
+
+namespace {
+
+/// The tags of the cables that a condition holds for, in document order.
+template <typename Condition> QStringList cablesWhere(const QDomElement &cableList, Condition condition)
+{
+    QStringList tags;
+    for (const QDomElement &cable : ChildElements(cableList)) {
+        if (condition(cable))
+            tags.append(cable.tagName());
+    }
+    return tags;
+}
+
+QStringList cablesWith(const QDomElement &cableList, const QString &attribute, const QString &value)
+{
+    return cablesWhere(cableList, [&](const QDomElement &cable) {
+        return cable.hasAttribute(attribute) && cable.attribute(attribute) == value;
+    });
+}
+
+} // namespace
+
+QStringList JobEditor::getCables(bool byTag) const
+{
+    if (!m_index->cables)
+        m_index->cables = cableNamesIn(getToCableList());
+    return byTag ? m_index->cables->tags : m_index->cables->ids;
+}
+
+QStringList JobEditor::getCablesByType(const QString &type) const
+{
+    if (!m_index->cablesOfType)
+        m_index->cablesOfType = cablesByTypeIn(getToCableList());
+    return m_index->cablesOfType->value(type);
+}
+
+QStringList JobEditor::getCablesByUse(const QString &use) const
+{
+    return cablesWith(getToCableList(), words::Use, use);
+}
+
+QStringList JobEditor::getCablesByBundle(const QString &bundleName) const
+{
+    return cablesWith(getToCableList(), words::BundleName, bundleName);
+}
+
+QStringList JobEditor::getCablesByBundleGroup(const QString &bundleGroupNum) const
+{
+    return cablesWith(getToCableList(), words::BundleGroupNum, bundleGroupNum);
+}
+
+QStringList JobEditor::getCablesByPort(const QString &portTag) const
+{
+    return cablesEndingAt({portTag});
+}
+
+QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
+{
+    QSet<QString> ends;
+    for (const QDomElement &room : ChildElements(getToRoomList(floorTag))) {
+        for (const QString &containerName : {words::PortList, words::VerticalRunList}) {
+            for (const QDomElement &end : ChildElements(room.firstChildElement(containerName)))
+                ends.insert(end.tagName());
+        }
+    }
+    return cablesEndingAt(ends);
+}
+
+QStringList JobEditor::cablesEndingAt(const QSet<QString> &ends) const
+{
+    return cablesWhere(getToCableList(), [&ends](const QDomElement &cable) {
+        return ends.contains(cable.attribute(words::To)) || ends.contains(cable.attribute(words::From));
+    });
+}
+
+QStringList JobEditor::getCablesByStatus(const QString &status) const
+{
+    return cablesWhere(getToCableList(), [&status](const QDomElement &cable) {
+        const QDomElement results = cable.firstChildElement(words::TestResults);
+        return !results.isNull() && results.attribute(words::Status) == status;
+    });
+}
+
+bool JobEditor::cableIsInBundle(const QString &tag) const
+{
+    return !getCableBundleName(tag).isEmpty();
+}
+
+bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const
+{
+    return !getCablesByBundleGroup(bundleGroupNum).isEmpty();
+}

@@ -1,0 +1,238 @@
+#include "jobeditorprobe.h"
+
+#include "testdef.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+class JobCablesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+    void loadSite()
+    {
+        const QString name = m_directory.filePath("site.job");
+        writeFile(name, testData("site.job"));
+        QVERIFY(JobEditor::Instance().Load(name));
+    }
+
+private Q_SLOTS:
+    void init() { QVERIFY(JobEditor::Instance().New("site")); }
+    void cleanup() { JobEditor::Destroy(); }
+
+    void namesAreGenerated()
+    {
+        JobEditor &job = JobEditor::Instance();
+        QCOMPARE(job.addCable("T", "I", 0), QString("Cable001"));
+        QCOMPARE(job.getCableElement("Cable1"), QString("Cable1"));
+        QCOMPARE(job.addCable("T", "I", 1), QString("I"));
+        QCOMPARE(job.getCableID("Cable2"), QString("I"));
+        QCOMPARE(job.addCable("Mine", "I2", 2), QString("I2"));
+        QCOMPARE(job.addCable("Yours", "I3", 3), QString("Cable002"));
+        QCOMPARE(job.getCableID("Yours"), QString("Cable002"));
+        QCOMPARE(job.addCable("no name", "I4", 2), QString());
+        QCOMPARE(job.getCables(true).join(','), QString("Cable1,Cable2,Mine,Yours"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void namesFollowTheLastInStringOrder()
+    {
+        JobEditor &job = JobEditor::Instance();
+        job.addCable("Cable9", "Cable007", 2);
+        job.addCable("Cable10", "Cable020", 2);
+        // After "Cable9", the last tag: "Cable10" is taken. After its id: 8 is free.
+        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable008"));
+        QVERIFY(job.cableExists("Cable11", true));
+        job.removeCable("Cable9");
+        // The last tag is now "Cable11", whose id leads.
+        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable009"));
+        QVERIFY(job.cableExists("Cable12", true));
+        // Ids of another form do not lead, however late their tags, but are not given twice.
+        job.addCable("Cable99", "Cable1000", 2);
+        job.addCable("Cable98", "Cable999", 2);
+        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable1001"));
+        job.setCableID("Cable98", "Cable30");
+        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable010"));
+    }
+
+    void cablesAreStoredWhole()
+    {
+        JobEditor &job = JobEditor::Instance();
+        TestResults results("noon", "PASS", "1.2", "S", cable_struct::untested(), 4);
+        TRUEPHY_PLOT_DATA curve{};
+        curve.plot_a[1] = -5;
+        curve.count = 257;
+        results.setChannel(curve);
+        cable_struct block = cable_struct::untested();
+        block.word_group_a.fill(1);
+        block.pair_length.fill(2);
+        results.setResults(block);
+        Cable cable("C", "Id", "data", "P1", "P2", "CAT6", results, {"Point1", "Point2"}, "B", "1", "2", "#010203");
+        QCOMPARE(job.addCable(cable, 2), QString("Id"));
+        QVERIFY(job.getCable("C") == cable);
+        QVERIFY(job.getCableById("Id") == cable);
+        QVERIFY(cable.inBundle() && cable.hasResponseData());
+        QVERIFY(!Cable().inBundle() && !Cable().hasResponseData());
+        QCOMPARE(job.getCablePath("C"), cable.path());
+        QVERIFY(job.cableIsInBundle("C") && job.bundleGroupNumExists("2") && !job.bundleGroupNumExists("1"));
+    }
+
+    void coloursAndUses()
+    {
+        JobEditor &job = JobEditor::Instance();
+        TestDef definition("CAT6");
+        definition.setColor("#333333");
+        job.addTestDef(definition);
+        job.addCable("A", "A", "cable_box", "P1", "P2", "CAT6", 2);
+        QCOMPARE(job.getCableUse("A"), QString("TV"));
+        QCOMPARE(job.getCableColor("A"), QString("#333333"));
+        const TestResults untested;
+        job.addCable("B", "B", "data", "P1", "P2", "CAT6", "", "", "", "zz", QStringList(), untested, 2);
+        QCOMPARE(job.getCableColor("B"), QString("#333333"));
+        job.addCable("C", "C", "data", "P1", "P2", "none", "", "", "", "red", QStringList(), untested, 2);
+        QCOMPARE(job.getCableColor("C"), QString("red"));
+        QCOMPARE(job.getCablePath("C"), QStringList());
+    }
+
+    void singleFields()
+    {
+        using Get = QString (JobEditor::*)(const QString &) const;
+        using Set = void (JobEditor::*)(const QString &, const QString &);
+        struct Field
+        {
+            Get get;
+            Set set;
+        };
+        JobEditor &job = JobEditor::Instance();
+        job.addCable("C", "I", 2);
+        const QVector<Field> fields{{&JobEditor::getCableUse, &JobEditor::setCableUse},
+                                    {&JobEditor::getCableTo, &JobEditor::setCableTo},
+                                    {&JobEditor::getCableFrom, &JobEditor::setCableFrom},
+                                    {&JobEditor::getCableID, &JobEditor::setCableID},
+                                    {&JobEditor::getCableType, &JobEditor::setCableType},
+                                    {&JobEditor::getCableBundleName, &JobEditor::setCableBundleName},
+                                    {&JobEditor::getCableBundleNum, &JobEditor::setCableBundleNum},
+                                    {&JobEditor::getCableBundleGroupNum, &JobEditor::setCableBundleGroupNum},
+                                    {&JobEditor::getCableColor, &JobEditor::setCableColor}};
+        for (int i = 0; i < fields.size(); ++i) {
+            job.setDirty(false);
+            (job.*fields.at(i).set)("none", "x");
+            QVERIFY(!job.fileChanged());
+            (job.*fields.at(i).set)("C", QString::number(i));
+            QVERIFY(job.fileChanged());
+            QCOMPARE((job.*fields.at(i).get)("none"), QString());
+        }
+        for (int i = 0; i < fields.size(); ++i)
+            QCOMPARE((job.*fields.at(i).get)("C"), QString::number(i));
+        QCOMPARE(job.getCablesByType("4"), QStringList("C"));
+        QCOMPARE(job.getCables(false), QStringList("3"));
+        job.setCablePath("C", {"a", "b"});
+        QCOMPARE(job.getCablePath("C"), QStringList({"a", "b"}));
+        // A cable of an older program has the attribute; it is changed but never created.
+        job.setCableDefaultType("C", true);
+        QVERIFY(!job.getCableDefaultType("C"));
+        job.getToCableList().firstChildElement().setAttribute("default_type", "0");
+        job.setCableDefaultType("C", true);
+        QVERIFY(job.getCableDefaultType("C") && job.getCable("C").defaultType());
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void readingCompletesOlderResults()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        const QDomElement element = job.getToCableList().firstChildElement().firstChildElement();
+        TestResults results("now", "FAIL", "2", "S", cable_struct::untested(), 1);
+        job.setCableTestResults("Cable1", results);
+        // Only the version and the serial number are created by writing.
+        QCOMPARE(element.attributes().count(), 4);
+        QCOMPARE(element.attribute("serial"), QString("S"));
+        job.setDirty(false);
+        QCOMPARE(job.getCableTestResults("Cable1").BERTResults(), -1);
+        QVERIFY(job.fileChanged());
+        QCOMPARE(element.attributes().count(), 9);
+        QCOMPARE(element.attribute("data"), QString('F').repeated(96));
+        QCOMPARE(element.attribute("bert_errors") + element.attribute("echo"), QString("-1"));
+        job.setCableTestResults("Cable1", results);
+        QCOMPARE(job.getCableTestResults("Cable1").BERTResults(), 1);
+        QCOMPARE(job.getCable("Cable1").testResults().status(), QString("FAIL"));
+        // A cable without the element has default results and gets none.
+        job.setCableTestResults("Cable2", results);
+        QVERIFY(job.getCableTestResults("Cable2") == TestResults());
+    }
+
+    void lengths()
+    {
+        JobEditor &job = JobEditor::Instance();
+        TestDef definition("T");
+        definition.setLengthConstant(100);
+        job.addTestDef(definition);
+        definition = TestDef("Half");
+        definition.setLengthConstant(200);
+        job.addTestDef(definition);
+        TestResults results;
+        cable_struct block = cable_struct::untested();
+        block.pair_length = {328, 0, 0, 1};
+        results.setResults(block);
+        job.addCable("C", "C", "data", "P1", "P2", "T", results, 2);
+        QCOMPARE(job.getRoundedCableLength("C", 0, false), 328.0F);
+        QCOMPARE(job.getRoundedCableLength("C", 0, true), 100.0F);
+        QCOMPARE(job.getRoundedCableLength("C", 4, true), 0.0F);
+        block.pair_length[3] = 0;
+        results.setResults(block);
+        job.setCableTestResults("C", results);
+        QCOMPARE(job.getMaxRoundedCableLength("C", false, true), 328.0F);
+        QCOMPARE(job.getMaxRoundedCableLength("C", true, true), 99.0F);
+        QCOMPARE(job.getMaxRoundedCableLength("C", false, false), 328.0F);
+        job.setCableType("C", "Half");
+        QCOMPARE(job.getMaxRoundedCableLength("C", true, false), 50.0F);
+        QCOMPARE(job.getMaxRoundedCableLength("none", false, true), 0.0F);
+        QVERIFY(job.getMaxRoundedCableLength("C2", false, false) <= 0.0F);
+        job.setCableTestResults("C", TestResults());
+        QCOMPARE(job.getMaxRoundedCableLength("C", false, false), -0.5F);
+    }
+
+    void lists()
+    {
+        loadSite();
+        JobEditor &job = JobEditor::Instance();
+        QCOMPARE(job.getCablesByUse("data").join(','), QString("Cable1"));
+        QCOMPARE(job.getCablesByUse(QString()).join(','), QString());
+        QCOMPARE(job.getCablesByBundle("HTheatre").join(','), QString("Cable1"));
+        QCOMPARE(job.getCablesByBundleGroup("4").join(','), QString("Cable1"));
+        QCOMPARE(job.getCablesByPort("P3").join(','), QString("Cable2,Cable3"));
+        QCOMPARE(job.getCablesByPort("V1").join(','), QString("Cable2"));
+        QCOMPARE(job.getCablesByFloor("FFloor_1").join(','), QString("Cable1,Cable2"));
+        QCOMPARE(job.getCablesByStatus("PASS").join(','), QString("Cable1"));
+        job.removeCable("Cable2");
+        QCOMPARE(job.getCablesByPort("P3").join(','), QString("Cable3"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void connections()
+    {
+        JobEditor &job = JobEditor::Instance();
+        QCOMPARE(job.addConnection(QString(), "Link ", "D1", "D2", "3", 0), QString("Link 1"));
+        const DeviceConnection mine("Mine", "Uplink", "D2", "D3", "x");
+        QCOMPARE(job.addConnection(mine, 2), QString("Uplink"));
+        QVERIFY(job.getConnection("Mine") == mine);
+        QCOMPARE(job.getConnectionTagById("Link 1"), QString("Connection1"));
+        QCOMPARE(job.getConnectionType("Connection1"), 3);
+        QCOMPARE(job.getConnectionType("Mine"), 0);
+        job.setConnectionTo("Mine", "D7");
+        job.setConnectionFrom("Mine", "D8");
+        job.setConnectionType("Mine", "9");
+        QCOMPARE(job.getConnectionTo("Mine") + job.getConnectionFrom("Mine"), QString("D7D8"));
+        QCOMPARE(job.getConnectionType("Mine"), 9);
+        job.removeConnection("Connection1");
+        job.removeConnection("none");
+        QCOMPARE(job.getConnections(true), QStringList("Mine"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+};
+
+QTEST_APPLESS_MAIN(JobCablesTest)
+#include "tst_jobcables.moc"
