@@ -156,6 +156,8 @@ public:
     /// The id of a tag; empty when there is none.
     QString getFloorIdByTag(const QString &tag) const;
     QString getSheetIdByTag(const QString &tag) const;
+    QString getPortIdByTag(const QString &tag) const;
+    QString getVertRunIdByTag(const QString &tag) const;
     /// The first tag, in string order, that has the id; empty when there is none.
     QString getFloorTagById(const QString &id) const;
     QString getSheetTagById(const QString &id) const;
@@ -366,12 +368,14 @@ public:
     /// The results; a default record for an unknown cable. What an older file lacks but for status and time
     /// is added with its default.
     TestResults getCableTestResults(const QString &cableTag);
+    /// The status alone; empty for a cable without test results.
+    QString getCableStatus(const QString &cableTag) const;
     /// The measured length of a pair (0 to 3): its reading divided by the length constant, in pF per foot,
     /// of the type's test definition. To the nearest half metre (metric) or tenth of a foot. 0 for another
     /// pair. Reads, and may complete, the results.
     float getRoundedCableLength(const QString &cableTag, int pair, bool metric);
-    /// The measured length of the cable, that of its shortest measured pair, likewise; below zero when none
-    /// was measured. Uncorrected, the reading itself counts as feet: whole metres (metric, cut off) or feet,
+    /// The measured length of the cable, that of its shortest measured pair, likewise; when none was
+    /// measured, a reading of -1 counts, so that the length is no more than 0. Uncorrected, the reading itself counts as feet: whole metres (metric, cut off) or feet,
     /// 0 when none was measured.
     float getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected);
 

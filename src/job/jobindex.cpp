@@ -298,6 +298,16 @@ QString JobEditor::getSheetIdByTag(const QString &tag) const
     return (*m_index)[JobIndex::Sheets].id(tag);
 }
 
+QString JobEditor::getPortIdByTag(const QString &tag) const
+{
+    return (*m_index)[JobIndex::Ports].id(tag);
+}
+
+QString JobEditor::getVertRunIdByTag(const QString &tag) const
+{
+    return (*m_index)[JobIndex::VerticalRuns].id(tag);
+}
+
 QString JobEditor::getFloorTagById(const QString &id) const
 {
     return (*m_index)[JobIndex::Floors].tagOfId(id);

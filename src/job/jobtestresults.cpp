@@ -46,6 +46,11 @@ TestResults JobEditor::getCableTestResults(const QString &cableTag)
     return TestResults(testResultsAttributes().read(element));
 }
 
+QString JobEditor::getCableStatus(const QString &cableTag) const
+{
+    return getChildAttr(words::Status, cableElement(cableTag).firstChildElement(words::TestResults));
+}
+
 /// A length reading in feet, as the test definition of the cable's type says.
 float JobEditor::correctedLength(int reading, const QString &cableTag) const
 {

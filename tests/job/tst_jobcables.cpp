@@ -207,6 +207,8 @@ private Q_SLOTS:
         QCOMPARE(job.getCablesByPort("V1").join(','), QString("Cable2"));
         QCOMPARE(job.getCablesByFloor("FFloor_1").join(','), QString("Cable1,Cable2"));
         QCOMPARE(job.getCablesByStatus("PASS").join(','), QString("Cable1"));
+        QCOMPARE(job.getCableStatus("Cable1") + job.getCableStatus("Cable2"), QString("PASS"));
+        QCOMPARE(job.getPortIdByTag("P3") + job.getVertRunIdByTag("V1"), QString("Jack 1Riser"));
         job.removeCable("Cable2");
         QCOMPARE(job.getCablesByPort("P3").join(','), QString("Cable3"));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());

@@ -1,4 +1,6 @@
+#include "cable.h"
 #include "jobeditorprobe.h"
+#include "testdef.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -116,9 +118,90 @@ private:
         operations.at(number(int(operations.size())))();
     }
 
+    void addCable(JobEditor &job)
+    {
+        const int mode = number(5);
+        const QStringList tags = job.getCables(true);
+        // Of cables that share a tag the first counts, and so does its id.
+        QStringList ids;
+        for (const QString &tag : tags)
+            ids.append(job.getCableID(tag));
+        TestResults results;
+        results.setStatus(someId());
+        Cable cable(someTag(tags), someId(), someId(), someTag(portsOf(job)), someTag(portsOf(job)), someId(), results,
+                    {someId()}, someId(), someId(), someId(), someId());
+        const QString id = job.addCable(cable, mode);
+        if (job.getCables(true).size() == tags.size())
+            return;
+        const QString tag = job.getCables(true).constLast();
+        QCOMPARE(job.getCables(false).constLast(), id);
+        if (mode != 1 && mode != 2)
+            QVERIFY2(!ids.contains(id) && QRegularExpression("^Cable[0-9]{3,}$").match(id).hasMatch(), qPrintable(id));
+        if (mode == 2 || mode == 3)
+            QCOMPARE(tag, cable.tag());
+        else
+            QVERIFY2(!tags.contains(tag) && tag.startsWith("Cable"), qPrintable(tag));
+    }
+
+    static QStringList portsOf(JobEditor &job)
+    {
+        QStringList ports;
+        const QStringList floors = job.getFloorTags();
+        for (const QString &floor : floors) {
+            const QStringList rooms = job.getRooms(floor, true);
+            for (const QString &room : rooms)
+                ports += job.getPorts(floor, room, true) + job.getVertRuns(floor, room, true);
+        }
+        return ports;
+    }
+
+    void changeCable(JobEditor &job)
+    {
+        const QString cable = someTag(job.getCables(true));
+        const QString connection = someTag(job.getConnections(true));
+        const QVector<std::function<void()>> operations{
+            [&] { job.setCableID(cable, someId()); },
+            [&] { job.setCableID(cable, QString("Cable%1").arg(number(20), 3, 10, QChar('0'))); },
+            [&] { job.setCableType(cable, someId()); },
+            [&] { job.setCableUse(cable, someId()); },
+            [&] { job.setCableTo(cable, someTag(portsOf(job))); },
+            [&] {
+                job.setCablePath(cable, {someId(), someId()});
+            },
+            [&] { job.setCableTestResults(cable, TestResults(QString(), someId(), cable_struct::untested(), 1)); },
+            [&] { job.getCableTestResults(cable); },
+            [&] { job.removeCable(cable); },
+            [&] { job.removeCable(cable); },
+            [&] { job.addConnection(connection, someId(), "D1", "D2", "1", number(5)); },
+            [&] { job.setConnectionTo(connection, someId()); },
+            [&] { job.removeConnection(connection); },
+        };
+        operations.at(number(int(operations.size())))();
+    }
+
+    void changeContents(JobEditor &job)
+    {
+        const QString definition = number(2) == 0 ? someId() : oneOf(job.getTestDefNames());
+        const QString bundle = number(2) == 0 ? someId() : oneOf(job.getBundledCableTypeIds());
+        const QVector<std::function<void()>> operations{
+            [&] { job.addTestDef(TestDef(definition)); },
+            [&] { job.renameTestDef(definition, someId()); },
+            [&] { job.removeTestDef(definition); },
+            [&] {
+                job.addBundledCableType(bundle, {someId(), someId()}, "red", true);
+            },
+            [&] { job.renameBundledCableType(bundle, someId()); },
+            [&] { job.removeBundledCableTypeByTag(job.getBundledCableTypeTagById(bundle)); },
+            [&] { job.addRelease(someTag({"plan"}), someId()); },
+            [&] { job.removeRelease(someTag({"plan"})); },
+            [&] { job.setJobNotesText(someId()); },
+        };
+        operations.at(number(int(operations.size())))();
+    }
+
     void step(JobEditor &job)
     {
-        switch (number(8)) {
+        switch (number(14)) {
         case 0:
             addFloorOrSheet(job);
             break;
@@ -129,6 +212,17 @@ private:
             break;
         case 4:
             changeFloorOrSheet(job);
+            break;
+        case 5:
+        case 6:
+            addCable(job);
+            break;
+        case 7:
+        case 8:
+            changeCable(job);
+            break;
+        case 9:
+            changeContents(job);
             break;
         default:
             changeRoom(job);

@@ -51,6 +51,23 @@ private Q_SLOTS:
         QCOMPARE(m_messages, QByteArray());
     }
 
+    void cables()
+    {
+        const QString site = CABLEDOC_TEST_DATA "/site.job";
+        QCOMPARE(run({"cables", site}), 0);
+        QCOMPARE(m_output, QByteArray("Cable     Type   Use   From    To      Status  Length (ft)\n"
+                                      "Cable001  CAT5E  data  Jack 2  Jack 1  PASS\n"
+                                      "Cable002  CAT6         Riser   Jack 1\n"
+                                      "Cable003  CAT5E        P9      Jack 1\n"));
+        QCOMPARE(run({"cables", site, "--metric", "--json"}), 0);
+        const QJsonObject object = QJsonDocument::fromJson(m_output).object();
+        QCOMPARE(object.value("lengthUnit").toString(), QString("m"));
+        QCOMPARE(object.value("cables").toArray().size(), 3);
+        QVERIFY(object.value("cables").toArray().at(0).toObject().value("length").isNull());
+        QCOMPARE(run({"info", site}), 0);
+        QVERIFY2(m_output.contains("PASS              1\n"), m_output.constData());
+    }
+
     void newReplacesNothing()
     {
         QFile file(path("there.job"));

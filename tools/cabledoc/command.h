@@ -48,3 +48,4 @@ ExitCode printData(const QByteArray &data);
 // The commands. Each takes the words behind the program's name and returns how the program ends.
 ExitCode runNew(const QStringList &arguments);
 ExitCode runInfo(const QStringList &arguments);
+ExitCode runCables(const QStringList &arguments);

@@ -15,13 +15,6 @@ struct Info
     Q_DECLARE_TR_FUNCTIONS(Info)
 };
 
-/// A JSON key and the heading of its column in a table.
-struct Column
-{
-    QString key;
-    QString heading;
-};
-
 QJsonObject describeFloor(JobEditor &job, const QString &tag)
 {
     const Floor floor = job.getFloor(tag);
@@ -64,31 +57,31 @@ QJsonObject describeJob(JobEditor &job)
     const QStringList sheetTags = job.getSheetTags();
     for (const QString &tag : sheetTags)
         sheets.append(describeSheet(job, tag));
+    const QStringList cables = job.getCables(true);
+    QMap<QString, int> cablesOfStatus;
+    for (const QString &cable : cables)
+        ++cablesOfStatus[job.getCableStatus(cable)];
+    QJsonArray statuses;
+    for (auto status = cablesOfStatus.cbegin(); status != cablesOfStatus.cend(); ++status)
+        statuses.append(
+            QJsonObject{{QStringLiteral("status"), status.key()}, {QStringLiteral("cables"), status.value()}});
     return {{QStringLiteral("file"), job.filename()},
             {QStringLiteral("floors"), floors},
             {QStringLiteral("sheets"), sheets},
-            {QStringLiteral("cables"), int(job.getCables(true).size())},
+            {QStringLiteral("cables"), int(cables.size())},
+            {QStringLiteral("cablesByStatus"), statuses},
             {QStringLiteral("connections"), int(job.getConnections(true).size())},
             {QStringLiteral("activePorts"), int(job.getActivePorts(true).size())}};
 }
 
-QString tableOf(const QJsonArray &objects, const QVector<Column> &columns)
-{
-    QStringList headings;
-    for (const Column &column : columns)
-        headings.append(column.heading);
-    QVector<QStringList> rows{headings};
-    for (const QJsonValue object : objects) {
-        QStringList row;
-        for (const Column &column : columns)
-            row.append(object.toObject().value(column.key).toVariant().toString());
-        rows.append(row);
-    }
-    return formatTable(rows);
-}
-
 QString tablesOf(const QJsonObject &job)
 {
+    const QJsonArray statuses = job.value(QStringLiteral("cablesByStatus")).toArray();
+    const QString statusTable = statuses.isEmpty()
+                                    ? QString()
+                                    : tableOf(statuses, {{QStringLiteral("status"), Info::tr("Test status")},
+                                                         {QStringLiteral("cables"), Info::tr("Cables")}})
+                                          + QLatin1Char('\n');
     return tableOf(job.value(QStringLiteral("floors")).toArray(),
                    {{QStringLiteral("id"), Info::tr("Floor")},
                     {QStringLiteral("tag"), Info::tr("Tag")},
@@ -104,7 +97,7 @@ QString tablesOf(const QJsonObject &job)
                                                                      {QStringLiteral("devices"), Info::tr("Devices")},
                                                                      {QStringLiteral("points"), Info::tr("Points")},
                                                                      {QStringLiteral("texts"), Info::tr("Texts")}})
-           + QLatin1Char('\n')
+           + QLatin1Char('\n') + statusTable
            + tableOf({job}, {{QStringLiteral("cables"), Info::tr("Cables")},
                              {QStringLiteral("connections"), Info::tr("Connections")},
                              {QStringLiteral("activePorts"), Info::tr("Active ports")}});

@@ -13,8 +13,9 @@ QString usage()
         "main", "Usage: cabledoc COMMAND ...\n"
                 "\n"
                 "Commands:\n"
-                "  new FILE.job [--floors N]  make a new job file\n"
-                "  info FILE.job [--json]     show what a job file holds\n"
+                "  new FILE.job [--floors N]             make a new job file\n"
+                "  info FILE.job [--json]                show what a job file holds\n"
+                "  cables FILE.job [--metric] [--json]   list the cables with their tests\n"
                 "\n"
                 "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
                 "\n"
@@ -43,6 +44,8 @@ ExitCode run(QStringList arguments)
         return runNew(arguments);
     if (command == QLatin1String("info"))
         return runInfo(arguments);
+    if (command == QLatin1String("cables"))
+        return runCables(arguments);
     printMessage(QCoreApplication::translate("main", "there is no command \"%1\"").arg(command));
     printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
     return WrongUsage;

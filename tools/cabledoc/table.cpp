@@ -1,17 +1,24 @@
 #include "table.h"
 
+#include <QtCore/QJsonObject>
+#include <QtCore/QVariant>
+
 #include <algorithm>
 
 namespace {
 
-/// Whether all cells of the column below the heading are numbers.
+/// Whether all cells of the column below the heading are numbers or empty, and not all of them empty.
 bool isNumeric(const QVector<QStringList> &rows, int column)
 {
-    return std::all_of(rows.cbegin() + 1, rows.cend(), [column](const QStringList &row) {
+    bool isFilled = false;
+    const bool isClean = std::all_of(rows.cbegin() + 1, rows.cend(), [&](const QStringList &row) {
+        const QString &cell = row.at(column);
         bool isNumber = false;
-        row.at(column).toDouble(&isNumber);
-        return isNumber;
+        cell.toDouble(&isNumber);
+        isFilled = isFilled || isNumber;
+        return isNumber || cell.isEmpty();
     });
+    return isClean && isFilled;
 }
 
 } // namespace
@@ -44,4 +51,19 @@ QString formatTable(const QVector<QStringList> &rows)
         text += line + QLatin1Char('\n');
     }
     return text;
+}
+
+QString tableOf(const QJsonArray &objects, const QVector<Column> &columns)
+{
+    QStringList headings;
+    for (const Column &column : columns)
+        headings.append(column.heading);
+    QVector<QStringList> rows{headings};
+    for (const QJsonValue object : objects) {
+        QStringList row;
+        for (const Column &column : columns)
+            row.append(object.toObject().value(column.key).toVariant().toString());
+        rows.append(row);
+    }
+    return formatTable(rows);
 }
