@@ -18,9 +18,11 @@ install_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
 
-# prepare_build PRESET QT_MAJOR: installs what the build needs, configures and builds. Sets build_dir.
+# prepare_build PRESET QT_MAJOR [OPTION...]: installs what the build needs, configures, with further options for
+# CMake, and builds. Sets build_dir.
 prepare_build() {
     local preset=$1 qt=$2
+    shift 2
     case $qt in
         6) install_packages g++ cmake ninja-build qt6-base-dev ;;
         5) install_packages g++ cmake ninja-build qtbase5-dev ;;
@@ -30,6 +32,6 @@ prepare_build() {
     say "building in $build_dir (preset $preset, Qt $qt)"
     # On the integration machine a warning is an error.
     cmake --preset "$preset" -B "$build_dir" -DCABLEDOC_QT_MAJOR="$qt" \
-        -DCMAKE_COMPILE_WARNING_AS_ERROR="${CI:+ON}" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; return 1; }
+        -DCMAKE_COMPILE_WARNING_AS_ERROR="${CI:+ON}" "$@" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; return 1; }
     cmake --build "$build_dir" >&2
 }

@@ -1,7 +1,6 @@
 // Opens a job, names its floors, draws the same rooms on each of them, and saves it.
 
 #include <cabledoc/jobeditor.h>
-#include <cabledoc/scalesettings.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRect>

@@ -1,19 +1,17 @@
 #pragma once
 
+#include "bundledcable.h"
 #include "cabledoc_export.h"
+#include "contractordata.h"
+#include "pagesettings.h"
+#include "printsettings.h"
+#include "scalesettings.h"
 #include "testdata.h"
+#include "testdef.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 #include <QtXml/QDomDocument>
-
-class Address;
-class BundledCable;
-class ContractorData;
-class PageSettings;
-class PrintSettings;
-class ScaleSettings;
-class TestDef;
 
 namespace cabledoc::xmlfile {
 struct AttributeOrder;

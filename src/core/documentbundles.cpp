@@ -1,7 +1,6 @@
 #include "bkxmleditor.h"
 
 #include "attributetext.h"
-#include "bundledcable.h"
 #include "childelements.h"
 #include "words.h"
 

@@ -1,6 +1,5 @@
 #include "bkxmleditor.h"
 
-#include "contractordata.h"
 #include "sharedattributes.h"
 #include "words.h"
 

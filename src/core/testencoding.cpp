@@ -55,25 +55,24 @@ public:
     qint32 next()
     {
         const QChar *start = m_position;
-        const bool isNegative = m_position != m_end && *m_position == QLatin1Char('-');
-        if (isNegative)
-            ++m_position;
-        const QChar *digits = m_position;
-        qint64 number = 0;
-        while (m_position != m_end && m_position - digits < 18 && isDigit(*m_position)) {
-            number = number * 10 + (m_position->unicode() - u'0');
-            ++m_position;
-        }
-        if (m_position == digits || (m_position != m_end && *m_position != QLatin1Char(',')))
+        const QChar *digits = start != m_end && *start == QLatin1Char('-') ? start + 1 : start;
+        const QChar *position = digits;
+        quint32 number = 0;
+        for (; position != m_end && isDigit(*position); ++position)
+            number = number * 10 + (position->unicode() - u'0');
+        const bool isPlain =
+            position != digits && position - digits <= 9 && (position == m_end || *position == QLatin1Char(','));
+        if (!isPlain)
             return oddNumber(start);
+        m_position = position;
         goBehindComma();
-        return qint32(isNegative ? -number : number);
+        return digits == start ? qint32(number) : -qint32(number);
     }
 
 private:
-    static bool isDigit(QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('9'); }
+    static bool isDigit(QChar character) { return unsigned(character.unicode()) - u'0' <= 9U; }
 
-    /// Anything but a plain number: blanks, signs, more digits than any number needs, or nothing.
+    /// Anything but up to nine digits with or without a minus: more digits, blanks, other signs, or nothing.
     qint32 oddNumber(const QChar *start)
     {
         while (m_position != m_end && *m_position != QLatin1Char(','))

@@ -7,6 +7,7 @@
 #include <QtXml/QDomProcessingInstruction>
 
 #include <algorithm>
+#include <array>
 
 namespace cabledoc::xmlfile {
 
@@ -17,6 +18,57 @@ enum class Escape {
     Text,
     AttributeValue,
 };
+
+/// What a character must be written as; null when it can stand as it is, or cannot be written at all.
+constexpr const char *reference(char16_t character, Escape escape)
+{
+    switch (character) {
+    case u'&':
+        return escape == Escape::Nothing ? nullptr : "&amp;";
+    case u'<':
+        return escape == Escape::Nothing ? nullptr : "&lt;";
+    case u'>':
+        return escape == Escape::Nothing ? nullptr : "&gt;";
+    case u'\r':
+        return escape == Escape::Nothing ? nullptr : "&#13;";
+    case u'"':
+        return escape == Escape::AttributeValue ? "&quot;" : nullptr;
+    // As they stand in a value the parser would make blanks of them.
+    case u'\t':
+        return escape == Escape::AttributeValue ? "&#9;" : nullptr;
+    case u'\n':
+        return escape == Escape::AttributeValue ? "&#10;" : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
+using PlainCharacters = std::array<bool, 256>;
+
+/// Which of the Latin-1 characters can stand as they are.
+template <Escape escape> constexpr PlainCharacters makePlainCharacters()
+{
+    PlainCharacters isPlain{};
+    for (char16_t character = 0; character < isPlain.size(); ++character)
+        isPlain[character] = isStorable(character) && reference(character, escape) == nullptr;
+    return isPlain;
+}
+
+const PlainCharacters &plainCharacters(Escape escape)
+{
+    static constexpr PlainCharacters inNothing = makePlainCharacters<Escape::Nothing>();
+    static constexpr PlainCharacters inText = makePlainCharacters<Escape::Text>();
+    static constexpr PlainCharacters inValue = makePlainCharacters<Escape::AttributeValue>();
+    switch (escape) {
+    case Escape::Text:
+        return inText;
+    case Escape::AttributeValue:
+        return inValue;
+    case Escape::Nothing:
+        break;
+    }
+    return inNothing;
+}
 
 bool isCharacterData(const QDomNode &node)
 {
@@ -217,43 +269,34 @@ private:
 
     void append(const QString &text, Escape escape)
     {
-        for (auto character = text.cbegin(); character != text.cend(); ++character) {
-            const char16_t code = character->unicode();
-            if (const char *escaped = reference(code, escape)) {
+        const PlainCharacters &isPlain = plainCharacters(escape);
+        const auto *next = reinterpret_cast<const char16_t *>(text.utf16());
+        const char16_t *end = next + text.size();
+        while (next != end) {
+            const char16_t *runEnd = std::find_if_not(
+                next, end, [&isPlain](char16_t character) { return character < isPlain.size() && isPlain[character]; });
+            appendPlain(next, runEnd);
+            next = runEnd;
+            if (next == end)
+                return;
+            if (const char *escaped = reference(*next, escape)) {
                 m_text.bytes += escaped;
-            } else if (isStorable(code)) {
-                m_text.bytes += char(code);
             } else {
-                if (character->isHighSurrogate() && character + 1 != text.cend() && character[1].isLowSurrogate())
-                    ++character;
+                if (QChar::isHighSurrogate(*next) && next + 1 != end && QChar::isLowSurrogate(next[1]))
+                    ++next;
                 m_text.bytes += '?';
                 ++m_text.replacedCharacters;
             }
+            ++next;
         }
     }
 
-    /// What a character must be written as; null when it can stand as it is.
-    static const char *reference(char16_t character, Escape escape)
+    /// Appends characters that are the same in Latin-1, all at once.
+    void appendPlain(const char16_t *begin, const char16_t *end)
     {
-        switch (character) {
-        case u'&':
-            return escape == Escape::Nothing ? nullptr : "&amp;";
-        case u'<':
-            return escape == Escape::Nothing ? nullptr : "&lt;";
-        case u'>':
-            return escape == Escape::Nothing ? nullptr : "&gt;";
-        case u'\r':
-            return escape == Escape::Nothing ? nullptr : "&#13;";
-        case u'"':
-            return escape == Escape::AttributeValue ? "&quot;" : nullptr;
-        // As they stand in a value the parser would make blanks of them.
-        case u'\t':
-            return escape == Escape::AttributeValue ? "&#9;" : nullptr;
-        case u'\n':
-            return escape == Escape::AttributeValue ? "&#10;" : nullptr;
-        default:
-            return nullptr;
-        }
+        const auto size = m_text.bytes.size();
+        m_text.bytes.resize(size + int(end - begin));
+        std::transform(begin, end, m_text.bytes.data() + size, [](char16_t character) { return char(character); });
     }
 
     const AttributeOrder &m_order;

@@ -1,12 +1,10 @@
 #include "jobeditor.h"
 
 #include "addmode.h"
-#include "cable.h"
 #include "childelements.h"
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
-#include "testdef.h"
 
 #include <QtCore/QSet>
 #include <QtGui/QColor>

@@ -1,7 +1,6 @@
 #include "jobeditor.h"
 
 #include "addmode.h"
-#include "deviceconnection.h"
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "bkxmleditor.h"
+#include "cable.h"
 #include "cabledoc_export.h"
+#include "deviceconnection.h"
 #include "floor.h"
 #include "room.h"
 #include "sheet.h"
+#include "sitedata.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
@@ -12,12 +15,6 @@
 #include <QtCore/QStringList>
 
 #include <memory>
-
-class Address;
-class Cable;
-class DeviceConnection;
-class SiteData;
-class TestResults;
 
 namespace cabledoc {
 struct JobIndex;
@@ -375,8 +372,8 @@ public:
     /// pair. Reads, and may complete, the results.
     float getRoundedCableLength(const QString &cableTag, int pair, bool metric);
     /// The measured length of the cable, that of its shortest measured pair, likewise; when none was
-    /// measured, a reading of -1 counts, so that the length is no more than 0. Uncorrected, the reading itself counts as feet: whole metres (metric, cut off) or feet,
-    /// 0 when none was measured.
+    /// measured, a reading of -1 counts, so that the length is no more than 0. Uncorrected, the reading itself counts
+    /// as feet: whole metres (metric, cut off) or feet, 0 when none was measured.
     float getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected);
 
     // Connections of devices

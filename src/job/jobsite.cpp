@@ -1,8 +1,6 @@
 #include "jobeditor.h"
 
-#include "contractordata.h"
 #include "jobwords.h"
-#include "sitedata.h"
 #include "xmlnames.h"
 #include "xmlscan.h"
 

@@ -3,7 +3,6 @@
 #include "bkutilities.h"
 #include "jobattributes.h"
 #include "jobwords.h"
-#include "testdef.h"
 
 #include <cmath>
 

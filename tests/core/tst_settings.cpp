@@ -1,7 +1,4 @@
 #include "bkxmleditor.h"
-#include "pagesettings.h"
-#include "printsettings.h"
-#include "scalesettings.h"
 
 #include <QtTest/QtTest>
 

@@ -1,6 +1,5 @@
 #include "jobeditorprobe.h"
 
-#include "testdef.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>

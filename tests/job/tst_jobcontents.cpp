@@ -1,8 +1,4 @@
-#include "bundledcable.h"
-#include "contractordata.h"
 #include "jobeditorprobe.h"
-#include "sitedata.h"
-#include "testdef.h"
 
 #include <QtTest/QtTest>
 

@@ -1,6 +1,4 @@
-#include "cable.h"
 #include "jobeditorprobe.h"
-#include "testdef.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>

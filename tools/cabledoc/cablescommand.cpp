@@ -2,7 +2,6 @@
 #include "table.h"
 
 #include <cabledoc/jobeditor.h>
-#include <cabledoc/testresults.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>

@@ -1,0 +1,133 @@
+// What one operation on one cable costs in jobs of 1,000 and of 100,000 cables, and what it costs to walk to
+// the cable from sibling to sibling.
+
+#include "ratios.h"
+
+#include <cabledoc/jobeditor.h>
+
+#include <QtCore/QVector>
+
+#include <random>
+
+namespace {
+
+constexpr int smallJob = 1000;
+constexpr int bigJob = 100000;
+
+/// Makes the one job hold that many cables; the ids run past three digits in both.
+void prepare(int cables)
+{
+    static int prepared = 0;
+    if (prepared == cables)
+        return;
+    prepared = cables;
+    JobEditor::Destroy();
+    JobEditor &job = JobEditor::Instance();
+    job.New(QStringLiteral("bench.job"));
+    for (int i = 0; i < cables; ++i)
+        job.addCable(QString(), QString(), QStringLiteral("data"), QStringLiteral("P1"), QStringLiteral("P2"), 0);
+}
+
+/// Tags and ids of cables all over the job, the same number for each size.
+QVector<QString> someCables(bool byTag)
+{
+    const QStringList names = JobEditor::Instance().getCables(byTag);
+    std::mt19937 random(1);
+    QVector<QString> some;
+    for (int i = 0; i < smallJob; ++i)
+        some.append(names.at(int(random() % unsigned(names.size()))));
+    return some;
+}
+
+/// Calls the operation with one cable after the other.
+template <typename Operation> void measure(benchmark::State &state, bool byTag, Operation operation)
+{
+    prepare(int(state.range(0)));
+    JobEditor &job = JobEditor::Instance();
+    const QVector<QString> cables = someCables(byTag);
+    int next = 0;
+    for (auto _ : state) {
+        operation(job, cables.at(next));
+        next = (next + 1) % int(cables.size());
+    }
+}
+
+void addAndRemove(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &) {
+        const QString id = job.addCable(QString(), QString(), QStringLiteral("data"), 0);
+        job.removeCable(job.getCableById(id));
+    });
+}
+
+void removeAndAddAgain(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &tag) {
+        const QString id = job.getCableID(tag);
+        job.removeCable(tag);
+        job.addCable(tag, id, QStringLiteral("data"), 2);
+    });
+}
+
+void findByTag(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &tag) { benchmark::DoNotOptimize(job.getCableUse(tag)); });
+}
+
+void findById(benchmark::State &state)
+{
+    measure(state, false,
+            [](JobEditor &job, const QString &id) { benchmark::DoNotOptimize(job.cableExists(id, false)); });
+}
+
+void readById(benchmark::State &state)
+{
+    measure(state, false,
+            [](JobEditor &job, const QString &id) { benchmark::DoNotOptimize(job.getCableById(id).tag()); });
+}
+
+void change(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &tag) { job.setCableColor(tag, QStringLiteral("#112233")); });
+}
+
+void rename(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &tag) { job.setCableID(tag, job.getCableID(tag)); });
+}
+
+void siblingWalk(benchmark::State &state)
+{
+    measure(state, true, [](JobEditor &job, const QString &tag) {
+        QDomElement cable = job.getToCableList().firstChildElement();
+        while (cable.tagName() != tag)
+            cable = cable.nextSiblingElement();
+        benchmark::DoNotOptimize(cable.attribute(QStringLiteral("use")));
+    });
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::vector<std::pair<std::string, void (*)(benchmark::State &)>> operations{
+        {"addAndRemove", addAndRemove},
+        {"removeAndAddAgain", removeAndAddAgain},
+        {"findByTag", findByTag},
+        {"findById", findById},
+        {"readById", readById},
+        {"change", change},
+        {"rename", rename},
+        {"siblingWalk", siblingWalk},
+    };
+    std::vector<Ratio> ratios;
+    // One size after the other: preparing a job takes longer than measuring in it.
+    for (const int cables : {smallJob, bigJob}) {
+        for (const auto &[name, operation] : operations)
+            benchmark::RegisterBenchmark(name.c_str(), operation)->Arg(cables);
+    }
+    for (const auto &[name, operation] : operations)
+        ratios.push_back({name + "/" + std::to_string(bigJob), name + "/" + std::to_string(smallJob)});
+    ratios.push_back({"findByTag/" + std::to_string(bigJob), "siblingWalk/" + std::to_string(bigJob)});
+    return runBenchmarks(argc, argv, ratios);
+}
