@@ -39,7 +39,7 @@ public:
             const auto time = m_times.find(ratio.name);
             const auto reference = m_times.find(ratio.reference);
             if (time != m_times.end() && reference != m_times.end()) {
-                std::printf("%-24s takes %8.3f times as long as %s\n", ratio.name.c_str(),
+                std::printf("%-24s takes %9.3g times as long as %s\n", ratio.name.c_str(),
                             time->second / reference->second, ratio.reference.c_str());
             }
         }
