@@ -1,22 +1,10 @@
 #include "jobeditorprobe.h"
 
-
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 class JobCablesTest : public QObject
 {
     Q_OBJECT
-
-private:
-    QTemporaryDir m_directory;
-
-    void loadSite()
-    {
-        const QString name = m_directory.filePath("site.job");
-        writeFile(name, testData("site.job"));
-        QVERIFY(JobEditor::Instance().Load(name));
-    }
 
 private Q_SLOTS:
     void init() { QVERIFY(JobEditor::Instance().New("site")); }
@@ -141,8 +129,8 @@ private Q_SLOTS:
 
     void readingCompletesOlderResults()
     {
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         const QDomElement element = job.getToCableList().firstChildElement().firstChildElement();
         TestResults results("now", "FAIL", "2", "S", cable_struct::untested(), 1);
         job.setCableTestResults("Cable1", results);
@@ -196,8 +184,8 @@ private Q_SLOTS:
 
     void lists()
     {
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         QCOMPARE(job.getCablesByUse("data").join(','), QString("Cable1"));
         QCOMPARE(job.getCablesByUse(QString()).join(','), QString());
         QCOMPARE(job.getCablesByBundle("HTheatre").join(','), QString("Cable1"));

@@ -1,6 +1,5 @@
 #include "jobeditorprobe.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 class JobFloorsTest : public QObject
@@ -8,8 +7,6 @@ class JobFloorsTest : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir m_directory;
-
     static QString attribute(const QString &floorTag, const char *name)
     {
         return JobEditorProbe(JobEditor::Instance()).floorElement(floorTag).attribute(name);
@@ -109,9 +106,7 @@ private Q_SLOTS:
     void readingCompletesOlderFloors()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString name = m_directory.filePath("site.job");
-        writeFile(name, testData("site.job"));
-        QVERIFY(job.Load(name));
+        QVERIFY(job.Load(testDataPath("site.job")));
         const QString tag = "FFloor_2";
         QCOMPARE(job.getFloor(tag).ceilingHeight(), 8.0);
         QVERIFY(!job.fileChanged());
@@ -173,9 +168,7 @@ private Q_SLOTS:
     void removingAFloorTakesItsCables()
     {
         JobEditor &job = JobEditor::Instance();
-        const QString name = m_directory.filePath("site.job");
-        writeFile(name, testData("site.job"));
-        QVERIFY(job.Load(name));
+        QVERIFY(job.Load(testDataPath("site.job")));
         job.removeFloor(job.getFloor("FFloor_1"));
         // The third cable ends on the other floor and nowhere.
         QCOMPARE(job.getCables(true), QStringList("Cable3"));

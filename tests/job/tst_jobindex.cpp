@@ -1,6 +1,5 @@
 #include "jobeditorprobe.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 using Exists = bool (JobEditor::*)(const QString &, bool) const;
@@ -11,17 +10,10 @@ class JobIndexTest : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir m_directory;
-
     static QString joined(const QStringList &list) { return list.join(','); }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        const QString name = m_directory.filePath("site.job");
-        writeFile(name, testData("site.job"));
-        QVERIFY(JobEditor::Instance().Load(name));
-    }
+    void initTestCase() { QVERIFY(JobEditor::Instance().Load(testDataPath("site.job"))); }
 
     void cleanupTestCase() { JobEditor::Destroy(); }
 

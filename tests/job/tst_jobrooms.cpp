@@ -1,6 +1,5 @@
 #include "jobeditorprobe.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 namespace {
@@ -18,16 +17,6 @@ Room room(const QString &tag, const QString &id, const QString &floor = Ground)
 class JobRoomsTest : public QObject
 {
     Q_OBJECT
-
-private:
-    QTemporaryDir m_directory;
-
-    void loadSite()
-    {
-        const QString name = m_directory.filePath("site.job");
-        writeFile(name, testData("site.job"));
-        QVERIFY(JobEditor::Instance().Load(name));
-    }
 
 private Q_SLOTS:
     void init()
@@ -97,8 +86,8 @@ private Q_SLOTS:
 
     void readingCompletesOlderRooms()
     {
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         QVERIFY(job.getRoomByTag(Ground, "Room1") == Room("Room1", 1, 2, 30, 40, "Lab", Ground, 5, 6, 0, 2, 1));
         QVERIFY(!job.fileChanged());
         QVERIFY(job.getRoomById(Upper, "Lab") == Room("Room1", 7, -1, -1, -1, "Lab", Upper, 0, 0, 3, 3, 3));
@@ -180,8 +169,8 @@ private Q_SLOTS:
 
     void removingARoomKeepsWhatIsInIt()
     {
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         const QString undefined = "Undefined";
         job.removeRoom(job.getRoomByTag(Ground, "Room1"));
         QCOMPARE(job.getRooms(Ground, true), QStringList(undefined));
@@ -197,8 +186,8 @@ private Q_SLOTS:
 
     void removingARoomUncoversItsTwin()
     {
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         const QString lab = "Room1";
         QDomElement twin = JobEditorProbe(job).roomElement(Ground, lab).cloneNode(true).toElement();
         twin.firstChildElement().firstChildElement().setTagName("P7");
@@ -220,8 +209,8 @@ private Q_SLOTS:
     void removingARoomMakesAPlaceForWhatIsInIt()
     {
         QFETCH(QString, missing);
-        loadSite();
         JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(testDataPath("site.job")));
         QDomElement taken = JobEditorProbe(job).roomElement(Ground, "Undefined");
         if (!missing.isEmpty())
             taken = taken.firstChildElement(missing);

@@ -6,6 +6,32 @@
 
 #include <QtCore/QFile>
 
+inline QByteArray readFile(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(fileName));
+    return file.readAll();
+}
+
+inline void writeFile(const QString &fileName, const QByteArray &content)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(fileName));
+}
+
+/// Path of a file in tests/data.
+inline QString testDataPath(const char *name)
+{
+    return QStringLiteral(CABLEDOC_TEST_DATA "/") + QString::fromLatin1(name);
+}
+
+inline QByteArray testData(const char *name)
+{
+    return readFile(testDataPath(name));
+}
+
 /// What tests may see and do inside the job document.
 class JobEditorProbe
 {
@@ -44,24 +70,3 @@ public:
 private:
     JobEditor &m_job;
 };
-
-inline QByteArray readFile(const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(fileName));
-    return file.readAll();
-}
-
-inline void writeFile(const QString &fileName, const QByteArray &content)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(fileName));
-}
-
-/// The content of a file in tests/data.
-inline QByteArray testData(const char *name)
-{
-    return readFile(QStringLiteral(CABLEDOC_TEST_DATA "/") + QString::fromLatin1(name));
-}

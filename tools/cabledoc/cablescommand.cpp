@@ -51,15 +51,11 @@ ExitCode runCables(const QStringList &arguments)
                                                          "of their tests and their measured lengths."));
     command.addOption({jsonOption, Cables::tr("Print JSON instead of a table.")});
     command.addOption({metricOption, Cables::tr("Lengths in metres instead of feet.")});
-    if (!command.parse(arguments))
+    if (!command.parse(arguments) || !command.loadJob())
         return command.exitCode();
 
-    JobEditor &job = JobEditor::Instance();
-    if (!job.Load(command.fileName())) {
-        printMessage(command.fileName(), job.error());
-        return CannotLoad;
-    }
     const bool metric = command.isSet(metricOption);
+    JobEditor &job = JobEditor::Instance();
     QJsonArray cables;
     const QStringList tags = job.getCables(true);
     for (const QString &tag : tags)

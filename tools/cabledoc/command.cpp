@@ -1,5 +1,7 @@
 #include "command.h"
 
+#include <cabledoc/jobeditor.h>
+
 #include <QtCore/QCoreApplication>
 
 #include <cstdio>
@@ -30,6 +32,16 @@ bool Command::parse(const QStringList &arguments)
         return false;
     }
     return true;
+}
+
+bool Command::loadJob()
+{
+    JobEditor &job = JobEditor::Instance();
+    if (job.Load(fileName()))
+        return true;
+    printMessage(fileName(), job.error());
+    m_exitCode = CannotLoad;
+    return false;
 }
 
 ExitCode Command::usageError(const QString &message) const

@@ -27,6 +27,10 @@ public:
     /// Reports wrong usage to standard error.
     ExitCode usageError(const QString &message) const;
 
+    /// Loads the file into the job document. False when it cannot be: that was said, and exitCode() is
+    /// CannotLoad.
+    bool loadJob();
+
     ExitCode exitCode() const { return m_exitCode; }
     QString fileName() const { return m_parser.positionalArguments().constFirst(); }
     bool isSet(const QString &option) const { return m_parser.isSet(option); }

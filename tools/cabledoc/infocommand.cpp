@@ -112,15 +112,10 @@ ExitCode runInfo(const QStringList &arguments)
                     Info::tr("Shows what a job file holds: its floors and sheets in the order of their tags, and how "
                              "many cables, connections and active ports it has."));
     command.addOption({jsonOption, Info::tr("Print JSON instead of tables.")});
-    if (!command.parse(arguments))
+    if (!command.parse(arguments) || !command.loadJob())
         return command.exitCode();
 
-    JobEditor &job = JobEditor::Instance();
-    if (!job.Load(command.fileName())) {
-        printMessage(command.fileName(), job.error());
-        return CannotLoad;
-    }
-    const QJsonObject description = describeJob(job);
+    const QJsonObject description = describeJob(JobEditor::Instance());
     return printData(command.isSet(jsonOption) ? QJsonDocument(description).toJson()
                                                : tablesOf(description).toLocal8Bit());
 }

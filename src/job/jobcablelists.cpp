@@ -1,0 +1,103 @@
+#include "jobeditor.h"
+
+#include "childelements.h"
+#include "jobindex.h"
+#include "jobwords.h"
+
+#include <QtCore/QSet>
+
+using namespace cabledoc;
+
+namespace {
+
+/// The tags of the cables that a condition holds for, in document order.
+template <typename Condition> QStringList cablesWhere(const QDomElement &cableList, Condition condition)
+{
+    QStringList tags;
+    for (const QDomElement &cable : ChildElements(cableList)) {
+        if (condition(cable))
+            tags.append(cable.tagName());
+    }
+    return tags;
+}
+
+QStringList cablesWith(const QDomElement &cableList, const QString &attribute, const QString &value)
+{
+    return cablesWhere(cableList, [&](const QDomElement &cable) {
+        return cable.hasAttribute(attribute) && cable.attribute(attribute) == value;
+    });
+}
+
+} // namespace
+
+QStringList JobEditor::getCables(bool byTag) const
+{
+    if (!m_index->cables)
+        m_index->cables = cableNamesIn(getToCableList());
+    return byTag ? m_index->cables->tags : m_index->cables->ids;
+}
+
+QStringList JobEditor::getCablesByType(const QString &type) const
+{
+    if (!m_index->cablesOfType)
+        m_index->cablesOfType = cablesByTypeIn(getToCableList());
+    return m_index->cablesOfType->value(type);
+}
+
+QStringList JobEditor::getCablesByUse(const QString &use) const
+{
+    return cablesWith(getToCableList(), words::Use, use);
+}
+
+QStringList JobEditor::getCablesByBundle(const QString &bundleName) const
+{
+    return cablesWith(getToCableList(), words::BundleName, bundleName);
+}
+
+QStringList JobEditor::getCablesByBundleGroup(const QString &bundleGroupNum) const
+{
+    return cablesWith(getToCableList(), words::BundleGroupNum, bundleGroupNum);
+}
+
+QStringList JobEditor::getCablesByPort(const QString &portTag) const
+{
+    return cablesEndingAt({portTag});
+}
+
+QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
+{
+    QSet<QString> ends;
+    for (const QDomElement &room : ChildElements(getToRoomList(floorTag))) {
+        for (const QString &containerName : {words::PortList, words::VerticalRunList}) {
+            for (const QDomElement &end : ChildElements(room.firstChildElement(containerName)))
+                ends.insert(end.tagName());
+        }
+    }
+    return cablesEndingAt(ends);
+}
+
+QStringList JobEditor::cablesEndingAt(const QSet<QString> &ends) const
+{
+    return cablesWhere(getToCableList(), [&ends](const QDomElement &cable) {
+        return ends.contains(cable.attribute(words::To)) || ends.contains(cable.attribute(words::From));
+    });
+}
+
+QStringList JobEditor::getCablesByStatus(const QString &status) const
+{
+    return cablesWhere(getToCableList(), [&status](const QDomElement &cable) {
+        const QDomElement results = cable.firstChildElement(words::TestResults);
+        return !results.isNull() && results.attribute(words::Status) == status;
+    });
+}
+
+bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const
+{
+    return !getCablesByBundleGroup(bundleGroupNum).isEmpty();
+}
+
+void JobEditor::forgetCableLists()
+{
+    m_index->cables.reset();
+    m_index->cablesOfType.reset();
+}
