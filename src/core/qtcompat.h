@@ -3,6 +3,7 @@
 #include "xmlscan.h"
 
 #include <QtCore/QXmlStreamReader>
+#include <QtGui/QColor>
 #include <QtXml/QDomDocument>
 
 /// What differs between the versions of Qt, in one place.
@@ -19,6 +20,16 @@ inline XmlProblem setContent(QDomDocument *document, QXmlStreamReader *reader)
     document->setContent(reader, false, &problem.message, &problem.line, &problem.column);
 #endif
     return problem;
+}
+
+/// Whether the text names a colour, without the warning that a QColor made of another text would print.
+inline bool isColorName(const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 4, 0)
+    return QColor::isValidColorName(text);
+#else
+    return QColor::isValidColor(text);
+#endif
 }
 
 } // namespace cabledoc::qtcompat

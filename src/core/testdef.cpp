@@ -1,8 +1,11 @@
 #include "testdef.h"
 
 #include "attributetext.h"
+#include "qtcompat.h"
 
-#include <QtGui/QColor>
+#include <algorithm>
+
+using namespace cabledoc;
 
 namespace {
 
@@ -100,12 +103,12 @@ void TestDef::setPairInUse(const bool *flags)
 
 int TestDef::length_constant() const
 {
-    return cabledoc::truncated(double(m_fields.lengthConstant));
+    return truncated(double(m_fields.lengthConstant));
 }
 
 int TestDef::max_length() const
 {
-    return cabledoc::truncated(double(m_fields.maxLength));
+    return truncated(double(m_fields.maxLength));
 }
 
 int TestDef::getPairTo(int pair) const
@@ -200,7 +203,7 @@ QString TestDef::validDef() const
 
     if (!is.farPairsDistinct())
         return tr("Can't map 2 pairs on near end to\nsame pair on far end.");
-    if (!QColor(color()).isValid())
+    if (!qtcompat::isColorName(color()))
         return tr("Invalid color.");
     // A warning only: it counts when nothing is wrong.
     if (m_fields.maxLength == -1.0F || m_fields.maxLength > 330.0F)

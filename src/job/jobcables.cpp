@@ -4,8 +4,7 @@
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
-
-#include <QtGui/QColor>
+#include "qtcompat.h"
 
 using namespace cabledoc;
 
@@ -23,7 +22,7 @@ QString JobEditor::addCable(const Cable &cable, int mode)
         fields.tag = newCableTag();
     if (!addmode::keepsId(mode))
         fields.id = newCableId();
-    if (!QColor(fields.color).isValid())
+    if (!qtcompat::isColorName(fields.color))
         fields.color = getTestDef(fields.type).color();
     // Intended: what is planned as a cable box is stored as television.
     if (fields.use == tr("cable_box", "use name for Cable Box (Cblbx)"))
