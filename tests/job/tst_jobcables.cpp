@@ -162,13 +162,15 @@ private Q_SLOTS:
         job.addTestDef(definition);
         TestResults results;
         cable_struct block = cable_struct::untested();
-        block.pair_length = {328, 0, 0, 1};
+        block.pair_length = {328, 99, 0, 1};
         results.setResults(block);
         job.addCable("C", "C", "data", "P1", "P2", "T", results, 2);
         QCOMPARE(job.getRoundedCableLength("C", 0, false), 328.0F);
         QCOMPARE(job.getRoundedCableLength("C", 0, true), 100.0F);
+        // 30.18 metres
+        QCOMPARE(job.getRoundedCableLength("C", 1, true), 30.0F);
         QCOMPARE(job.getRoundedCableLength("C", 4, true), 0.0F);
-        block.pair_length[3] = 0;
+        block.pair_length = {328, 0, 0, 0};
         results.setResults(block);
         job.setCableTestResults("C", results);
         QCOMPARE(job.getMaxRoundedCableLength("C", false, true), 328.0F);

@@ -110,7 +110,9 @@ private Q_SLOTS:
         JobEditor &job = JobEditor::Instance();
         QVERIFY(job.New("old"));
         job.addFloor(QString(), "Upper ", 8, QString(), 0);
+        job.addCable(QString(), QString(), 0);
         job.Unload();
+        QCOMPARE(job.getCables(true), QStringList("Cable1"));
         QCOMPARE(job.filename(), QString());
         QCOMPARE(job.error(), QString("Unloading"));
         QVERIFY(!job.fileChanged());
