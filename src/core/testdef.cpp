@@ -115,7 +115,7 @@ int TestDef::getPairTo(int pair) const
 {
     if (!isPair(pair))
         return pair;
-    const int far = qint8(m_fields.expected.wire_map[mappingOfFirstPair + pair]);
+    const int far = m_fields.expected.wire_map[mappingOfFirstPair + pair];
     return isPair(far) ? far : pair;
 }
 

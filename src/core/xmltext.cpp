@@ -49,8 +49,8 @@ using PlainCharacters = std::array<bool, 256>;
 template <Escape escape> constexpr PlainCharacters makePlainCharacters()
 {
     PlainCharacters isPlain{};
-    for (char16_t character = 0; character < isPlain.size(); ++character)
-        isPlain[character] = isStorable(character) && reference(character, escape) == nullptr;
+    for (std::size_t i = 0; i < isPlain.size(); ++i)
+        isPlain[i] = isStorable(char16_t(i)) && reference(char16_t(i), escape) == nullptr;
     return isPlain;
 }
 

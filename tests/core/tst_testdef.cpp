@@ -45,8 +45,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<Change>("change");
         QTest::addColumn<QString>("message");
-        const auto row = [](const char *name, const char *message, Change change) {
-            QTest::newRow(name) << std::move(change) << QString(message);
+        const auto row = [](const char *name, const char *message, const Change &change) {
+            QTest::newRow(name) << change << QString(message);
         };
         const auto hundred = [](const Change &change) {
             return Change([change](TestDef &d) {
