@@ -1,5 +1,7 @@
 #include "xmlscan.h"
 
+#include "xmlnames.h"
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
@@ -21,6 +23,13 @@ public:
 
     cabledoc::XmlProblem run()
     {
+        // The parser lets control characters pass in names.
+        const char *forbidden =
+            std::find_if_not(m_begin, m_end, [](char character) { return cabledoc::isStorable(quint8(character)); });
+        if (forbidden != m_end) {
+            m_position = forbidden;
+            report(QCoreApplication::translate("XmlFile", "There is a control character that XML does not allow."));
+        }
         while (m_problem.message.isNull() && goTo("<")) {
             if (skip("<!--"))
                 goBehind("-->");

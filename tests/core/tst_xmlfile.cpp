@@ -109,6 +109,7 @@ private Q_SLOTS:
         QTest::newRow("cut off") << QByteArray("<a>\n<b c='") << 2;
         QTest::newRow("two roots") << QByteArray("<a/>\n<b/>") << 2;
         QTest::newRow("NUL") << QByteArray("<a b='\0'/>", 9) << 1;
+        QTest::newRow("control character in a name") << QByteArray("<a>\n<b c\x01='1'/></a>") << 2;
         QTest::newRow("too deep") << QByteArray("\n") + open.repeated(257) + close.repeated(257) << 2;
         QTest::newRow("much too deep") << open.repeated(1000000) << 1;
         QTest::newRow("too deep behind a comment") << "<!-- ' --><b c='</a>'/>" + open.repeated(257) << 1;
