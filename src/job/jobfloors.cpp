@@ -48,8 +48,7 @@ void JobEditor::removeFloor(const QString &tag)
     for (const QString &cable : cables)
         removeCable(cable);
     (*m_index)[JobIndex::Floors].remove(floor);
-    floor.parentNode().removeChild(floor);
-    setDirty(true);
+    removeElement(floor);
     populateCableMap();
     populateRoomMap();
     populatePortMap();
@@ -76,12 +75,9 @@ Floor JobEditor::getFloor(const QString &tag) const
 
 void JobEditor::setFloorId(const QString &tag, const QString &id)
 {
-    QDomElement floor = floorElement(tag);
-    if (floor.isNull())
-        return;
-    floor.setAttribute(words::Id, id);
+    const QDomElement floor = floorElement(tag);
+    renameElement(floor, id);
     (*m_index)[JobIndex::Floors].updateId(floor);
-    setDirty(true);
 }
 
 void JobEditor::setAllFloorIds(const QMap<QString, QString> &idsByTag)

@@ -100,8 +100,7 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
     const QDomElement room = roomElement(floorTag, tag);
     if (room.isNull() || tag == words::Undefined)
         return;
-    QDomElement roomList = getToRoomList(floorTag);
-    const QDomElement undefined = undefinedRoomElement(roomList);
+    const QDomElement undefined = undefinedRoomElement(getToRoomList(floorTag));
     // Whether elements that share a tag change their order, or come into reach: then only the document can
     // tell which of them is the first.
     bool isOrderLost = (*m_index)[JobIndex::Rooms].isRepeated(tag);
@@ -119,12 +118,11 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
     }
     (*m_index)[JobIndex::Rooms].remove(room);
     m_index->roomsOfFloor[floorTag].remove(room);
-    roomList.removeChild(room);
+    removeElement(room);
     if (isOrderLost) {
         populatePortMap();
         populateVerticalRunMap();
     }
-    setDirty(true);
 }
 
 void JobEditor::removeRoom(const Room &room)

@@ -43,8 +43,7 @@ void JobEditor::removeSheet(const QString &tag)
     if (sheet.isNull())
         return;
     (*m_index)[JobIndex::Sheets].remove(sheet);
-    sheet.parentNode().removeChild(sheet);
-    setDirty(true);
+    removeElement(sheet);
     populateDeviceMap();
     populateVerticeMap();
     populateFreeTextMap();
@@ -62,12 +61,9 @@ Sheet JobEditor::getSheet(const QString &tag) const
 
 void JobEditor::setSheetID(const QString &tag, const QString &id)
 {
-    QDomElement sheet = sheetElement(tag);
-    if (sheet.isNull())
-        return;
-    sheet.setAttribute(words::Id, id);
+    const QDomElement sheet = sheetElement(tag);
+    renameElement(sheet, id);
     (*m_index)[JobIndex::Sheets].updateId(sheet);
-    setDirty(true);
 }
 
 void JobEditor::setAllSheetIDs(const QMap<QString, QString> &idsByTag)
