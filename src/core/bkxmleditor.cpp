@@ -6,6 +6,7 @@
 #include "xmlfile.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 
@@ -113,6 +114,12 @@ QDomElement BKXMLEditor::appendElement(const QString &tagName, QDomNode parent)
     return parent.appendChild(m_document.createElement(tagName)).toElement();
 }
 
+QDomElement BKXMLEditor::ensureElement(const QString &tagName, const QDomNode &parent)
+{
+    const QDomElement element = parent.firstChildElement(tagName);
+    return element.isNull() ? appendElement(tagName, parent) : element;
+}
+
 void BKXMLEditor::renameElement(QDomElement element, const QString &id)
 {
     if (element.isNull())
@@ -127,15 +134,6 @@ void BKXMLEditor::removeElement(const QDomElement &element)
         return;
     element.parentNode().removeChild(element);
     setDirty(true);
-}
-
-QString BKXMLEditor::firstFreeTag(const QDomElement &list, const QString &prefix)
-{
-    const QStringList taken = childTags(list);
-    int number = 1;
-    while (taken.contains(prefix + QString::number(number)))
-        ++number;
-    return prefix + QString::number(number);
 }
 
 QString BKXMLEditor::dataToString(const cable_struct &block)
@@ -160,6 +158,50 @@ TRUEPHY_PLOT_DATA BKXMLEditor::responseStringToData(const QString &text)
     TRUEPHY_PLOT_DATA curve;
     fromText(text, &curve);
     return curve;
+}
+
+bool BKXMLEditor::hasExtension(const QString &filename, const QString &extension)
+{
+    return QFileInfo(filename).suffix().toLower() == extension;
+}
+
+bool BKXMLEditor::namesAFile(const QString &filename, const QString &extension)
+{
+    return !filename.isEmpty() && filename != QLatin1Char('.') + extension;
+}
+
+bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts)
+{
+    if (filename.isEmpty()) {
+        m_error = texts.noName;
+        return false;
+    }
+    // Before anything is checked: a failed load leaves the new name in place.
+    m_filename = filename;
+    if (!QFileInfo::exists(filename)) {
+        m_error = texts.missing.arg(filename);
+        return false;
+    }
+    const xmlfile::ReadResult result = xmlfile::read(filename, documentTypeName);
+    if (result.status == xmlfile::ReadResult::NotOpened) {
+        m_error = result.deviceError;
+        return false;
+    }
+    m_document = result.document;
+    if (result.status == xmlfile::ReadResult::Read)
+        return true;
+
+    const XmlProblem &problem = result.problem;
+    if (problem.line != 0 && problem.column != 0) {
+        qDebug().noquote() << "errMsg = " << problem.message;
+        qDebug("errLine = %d", problem.line);
+        qDebug("errColumn = %d", problem.column);
+        m_error = texts.badAtPosition.arg(filename, QString::number(problem.line), QString::number(problem.column),
+                                          problem.message);
+    } else {
+        m_error = texts.bad.arg(filename);
+    }
+    return false;
 }
 
 bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order)

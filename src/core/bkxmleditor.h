@@ -13,6 +13,8 @@
 #include <QtCore/QStringList>
 #include <QtXml/QDomDocument>
 
+#include <functional>
+
 namespace cabledoc::xmlfile {
 struct AttributeOrder;
 }
@@ -172,8 +174,13 @@ protected:
     QDomElement getToPageSettingsList() const;
     QDomElement getToScaleSettingsList() const;
 
-    /// Appends the default settings of a new document to parent, and an empty "JobNotes_Text".
+    // What a new document holds. What parent has of it already stays as it is, so that these bring an older
+    // document up to date too.
+
+    /// Adds the default settings to parent, and an empty "JobNotes_Text".
     void addSettingsList(QDomElement *parent);
+    /// Adds an element with empty attributes of these names and an empty "Address" in it.
+    void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
 
     /// Four flags as "0" and "1", in their order.
     static QString boolArrayToString(const bool *flags);
@@ -185,13 +192,49 @@ protected:
 
     /// Appends a new element to parent.
     QDomElement appendElement(const QString &tagName, QDomNode parent);
+    /// The first child element of parent with that name, which is appended when there is none.
+    QDomElement ensureElement(const QString &tagName, const QDomNode &parent);
     /// Gives the element another "id"; nothing for a null element.
     void renameElement(QDomElement element, const QString &id);
     /// Takes the element out of the tree; nothing for a null element.
     void removeElement(const QDomElement &element);
-    /// The prefix with the smallest number, from 1, that no child of the list has for its tag.
-    static QString firstFreeTag(const QDomElement &list, const QString &prefix);
 
+    // Bringing an older file up to date. Each step brings the tree of one version to the next: it sets the
+    // version, adds what the newer one brought where the file lacks it, and returns true. Both arguments
+    // are the root.
+
+    bool convert11To14(QDomElement *root, QDomNode *rootNode);
+    bool convert12To14(QDomElement *root, QDomNode *rootNode);
+    bool convert13To14(QDomElement *root, QDomNode *rootNode);
+    bool convert14To21(QDomElement *root, QDomNode *rootNode);
+    bool convert21To22(QDomElement *root, QDomNode *rootNode);
+    bool convert22To23(QDomElement *root, QDomNode *rootNode);
+    bool convert23To30(QDomElement *root, QDomNode *rootNode);
+    /// Takes the tree through all steps that its version needs. After each it calls stepDone, and gives up
+    /// when that fails. True when the tree now has the current version.
+    bool convertToCurrentVersion(const std::function<bool()> &stepDone);
+    /// The version that the tree says it has; empty when it says none.
+    QString version() const;
+
+    // Files
+
+    /// Whether the file name has that extension, in any case.
+    static bool hasExtension(const QString &filename, const QString &extension);
+    /// Whether the file name says where to save; the extension alone does not.
+    static bool namesAFile(const QString &filename, const QString &extension);
+
+    /// What a load that fails tells the user. "%1" stands for the file name, "%2", "%3" and "%4" for the
+    /// line, the column and the parser's message.
+    struct LoadTexts
+    {
+        QString noName;
+        QString missing;
+        QString badAtPosition;
+        QString bad; ///< when the parser gave no position
+    };
+    /// Makes filename the document's and replaces the tree by the content of the file; by nothing when it
+    /// is no XML. False, with a text in error(), when it cannot be read; the version is not looked at.
+    bool readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts);
     /// Writes the tree to a file. On a failure the file is as it was, the dirty flag too, and error()
     /// says why.
     bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order);
@@ -211,4 +254,6 @@ private:
     QDomElement settingsList(const QString &tagName) const;
     template <typename Settings, typename Kind> void store(const Settings &settings, const QString &name, const Kind &);
     template <typename Settings, typename Kind> Settings fetch(const QString &name, const Kind &);
+    template <typename Kind, typename Initial>
+    void addEntries(const QDomElement &settings, const Kind &kind, Initial initial);
 };

@@ -20,6 +20,15 @@ QStringList childIds(const QDomElement &parent)
     return ids;
 }
 
+QString firstFreeTag(const QDomElement &parent, const QString &prefix)
+{
+    const QStringList taken = childTags(parent);
+    int number = 1;
+    while (taken.contains(prefix + QString::number(number)))
+        ++number;
+    return prefix + QString::number(number);
+}
+
 QDomElement childWithId(const QDomElement &parent, const QString &id)
 {
     for (const QDomElement &child : ChildElements(parent)) {

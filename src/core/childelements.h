@@ -44,6 +44,8 @@ private:
 QStringList childTags(const QDomElement &parent);
 /// Their attributes "id".
 QStringList childIds(const QDomElement &parent);
+/// The prefix with the smallest number, from 1, that no child element has for its tag.
+QString firstFreeTag(const QDomElement &parent, const QString &prefix);
 /// The first child element with that "id"; null when there is none.
 QDomElement childWithId(const QDomElement &parent, const QString &id);
 

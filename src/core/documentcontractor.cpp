@@ -5,6 +5,17 @@
 
 using namespace cabledoc;
 
+void BKXMLEditor::addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent)
+{
+    QDomElement element = ensureElement(tagName, parent);
+    for (const QString &attribute : attributes) {
+        if (!element.hasAttribute(attribute))
+            element.setAttribute(attribute, QLatin1String(""));
+    }
+    if (element.firstChildElement(words::Address).isNull())
+        addressAttributes().write(appendElement(words::Address, element), AddressFields());
+}
+
 void BKXMLEditor::writeInfo(const QString &elementName, const QString &attribute, const QString &value)
 {
     QDomElement element = getElement(elementName);

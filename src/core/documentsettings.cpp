@@ -11,32 +11,28 @@ namespace {
 template <typename Settings> struct SettingsKind
 {
     QString listName;
-    QStringList entryNames; ///< in the order in which a new document has them
+    QStringList entryNames;
     const AttributeTable<typename Settings::Fields> &attributes;
 };
 
 const SettingsKind<PrintSettings> &printKind()
 {
-    static const SettingsKind<PrintSettings> kind{words::PrintSettingsList,
-                                                  {words::JobInfoSettings, words::NetViewSettings,
-                                                   words::InventorySettings, words::FloorPlanSettings,
-                                                   words::TestSchedSettings, words::DetailedCableSettings,
-                                                   words::JobNotesSettings, words::ActiveNetworkTestResultsSettings},
+    static const SettingsKind<PrintSettings> kind{words::PrintSettingsList, printSettingsEntries(),
                                                   printSettingsAttributes()};
     return kind;
 }
 
 const SettingsKind<PageSettings> &pageKind()
 {
-    static const SettingsKind<PageSettings> kind{
-        words::PageSettingsList, {words::NetViewSettings, words::FloorPlanSettings}, pageSettingsAttributes()};
+    static const SettingsKind<PageSettings> kind{words::PageSettingsList, drawingSettingsEntries(),
+                                                 pageSettingsAttributes()};
     return kind;
 }
 
 const SettingsKind<ScaleSettings> &scaleKind()
 {
-    static const SettingsKind<ScaleSettings> kind{
-        words::ScaleSettingsList, {words::NetViewSettings, words::FloorPlanSettings}, scaleSettingsAttributes()};
+    static const SettingsKind<ScaleSettings> kind{words::ScaleSettingsList, drawingSettingsEntries(),
+                                                  scaleSettingsAttributes()};
     return kind;
 }
 
@@ -122,27 +118,25 @@ ScaleSettings BKXMLEditor::getScaleSettings(const QString &name)
     return fetch<ScaleSettings>(name, scaleKind());
 }
 
+template <typename Kind, typename Initial>
+void BKXMLEditor::addEntries(const QDomElement &settings, const Kind &kind, Initial initial)
+{
+    const QDomElement list = ensureElement(kind.listName, settings);
+    for (const QString &name : kind.entryNames) {
+        if (list.firstChildElement(name).isNull())
+            kind.attributes.write(appendElement(name, list), initial(name).fields());
+    }
+}
+
 void BKXMLEditor::addSettingsList(QDomElement *parent)
 {
-    QDomElement settings = appendElement(words::SettingsList, *parent);
+    const QDomElement settings = ensureElement(words::SettingsList, *parent);
+    addEntries(settings, printKind(), initialPrintSettings);
+    addEntries(settings, pageKind(), [](const QString &) { return PageSettings(); });
+    addEntries(settings, scaleKind(), [](const QString &) { return ScaleSettings(); });
 
-    QDomElement printList = appendElement(words::PrintSettingsList, settings);
-    PrintSettings print;
-    for (const QString &name : printKind().entryNames) {
-        // Only the two drawing views lie on their side.
-        const bool isDrawing = name == words::NetViewSettings || name == words::FloorPlanSettings;
-        print.setOrientation(isDrawing ? 1 : 0);
-        printKind().attributes.write(appendElement(name, printList), print.fields());
-    }
-
-    QDomElement pageList = appendElement(words::PageSettingsList, settings);
-    for (const QString &name : pageKind().entryNames)
-        pageKind().attributes.write(appendElement(name, pageList), PageSettingsFields());
-
-    QDomElement scaleList = appendElement(words::ScaleSettingsList, settings);
-    for (const QString &name : scaleKind().entryNames)
-        scaleKind().attributes.write(appendElement(name, scaleList), ScaleSettingsFields());
-
-    appendElement(words::JobNotesText, *parent).setAttribute(words::Text, QLatin1String(""));
+    QDomElement notes = ensureElement(words::JobNotesText, *parent);
+    if (!notes.hasAttribute(words::Text))
+        notes.setAttribute(words::Text, QLatin1String(""));
     setDirty(true);
 }

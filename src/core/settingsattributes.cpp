@@ -1,6 +1,33 @@
 #include "settingsattributes.h"
 
+#include "words.h"
+
 namespace cabledoc {
+
+const QStringList &printSettingsEntries()
+{
+    static const QStringList names{
+        words::JobInfoSettings,   words::NetViewSettings,
+        words::InventorySettings, words::FloorPlanSettings,
+        words::TestSchedSettings, words::DetailedCableSettings,
+        words::JobNotesSettings,  words::ActiveNetworkTestResultsSettings,
+    };
+    return names;
+}
+
+const QStringList &drawingSettingsEntries()
+{
+    static const QStringList names{words::NetViewSettings, words::FloorPlanSettings};
+    return names;
+}
+
+PrintSettings initialPrintSettings(const QString &entry)
+{
+    PrintSettings settings;
+    // Only the two drawing views lie on their side.
+    settings.setOrientation(drawingSettingsEntries().contains(entry) ? 1 : 0);
+    return settings;
+}
 
 const AttributeTable<PrintSettingsFields> &printSettingsAttributes()
 {

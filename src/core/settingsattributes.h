@@ -7,6 +7,14 @@
 
 namespace cabledoc {
 
+/// The entries that have print settings, and those that have page and scale settings too, in the order in
+/// which a new document has them.
+const QStringList &printSettingsEntries();
+const QStringList &drawingSettingsEntries();
+
+/// The print settings of an entry in a new document.
+PrintSettings initialPrintSettings(const QString &entry);
+
 const AttributeTable<PrintSettingsFields> &printSettingsAttributes();
 const AttributeTable<PageSettingsFields> &pageSettingsAttributes();
 const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes();

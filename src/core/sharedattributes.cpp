@@ -27,15 +27,15 @@ const AttributeTable<TestDefFields> &testDefAttributes()
     using F = TestDefFields;
     static const AttributeTable<F> table{
         attribute<&F::id>(words::Id),
-        attribute<&F::expected>(QStringLiteral("expected")),
+        attribute<&F::expected>(words::Expected),
         attribute<&F::pairInUse>(QStringLiteral("in_use")),
         attribute<&F::dataRate>(QStringLiteral("data_rate")),
         attribute<&F::snr>(QStringLiteral("SNR")),
         attribute<&F::skew>(QStringLiteral("skew")),
         attribute<&F::shield>(QStringLiteral("shield")),
-        truncatedNumber<&F::lengthConstant>(QStringLiteral("length_constant")),
+        truncatedNumber<&F::lengthConstant>(words::LengthConstant),
         truncatedNumber<&F::maxLength>(QStringLiteral("max_length")),
-        attribute<&F::comment>(QStringLiteral("comment")),
+        attribute<&F::comment>(words::Comment),
         attribute<&F::cableCategory>(QStringLiteral("cable_category")),
         attribute<&F::defaultType>(words::DefaultType),
         attribute<&F::color>(words::Color),

@@ -5,6 +5,10 @@
 /// The fixed words of both file kinds. Every element or attribute name stands here once.
 namespace cabledoc::words {
 
+// The template file
+inline const QString Bkt = QStringLiteral("Bkt");
+inline const QString BktExtension = QStringLiteral("bkt");
+
 // Version
 inline const QString Version = QStringLiteral("Version");
 inline const QString Number = QStringLiteral("number");
@@ -48,6 +52,11 @@ inline const QString ActiveNetworkTestResultsSettings = QStringLiteral("ActiveNe
 inline const QString TestDefTagPrefix = QStringLiteral("TestDef");
 inline const QString BundledCableTagPrefix = QStringLiteral("BundledCable");
 inline const QString BundledCableTypeTagPrefix = QStringLiteral("BundledCableType");
+
+// Attributes of test definitions that older files have or lack
+inline const QString Expected = QStringLiteral("expected");
+inline const QString LengthConstant = QStringLiteral("length_constant");
+inline const QString Comment = QStringLiteral("comment");
 
 // Attributes that several kinds of element have
 inline const QString Color = QStringLiteral("color");

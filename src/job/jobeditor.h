@@ -72,7 +72,8 @@ public:
     /// Replaces the document by the content of a file. The job is unchanged afterwards. False, with a text
     /// in error(), when the name is empty, or the file is missing, cannot be opened (the open job is as it
     /// was, under the new name), is no XML (the document is empty) or has a version that is not supported
-    /// (the document holds it as it was read).
+    /// (the document holds it as it was read). An older job is brought to version 3.0; its file stays as it
+    /// is until the job is saved, and the conversion does not count as a change.
     virtual bool Load(const QString &filename);
     /// Empties the document and its name and sets error() to "Unloading". Tags and ids are still known to
     /// existence tests and lists until the next New() or Load().
@@ -440,8 +441,10 @@ private:
 
     bool refuseWhenOpen();
     void create(double ceilingHeight);
+    void addSkeleton(QDomElement root);
     bool checkVersion();
     bool mayBeName(const QString &name);
+    bool mayBeFile(const QString &filename, const QString &extension);
     void changeAttribute(QDomElement element, const QString &attribute, const QString &value);
 
     QDomElement floorElement(const QString &tag) const;
@@ -454,6 +457,9 @@ private:
     void writeFloorAttribute(const QString &tag, const QString &attribute, const QString &value);
     QDomElement undefinedRoomElement(const QDomElement &roomList);
     void completeNewRoom(const QDomElement &room);
+    void addMissingContainers(const QDomElement &root);
+    void addRoomContainers(const QDomElement &room);
+    void addSheetContainers(const QDomElement &sheet);
     QDomElement cableElement(const QString &tag) const;
     QString newCableTag() const;
     QString newCableId() const;

@@ -16,21 +16,9 @@ using namespace cabledoc;
 
 namespace {
 
-/// Whether the name says where to save; an extension alone does not.
-bool isUsableName(const QString &filename)
-{
-    return !filename.isEmpty() && filename != QLatin1String(".job");
-}
-
 QString withTrailingSlash(const QString &directory)
 {
     return directory.endsWith(QLatin1Char('/')) ? directory : directory + QLatin1Char('/');
-}
-
-void addEmptyAttributes(QDomElement element, const QStringList &names)
-{
-    for (const QString &name : names)
-        element.setAttribute(name, QLatin1String(""));
 }
 
 } // namespace
@@ -118,71 +106,43 @@ void JobEditor::create(double ceilingHeight)
     // Unload() left the tags and ids of the job before, which must not count for the new one.
     updateAllInternalLists();
 
-    QDomElement root = appendElement(words::Job, m_document);
-    appendElement(words::Release, root);
-    appendElement(words::Version, root).setAttribute(words::Number, words::CurrentVersion);
-    const QDomElement contractor = appendElement(words::ContractorInfo, root);
-    addEmptyAttributes(contractor, contractorInfoAttributes());
-    addressAttributes().write(appendElement(words::Address, contractor), AddressFields());
-    const QDomElement site = appendElement(words::SiteInfo, root);
-    addEmptyAttributes(site, siteInfoAttributes());
-    addressAttributes().write(appendElement(words::Address, site), AddressFields());
-    appendElement(words::CableList, root);
-    appendElement(words::ConnectionList, root);
-    appendElement(words::FloorList, root);
+    addSkeleton(appendElement(words::Job, m_document));
+    getElement(words::Version).setAttribute(words::Number, words::CurrentVersion);
     const QString floorName = tr("Floor_") + QLatin1Char('1');
     addFloor(floorName, floorName, ceilingHeight, QString(), addmode::GivenId);
-    appendElement(words::SheetList, root);
     const QString sheetName = tr("Sheet_") + QLatin1Char('1');
     addSheet(sheetName, sheetName, addmode::GivenId);
-    appendElement(words::TestDefList, root);
-    appendElement(words::BundledCableList, root);
-    addSettingsList(&root);
-    appendElement(words::ActivePortList, appendElement(words::ActiveNetworkTestList, root));
 
     setDirty(false);
 }
 
+/// Adds what every job has directly under its root and this one lacks.
+void JobEditor::addSkeleton(QDomElement root)
+{
+    ensureElement(words::Release, root);
+    ensureElement(words::Version, root);
+    addInfo(words::ContractorInfo, contractorInfoAttributes(), root);
+    addInfo(words::SiteInfo, siteInfoAttributes(), root);
+    for (const QString &list : {words::CableList, words::ConnectionList, words::FloorList, words::SheetList,
+                                words::TestDefList, words::BundledCableList})
+        ensureElement(list, root);
+    addSettingsList(&root);
+    ensureElement(words::ActivePortList, ensureElement(words::ActiveNetworkTestList, root));
+}
+
 bool JobEditor::Load(const QString &filename)
 {
-    if (filename.isEmpty()) {
-        m_error = tr("Empty or null filename in JobEditor::Load");
-        return false;
-    }
-    // Before anything is checked: a failed load leaves the new name in place.
-    m_filename = filename;
-    if (!QFileInfo::exists(filename)) {
-        m_error = tr("Job file %1 does not exist").arg(filename);
-        return false;
-    }
-
-    const xmlfile::ReadResult result = xmlfile::read(filename, words::Job);
-    if (result.status == xmlfile::ReadResult::NotOpened) {
-        m_error = result.deviceError;
-        return false;
-    }
-    m_document = result.document;
+    const bool isRead =
+        readFile(filename, words::Job,
+                 {tr("Empty or null filename in JobEditor::Load"), tr("Job file %1 does not exist"),
+                  tr("Error parsing job file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse job file %1")});
+    const bool isLoaded = isRead && checkVersion();
     updateAllInternalLists();
-    if (result.status == xmlfile::ReadResult::NotParsed) {
-        const XmlProblem &problem = result.problem;
-        if (problem.line != 0 && problem.column != 0) {
-            qDebug().noquote() << "errMsg = " << problem.message;
-            qDebug("errLine = %d", problem.line);
-            qDebug("errColumn = %d", problem.column);
-            m_error =
-                tr("Error parsing job file %1\n on line %2,\n column %3,\n%4")
-                    .arg(filename, QString::number(problem.line), QString::number(problem.column), problem.message);
-        } else {
-            m_error = tr("Unable to parse job file %1").arg(filename);
-        }
-        return false;
-    }
-    if (!checkVersion()) {
+    if (isRead && !isLoaded)
         m_error = tr("Incompatible version of job file %1").arg(filename);
-        return false;
-    }
-    setDirty(false);
-    return true;
+    if (isLoaded)
+        setDirty(false);
+    return isLoaded;
 }
 
 void JobEditor::Unload()
@@ -201,7 +161,7 @@ void JobEditor::Unload()
 
 bool JobEditor::save()
 {
-    if (!isUsableName(m_filename)) {
+    if (!namesAFile(m_filename, words::JobExtension)) {
         m_error = tr("Filename is Empty");
         return false;
     }
@@ -211,20 +171,27 @@ bool JobEditor::save()
     return true;
 }
 
-bool JobEditor::saveAs(const QString &filename)
+/// Whether a file can have that name: the extension alone cannot be one, nor can a directory.
+bool JobEditor::mayBeFile(const QString &filename, const QString &extension)
 {
-    if (!isUsableName(filename)) {
+    if (!namesAFile(filename, extension)) {
         m_error = tr("Filename is Empty");
         return false;
     }
-    const QFileInfo file(filename);
-    if (file.isDir()) {
+    if (QFileInfo(filename).isDir()) {
         // The text for the user is deliberately shorter.
         qDebug("Filename given to JobEditor is a directory");
         m_error = tr("Filename given is a directory");
         return false;
     }
-    if (file.exists())
+    return true;
+}
+
+bool JobEditor::saveAs(const QString &filename)
+{
+    if (!mayBeFile(filename, words::JobExtension))
+        return false;
+    if (QFileInfo::exists(filename))
         qDebug("Overwriting in JobEditor::saveAs");
     if (!writeFile(filename, jobAttributeOrder()))
         return false;
@@ -235,7 +202,7 @@ bool JobEditor::saveAs(const QString &filename)
 
 bool JobEditor::checkJobExtension(const QString &filename)
 {
-    return QFileInfo(filename).suffix().toLower() == words::JobExtension;
+    return hasExtension(filename, words::JobExtension);
 }
 
 bool JobEditor::checkUntitledJob(const QString &filename)

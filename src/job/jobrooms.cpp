@@ -75,12 +75,17 @@ QDomElement JobEditor::undefinedRoomElement(const QDomElement &roomList)
     return room;
 }
 
+/// Adds what every room has and this one lacks.
+void JobEditor::addRoomContainers(const QDomElement &room)
+{
+    ensureElement(words::PortList, room);
+    ensureElement(words::VerticalRunList, room);
+}
+
 /// Gives a room that was just appended to its floor its containers and its places in the indexes.
 void JobEditor::completeNewRoom(const QDomElement &room)
 {
-    appendElement(words::PortList, room);
-    appendElement(words::VerticalRunList, room);
-
+    addRoomContainers(room);
     const QDomNode floor = room.parentNode().parentNode();
     // A second floor of the same tag cannot be reached, nor can its rooms.
     if (floorElement(floor.nodeName()) != floor)

@@ -24,9 +24,7 @@ QString JobEditor::addSheet(const QString &tag, const QString &id, int mode)
 
     const QDomElement sheet = appendElement(sheetTag, sheetList);
     sheetAttributes().write(sheet, {sheetId, sheetTag});
-    appendElement(words::DeviceList, sheet);
-    appendElement(words::VerticeList, sheet);
-    appendElement(words::FreeTextList, sheet);
+    addSheetContainers(sheet);
     sheets.append(sheet);
     setDirty(true);
     return sheetTag;
@@ -35,6 +33,14 @@ QString JobEditor::addSheet(const QString &tag, const QString &id, int mode)
 QString JobEditor::addSheet(const Sheet &sheet, int mode)
 {
     return addSheet(sheet.element(), sheet.id(), mode);
+}
+
+/// Adds what every sheet has and this one lacks.
+void JobEditor::addSheetContainers(const QDomElement &sheet)
+{
+    ensureElement(words::DeviceList, sheet);
+    ensureElement(words::VerticeList, sheet);
+    ensureElement(words::FreeTextList, sheet);
 }
 
 void JobEditor::removeSheet(const QString &tag)

@@ -1,0 +1,246 @@
+#include "bkxmleditor.h"
+
+#include "attributetext.h"
+#include "childelements.h"
+#include "settingsattributes.h"
+#include "sharedattributes.h"
+#include "words.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
+#include <QtCore/QVector>
+
+using namespace cabledoc;
+
+namespace {
+
+const QString connector = QStringLiteral("connector");
+const QString networkDevicesSettings = QStringLiteral("NetworkDevices_Settings");
+
+/// The colour of a cable type that the system brings; black for another.
+QString colorOfType(const QString &type)
+{
+    static const QMap<QString, QString> colors{
+        {QStringLiteral("CAT5"), QStringLiteral("#11ff11")},     {QStringLiteral("CAT5E"), QStringLiteral("#2222dd")},
+        {QStringLiteral("CAT6"), QStringLiteral("#333333")},     {QStringLiteral("CAT3_4P"), QStringLiteral("#ff00ff")},
+        {QStringLiteral("CAT3"), QStringLiteral("#ee11dd")},     {QStringLiteral("CAT3_2P"), QStringLiteral("#448855")},
+        {QStringLiteral("RG-6"), QStringLiteral("#66ffaa")},     {QStringLiteral("Fire"), QStringLiteral("#8800ff")},
+        {QStringLiteral("Security"), QStringLiteral("#22dd88")}, {QStringLiteral("RG-58"), QStringLiteral("#3399ff")},
+        {QStringLiteral("RG-59"), QStringLiteral("#3388ee")},    {QStringLiteral("Audio"), QStringLiteral("#777777")},
+        {QStringLiteral("Tel_Cord"), QStringLiteral("#888888")}, {QStringLiteral("CAT5STP"), QStringLiteral("#22ee22")},
+        {QStringLiteral("CAT5ESTP"), QStringLiteral("#33dd33")}, {QStringLiteral("CAT6STP"), QStringLiteral("#444444")},
+    };
+    return colors.value(type, TestDefFields().color);
+}
+
+TestDef newDefinition(const QString &type, const QString &color, const QString &expected)
+{
+    TestDef definition(type);
+    definition.setColor(color);
+    definition.setExpected(BKXMLEditor::stringToData(expected));
+    return definition;
+}
+
+void setVersion(const QDomElement &root, const QString &number)
+{
+    root.firstChildElement(words::Version).setAttribute(words::Number, number);
+}
+
+/// Adds to the expected blocks what 1.4 brought. Up to 1.3 the element of a definition was named "T" and its
+/// type; it is removed and added under a tag of today, with all that it holds.
+void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
+{
+    QVector<QDomElement> definitions;
+    for (const QDomElement &definition : ChildElements(list)) {
+        if (definition.hasAttribute(words::Id))
+            definitions.append(definition);
+    }
+    for (QDomElement definition : definitions) {
+        const TestDefFields fields = testDefAttributes().read(definition);
+        const QDomElement named = list.firstChildElement(QLatin1Char('T') + fields.id);
+        const QString expected = (named.isNull() ? definition : named).attribute(words::Expected);
+
+        list.removeChild(definition);
+        definition.setTagName(firstFreeTag(list, words::TestDefTagPrefix));
+        list.appendChild(definition);
+        if (!expected.isEmpty()) {
+            const QString lengthened = expected + QString(24, QLatin1Char('0'));
+            definition.setAttribute(words::Expected, toText(BKXMLEditor::stringToData(lengthened)));
+        }
+        if (lengthConstantDivisor != 1.0) {
+            definition.setAttribute(words::LengthConstant,
+                                    toText(truncated(double(fields.lengthConstant) / lengthConstantDivisor)));
+        }
+    }
+}
+
+/// Every definition keeps its tag when that holds a number and is its own.
+void giveDefinitionsTheirOwnTags(const QDomElement &list)
+{
+    static const QRegularExpression number(QStringLiteral("[1-9][0-9]{0,}"));
+    QSet<QString> used;
+    int counter = 1;
+    for (QDomElement definition : ChildElements(list)) {
+        if (!definition.tagName().contains(number) || used.contains(definition.tagName())) {
+            while (used.contains(words::TestDefTagPrefix + QString::number(counter)))
+                ++counter;
+            definition.setTagName(words::TestDefTagPrefix + QString::number(counter));
+        }
+        used.insert(definition.tagName());
+    }
+}
+
+void addColor(QDomElement definition)
+{
+    if (definition.hasAttribute(words::Color))
+        return;
+    const bool isOwnType =
+        definition.hasAttribute(words::DefaultType) && definition.attribute(words::DefaultType).toInt() == 0;
+    definition.setAttribute(words::Color,
+                            isOwnType ? TestDefFields().color : colorOfType(definition.attribute(words::Id)));
+}
+
+/// The connector was a text of its own. Beside a comment that is there already it follows that.
+void turnConnectorIntoComment(QDomElement definition)
+{
+    QStringList remarks{definition.attribute(words::Comment), definition.attribute(connector)};
+    remarks.removeAll(QString());
+    definition.setAttribute(words::Comment, remarks.join(QLatin1String(", ")));
+    definition.removeAttribute(connector);
+}
+
+void addInventorySettings(BKXMLEditor *document, const QDomElement &printSettings)
+{
+    if (printSettings.firstChildElement(words::InventorySettings).isNull())
+        document->setPrintSettings(initialPrintSettings(words::InventorySettings), words::InventorySettings);
+}
+
+struct ConversionStep
+{
+    QString from;
+    bool (BKXMLEditor::*convert)(QDomElement *, QDomNode *);
+};
+
+} // namespace
+
+QString BKXMLEditor::version() const
+{
+    return getChildAttr(words::Number, getElement(words::Version));
+}
+
+bool BKXMLEditor::convertToCurrentVersion(const std::function<bool()> &stepDone)
+{
+    static const ConversionStep steps[] = {
+        {QStringLiteral("1.1"), &BKXMLEditor::convert11To14}, {QStringLiteral("1.2"), &BKXMLEditor::convert12To14},
+        {QStringLiteral("1.3"), &BKXMLEditor::convert13To14}, {QStringLiteral("1.4"), &BKXMLEditor::convert14To21},
+        {QStringLiteral("2.1"), &BKXMLEditor::convert21To22}, {QStringLiteral("2.2"), &BKXMLEditor::convert22To23},
+        {QStringLiteral("2.3"), &BKXMLEditor::convert23To30},
+    };
+    QDomElement root = m_document.firstChild().toElement();
+    for (const ConversionStep &step : steps) {
+        if (version() == step.from && !((this->*step.convert)(&root, &root) && stepDone()))
+            return false;
+    }
+    return version() == words::CurrentVersion;
+}
+
+bool BKXMLEditor::convert11To14(QDomElement *root, QDomNode *rootNode)
+{
+    QDomElement contractor = root->firstChildElement(words::ContractorInfo);
+    if (!contractor.isNull() && !contractor.hasAttribute(words::Logo))
+        contractor.setAttribute(words::Logo, QLatin1String(""));
+    return convert12To14(root, rootNode);
+}
+
+bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, QStringLiteral("1.4"));
+    // The unit became ten times as large.
+    replaceDefinitions(root->firstChildElement(words::TestDefList), 10.0);
+    return true;
+}
+
+bool BKXMLEditor::convert13To14(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, QStringLiteral("1.4"));
+    // Deliberately without the division: 1.3 has the later unit already.
+    replaceDefinitions(root->firstChildElement(words::TestDefList), 1.0);
+    return true;
+}
+
+bool BKXMLEditor::convert14To21(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, QStringLiteral("2.1"));
+    ensureElement(words::TestDefList, *root);
+    const QString coaxial = QStringLiteral("RG-59");
+    addTestDef(newDefinition(coaxial, colorOfType(coaxial),
+                             QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFFEEFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF"
+                                            "00000000000000000000000000000000")));
+    addSettingsList(root);
+    return true;
+}
+
+bool BKXMLEditor::convert21To22(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, QStringLiteral("2.2"));
+
+    const QDomElement definitions = root->firstChildElement(words::TestDefList);
+    giveDefinitionsTheirOwnTags(definitions);
+    for (const QDomElement &definition : ChildElements(definitions)) {
+        addColor(definition);
+        turnConnectorIntoComment(definition);
+    }
+
+    ensureElement(words::BundledCableList, *root);
+    const QString audio = QStringLiteral("Audio");
+    const QString cat5e = QStringLiteral("CAT5E");
+    const QString rg6 = QStringLiteral("RG-6");
+    const QString rg59 = QStringLiteral("RG-59");
+    addBundledCableType(QStringLiteral("HTheatre"), {cat5e, audio}, QStringLiteral("#ffaa7f"), true);
+    addBundledCableType(QStringLiteral("MMCombo2"), {cat5e, rg6}, QStringLiteral("#00ff00"), true);
+    addBundledCableType(QStringLiteral("MMCombo4"), {cat5e, rg6}, QStringLiteral("#0000ff"), true);
+    addBundledCableType(QStringLiteral("ProFlex"), {cat5e, rg59, audio}, QStringLiteral("#55ff99"), true);
+
+    addInventorySettings(this, getToPrintSettingsList());
+    return true;
+}
+
+bool BKXMLEditor::convert22To23(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, QStringLiteral("2.3"));
+    return true;
+}
+
+bool BKXMLEditor::convert23To30(QDomElement *root, QDomNode *)
+{
+    setVersion(*root, words::CurrentVersion);
+
+    ensureElement(words::TestDefList, *root);
+    // Cables with pairs 0 and 1 crossed, and those with all pairs crossed.
+    const QString firstPairsCrossed =
+        QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFF0001000203FFFFFFFFFFFFFFFFFFFFFFFFFF0FFFFFFFF"
+                       "FFFFFFFFFFFFFFFFFFFFFFFFF");
+    const QString allPairsCrossed =
+        QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFF0001000302FFFFFFFFFFFFFFFFFFFFFFFFFF0FFFFFFFF"
+                       "FFFFFFFFFFFFFFFFFFFFFFFFF");
+    addTestDef(newDefinition(QStringLiteral("CAT5-X"), QStringLiteral("#ffaa00"), firstPairsCrossed));
+    addTestDef(newDefinition(QStringLiteral("CAT5E-X"), QStringLiteral("#ffaa7f"), firstPairsCrossed));
+    addTestDef(newDefinition(QStringLiteral("CAT6-X"), QStringLiteral("#ff557f"), firstPairsCrossed));
+    addTestDef(newDefinition(QStringLiteral("CAT5-XX"), QStringLiteral("#aa00ff"), allPairsCrossed));
+    addTestDef(newDefinition(QStringLiteral("CAT5E-XX"), QStringLiteral("#aa55ff"), allPairsCrossed));
+    addTestDef(newDefinition(QStringLiteral("CAT6-XX"), QStringLiteral("#aaaaff"), allPairsCrossed));
+
+    QDomElement settings = getToPrintSettingsList();
+    QDomElement entry = settings.firstChildElement(networkDevicesSettings);
+    if (entry.isNull()) {
+        addInventorySettings(this, settings);
+        return true;
+    }
+    for (QDomElement other = settings.firstChildElement(words::InventorySettings); !other.isNull();
+         other = settings.firstChildElement(words::InventorySettings))
+        settings.removeChild(other);
+    entry.setTagName(words::InventorySettings);
+    setPrintSettings(PrintSettings(), words::InventorySettings);
+    return true;
+}

@@ -1,0 +1,227 @@
+#include "bkteditor.h"
+#include "jobeditor.h"
+#include "testfiles.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace {
+
+BKXMLEditor &document(const QString &fileName)
+{
+    if (BktEditor::checkBktExtension(fileName))
+        return BktEditor::Instance();
+    return JobEditor::Instance();
+}
+
+bool load(const QString &fileName)
+{
+    return BktEditor::checkBktExtension(fileName) ? BktEditor::Instance().Load(fileName)
+                                                  : JobEditor::Instance().Load(fileName);
+}
+
+bool save(const QString &fileName)
+{
+    return BktEditor::checkBktExtension(fileName) ? BktEditor::Instance().save() : JobEditor::Instance().save();
+}
+
+QByteArray versionOf(const QByteArray &content)
+{
+    const auto start = content.indexOf("number=\"");
+    return start < 0 ? QByteArray() : content.mid(start + 8, 3);
+}
+
+/// A template of version 1.1 that takes a while to convert.
+QByteArray bigTemplate()
+{
+    QByteArray content = "<Bkt>\n <Version number=\"1.1\"/>\n <TestDef_List>\n";
+    for (int i = 0; i < 500; ++i) {
+        const QByteArray type = "Type" + QByteArray::number(i);
+        content += "  <T" + type + " id=\"" + type + "\" expected=\"" + QByteArray(72, '0') + "\"/>\n";
+    }
+    return content + " </TestDef_List>\n</Bkt>\n";
+}
+
+} // namespace
+
+/// What becomes of the files of earlier releases.
+class MigrationTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        JobEditor::Destroy();
+        BktEditor::Destroy();
+    }
+
+    void olderFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QStringList names = QDir(testDataPath("migration"))
+                                      .entryList({"*.job", "*.bkt"}, QDir::Files)
+                                      .filter(QRegularExpression("^((?!expected).)*$"));
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    /// Each file of tests/data/migration becomes what the file beside it says.
+    void olderFiles()
+    {
+        QFETCH(QString, name);
+        const QFileInfo given(testDataPath("migration/") + name);
+        const QByteArray before = readFile(given.filePath());
+        const QByteArray expected =
+            readFile(given.path() + '/' + given.completeBaseName() + ".expected." + given.suffix());
+        const QString fileName = m_directory.filePath(name);
+        writeFile(fileName, before);
+
+        QVERIFY2(load(fileName), qPrintable(document(fileName).error()));
+        // Each step of a template's conversion reaches the disk; a job's none.
+        const bool isConvertedOnDisk = BktEditor::checkBktExtension(fileName) && versionOf(before) != "3.0";
+        QCOMPARE(readFile(fileName), isConvertedOnDisk ? expected : before);
+        QVERIFY(!JobEditor::Instance().fileChanged());
+        QVERIFY(!BktEditor::Instance().fileChanged());
+
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(save(fileName));
+            QCOMPARE(readFile(fileName), expected);
+            QVERIFY(load(fileName));
+        }
+    }
+
+    void jobIsReadyForWork()
+    {
+        const QString fileName = m_directory.filePath("work.job");
+        writeFile(fileName, testData("migration/job-1.1.job"));
+        JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.Load(fileName));
+        QCOMPARE(job.getCables(true), QStringList("Cable1"));
+        QVERIFY(job.testDefExists("CAT5E"));
+        QCOMPARE(job.getRooms("FFloor_1", true), QStringList({"Room1", "Undefined"}));
+        job.removeRoom("FFloor_1", "Room1");
+        QCOMPARE(job.getPorts("FFloor_1", "Undefined", false), QStringList({"Jack 1", "Jack 2"}));
+        job.setSiteContact("Bo");
+        QCOMPARE(job.getSiteContact(), QString("Bo"));
+        QVERIFY(!job.addConnection(QString(), "Link", "a", "b", "1", 0).isEmpty());
+    }
+
+    void refused_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("reason");
+        const QString badNumber = "%1 is a bad version number in BktEditor::checkVersion.";
+        const QString noVersion = "version Doesn't Exist in BktEditor::checkVersion";
+        const QString nothing = "there are no nodes below root node in _doc in BktEditor::checkVersion";
+        QTest::newRow("between versions") << QByteArray("<R><Version number='2.0'/></R>") << badNumber.arg("2.0");
+        QTest::newRow("later version") << QByteArray("<R><Version number='3.1'/></R>") << badNumber.arg("3.1");
+        QTest::newRow("empty version") << QByteArray("<R><Version number=''/></R>") << badNumber.arg("");
+        QTest::newRow("version without number") << QByteArray("<R><Version/></R>") << badNumber.arg("");
+        QTest::newRow("no version") << QByteArray("<R><TestDef_List/></R>") << noVersion;
+        QTest::newRow("another root") << QByteArray("<Other><Version number='1.4'/></Other>") << noVersion;
+        QTest::newRow("nothing in the root") << QByteArray("<R/>") << nothing;
+        QTest::newRow("comment first") << QByteArray("<!-- --><R><Version number='1.4'/></R>") << nothing;
+        QTest::newRow("declaration first")
+            << QByteArray("<?xml version='1.0'?><R><Version number='1.4'/></R>") << nothing;
+    }
+
+    void refused()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, reason);
+        const QString templateName = m_directory.filePath("refused.bkt");
+        const QByteArray templateContent = QByteArray(content).replace("R>", "Bkt>").replace("R/>", "Bkt/>");
+        writeFile(templateName, templateContent);
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(!bkt.Load(templateName));
+        QCOMPARE(bkt.error(), QString("Incompatible version of Bkt file"));
+        QVERIFY(!bkt.checkVersion());
+        QCOMPARE(bkt.error(), reason);
+        QCOMPARE(readFile(templateName), templateContent);
+
+        const QString jobName = m_directory.filePath("refused.job");
+        writeFile(jobName, content.replace("R>", "Job>").replace("R/>", "Job/>"));
+        QVERIFY(!JobEditor::Instance().Load(jobName));
+        QCOMPARE(JobEditor::Instance().error(), "Incompatible version of job file " + jobName);
+    }
+
+    void emptyDocument()
+    {
+        QVERIFY(!BktEditor::Instance().checkVersion());
+        QCOMPARE(BktEditor::Instance().error(), QString("_doc has no child nodes in BktEditor::checkVersion"));
+    }
+
+    /// The first step fits into the limit, the second, which adds the settings, does not.
+    void stepThatCannotBeSaved()
+    {
+        const QString fileName = m_directory.filePath("limited.bkt");
+        const QByteArray content = testData("migration/template-1.1.bkt");
+        writeFile(fileName, content);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit unlimited{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+        const rlimit limited{rlim_t(content.size() + 100), unlimited.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
+        const bool isLoaded = BktEditor::Instance().Load(fileName);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &unlimited), 0);
+        QVERIFY(!isLoaded);
+        QCOMPARE(BktEditor::Instance().error(), QString("Incompatible version of Bkt file"));
+        QCOMPARE(versionOf(readFile(fileName)), QByteArray("1.4"));
+
+        QVERIFY(BktEditor::Instance().Load(fileName));
+        QCOMPARE(readFile(fileName), testData("migration/template-1.1.expected.bkt"));
+    }
+
+    /// Kills a conversion when it has come to a version, or a while later. What is on the disk then loads and
+    /// becomes the same as without the kill.
+    void killedBetweenAndDuringSteps()
+    {
+        const QString fileName = m_directory.filePath("killed.bkt");
+        writeFile(fileName, bigTemplate());
+        QVERIFY(BktEditor::Instance().Load(fileName));
+        const QByteArray expected = readFile(fileName);
+        QSet<QByteArray> left;
+        for (int kill = 0; kill < 30; ++kill) {
+            writeFile(fileName, bigTemplate());
+            const QByteArray awaited = QByteArrayList({"1.1", "1.4", "2.1", "2.2", "2.3"}).at(kill % 5);
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(), {"--load", fileName});
+            QVERIFY(process.waitForStarted());
+            QElapsedTimer patience;
+            patience.start();
+            while (versionOf(readFile(fileName)) < awaited && patience.elapsed() < 10000) {
+            }
+            QTest::qSleep(1 + kill / 5);
+            process.kill();
+            QVERIFY(process.waitForFinished());
+
+            left.insert(versionOf(readFile(fileName)));
+            QVERIFY2(BktEditor::Instance().Load(fileName), qPrintable(BktEditor::Instance().error()));
+            QCOMPARE(readFile(fileName), expected);
+        }
+        QVERIFY2(left.size() > 2, "no kill came in the middle of the conversion");
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--load") == 0)
+        return BktEditor::Instance().Load(QFile::decodeName(argv[2])) ? 0 : 1;
+    MigrationTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_migration.moc"

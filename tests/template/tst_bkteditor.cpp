@@ -1,0 +1,158 @@
+#include "bkteditor.h"
+#include "testfiles.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+/// A template by itself, beside the one of the process.
+class NamedTemplate : public BktEditor
+{
+public:
+    explicit NamedTemplate(const QString &filename)
+        : BktEditor(filename)
+    {
+    }
+};
+
+} // namespace
+
+class BktEditorTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+    QString path(const QString &name) const { return m_directory.filePath(name); }
+
+private Q_SLOTS:
+    void cleanup() { BktEditor::Destroy(); }
+
+    void newTemplateHasTheTreeOfTheFormat()
+    {
+        BktEditor &bkt = BktEditor::Instance();
+        QCOMPARE(&BktEditor::Instance(), &bkt);
+        bkt.setContractorTester("nobody");
+        QVERIFY(bkt.New(path("new.bkt")));
+        QVERIFY(!bkt.fileChanged());
+        QVERIFY(!QFile::exists(path("new.bkt")));
+        QVERIFY(bkt.save());
+        QCOMPARE(readFile(path("new.bkt")), testData("new.bkt"));
+        QVERIFY(bkt.New(path("another.bkt")));
+        QVERIFY(bkt.Load(path("new.bkt")));
+        QVERIFY(bkt.save());
+        QCOMPARE(readFile(path("new.bkt")), testData("new.bkt"));
+    }
+
+    void names()
+    {
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(!bkt.New(QString()));
+        QCOMPARE(bkt.error(), QString("Unable to create template with NULL filename"));
+        QVERIFY(bkt.New(""));
+        for (const QString &name : {QString(), QString(".bkt")}) {
+            bkt.setFilename(name);
+            QVERIFY(!bkt.save());
+            QCOMPARE(bkt.error(), QString("Filename is empty."));
+            QVERIFY(!bkt.saveAs(name));
+            QCOMPARE(bkt.error(), QString("Unable to Save file (NULL)"));
+        }
+        QVERIFY(BktEditor::checkBktExtension("/x.job/shop.Bkt"));
+        QVERIFY(!BktEditor::checkBktExtension("shop.bkt.bak"));
+        QVERIFY(!BktEditor::checkBktExtension("bkt"));
+        QVERIFY(!BktEditor::checkBktExtension("shop.job"));
+    }
+
+    void saveAsWritesAnotherFile()
+    {
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("first.bkt")));
+        bkt.setContractorTester("Ann");
+        QVERIFY(bkt.saveAs(path("second.bkt")));
+        QCOMPARE(bkt.filename(), path("first.bkt"));
+        QVERIFY(bkt.fileChanged());
+        QVERIFY(bkt.save());
+        QVERIFY(!bkt.fileChanged());
+        QCOMPARE(readFile(path("first.bkt")), readFile(path("second.bkt")));
+        QVERIFY(!bkt.saveAs(path("none/second.bkt")));
+        QVERIFY(!bkt.error().isEmpty());
+        QVERIFY(!bkt.saveAs(m_directory.path()));
+    }
+
+    void failedLoads_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("message");
+        writeFile(path("empty.bkt"), "");
+        writeFile(path("broken.bkt"), "<Bkt>\n<Version number='3.0'>\n</Bkt>");
+        writeFile(path("other.bkt"), "<Job><Version number='3.0'/></Job>");
+        QTest::newRow("no name") << ""
+                                 << "Empty or null filename in BktEditor::Load";
+        QTest::newRow("missing") << path("missing.bkt") << "Bkt file " + path("missing.bkt") + " does not exist";
+        QTest::newRow("nothing in it") << path("empty.bkt") << "Unable to parse Bkt file " + path("empty.bkt");
+        QTest::newRow("broken") << path("broken.bkt")
+                                << "Error parsing Bkt file " + path("broken.bkt")
+                                       + "\n on line 3,\n column 6,\nOpening and ending tag mismatch.";
+        QTest::newRow("another document") << path("other.bkt") << "Incompatible version of Bkt file";
+        QTest::newRow("directory") << m_directory.path() << "";
+    }
+
+    void failedLoads()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, message);
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("before.bkt")));
+        QVERIFY(!bkt.Load(name));
+        if (message.isEmpty())
+            QVERIFY(!bkt.error().isEmpty());
+        else
+            QCOMPARE(bkt.error(), message);
+        QCOMPARE(bkt.filename(), name.isEmpty() ? path("before.bkt") : name);
+    }
+
+    /// What was not read whole is never written over the file that it came from.
+    void brokenFileIsNotOverwritten()
+    {
+        writeFile(path("broken.bkt"), "<Bkt>");
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("before.bkt")));
+        QVERIFY(!bkt.Load(path("broken.bkt")));
+        QVERIFY(!bkt.save());
+        QCOMPARE(readFile(path("broken.bkt")), QByteArray("<Bkt>"));
+    }
+
+    void constructedByName()
+    {
+        const NamedTemplate fresh(path("fresh.bkt"));
+        QVERIFY(!QFile::exists(path("fresh.bkt")));
+        writeFile(path("there.bkt"), testData("new.bkt"));
+        NamedTemplate loaded(path("there.bkt"));
+        QVERIFY(loaded.save());
+        QCOMPARE(readFile(path("there.bkt")), testData("new.bkt"));
+        writeFile(path("broken.bkt"), "<Bkt>");
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(), {"--construct", path("broken.bkt")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 255);
+        QVERIFY(
+            process.readAllStandardError().contains("Load failed in BktEditor::BktEditor(const QString &filename)"));
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--construct") == 0) {
+        const NamedTemplate bkt(QFile::decodeName(argv[2]));
+        return 0;
+    }
+    BktEditorTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_bkteditor.moc"
