@@ -16,6 +16,8 @@
 
 #include <memory>
 
+class BktEditor;
+
 namespace cabledoc {
 struct JobIndex;
 }
@@ -94,6 +96,19 @@ public:
     /// Whether the file name begins with "untitled", in any case, before its first dot.
     static bool checkUntitledJob(const QString &filename);
 
+    // Templates. What a job has is copied as it is, empty texts included; definitions and bundles are known by
+    // their names, and those that the target has stay as they are.
+
+    /// Takes over the contractor and the settings of a template, and the test definitions and bundles that the
+    /// job lacks.
+    void Import(BktEditor *bkt);
+    /// Takes over those default test definitions, and those bundles, of a template that the job lacks.
+    void ImportMissingDefaultCableTypes(BktEditor *bkt);
+    /// Writes contractor, settings, test definitions and bundles to a file as a new template, which replaces the
+    /// one in the template document and stays open there. False, with a text in error(), when the name is empty
+    /// or that of a directory (the open template is as it was), or the file cannot be written. Entries of the
+    /// settings that the job lacks are added to it with their defaults.
+    bool Export(const QString &filename);
     /// The file of the default template. Setting an empty path changes nothing. Not part of the document.
     void setDefaultBktFile(const QString &filename);
     const QString &defaultBktFile() const { return m_defaultBktFile; }

@@ -3,6 +3,8 @@
 #include "bkxmleditor.h"
 #include "cabledoc_export.h"
 
+class JobEditor;
+
 /// The template document: the one open template file of the process. It holds what new jobs start from: the
 /// contractor, the settings of reports and views, test definitions and bundles of cable types.
 class CABLEDOC_EXPORT BktEditor : public BKXMLEditor
@@ -41,6 +43,10 @@ public:
     using BKXMLEditor::fileChanged;
     /// Whether the file name has the extension "bkt", in any case.
     static bool checkBktExtension(const QString &filename);
+
+    /// Takes over the contractor of a job, and the test definitions and bundles that the template lacks. The
+    /// settings stay as they are.
+    void Import(JobEditor *job);
 
     /// Brings the tree to version 3.0 and saves it after each step. Load() does it. False, with a text in
     /// error(), when the tree is no template of a known version or cannot be saved.

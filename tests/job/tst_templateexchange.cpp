@@ -1,0 +1,179 @@
+#include "bkteditor.h"
+#include "jobeditor.h"
+#include "testfiles.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+const QStringList reports{
+    "JobInfo_Settings",   "NetView_Settings",       "Inventory_Settings", "FloorPlan_Settings",
+    "TestSched_Settings", "DetailedCable_Settings", "JobNotes_Settings",  "ActiveNetworkTestResults_Settings"};
+const QStringList drawings{"NetView_Settings", "FloorPlan_Settings"};
+
+TestDef definition(const QString &type, bool isDefault, const QString &comment)
+{
+    TestDef definition(type);
+    definition.setDefaultType(isDefault);
+    definition.setComment(comment);
+    definition.setLengthConstant(1420);
+    definition.setPairMapping(0, 1);
+    return definition;
+}
+
+/// Gives a document something of everything that moves between documents; the mark tells one from another.
+void fill(BKXMLEditor &document, int mark)
+{
+    const QString text = QString::number(mark);
+    document.setContractorData("Ann " + text, "Co", "", "5", "logo.png", Address("1 Main St", "", "X", "", "", text));
+    for (const QString &report : reports)
+        document.setPrintSettings(PrintSettings("B", 0, ++mark, 2, 3, 1), report);
+    for (const QString &drawing : drawings) {
+        document.setPageSettings(PageSettings("B", "ANSI Engineering", 0, 2, 1, ++mark + 0.1, 4), drawing);
+        document.setScaleSettings(ScaleSettings("Metric", "1 : 5", 1, 2, 1, ++mark + 0.1, 2), drawing);
+    }
+    document.addTestDef(definition("CAT5E", true, text));
+    document.addTestDef(definition("own " + text, false, text));
+    document.addTestDef(definition("default " + text, true, text));
+    document.addBundledCableType("HTheatre", {"CAT5E", text}, "#ffaa7f", true);
+    document.addBundledCableType("bundle " + text, {"CAT5E"}, "#000000", false);
+}
+
+void compareContractorAndSettings(BKXMLEditor &a, BKXMLEditor &b)
+{
+    QVERIFY(a.getContractorData() == b.getContractorData());
+    for (const QString &report : reports)
+        QVERIFY2(a.getPrintSettings(report) == b.getPrintSettings(report), qPrintable(report));
+    for (const QString &drawing : drawings) {
+        QVERIFY2(a.getPageSettings(drawing) == b.getPageSettings(drawing), qPrintable(drawing));
+        QVERIFY2(a.getScaleSettings(drawing) == b.getScaleSettings(drawing), qPrintable(drawing));
+    }
+}
+
+} // namespace
+
+/// What jobs and templates give each other.
+class TemplateExchangeTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+    QString path(const char *name) const { return m_directory.filePath(name); }
+
+private Q_SLOTS:
+    void init() { QVERIFY(JobEditor::Instance().New(path("site.job"))); }
+
+    void cleanup()
+    {
+        JobEditor::Destroy();
+        BktEditor::Destroy();
+    }
+
+    void exportedAndImportedAgain()
+    {
+        JobEditor &job = JobEditor::Instance();
+        fill(job, 100);
+        QVERIFY2(job.Export(path("shop.bkt")), qPrintable(job.error()));
+        QVERIFY(job.saveAs(path("site.job")));
+        BktEditor &bkt = BktEditor::Instance();
+        QCOMPARE(bkt.filename(), path("shop.bkt"));
+        QVERIFY(!bkt.fileChanged());
+
+        job.Unload();
+        QVERIFY(job.New(path("next.job")));
+        QVERIFY(bkt.Load(path("shop.bkt")));
+        job.Import(&bkt);
+        QVERIFY(job.fileChanged());
+        QVERIFY(job.saveAs(path("next.job")));
+        QCOMPARE(readFile(path("next.job")), readFile(path("site.job")));
+    }
+
+    void importKeepsWhatIsThere()
+    {
+        JobEditor &job = JobEditor::Instance();
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("shop.bkt")));
+        fill(job, 100);
+        fill(bkt, 500);
+        job.Import(&bkt);
+        compareContractorAndSettings(job, bkt);
+        QCOMPARE(job.getTestDefNames(), QStringList({"CAT5E", "own 100", "default 100", "own 500", "default 500"}));
+        QCOMPARE(job.getTestDef("CAT5E").comment(), QString("100"));
+        QVERIFY(job.getTestDef("own 500") == bkt.getTestDef("own 500"));
+        QCOMPARE(job.getBundledCableTypeIds(), QStringList({"HTheatre", "bundle 100", "bundle 500"}));
+        QCOMPARE(job.getBundledCableType("HTheatre").types().last(), QString("100"));
+        QCOMPARE(job.getBundledCableType("bundle 500").types(), QStringList("CAT5E"));
+    }
+
+    void missingDefaults()
+    {
+        JobEditor &job = JobEditor::Instance();
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("shop.bkt")));
+        fill(bkt, 500);
+        job.ImportMissingDefaultCableTypes(&bkt);
+        QCOMPARE(job.getTestDefNames(), QStringList({"CAT5E", "default 500"}));
+        QCOMPARE(job.getBundledCableTypeIds(), QStringList({"HTheatre", "bundle 500"}));
+        QVERIFY(job.getContractorTester().isEmpty());
+        QVERIFY(job.saveAs(path("site.job")));
+        job.ImportMissingDefaultCableTypes(&bkt);
+        QVERIFY(!job.fileChanged());
+    }
+
+    void templateTakesFromJob()
+    {
+        JobEditor &job = JobEditor::Instance();
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("shop.bkt")));
+        fill(job, 100);
+        fill(bkt, 500);
+        const PrintSettings kept = bkt.getPrintSettings("Inventory_Settings");
+        bkt.Import(&job);
+        QVERIFY(bkt.getContractorData() == job.getContractorData());
+        QVERIFY(bkt.getPrintSettings("Inventory_Settings") == kept);
+        QCOMPARE(bkt.getTestDefNames(), QStringList({"CAT5E", "own 500", "default 500", "own 100", "default 100"}));
+        QCOMPARE(bkt.getBundledCableTypeIds(), QStringList({"HTheatre", "bundle 500", "bundle 100"}));
+    }
+
+    void namelessElementsAreNotTaken()
+    {
+        writeFile(path("nameless.bkt"), "<Bkt><Version number='3.0'/><TestDef_List><TestDef1/></TestDef_List>"
+                                        "<BundledCable_List><BundledCable1/></BundledCable_List></Bkt>");
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.Load(path("nameless.bkt")));
+        JobEditor::Instance().Import(&bkt);
+        QVERIFY(JobEditor::Instance().getTestDefNames().isEmpty());
+        QVERIFY(JobEditor::Instance().getBundledCableTypeIds().isEmpty());
+    }
+
+    void failedExports_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("no name") << ""
+                                 << "Filename is Empty";
+        QTest::newRow("extension alone") << ".bkt"
+                                         << "Filename is Empty";
+        QTest::newRow("directory") << m_directory.path() << "Filename given is a directory";
+        QTest::newRow("in no folder") << path("none/shop.bkt") << "";
+    }
+
+    void failedExports()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, message);
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(path("before.bkt")));
+        JobEditor &job = JobEditor::Instance();
+        QVERIFY(!job.Export(name));
+        QCOMPARE(job.error(), message.isEmpty() ? bkt.error() : message);
+        QVERIFY(!job.error().isEmpty());
+        QCOMPARE(bkt.filename(), message.isEmpty() ? name : path("before.bkt"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TemplateExchangeTest)
+#include "tst_templateexchange.moc"
