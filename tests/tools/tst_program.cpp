@@ -1,4 +1,6 @@
-#include <QtCore/QFile>
+#include "testfiles.h"
+
+#include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -68,16 +70,61 @@ private Q_SLOTS:
         QVERIFY2(m_output.contains("PASS              1\n"), m_output.constData());
     }
 
+    void check()
+    {
+        QCOMPARE(run({"check", CABLEDOC_TEST_DATA "/new.job"}), 0);
+        QCOMPARE(m_output + m_messages, QByteArray());
+        const QString site = CABLEDOC_TEST_DATA "/site.job";
+        QCOMPARE(run({"check", site}), 1);
+        QCOMPARE(m_output.count('\n'), 7);
+        QVERIFY(m_output.startsWith(site.toLocal8Bit() + ":6: missing-reference: Cable_List/Cable1: there is no "));
+        QCOMPARE(run({"check", site, "--json"}), 1);
+        const QJsonArray findings = QJsonDocument::fromJson(m_output).object().value("findings").toArray();
+        QCOMPARE(findings.size(), 7);
+        QCOMPARE(findings.at(6).toObject().value("rule").toString(), QString("duplicate-tag"));
+        QCOMPARE(findings.at(6).toObject().value("line").toInt(), 48);
+    }
+
+    void convert()
+    {
+        for (const char *name : {"template-1.1.bkt", "job-1.1.job"}) {
+            const QFileInfo file(CABLEDOC_TEST_DATA "/migration/" + QString(name));
+            const QByteArray before = readFile(file.filePath());
+            QCOMPARE(run({"convert", file.filePath(), "-o", path(name)}), 0);
+            QCOMPARE(m_output + m_messages, QByteArray());
+            QCOMPARE(readFile(path(name)),
+                     testData(qPrintable("migration/" + file.completeBaseName() + ".expected." + file.suffix())));
+            QCOMPARE(readFile(file.filePath()), before);
+            QCOMPARE(run({"convert", file.filePath(), "-o", path(name)}), 4);
+        }
+    }
+
+    void importAndExport()
+    {
+        const QString old = CABLEDOC_TEST_DATA "/migration/template-1.1.bkt";
+        const QByteArray before = readFile(old);
+        QCOMPARE(run({"new", path("shop.job")}), 0);
+        QCOMPARE(run({"import", path("shop.job"), "--template", old, "--missing-only"}), 0);
+        QVERIFY(readFile(path("shop.job")).contains("tester=\"\""));
+        QVERIFY(!readFile(path("shop.job")).contains("CAT6-X"));
+        QCOMPARE(run({"import", path("shop.job"), "--template", old}), 0);
+        QVERIFY(readFile(path("shop.job")).contains("tester=\"Ann\""));
+        QVERIFY(readFile(path("shop.job")).contains("CAT6-X"));
+        QCOMPARE(readFile(old), before);
+        QCOMPARE(run({"export", path("shop.job"), "-o", path("shop.bkt")}), 0);
+        QCOMPARE(m_output + m_messages, QByteArray());
+        QVERIFY(readFile(path("shop.bkt")).contains("tester=\"Ann\""));
+        QCOMPARE(run({"export", path("shop.job"), "-o", path("shop.bkt")}), 4);
+        QCOMPARE(run({"import", path("shop.job"), "--template", path("shop.job")}), 3);
+        QVERIFY(m_messages.contains("shop.job: Incompatible"));
+    }
+
     void newReplacesNothing()
     {
-        QFile file(path("there.job"));
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        file.write("precious");
-        file.flush();
+        writeFile(path("there.job"), "precious");
         QCOMPARE(run({"new", path("there")}), 4);
         QVERIFY(m_messages.contains("there.job"));
-        file.seek(0);
-        QCOMPARE(file.readAll(), QByteArray("precious"));
+        QCOMPARE(readFile(path("there.job")), QByteArray("precious"));
         QCOMPARE(run({"new", path("none/there.job")}), 4);
         QVERIFY(m_messages.contains("none/there.job"));
     }
@@ -97,6 +144,11 @@ private Q_SLOTS:
         QTest::newRow("too many floors") << QStringList{create, file, floors, "1001"};
         QTest::newRow("floors in words") << QStringList{create, file, floors, "two"};
         QTest::newRow("option of another command") << QStringList{create, file, "--json"};
+        QTest::newRow("no output") << QStringList{"convert", file};
+        QTest::newRow("template from a job") << QStringList{"convert", file, "-o", "never.bkt"};
+        QTest::newRow("neither job nor template") << QStringList{"convert", "never.xml", "-o", "never.xml"};
+        QTest::newRow("export as a job") << QStringList{"export", file, "-o", file};
+        QTest::newRow("no template") << QStringList{"import", file};
     }
 
     void wrongCommandLines()
@@ -109,16 +161,21 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path("never.job")));
     }
 
-    void infoOfWhatCannotBeLoaded()
+    void filesThatCannotBeLoaded()
     {
-        QFile file(path("broken.job"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<Job>");
-        file.close();
+        writeFile(path("broken.job"), "<Job>");
+        QVERIFY(QFile::copy(path("broken.job"), path("broken.bkt")));
         for (const QString &name : {path("broken.job"), path("missing.job"), m_directory.path()}) {
-            QCOMPARE(run({"info", name}), 3);
-            QCOMPARE(m_output, QByteArray());
+            for (const QString &command : {QString("info"), QString("check")}) {
+                QCOMPARE(run({command, name}), 3);
+                QCOMPARE(m_output, QByteArray());
+                QVERIFY2(m_messages.contains(name.toLocal8Bit()), m_messages.constData());
+            }
+        }
+        for (const QString &name : {path("broken.bkt"), path("missing.bkt")}) {
+            QCOMPARE(run({"convert", name, "-o", path("converted.bkt")}), 3);
             QVERIFY2(m_messages.contains(name.toLocal8Bit()), m_messages.constData());
+            QVERIFY(!QFile::exists(path("converted.bkt")));
         }
     }
 

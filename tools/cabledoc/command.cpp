@@ -1,8 +1,12 @@
 #include "command.h"
 
+#include <cabledoc/bkteditor.h>
 #include <cabledoc/jobeditor.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
 
 #include <cstdio>
 
@@ -15,6 +19,19 @@ Command::Command(const QString &name, const QString &description)
                                    QStringLiteral("FILE"));
     m_parser.addOption(
         {{QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("Command", "Show this help.")});
+}
+
+void Command::addFileOption(const QStringList &names, const QString &description, const QString &valueName)
+{
+    m_parser.addOption({names, description, valueName});
+    m_neededOptions.append(names.constLast());
+}
+
+void Command::addOutputOption()
+{
+    addFileOption({QStringLiteral("o"), QStringLiteral("output")},
+                  QCoreApplication::translate("Command", "The file to write. An existing one is not replaced."),
+                  QStringLiteral("NEW"));
 }
 
 bool Command::parse(const QStringList &arguments)
@@ -31,6 +48,12 @@ bool Command::parse(const QStringList &arguments)
         m_exitCode = usageError(QCoreApplication::translate("Command", "one file name is needed"));
         return false;
     }
+    for (const QString &option : std::as_const(m_neededOptions)) {
+        if (m_parser.value(option).isEmpty()) {
+            m_exitCode = usageError(QCoreApplication::translate("Command", "--%1 is needed").arg(option));
+            return false;
+        }
+    }
     return true;
 }
 
@@ -39,9 +62,46 @@ bool Command::loadJob()
     JobEditor &job = JobEditor::Instance();
     if (job.Load(fileName()))
         return true;
-    printMessage(fileName(), job.error());
-    m_exitCode = CannotLoad;
+    loadError(fileName(), job.error());
     return false;
+}
+
+bool Command::loadTemplate(const QString &fileName)
+{
+    const QTemporaryDir directory;
+    const QString copyName = directory.filePath(QFileInfo(fileName).fileName());
+    QFile file(fileName);
+    if (!file.copy(copyName)) {
+        loadError(fileName, file.errorString());
+        return false;
+    }
+    QFile::setPermissions(copyName, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    BktEditor &bkt = BktEditor::Instance();
+    if (bkt.Load(copyName))
+        return true;
+    loadError(fileName, bkt.error().replace(copyName, fileName));
+    return false;
+}
+
+bool Command::mayCreate(const QString &fileName)
+{
+    if (!QFileInfo::exists(fileName))
+        return true;
+    printMessage(QCoreApplication::translate("Command", "%1 exists and is left as it is").arg(fileName));
+    m_exitCode = CannotSave;
+    return false;
+}
+
+void Command::loadError(const QString &fileName, const QString &message)
+{
+    printMessage(fileName, message);
+    m_exitCode = CannotLoad;
+}
+
+ExitCode Command::saveError(const QString &fileName, const QString &message)
+{
+    printMessage(fileName, message);
+    return m_exitCode = CannotSave;
 }
 
 ExitCode Command::usageError(const QString &message) const

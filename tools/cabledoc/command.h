@@ -8,12 +8,14 @@
 /// How the program ends. The numbers are part of its interface.
 enum ExitCode {
     Done = 0,
+    FoundSomething = 1, ///< "check" found something wrong with the file
     WrongUsage = 2,
     CannotLoad = 3,
     CannotSave = 4, ///< or cannot write to standard output
 };
 
-/// The command line of one command. It takes one file name.
+/// The command line of one command. It takes one file name. What cannot be done is said to standard error;
+/// exitCode() then tells how the program ends.
 class Command
 {
 public:
@@ -21,24 +23,36 @@ public:
     Command(const QString &name, const QString &description);
 
     void addOption(const QCommandLineOption &option) { m_parser.addOption(option); }
-    /// Reads the words behind the program's name. False when they are wrong: usageError() was called, or
-    /// help was shown, and exitCode() says which.
+    /// Adds an option that names a file and must be given.
+    void addFileOption(const QStringList &names, const QString &description, const QString &valueName);
+    /// Adds -o, the file to write, which must be given.
+    void addOutputOption();
+    /// Reads the words behind the program's name. False when they are wrong, or help was shown.
     bool parse(const QStringList &arguments);
     /// Reports wrong usage to standard error.
     ExitCode usageError(const QString &message) const;
 
-    /// Loads the file into the job document. False when it cannot be: that was said, and exitCode() is
-    /// CannotLoad.
+    /// Loads the file into the job document.
     bool loadJob();
+    /// Loads a file into the template document. An older file stays as it is: a copy of it is loaded.
+    bool loadTemplate(const QString &fileName);
+    /// Whether a file can be made: one that is there is not replaced.
+    bool mayCreate(const QString &fileName);
+    /// Reports a document that could not be saved.
+    ExitCode saveError(const QString &fileName, const QString &message);
 
     ExitCode exitCode() const { return m_exitCode; }
     QString fileName() const { return m_parser.positionalArguments().constFirst(); }
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
     QString value(const QString &option) const { return m_parser.value(option); }
+    QString output() const { return value(QStringLiteral("output")); }
 
 private:
+    void loadError(const QString &fileName, const QString &message);
+
     QString m_name;
     QCommandLineParser m_parser;
+    QStringList m_neededOptions;
     ExitCode m_exitCode = Done;
 };
 
@@ -50,6 +64,10 @@ void printMessage(const QString &fileName, const QString &message);
 ExitCode printData(const QByteArray &data);
 
 // The commands. Each takes the words behind the program's name and returns how the program ends.
-ExitCode runNew(const QStringList &arguments);
-ExitCode runInfo(const QStringList &arguments);
 ExitCode runCables(const QStringList &arguments);
+ExitCode runCheck(const QStringList &arguments);
+ExitCode runConvert(const QStringList &arguments);
+ExitCode runExport(const QStringList &arguments);
+ExitCode runImport(const QStringList &arguments);
+ExitCode runInfo(const QStringList &arguments);
+ExitCode runNew(const QStringList &arguments);

@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QMap>
 
 #include <csignal>
 
@@ -16,11 +17,17 @@ QString usage()
                 "  new FILE.job [--floors N]             make a new job file\n"
                 "  info FILE.job [--json]                show what a job file holds\n"
                 "  cables FILE.job [--metric] [--json]   list the cables with their tests\n"
+                "  check FILE [--json]                   report what is wrong with a job or template file\n"
+                "  convert FILE -o NEW                   bring an older job or template file up to date\n"
+                "  import FILE.job --template FILE.bkt [--missing-only]\n"
+                "                                        let a job take over what a template holds\n"
+                "  export FILE.job -o NEW.bkt            make a template of a job\n"
                 "\n"
                 "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
                 "\n"
                 "Exit codes:\n"
                 "  0  all was done\n"
+                "  1  \"check\" found something wrong\n"
                 "  2  wrong command line\n"
                 "  3  a file could not be loaded\n"
                 "  4  a file could not be saved, or the output not be written\n");
@@ -40,12 +47,14 @@ ExitCode run(QStringList arguments)
     if (command == QLatin1String("--version")) {
         return printData("cabledoc " CABLEDOC_VERSION "\n");
     }
-    if (command == QLatin1String("new"))
-        return runNew(arguments);
-    if (command == QLatin1String("info"))
-        return runInfo(arguments);
-    if (command == QLatin1String("cables"))
-        return runCables(arguments);
+    const QMap<QString, ExitCode (*)(const QStringList &)> commands{
+        {QStringLiteral("cables"), runCables},   {QStringLiteral("check"), runCheck},
+        {QStringLiteral("convert"), runConvert}, {QStringLiteral("export"), runExport},
+        {QStringLiteral("import"), runImport},   {QStringLiteral("info"), runInfo},
+        {QStringLiteral("new"), runNew},
+    };
+    if (commands.contains(command))
+        return commands.value(command)(arguments);
     printMessage(QCoreApplication::translate("main", "there is no command \"%1\"").arg(command));
     printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
     return WrongUsage;

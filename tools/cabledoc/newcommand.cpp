@@ -3,7 +3,6 @@
 #include <cabledoc/jobeditor.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
 
 namespace {
 
@@ -34,17 +33,11 @@ ExitCode runNew(const QStringList &arguments)
         printMessage(job.error());
         return CannotSave;
     }
-    if (QFileInfo::exists(job.filename())) {
-        printMessage(QCoreApplication::translate("runNew", "%1 exists and is left as it is").arg(job.filename()));
-        return CannotSave;
-    }
+    if (!command.mayCreate(job.filename()))
+        return command.exitCode();
     const Floor first = job.getFloor(job.getFloorTags().constFirst());
     const QString floorName = JobEditor::tr("Floor_");
     for (int i = 1; i < floors; ++i)
         job.addFloor(QString(), floorName, first.ceilingHeight(), QString(), 0);
-    if (!job.save()) {
-        printMessage(job.filename(), job.error());
-        return CannotSave;
-    }
-    return Done;
+    return job.save() ? Done : command.saveError(job.filename(), job.error());
 }

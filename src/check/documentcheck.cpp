@@ -1,0 +1,298 @@
+#include "documentcheck.h"
+
+#include "attributetext.h"
+#include "bkxmleditor.h"
+#include "childelements.h"
+#include "jobwords.h"
+#include "sharedattributes.h"
+#include "xmlnames.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+#include <QtXml/QDomAttr>
+
+#include <algorithm>
+
+using namespace cabledoc;
+
+namespace {
+
+QString pathOf(const QDomElement &element)
+{
+    QStringList path;
+    for (QDomNode node = element; node.parentNode().isElement(); node = node.parentNode())
+        path.prepend(node.nodeName());
+    return path.join(QLatin1Char('/'));
+}
+
+bool isLost(QChar character)
+{
+    return !isStorable(character.unicode());
+}
+
+/// A document that is only looked at.
+class CheckedDocument : public BKXMLEditor
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
+
+public:
+    CheckedDocument()
+        : BKXMLEditor(QString())
+    {
+    }
+
+    CheckReport check(const QString &filename)
+    {
+        if (!readFile(filename, QString(),
+                      {tr("No file is named"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
+                       tr("%1 is no XML file")})) {
+            m_report.error = m_error;
+            return m_report;
+        }
+        if (mayBeChecked()) {
+            checkShared();
+            if (m_document.firstChild().nodeName() == words::Job)
+                checkJob();
+            checkCharacters();
+        }
+        std::stable_sort(m_report.findings.begin(), m_report.findings.end(),
+                         [](const Finding &a, const Finding &b) { return a.line < b.line; });
+        return m_report;
+    }
+
+private:
+    void report(const char *rule, const QDomElement &element, const QString &message)
+    {
+        // What an older file lacks and was just added has no line. It is nothing to complain of.
+        if (element.lineNumber() > 0)
+            m_report.findings.append({QLatin1String(rule), element.lineNumber(), pathOf(element), message});
+    }
+
+    bool mayBeChecked()
+    {
+        const QDomElement root = m_document.firstChild().toElement();
+        if (root.tagName() != words::Job && root.tagName() != words::Bkt) {
+            report("unknown-root", m_document.documentElement(),
+                   tr("the file does not begin with the element \"%1\" or \"%2\"").arg(words::Job, words::Bkt));
+            return false;
+        }
+        const QString found = version();
+        const QDomElement element = getElement(words::Version);
+        if (!convertToCurrentVersion([] { return true; })) {
+            report("unknown-version", element.isNull() ? root : element,
+                   tr("\"%1\" is no version that is known").arg(found));
+            return false;
+        }
+        if (found != words::CurrentVersion)
+            report("old-version", element, tr("version %1 is older than %2").arg(found, words::CurrentVersion));
+        return true;
+    }
+
+    // Names
+
+    /// Looks at the names of the children. Their tags must differ within the scope, which is a kind of
+    /// element in the whole document.
+    void checkTags(const QDomElement &list, const QString &scope)
+    {
+        QHash<QString, int> &lines = m_linesOfTags[scope];
+        for (const QDomElement &element : ChildElements(list)) {
+            if (lines.contains(element.tagName()))
+                report("duplicate-tag", element, tr("its tag is that of line %1").arg(lines.value(element.tagName())));
+            else
+                lines.insert(element.tagName(), element.lineNumber());
+        }
+    }
+
+    void checkIds(const QDomElement &list)
+    {
+        QHash<QString, int> lines;
+        for (const QDomElement &element : ChildElements(list)) {
+            const QString id = getElementId(element);
+            if (id.isEmpty())
+                continue;
+            if (lines.contains(id))
+                report("duplicate-id", element, tr("its id \"%1\" is that of line %2").arg(id).arg(lines.value(id)));
+            else
+                lines.insert(id, element.lineNumber());
+        }
+    }
+
+    void checkNames(const QDomElement &list)
+    {
+        checkTags(list, list.tagName());
+        checkIds(list);
+    }
+
+    bool hasTag(const QString &listName, const QString &tag) const
+    {
+        return m_linesOfTags.value(listName).contains(tag);
+    }
+
+    void reportMissing(const QDomElement &element, const QString &message)
+    {
+        report("missing-reference", element, message);
+    }
+
+    // What both documents hold
+
+    void checkShared()
+    {
+        checkTags(m_document.documentElement(), QString());
+        for (const QDomElement &list : {getToPrintSettingsList(), getToPageSettingsList(), getToScaleSettingsList()})
+            checkTags(list, list.tagName());
+
+        checkNames(getToTestDefList());
+        for (const QDomElement &element : ChildElements(getToTestDefList()))
+            checkDefinition(element);
+
+        checkNames(getToBundledCableTypeList());
+        for (const QDomElement &bundle : ChildElements(getToBundledCableTypeList())) {
+            const QStringList types = childIds(bundle.firstChildElement(words::BundledCableTypeList));
+            for (const QString &type : types)
+                checkType(bundle, type);
+            m_bundles.insert(getElementId(bundle));
+        }
+    }
+
+    void checkDefinition(const QDomElement &element)
+    {
+        TestDef definition(testDefAttributes().read(element));
+        m_types.insert(definition.id());
+        // A length that calls for a warning only.
+        definition.setMaxLength(TestDefFields().maxLength);
+        const QString verdict = definition.validDef();
+        if (verdict != QLatin1String("GOOD"))
+            report("invalid-definition", element, tr("\"%1\": %2").arg(definition.id(), verdict.simplified()));
+    }
+
+    void checkType(const QDomElement &element, const QString &type)
+    {
+        if (!type.isEmpty() && !m_types.contains(type))
+            reportMissing(element, tr("there is no test definition \"%1\"").arg(type));
+    }
+
+    // What jobs hold
+
+    void checkJob()
+    {
+        checkFloors();
+        checkSheets();
+        checkNames(getElement(words::CableList));
+        for (const QDomElement &cable : ChildElements(getElement(words::CableList)))
+            checkCable(cable);
+        checkNames(getElement(words::ConnectionList));
+        for (const QDomElement &connection : ChildElements(getElement(words::ConnectionList)))
+            checkConnection(connection);
+        checkNames(getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList));
+    }
+
+    void checkFloors()
+    {
+        checkNames(getElement(words::FloorList));
+        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
+            const QDomElement rooms = floor.firstChildElement(words::RoomList);
+            // Every floor has a room "Undefined" of its own.
+            m_linesOfTags[rooms.tagName()].remove(words::Undefined);
+            checkNames(rooms);
+            for (const QDomElement &room : ChildElements(rooms)) {
+                checkNames(room.firstChildElement(words::PortList));
+                checkNames(room.firstChildElement(words::VerticalRunList));
+            }
+            checkNames(floor.firstChildElement(words::PointList));
+            const QDomElement texts = floor.firstChildElement(words::FreeTextList);
+            checkTags(texts, words::FloorList + texts.tagName());
+            checkIds(texts);
+        }
+    }
+
+    void checkSheets()
+    {
+        checkNames(getElement(words::SheetList));
+        for (const QDomElement &sheet : ChildElements(getElement(words::SheetList))) {
+            for (const QString &list : {words::DeviceList, words::VerticeList, words::FreeTextList})
+                checkNames(sheet.firstChildElement(list));
+        }
+    }
+
+    void checkCable(const QDomElement &cable)
+    {
+        for (const QString &attribute : {words::From, words::To}) {
+            const QString end = cable.attribute(attribute);
+            if (!end.isEmpty() && !hasTag(words::PortList, end) && !hasTag(words::VerticalRunList, end))
+                reportMissing(cable, tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, end));
+        }
+        QStringList path;
+        fromText(cable.attribute(words::Path), &path);
+        for (const QString &point : std::as_const(path)) {
+            if (!hasTag(words::PointList, point) && !hasTag(words::VerticalRunList, point))
+                reportMissing(cable, tr("\"%1\": there is no point or vertical run \"%2\"").arg(words::Path, point));
+        }
+        checkType(cable, cable.attribute(words::Type));
+        const QString bundle = cable.attribute(words::BundleName);
+        if (!bundle.isEmpty() && !m_bundles.contains(bundle))
+            reportMissing(cable, tr("there is no bundle \"%1\"").arg(bundle));
+    }
+
+    void checkConnection(const QDomElement &connection)
+    {
+        for (const QString &attribute : {words::From, words::To}) {
+            const QString end = connection.attribute(attribute);
+            if (!end.isEmpty() && !hasTag(words::DeviceList, end) && !hasTag(words::VerticeList, end))
+                reportMissing(connection, tr("\"%1\": there is no device or point \"%2\"").arg(attribute, end));
+        }
+    }
+
+    // Characters
+
+    void checkCharacters()
+    {
+        QDomNode node = m_document.documentElement();
+        while (!node.isNull()) {
+            checkCharactersOf(node);
+            if (node.hasChildNodes()) {
+                node = node.firstChild();
+                continue;
+            }
+            while (node.nextSibling().isNull() && !node.parentNode().isNull())
+                node = node.parentNode();
+            node = node.nextSibling();
+        }
+    }
+
+    void checkCharactersOf(const QDomNode &node)
+    {
+        const QDomElement element = node.toElement();
+        if (element.isNull()) {
+            checkText(node.parentNode().toElement(), tr("text"), node.nodeValue());
+            return;
+        }
+        const QDomNamedNodeMap attributes = element.attributes();
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QDomAttr attribute = attributes.item(i).toAttr();
+            checkText(element, attribute.name(), attribute.value());
+        }
+    }
+
+    void checkText(const QDomElement &element, const QString &name, const QString &text)
+    {
+        const auto *lost = std::find_if(text.begin(), text.end(), isLost);
+        if (lost == text.end())
+            return;
+        const bool isPair = lost->isHighSurrogate() && lost + 1 != text.end();
+        const QString character(lost, isPair ? 2 : 1);
+        report("lost-character", element, tr("\"%1\" holds \"%2\", which a save cannot keep").arg(name, character));
+    }
+
+    CheckReport m_report;
+    QHash<QString, QHash<QString, int>> m_linesOfTags; ///< by scope
+    QSet<QString> m_types;                             ///< with a test definition
+    QSet<QString> m_bundles;
+};
+
+} // namespace
+
+CheckReport checkFile(const QString &filename)
+{
+    return CheckedDocument().check(filename);
+}
