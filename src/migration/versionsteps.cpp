@@ -148,7 +148,7 @@ bool BKXMLEditor::convertToCurrentVersion(const std::function<bool()> &stepDone)
 bool BKXMLEditor::convert11To14(QDomElement *root, QDomNode *rootNode)
 {
     QDomElement contractor = root->firstChildElement(words::ContractorInfo);
-    if (!contractor.isNull() && !contractor.hasAttribute(words::Logo))
+    if (!contractor.hasAttribute(words::Logo))
         contractor.setAttribute(words::Logo, QLatin1String(""));
     return convert12To14(root, rootNode);
 }

@@ -175,9 +175,13 @@ private Q_SLOTS:
         const rlimit limited{rlim_t(content.size() + 100), unlimited.rlim_max};
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
         const bool isLoaded = BktEditor::Instance().Load(fileName);
+        const QString message = BktEditor::Instance().error();
+        const bool isCurrent = BktEditor::Instance().checkVersion();
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &unlimited), 0);
         QVERIFY(!isLoaded);
-        QCOMPARE(BktEditor::Instance().error(), QString("Incompatible version of Bkt file"));
+        QCOMPARE(message, QString("Incompatible version of Bkt file"));
+        QVERIFY(!isCurrent);
+        QVERIFY2(!BktEditor::Instance().error().contains("version"), qPrintable(BktEditor::Instance().error()));
         QCOMPARE(versionOf(readFile(fileName)), QByteArray("1.4"));
 
         QVERIFY(BktEditor::Instance().Load(fileName));

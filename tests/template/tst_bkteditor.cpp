@@ -43,7 +43,11 @@ private Q_SLOTS:
         QVERIFY(bkt.save());
         QCOMPARE(readFile(path("new.bkt")), testData("new.bkt"));
         QVERIFY(bkt.New(path("another.bkt")));
+        QVERIFY(bkt.save());
+        QCOMPARE(readFile(path("another.bkt")), testData("new.bkt"));
+        bkt.setContractorTester("nobody");
         QVERIFY(bkt.Load(path("new.bkt")));
+        QVERIFY(!bkt.fileChanged());
         QVERIFY(bkt.save());
         QCOMPARE(readFile(path("new.bkt")), testData("new.bkt"));
     }
