@@ -9,7 +9,7 @@ struct DeviceConnectionFields
 {
     QString tag;
     QString id;   ///< name that the user sees
-    QString to;   ///< tag of a device
+    QString to;   ///< tag of a device or a bend
     QString from; ///< likewise
     QString type; ///< a number; the application assigns the meaning
 

@@ -69,7 +69,7 @@ const AttributeTable<TestResultsFields> &testResultsAttributes()
         attribute<&F::status>(words::Status),
         attribute<&F::softwareVersion>(words::SoftwareVersion, WhenMissing::AddDefault),
         attribute<&F::serialNumber>(words::Serial, WhenMissing::AddDefault),
-        attribute<&F::time>(QStringLiteral("time")),
+        attribute<&F::time>(words::Time),
         attribute<&F::results>(QStringLiteral("data"), WhenMissing::AddDefault),
         attribute<&F::bertErrors>(QStringLiteral("bert_errors"), WhenMissing::AddDefault),
         attribute<&F::echo>(QStringLiteral("echo"), WhenMissing::AddDefault),
@@ -91,6 +91,91 @@ const AttributeTable<DeviceConnectionFields> &connectionAttributes()
     return table;
 }
 
+const AttributeTable<PortFields> &portAttributes()
+{
+    using F = PortFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::x>(words::X),
+        attribute<&F::y>(words::Y),
+        attribute<&F::use>(words::Use),
+        attribute<&F::iconScale>(words::IconScale),
+        attribute<&F::dropHeight>(words::DropHeight),
+    };
+    return table;
+}
+
+const AttributeTable<VertRunFields> &vertRunCablesAttributes()
+{
+    using F = VertRunFields;
+    static const AttributeTable<F> table{
+        attribute<&F::connected>(words::Connected),
+        attribute<&F::disconnected>(words::Disconnected),
+    };
+    return table;
+}
+
+const AttributeTable<PointFields> &pointAttributes()
+{
+    using F = PointFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::x>(words::X),
+        attribute<&F::y>(words::Y),
+    };
+    return table;
+}
+
+const AttributeTable<FreeTextFields> &freeTextAttributes()
+{
+    using F = FreeTextFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::text>(words::Text),
+        attribute<&F::x>(words::X),
+        attribute<&F::y>(words::Y),
+        attribute<&F::fontFamily>(words::FontFamily),
+        attribute<&F::fontSize>(words::FontSize),
+        attribute<&F::bold>(words::Bold),
+        attribute<&F::italic>(words::Italic),
+        attribute<&F::color>(words::Color),
+    };
+    return table;
+}
+
+const AttributeTable<DeviceFields> &deviceAttributes()
+{
+    using F = DeviceFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id), attribute<&F::type>(words::Type),           attribute<&F::x>(words::X),
+        attribute<&F::y>(words::Y),   attribute<&F::iconScale>(words::IconScale), attribute<&F::info>(words::Info),
+    };
+    return table;
+}
+
+const AttributeTable<ActivePortFields> &activePortAttributes()
+{
+    using F = ActivePortFields;
+    static const AttributeTable<F> table{
+        attribute<&F::id>(words::Id),
+        attribute<&F::port>(words::Port),
+    };
+    return table;
+}
+
+const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes()
+{
+    using F = ActiveTestResultFields;
+    static const AttributeTable<F> table{
+        attribute<&F::time>(words::Time),
+        attribute<&F::status>(words::Status),
+        attribute<&F::linkSpeed>(QStringLiteral("link_speed")),
+        attribute<&F::duplex>(QStringLiteral("duplex")),
+        attribute<&F::address>(QStringLiteral("address")),
+    };
+    return table;
+}
+
 const QStringList &siteInfoAttributes()
 {
     static const QStringList names{words::Phone, words::JobID, words::Company, words::Email, words::Contact};
@@ -106,6 +191,14 @@ const xmlfile::AttributeOrder &jobAttributeOrder()
         all.inContainer.insert(words::RoomList, roomAttributes().names());
         all.inContainer.insert(words::CableList, cableAttributes().names());
         all.inContainer.insert(words::ConnectionList, connectionAttributes().names());
+        all.inContainer.insert(words::PortList, portAttributes().names());
+        all.inContainer.insert(words::VerticalRunList, portAttributes().names() + vertRunCablesAttributes().names());
+        all.inContainer.insert(words::PointList, pointAttributes().names());
+        all.inContainer.insert(words::VerticeList, pointAttributes().names());
+        all.inContainer.insert(words::FreeTextList, freeTextAttributes().names());
+        all.inContainer.insert(words::DeviceList, deviceAttributes().names());
+        all.inContainer.insert(words::ActivePortList, activePortAttributes().names());
+        all.ofElement.insert(words::ActiveTestResult, activeTestResultAttributes().names());
         all.ofElement.insert(words::TestResults, testResultsAttributes().names());
         all.ofElement.insert(words::SiteInfo, siteInfoAttributes());
         return all;

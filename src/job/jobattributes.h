@@ -1,9 +1,14 @@
 #pragma once
 
+#include "activeport.h"
 #include "attributetable.h"
 #include "cable.h"
+#include "device.h"
 #include "deviceconnection.h"
 #include "floor.h"
+#include "freetext.h"
+#include "point.h"
+#include "port.h"
 #include "room.h"
 #include "sheet.h"
 #include "xmlfile.h"
@@ -16,6 +21,17 @@ const AttributeTable<RoomFields> &roomAttributes();
 const AttributeTable<CableFields> &cableAttributes();
 const AttributeTable<TestResultsFields> &testResultsAttributes();
 const AttributeTable<DeviceConnectionFields> &connectionAttributes();
+/// Of ports, and of vertical runs but for their lists of cables.
+const AttributeTable<PortFields> &portAttributes();
+const AttributeTable<VertRunFields> &vertRunCablesAttributes();
+/// Of points on floors and of bends on sheets.
+const AttributeTable<PointFields> &pointAttributes();
+const AttributeTable<FreeTextFields> &freeTextAttributes();
+const AttributeTable<DeviceFields> &deviceAttributes();
+/// But for the results, which are elements of their own.
+const AttributeTable<ActivePortFields> &activePortAttributes();
+/// But for the values, which are elements of their own.
+const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes();
 const QStringList &siteInfoAttributes();
 
 /// The order of the attributes of all elements of a job file.

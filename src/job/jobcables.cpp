@@ -31,7 +31,9 @@ QString JobEditor::addCable(const Cable &cable, int mode)
     const QDomElement element = appendElement(fields.tag, list);
     cableAttributes().write(element, fields);
     testResultsAttributes().write(appendElement(words::TestResults, element), fields.testResults.fields());
-    (*m_index)[JobIndex::Cables].append(element);
+    (*m_index)[ElementKind::Cables].append(element);
+    if (m_index->references)
+        m_index->references->insert(element);
     forgetCableLists();
     setDirty(true);
     return fields.id;
@@ -82,7 +84,7 @@ QString JobEditor::addCable(const QString &tag, const QString &id, int mode)
 
 QString JobEditor::newCableTag() const
 {
-    ElementIndex &cables = (*m_index)[JobIndex::Cables];
+    ElementIndex &cables = (*m_index)[ElementKind::Cables];
     const QString prefix = words::CableTagPrefix;
     return prefix
            + QString::number(cables.firstFreeTagNumber(prefix, numberAfter(prefix, cables.lastTag()) + qint64(1)));
@@ -90,7 +92,7 @@ QString JobEditor::newCableTag() const
 
 QString JobEditor::newCableId() const
 {
-    ElementIndex &cables = (*m_index)[JobIndex::Cables];
+    ElementIndex &cables = (*m_index)[ElementKind::Cables];
     const QString prefix = tr("Cable");
     // The last in the order of the tags, deliberately, not the highest number.
     const QString lastId = cables.id(cables.lastTagWithNumberedId(prefix));
@@ -99,10 +101,7 @@ QString JobEditor::newCableId() const
 
 void JobEditor::removeCable(const QString &tag)
 {
-    const QDomElement cable = cableElement(tag);
-    (*m_index)[JobIndex::Cables].remove(cable);
-    forgetCableLists();
-    removeElement(cable);
+    removeElementOf(ElementKind::Cables, cableElement(tag));
 }
 
 void JobEditor::removeCable(const Cable &cable)
@@ -125,7 +124,7 @@ Cable JobEditor::getCable(const QString &tag)
 
 Cable JobEditor::getCableById(const QString &id)
 {
-    return getCable((*m_index)[JobIndex::Cables].tagOfId(id));
+    return getCable((*m_index)[ElementKind::Cables].tagOfId(id));
 }
 
 QString JobEditor::getCableElement(const QString &tag) const
@@ -135,14 +134,14 @@ QString JobEditor::getCableElement(const QString &tag) const
 
 QDomElement JobEditor::cableElement(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Cables].element(tag);
+    return (*m_index)[ElementKind::Cables].element(tag);
 }
 
 // Single fields
 
 QString JobEditor::getCableID(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Cables].id(tag);
+    return (*m_index)[ElementKind::Cables].id(tag);
 }
 
 QString JobEditor::getCableUse(const QString &tag) const
@@ -203,7 +202,7 @@ void JobEditor::setCableID(const QString &tag, const QString &id)
 {
     const QDomElement cable = cableElement(tag);
     changeAttribute(cable, words::Id, id);
-    (*m_index)[JobIndex::Cables].updateId(cable);
+    (*m_index)[ElementKind::Cables].updateId(cable);
     forgetCableLists();
 }
 

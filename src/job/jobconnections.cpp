@@ -15,7 +15,7 @@ QString JobEditor::addConnection(const QString &tag, const QString &id, const QS
     const QDomElement list = getToConnectionList();
     if (list.isNull())
         return QString();
-    ElementIndex &connections = (*m_index)[JobIndex::Connections];
+    ElementIndex &connections = (*m_index)[ElementKind::Connections];
     DeviceConnectionFields fields{tag, id, to, from, type};
     if (!addmode::keepsTag(mode)) {
         const QString prefix = words::ConnectionTagPrefix;
@@ -27,6 +27,8 @@ QString JobEditor::addConnection(const QString &tag, const QString &id, const QS
     const QDomElement connection = appendElement(fields.tag, list);
     connectionAttributes().write(connection, fields);
     connections.append(connection);
+    if (m_index->references)
+        m_index->references->insert(connection);
     setDirty(true);
     return fields.id;
 }
@@ -39,10 +41,7 @@ QString JobEditor::addConnection(const DeviceConnection &connection, int mode)
 
 void JobEditor::removeConnection(const QString &tag)
 {
-    ElementIndex &connections = (*m_index)[JobIndex::Connections];
-    const QDomElement connection = connections.element(tag);
-    connections.remove(connection);
-    removeElement(connection);
+    removeElementOf(ElementKind::Connections, elementOf(ElementKind::Connections, tag));
 }
 
 void JobEditor::removeConnection(const DeviceConnection &connection)
@@ -52,7 +51,7 @@ void JobEditor::removeConnection(const DeviceConnection &connection)
 
 DeviceConnection JobEditor::getConnection(const QString &tag) const
 {
-    const QDomElement connection = (*m_index)[JobIndex::Connections].element(tag);
+    const QDomElement connection = elementOf(ElementKind::Connections, tag);
     if (connection.isNull())
         return DeviceConnection();
     DeviceConnectionFields fields = connectionAttributes().read(connection);
@@ -62,44 +61,35 @@ DeviceConnection JobEditor::getConnection(const QString &tag) const
 
 QString JobEditor::getConnectionTagById(const QString &id) const
 {
-    return (*m_index)[JobIndex::Connections].tagOfId(id);
+    return (*m_index)[ElementKind::Connections].tagOfId(id);
 }
 
 QString JobEditor::getConnectionTo(const QString &tag) const
 {
-    return getChildAttr(words::To, (*m_index)[JobIndex::Connections].element(tag));
+    return getChildAttr(words::To, elementOf(ElementKind::Connections, tag));
 }
 
 QString JobEditor::getConnectionFrom(const QString &tag) const
 {
-    return getChildAttr(words::From, (*m_index)[JobIndex::Connections].element(tag));
+    return getChildAttr(words::From, elementOf(ElementKind::Connections, tag));
 }
 
 int JobEditor::getConnectionType(const QString &tag) const
 {
-    return getChildAttr(words::Type, (*m_index)[JobIndex::Connections].element(tag)).toInt();
+    return getChildAttr(words::Type, elementOf(ElementKind::Connections, tag)).toInt();
 }
 
 void JobEditor::setConnectionTo(const QString &tag, const QString &to)
 {
-    changeAttribute((*m_index)[JobIndex::Connections].element(tag), words::To, to);
+    changeAttribute(elementOf(ElementKind::Connections, tag), words::To, to);
 }
 
 void JobEditor::setConnectionFrom(const QString &tag, const QString &from)
 {
-    changeAttribute((*m_index)[JobIndex::Connections].element(tag), words::From, from);
+    changeAttribute(elementOf(ElementKind::Connections, tag), words::From, from);
 }
 
 void JobEditor::setConnectionType(const QString &tag, const QString &type)
 {
-    changeAttribute((*m_index)[JobIndex::Connections].element(tag), words::Type, type);
-}
-
-/// Changes an attribute that the element has; nothing for a null element or a missing attribute.
-void JobEditor::changeAttribute(QDomElement element, const QString &attribute, const QString &value)
-{
-    if (!element.hasAttribute(attribute))
-        return;
-    setChildAttr(attribute, value, element);
-    setDirty(true);
+    changeAttribute(elementOf(ElementKind::Connections, tag), words::Type, type);
 }

@@ -1,16 +1,22 @@
 #pragma once
 
+#include "activeport.h"
 #include "bkxmleditor.h"
 #include "cable.h"
 #include "cabledoc_export.h"
+#include "device.h"
 #include "deviceconnection.h"
 #include "floor.h"
+#include "freetext.h"
+#include "point.h"
+#include "port.h"
 #include "room.h"
 #include "sheet.h"
 #include "sitedata.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
+#include <QtCore/QPointF>
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 
@@ -19,8 +25,10 @@
 class BktEditor;
 
 namespace cabledoc {
+class ElementIndex;
+enum class ElementKind;
 struct JobIndex;
-}
+} // namespace cabledoc
 
 /// The job document: the one open job file of the process.
 ///
@@ -169,8 +177,6 @@ public:
     /// The id of a tag; empty when there is none.
     QString getFloorIdByTag(const QString &tag) const;
     QString getSheetIdByTag(const QString &tag) const;
-    QString getPortIdByTag(const QString &tag) const;
-    QString getVertRunIdByTag(const QString &tag) const;
     /// The first tag, in string order, that has the id; empty when there is none.
     QString getFloorTagById(const QString &id) const;
     QString getSheetTagById(const QString &id) const;
@@ -212,7 +218,8 @@ public:
     QString addFloor(const QString &tag, const QString &id, double ceilingHeight, const QString &pic, int mode);
     /// The same from a record.
     QString addFloor(const Floor &floor, int mode);
-    /// Removes a floor with all that is on it, and the cables that end there.
+    /// Removes a floor with all that is on it, the cables that end there and the active ports for its ports, and
+    /// takes its points and vertical runs out of the paths of other cables.
     void removeFloor(const QString &tag);
     void removeFloor(const Floor &floor);
 
@@ -253,7 +260,7 @@ public:
     QString addSheet(const QString &tag, const QString &id, int mode);
     /// The same from a record.
     QString addSheet(const Sheet &sheet, int mode);
-    /// Removes a sheet with all that is on it.
+    /// Removes a sheet with all that is on it, and the connections that end there.
     void removeSheet(const QString &tag);
 
     /// The sheet of that tag; an empty record when there is none.
@@ -297,6 +304,205 @@ public:
     void setShowRoomName(const QString &floorTag, const QString &id, int show);
     void setShowRoomDimensions(const QString &floorTag, const QString &id, int show);
 
+    // Ports and vertical runs. Positions are in plan pixels, drop heights in feet. They, and the points, bends,
+    // texts, devices and active ports below, are known by tags that are unique in the whole job. The operations
+    // that add one take names and mode as said above and return the tag; an empty string, and nothing changes,
+    // when what shall hold it does not exist. A list that its holder lacks is created. Readers of a tag or id
+    // that does not exist give a default record or value. Setters create an attribute that is missing.
+
+    QString addPort(const QString &floorTag, const QString &roomTag, double x, double y, const QString &tag,
+                    const QString &id, const QString &use, double iconScale, double dropHeight, int mode);
+    QString addPort(const Port &port, int mode);
+    /// Removes a port, the cables that end there and the active ports that stand for it.
+    void removePort(const QString &tag);
+    void removePort(const Port &port);
+    Port getPortByTag(const QString &tag) const;
+    /// The first, in the order of the tags, that has the id.
+    Port getPortById(const QString &id) const;
+    QString getPortIdByTag(const QString &tag) const;
+    QString getPortTagById(const QString &id) const;
+    QPointF getPortPos(const QString &tag) const;
+    QString getPortUse(const QString &tag) const;
+    double getPortIconScale(const QString &tag) const;
+    double getPortDropHeight(const QString &tag) const;
+    /// The tags of the room and of the floor.
+    QString getPortRoom(const QString &tag) const;
+    QString getPortFloor(const QString &tag) const;
+    void setPortID(const QString &tag, const QString &id);
+    void setPortPos(const QString &tag, double x, double y);
+    void setPortUse(const QString &tag, const QString &use);
+    void setPortIconScale(const QString &tag, double scale);
+    void setPortDropHeight(const QString &tag, double feet);
+    /// Moves a port to another room, on any floor, behind the ports there.
+    void setPortRoom(const QString &tag, const QString &floorTag, const QString &roomTag);
+
+    QString addVertRun(const QString &floorTag, const QString &roomTag, double x, double y, const QString &tag,
+                       const QString &id, const QString &use, double iconScale, double dropHeight,
+                       const QStringList &connected, const QStringList &disconnected, int mode);
+    QString addVertRun(const VertRun &vertRun, int mode);
+    /// Removes a vertical run and the cables that end there, and takes it out of the paths of others.
+    void removeVertRun(const QString &tag);
+    void removeVertRun(const VertRun &vertRun);
+    VertRun getVertRunByTag(const QString &tag) const;
+    VertRun getVertRunById(const QString &id) const;
+    QString getVertRunIdByTag(const QString &tag) const;
+    QString getVertRunTagById(const QString &id) const;
+    QPointF getVertRunPos(const QString &tag) const;
+    QString getVertRunUse(const QString &tag) const;
+    double getVertRunIconScale(const QString &tag) const;
+    double getVertRunDropHeight(const QString &tag) const;
+    QString getVertRunRoom(const QString &tag) const;
+    QString getVertRunFloor(const QString &tag) const;
+    /// The tags of the cables that pass it and are, or are not, connected.
+    QStringList getVertRunConnected(const QString &tag) const;
+    QStringList getVertRunDisconnected(const QString &tag) const;
+    void setVertRunID(const QString &tag, const QString &id);
+    void setVertRunPos(const QString &tag, double x, double y);
+    void setVertRunUse(const QString &tag, const QString &use);
+    void setVertRunIconScale(const QString &tag, double scale);
+    void setVertRunDropHeight(const QString &tag, double feet);
+    void setVertRunRoom(const QString &tag, const QString &floorTag, const QString &roomTag);
+    void setVertRunConnected(const QString &tag, const QStringList &cableTags);
+    void setVertRunDisconnected(const QString &tag, const QStringList &cableTags);
+    /// Whether the cable passes it, connected or not.
+    bool isCableInVertRun(const QString &cableTag, const QString &tag) const;
+    /// Put a cable into one of the two lists, and take it out of the other; nothing for an unknown cable.
+    void connectCableToVertRun(const QString &cableTag, const QString &tag);
+    void disconnectCableFromVertRun(const QString &cableTag, const QString &tag);
+    /// Takes a cable out of both lists.
+    void removeCableFromVertRun(const QString &cableTag, const QString &tag);
+
+    // Points on floor plans, which cables pass, in plan pixels
+
+    QString addPoint(const QString &floorTag, double x, double y, const QString &tag, const QString &id, int mode);
+    QString addPoint(const Point &point, int mode);
+    /// Removes a point, also from the paths of cables.
+    void removePoint(const QString &tag);
+    void removePoint(const Point &point);
+    Point getPointByTag(const QString &tag) const;
+    Point getPointById(const QString &id) const;
+    QString getPointIdByTag(const QString &tag) const;
+    QString getPointTagById(const QString &id) const;
+    QPointF getPointPos(const QString &tag) const;
+    QString getPointFloor(const QString &tag) const;
+    void setPointID(const QString &tag, const QString &id);
+    void setPointPos(const QString &tag, double x, double y);
+
+    // Devices and bends of their connections on sheets, in pixels
+
+    QString addDevice(const QString &sheetTag, const QString &type, double x, double y, double iconScale,
+                      const QString &info, const QString &tag, const QString &id, int mode);
+    QString addDevice(const Device &device, int mode);
+    /// Removes a device and the connections that end there.
+    void removeDevice(const QString &tag);
+    void removeDevice(const Device &device);
+    Device getDeviceByTag(const QString &tag) const;
+    Device getDeviceById(const QString &id) const;
+    QString getDeviceIdByTag(const QString &tag) const;
+    QString getDeviceTagById(const QString &id) const;
+    QString getDeviceType(const QString &tag) const;
+    QPointF getDevicePos(const QString &tag) const;
+    double getDeviceIconScale(const QString &tag) const;
+    QString getDeviceInfo(const QString &tag) const;
+    QString getDeviceSheet(const QString &tag) const;
+    void setDeviceID(const QString &tag, const QString &id);
+    void setDeviceType(const QString &tag, const QString &type);
+    void setDevicePos(const QString &tag, double x, double y);
+    void setDeviceIconScale(const QString &tag, double scale);
+    void setDeviceInfo(const QString &tag, const QString &info);
+
+    QString addVertice(const QString &sheetTag, double x, double y, const QString &tag, const QString &id, int mode);
+    QString addVertice(const Vertice &vertice, int mode);
+    /// Removes a bend and the connections that end there.
+    void removeVertice(const QString &tag);
+    void removeVertice(const Vertice &vertice);
+    Vertice getVerticeByTag(const QString &tag) const;
+    Vertice getVerticeById(const QString &id) const;
+    QString getVerticeIdByTag(const QString &tag) const;
+    QString getVerticeTagById(const QString &id) const;
+    QPointF getVerticePos(const QString &tag) const;
+    QString getVerticeSheet(const QString &tag) const;
+    void setVerticeID(const QString &tag, const QString &id);
+    void setVerticePos(const QString &tag, double x, double y);
+
+    // Texts on sheets and on floor plans. Positions are in pixels, font sizes in points.
+
+    QString addFreeText(const QString &sheetTag, const QString &text, double x, double y, const QString &fontFamily,
+                        double fontSize, bool bold, bool italic, const QString &color, const QString &tag,
+                        const QString &id, int mode);
+    QString addFreeText(const FreeText &text, int mode);
+    void removeFreeText(const QString &tag);
+    void removeFreeText(const FreeText &text);
+    FreeText getFreeTextByTag(const QString &tag) const;
+    FreeText getFreeTextById(const QString &id) const;
+    QString getFreeTextIdByTag(const QString &tag) const;
+    QString getFreeTextTagById(const QString &id) const;
+    QString getFreeTextText(const QString &tag) const;
+    QPointF getFreeTextPos(const QString &tag) const;
+    QString getFreeTextFontFamily(const QString &tag) const;
+    double getFreeTextFontSize(const QString &tag) const;
+    bool getFreeTextBold(const QString &tag) const;
+    bool getFreeTextItalic(const QString &tag) const;
+    QString getFreeTextColor(const QString &tag) const;
+    QString getFreeTextSheet(const QString &tag) const;
+    void setFreeTextID(const QString &tag, const QString &id);
+    void setFreeTextText(const QString &tag, const QString &text);
+    void setFreeTextPos(const QString &tag, double x, double y);
+    void setFreeTextFontFamily(const QString &tag, const QString &family);
+    void setFreeTextFontSize(const QString &tag, double points);
+    void setFreeTextBold(const QString &tag, bool bold);
+    void setFreeTextItalic(const QString &tag, bool italic);
+    void setFreeTextColor(const QString &tag, const QString &color);
+
+    QString addFloorFreeText(const QString &floorTag, const QString &text, double x, double y,
+                             const QString &fontFamily, double fontSize, bool bold, bool italic, const QString &color,
+                             const QString &tag, const QString &id, int mode);
+    QString addFloorFreeText(const FreeText &text, int mode);
+    void removeFloorFreeText(const QString &tag);
+    void removeFloorFreeText(const FreeText &text);
+    FreeText getFloorFreeTextByTag(const QString &tag) const;
+    FreeText getFloorFreeTextById(const QString &id) const;
+    QString getFloorFreeTextIdByTag(const QString &tag) const;
+    QString getFloorFreeTextTagById(const QString &id) const;
+    QString getFloorFreeTextText(const QString &tag) const;
+    QPointF getFloorFreeTextPos(const QString &tag) const;
+    QString getFloorFreeTextFontFamily(const QString &tag) const;
+    double getFloorFreeTextFontSize(const QString &tag) const;
+    bool getFloorFreeTextBold(const QString &tag) const;
+    bool getFloorFreeTextItalic(const QString &tag) const;
+    QString getFloorFreeTextColor(const QString &tag) const;
+    QString getFloorFreeTextFloor(const QString &tag) const;
+    void setFloorFreeTextID(const QString &tag, const QString &id);
+    void setFloorFreeTextText(const QString &tag, const QString &text);
+    void setFloorFreeTextPos(const QString &tag, double x, double y);
+    void setFloorFreeTextFontFamily(const QString &tag, const QString &family);
+    void setFloorFreeTextFontSize(const QString &tag, double points);
+    void setFloorFreeTextBold(const QString &tag, bool bold);
+    void setFloorFreeTextItalic(const QString &tag, bool italic);
+    void setFloorFreeTextColor(const QString &tag, const QString &color);
+
+    // Ports in the working network, and the results of their tests
+
+    QString addActivePort(const QString &portTag, const QString &tag, const QString &id, int mode);
+    QString addActivePort(const ActivePort &activePort, int mode);
+    void removeActivePort(const QString &tag);
+    void removeActivePort(const ActivePort &activePort);
+    ActivePort getActivePortByTag(const QString &tag) const;
+    ActivePort getActivePortById(const QString &id) const;
+    QString getActivePortIdByTag(const QString &tag) const;
+    QString getActivePortTagById(const QString &id) const;
+    /// The tag of the port that was tested.
+    QString getActivePortPort(const QString &tag) const;
+    void setActivePortID(const QString &tag, const QString &id);
+    void setActivePortPort(const QString &tag, const QString &portTag);
+    /// The results in the order in which they were added.
+    QVector<ActiveTestResult> getActiveTestResults(const QString &tag) const;
+    void addActiveTestResult(const QString &tag, const ActiveTestResult &result);
+    /// Removes the first result of that time.
+    void removeActiveTestResult(const QString &tag, const QString &time);
+    /// Whether the active port has a result of that time.
+    bool activePortTestResultExists(const QString &tag, const QString &time) const;
+
     // Cables. A tag that no cable has makes setters do nothing and getters return an empty text or list or a
     // default record. The setter of a single field changes an attribute that the cable has and creates none.
 
@@ -319,6 +525,7 @@ public:
     QString addCable(const QString &tag, const QString &id, const QString &use, int mode);
     QString addCable(const QString &tag, const QString &id, int mode);
     QString addCable(const Cable &cable, int mode);
+    /// Removes a cable, also from the lists of vertical runs.
     void removeCable(const QString &tag);
     void removeCable(const Cable &cable);
 
@@ -454,13 +661,42 @@ private:
 
     ~JobEditor() override;
 
+    void rebuildIndex(cabledoc::ElementKind kind);
     bool refuseWhenOpen();
     void create(double ceilingHeight);
     void addSkeleton(QDomElement root);
     bool checkVersion();
     bool mayBeName(const QString &name);
     bool mayBeFile(const QString &filename, const QString &extension);
-    void changeAttribute(QDomElement element, const QString &attribute, const QString &value);
+
+    // All kinds of elements that have tags and ids
+    template <typename Kind>
+    QDomElement addElement(const Kind &kind, const QDomElement &parent, typename Kind::Fields fields, int mode);
+    template <typename Kind> typename Kind::Fields readElement(const Kind &kind, const QDomElement &element) const;
+    QDomElement elementOf(cabledoc::ElementKind kind, const QString &tag) const;
+    void renameElementOf(cabledoc::ElementKind kind, const QString &tag, const QString &id);
+    void removeElementOf(cabledoc::ElementKind kind, const QDomElement &element);
+    void writeAttribute(QDomElement element, const QString &attribute, const QString &value);
+    void changeAttribute(const QDomElement &element, const QString &attribute, const QString &value);
+
+    // What names an element that goes
+    QVector<QDomElement> elementsNaming(const QString &tag, const QString &listName,
+                                        const QStringList &attributes) const;
+    void forgetTag(const QString &tag, const QString &listName, const QStringList &attributes);
+    void dropReferences(cabledoc::ElementKind kind, const QString &tag);
+    void dropReferencesToAll(cabledoc::ElementKind kind, const QDomElement &list);
+
+    QDomElement portElement(const QString &tag) const;
+    QDomElement vertRunElement(const QString &tag) const;
+    QDomElement deviceElement(const QString &tag) const;
+    QDomElement activePortElement(const QString &tag) const;
+    PortFields readPort(const QDomElement &element) const;
+    PointFields readPoint(const QDomElement &element) const;
+    FreeTextFields readText(const QDomElement &element) const;
+    void moveToRoom(cabledoc::ElementKind kind, const QDomElement &element, const QString &listName,
+                    const QString &floorTag, const QString &roomTag);
+    void putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list);
+    void appendResult(const QDomElement &activePort, const ActiveTestResult &result);
 
     QDomElement floorElement(const QString &tag) const;
     QDomElement sheetElement(const QString &tag) const;

@@ -1,6 +1,7 @@
 #include "jobeditor.h"
 
 #include "addmode.h"
+#include "childelements.h"
 #include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
@@ -18,7 +19,7 @@ QString JobEditor::addFloor(const QString &tag, const QString &id, double ceilin
     if (floorList.isNull())
         return badFloor;
 
-    ElementIndex &floors = (*m_index)[JobIndex::Floors];
+    ElementIndex &floors = (*m_index)[ElementKind::Floors];
     const QString prefix = words::FloorTagPrefix;
     const QString floorTag =
         addmode::keepsTag(mode) ? tag : prefix + QString::number(floors.firstFreeTagNumber(prefix, 1));
@@ -44,18 +45,26 @@ void JobEditor::removeFloor(const QString &tag)
     const QDomElement floor = floorElement(tag);
     if (floor.isNull())
         return;
-    const QStringList cables = getCablesByFloor(tag);
-    for (const QString &cable : cables)
-        removeCable(cable);
-    (*m_index)[JobIndex::Floors].remove(floor);
+    const QDomElement roomList = floor.firstChildElement(words::RoomList);
+    if (m_index->references) {
+        for (const QDomElement &room : ChildElements(roomList)) {
+            for (const QDomElement &vertRun : ChildElements(room.firstChildElement(words::VerticalRunList)))
+                m_index->references->remove(vertRun);
+        }
+    }
+    (*m_index)[ElementKind::Floors].remove(floor);
     removeElement(floor);
-    populateCableMap();
     populateRoomMap();
     populatePortMap();
     populateActivePortMap();
     populateVerticalRunMap();
     populatePointMap();
     populateFloorFreeTextMap();
+    for (const QDomElement &room : ChildElements(roomList)) {
+        dropReferencesToAll(ElementKind::Ports, room.firstChildElement(words::PortList));
+        dropReferencesToAll(ElementKind::VerticalRuns, room.firstChildElement(words::VerticalRunList));
+    }
+    dropReferencesToAll(ElementKind::Points, floor.firstChildElement(words::PointList));
 }
 
 void JobEditor::removeFloor(const Floor &floor)
@@ -75,9 +84,7 @@ Floor JobEditor::getFloor(const QString &tag) const
 
 void JobEditor::setFloorId(const QString &tag, const QString &id)
 {
-    const QDomElement floor = floorElement(tag);
-    renameElement(floor, id);
-    (*m_index)[JobIndex::Floors].updateId(floor);
+    renameElementOf(ElementKind::Floors, tag, id);
 }
 
 void JobEditor::setAllFloorIds(const QMap<QString, QString> &idsByTag)
@@ -140,11 +147,7 @@ QString JobEditor::completedFloorAttribute(const QString &tag, const QString &at
 
 void JobEditor::writeFloorAttribute(const QString &tag, const QString &attribute, const QString &value)
 {
-    QDomElement floor = floorElement(tag);
-    if (floor.isNull())
-        return;
-    floor.setAttribute(attribute, value);
-    setDirty(true);
+    writeAttribute(floorElement(tag), attribute, value);
 }
 
 QString JobEditor::getFloorNumber(const QString &tag)

@@ -37,21 +37,23 @@ Elements containersIn(const Elements &parents, const QString &containerName)
     return containers;
 }
 
+QHash<QString, ContainerIndex> roomsIn(const Elements &floors)
+{
+    QHash<QString, ContainerIndex> roomsOfFloor;
+    for (const QDomElement &floor : floors) {
+        ContainerIndex &rooms = roomsOfFloor[floor.tagName()];
+        for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList)))
+            rooms.append(room);
+    }
+    return roomsOfFloor;
+}
+
 Elements roomsOf(const Elements &floors)
 {
     Elements rooms;
     for (const QDomElement &roomList : containersIn(floors, words::RoomList))
         rooms += reachableChildren(roomList);
     return rooms;
-}
-
-void rebuild(ElementIndex *index, const Elements &containers)
-{
-    index->clear();
-    for (const QDomElement &container : containers) {
-        for (const QDomElement &element : ChildElements(container))
-            index->append(element);
-    }
 }
 
 QStringList namesIn(const QDomElement &container, bool byTag)
@@ -65,6 +67,85 @@ bool exists(const ElementIndex &index, const QString &text, bool byTag)
 }
 
 } // namespace
+
+void JobIndex::rebuild(ElementKind kind, const QDomElement &root)
+{
+    const auto list = [&root](const QString &name) { return root.firstChildElement(name); };
+    const Elements floors = reachableChildren(list(words::FloorList));
+    const Elements sheets = reachableChildren(list(words::SheetList));
+    Elements containers;
+    switch (kind) {
+    case ElementKind::Cables:
+        containers = {list(words::CableList)};
+        break;
+    case ElementKind::Connections:
+        containers = {list(words::ConnectionList)};
+        break;
+    case ElementKind::Sheets:
+        containers = {list(words::SheetList)};
+        break;
+    case ElementKind::Devices:
+        containers = containersIn(sheets, words::DeviceList);
+        break;
+    case ElementKind::Vertices:
+        containers = containersIn(sheets, words::VerticeList);
+        break;
+    case ElementKind::FreeTexts:
+        containers = containersIn(sheets, words::FreeTextList);
+        break;
+    case ElementKind::Floors:
+        containers = {list(words::FloorList)};
+        break;
+    case ElementKind::Rooms:
+        containers = containersIn(floors, words::RoomList);
+        roomsOfFloor = roomsIn(floors);
+        break;
+    case ElementKind::Ports:
+        containers = containersIn(roomsOf(floors), words::PortList);
+        break;
+    case ElementKind::ActivePorts:
+        containers = {list(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList)};
+        break;
+    case ElementKind::VerticalRuns:
+        containers = containersIn(roomsOf(floors), words::VerticalRunList);
+        break;
+    case ElementKind::Points:
+        containers = containersIn(floors, words::PointList);
+        break;
+    case ElementKind::FloorFreeTexts:
+        containers = containersIn(floors, words::FreeTextList);
+        break;
+    case ElementKind::Count:
+        return;
+    }
+    ElementIndex &index = (*this)[kind];
+    index.clear();
+    for (const QDomElement &container : std::as_const(containers)) {
+        for (const QDomElement &element : ChildElements(container))
+            index.append(element);
+    }
+}
+
+ReferenceIndex &JobIndex::allReferences(const QDomElement &root)
+{
+    if (references)
+        return *references;
+    references.emplace();
+    const auto list = [&root](const QString &name) { return root.firstChildElement(name); };
+    Elements containers;
+    // Rooms and floors that share a tag with another one come into reach when that is removed.
+    for (const QDomElement &floor : ChildElements(list(words::FloorList))) {
+        for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList)))
+            containers.append(room.firstChildElement(words::VerticalRunList));
+    }
+    containers += {list(words::CableList), list(words::ConnectionList),
+                   list(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList)};
+    for (const QDomElement &container : std::as_const(containers)) {
+        for (const QDomElement &element : ChildElements(container))
+            references->insert(element);
+    }
+    return *references;
+}
 
 CableNames cabledoc::cableNamesIn(const QDomElement &cableList)
 {
@@ -83,6 +164,7 @@ QMap<QString, QStringList> cabledoc::cablesByTypeIn(const QDomElement &cableList
 
 void JobEditor::updateAllInternalLists()
 {
+    m_index->references.reset();
     populateCurrentCablesLists();
     populateCableMap();
     populateCableTypeMap();
@@ -107,7 +189,7 @@ void JobEditor::populateCurrentCablesLists()
 
 void JobEditor::populateCableMap()
 {
-    rebuild(&(*m_index)[JobIndex::Cables], {getToCableList()});
+    rebuildIndex(ElementKind::Cables);
 }
 
 void JobEditor::populateCableTypeMap()
@@ -117,113 +199,104 @@ void JobEditor::populateCableTypeMap()
 
 void JobEditor::populateConnectionMap()
 {
-    rebuild(&(*m_index)[JobIndex::Connections], {getToConnectionList()});
+    rebuildIndex(ElementKind::Connections);
 }
 
 void JobEditor::populateSheetMap()
 {
-    rebuild(&(*m_index)[JobIndex::Sheets], {getElement(words::SheetList)});
+    rebuildIndex(ElementKind::Sheets);
 }
 
 void JobEditor::populateDeviceMap()
 {
-    const Elements sheets = reachableChildren(getElement(words::SheetList));
-    rebuild(&(*m_index)[JobIndex::Devices], containersIn(sheets, words::DeviceList));
+    rebuildIndex(ElementKind::Devices);
 }
 
 void JobEditor::populateVerticeMap()
 {
-    const Elements sheets = reachableChildren(getElement(words::SheetList));
-    rebuild(&(*m_index)[JobIndex::Vertices], containersIn(sheets, words::VerticeList));
+    rebuildIndex(ElementKind::Vertices);
 }
 
 void JobEditor::populateFreeTextMap()
 {
-    const Elements sheets = reachableChildren(getElement(words::SheetList));
-    rebuild(&(*m_index)[JobIndex::FreeTexts], containersIn(sheets, words::FreeTextList));
+    rebuildIndex(ElementKind::FreeTexts);
 }
 
 void JobEditor::populateFloorMap()
 {
-    rebuild(&(*m_index)[JobIndex::Floors], {getElement(words::FloorList)});
+    rebuildIndex(ElementKind::Floors);
 }
 
 void JobEditor::populateRoomMap()
 {
-    const Elements floors = reachableChildren(getElement(words::FloorList));
-    rebuild(&(*m_index)[JobIndex::Rooms], containersIn(floors, words::RoomList));
-    m_index->roomsOfFloor.clear();
-    for (const QDomElement &floor : floors) {
-        ContainerIndex &rooms = m_index->roomsOfFloor[floor.tagName()];
-        for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList)))
-            rooms.append(room);
-    }
+    rebuildIndex(ElementKind::Rooms);
 }
 
 void JobEditor::populatePortMap()
 {
-    const Elements rooms = roomsOf(reachableChildren(getElement(words::FloorList)));
-    rebuild(&(*m_index)[JobIndex::Ports], containersIn(rooms, words::PortList));
+    rebuildIndex(ElementKind::Ports);
 }
 
 void JobEditor::populateActivePortMap()
 {
-    rebuild(&(*m_index)[JobIndex::ActivePorts], {getToActivePortList()});
+    rebuildIndex(ElementKind::ActivePorts);
 }
 
 void JobEditor::populateVerticalRunMap()
 {
-    const Elements rooms = roomsOf(reachableChildren(getElement(words::FloorList)));
-    rebuild(&(*m_index)[JobIndex::VerticalRuns], containersIn(rooms, words::VerticalRunList));
+    rebuildIndex(ElementKind::VerticalRuns);
 }
 
 void JobEditor::populatePointMap()
 {
-    const Elements floors = reachableChildren(getElement(words::FloorList));
-    rebuild(&(*m_index)[JobIndex::Points], containersIn(floors, words::PointList));
+    rebuildIndex(ElementKind::Points);
 }
 
 void JobEditor::populateFloorFreeTextMap()
 {
-    const Elements floors = reachableChildren(getElement(words::FloorList));
-    rebuild(&(*m_index)[JobIndex::FloorFreeTexts], containersIn(floors, words::FreeTextList));
+    rebuildIndex(ElementKind::FloorFreeTexts);
+}
+
+void JobEditor::rebuildIndex(ElementKind kind)
+{
+    m_index->rebuild(kind, m_document.firstChild().toElement());
 }
 
 // Existence
 
 bool JobEditor::cableExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Cables], text, byTag);
+    return exists((*m_index)[ElementKind::Cables], text, byTag);
 }
 
 bool JobEditor::connectionExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Connections], text, byTag);
+    return exists((*m_index)[ElementKind::Connections], text, byTag);
 }
 
 bool JobEditor::floorExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Floors], text, byTag);
+    return exists((*m_index)[ElementKind::Floors], text, byTag);
 }
 
 bool JobEditor::sheetExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Sheets], text, byTag);
+    return exists((*m_index)[ElementKind::Sheets], text, byTag);
 }
 
 bool JobEditor::roomExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Rooms], text, byTag);
+    return exists((*m_index)[ElementKind::Rooms], text, byTag);
 }
 
 bool JobEditor::portExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Ports], text, byTag);
+    return exists((*m_index)[ElementKind::Ports], text, byTag);
 }
 
 bool JobEditor::vertRunExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::VerticalRuns], text, byTag);
+    return exists((*m_index)[ElementKind::VerticalRuns], text, byTag);
 }
 
 bool JobEditor::portOrVertRunExists(const QString &text, bool byTag) const
@@ -233,32 +306,32 @@ bool JobEditor::portOrVertRunExists(const QString &text, bool byTag) const
 
 bool JobEditor::deviceExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Devices], text, byTag);
+    return exists((*m_index)[ElementKind::Devices], text, byTag);
 }
 
 bool JobEditor::verticeExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Vertices], text, byTag);
+    return exists((*m_index)[ElementKind::Vertices], text, byTag);
 }
 
 bool JobEditor::pointExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::Points], text, byTag);
+    return exists((*m_index)[ElementKind::Points], text, byTag);
 }
 
 bool JobEditor::freeTextExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::FreeTexts], text, byTag);
+    return exists((*m_index)[ElementKind::FreeTexts], text, byTag);
 }
 
 bool JobEditor::floorFreeTextExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::FloorFreeTexts], text, byTag);
+    return exists((*m_index)[ElementKind::FloorFreeTexts], text, byTag);
 }
 
 bool JobEditor::activePortExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[JobIndex::ActivePorts], text, byTag);
+    return exists((*m_index)[ElementKind::ActivePorts], text, byTag);
 }
 
 bool JobEditor::roomExistsOnFloor(const QString &room, const QString &floorTag, bool byTag) const
@@ -270,52 +343,42 @@ bool JobEditor::roomExistsOnFloor(const QString &room, const QString &floorTag, 
 
 QStringList JobEditor::getFloorTags() const
 {
-    return (*m_index)[JobIndex::Floors].tags();
+    return (*m_index)[ElementKind::Floors].tags();
 }
 
 QStringList JobEditor::getSheetTags() const
 {
-    return (*m_index)[JobIndex::Sheets].tags();
+    return (*m_index)[ElementKind::Sheets].tags();
 }
 
 QStringList JobEditor::getFloorIds() const
 {
-    return (*m_index)[JobIndex::Floors].ids();
+    return (*m_index)[ElementKind::Floors].ids();
 }
 
 QStringList JobEditor::getSheetIds() const
 {
-    return (*m_index)[JobIndex::Sheets].ids();
+    return (*m_index)[ElementKind::Sheets].ids();
 }
 
 QString JobEditor::getFloorIdByTag(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Floors].id(tag);
+    return (*m_index)[ElementKind::Floors].id(tag);
 }
 
 QString JobEditor::getSheetIdByTag(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Sheets].id(tag);
-}
-
-QString JobEditor::getPortIdByTag(const QString &tag) const
-{
-    return (*m_index)[JobIndex::Ports].id(tag);
-}
-
-QString JobEditor::getVertRunIdByTag(const QString &tag) const
-{
-    return (*m_index)[JobIndex::VerticalRuns].id(tag);
+    return (*m_index)[ElementKind::Sheets].id(tag);
 }
 
 QString JobEditor::getFloorTagById(const QString &id) const
 {
-    return (*m_index)[JobIndex::Floors].tagOfId(id);
+    return (*m_index)[ElementKind::Floors].tagOfId(id);
 }
 
 QString JobEditor::getSheetTagById(const QString &id) const
 {
-    return (*m_index)[JobIndex::Sheets].tagOfId(id);
+    return (*m_index)[ElementKind::Sheets].tagOfId(id);
 }
 
 QStringList JobEditor::getConnections(bool byTag) const
@@ -427,18 +490,18 @@ QDomElement JobEditor::getToVerticeList(const QString &sheetTag) const
 
 QDomElement JobEditor::floorElement(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Floors].element(tag);
+    return elementOf(ElementKind::Floors, tag);
 }
 
 QDomElement JobEditor::sheetElement(const QString &tag) const
 {
-    return (*m_index)[JobIndex::Sheets].element(tag);
+    return elementOf(ElementKind::Sheets, tag);
 }
 
 QDomElement JobEditor::roomElement(const QString &floorTag, const QString &tag) const
 {
     const QDomElement roomList = getToRoomList(floorTag);
-    const ElementIndex &rooms = (*m_index)[JobIndex::Rooms];
+    const ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
     const QDomElement room = rooms.element(tag);
     if (!roomList.isNull() && room.parentNode() == roomList)
         return room;

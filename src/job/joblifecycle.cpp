@@ -154,6 +154,7 @@ void JobEditor::Unload()
     for (ElementIndex &index : m_index->elements)
         index.forgetElements();
     m_index->roomsOfFloor.clear();
+    m_index->references.reset();
     m_filename = QLatin1String("");
     m_error = QStringLiteral("Unloading");
     setDirty(false);

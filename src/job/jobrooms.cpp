@@ -50,7 +50,7 @@ QString JobEditor::addRoom(const Room &room, int mode)
 
 QString JobEditor::newRoomTag() const
 {
-    ElementIndex &rooms = (*m_index)[JobIndex::Rooms];
+    ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
     // The last tag in string order is "Room9" beside "Room10", and "Undefined" beside any of them.
     const int last = numberAfter(words::RoomTagPrefix, rooms.lastTag());
     return words::RoomTagPrefix + QString::number(rooms.firstFreeTagNumber(words::RoomTagPrefix, last + qint64(1)));
@@ -58,7 +58,7 @@ QString JobEditor::newRoomTag() const
 
 QString JobEditor::newRoomId(const QString &floorTag, const QString &prefix) const
 {
-    const int last = numberAfter(prefix, (*m_index)[JobIndex::Rooms].lastId());
+    const int last = numberAfter(prefix, (*m_index)[ElementKind::Rooms].lastId());
     ContainerIndex &roomsOnFloor = m_index->roomsOfFloor[floorTag];
     return prefix + QString::number(roomsOnFloor.firstFreeIdNumber(prefix, last + qint64(1)));
 }
@@ -90,7 +90,7 @@ void JobEditor::completeNewRoom(const QDomElement &room)
     // A second floor of the same tag cannot be reached, nor can its rooms.
     if (floorElement(floor.nodeName()) != floor)
         return;
-    ElementIndex &rooms = (*m_index)[JobIndex::Rooms];
+    ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
     if (rooms.containsTag(room.tagName()) && !floor.nextSiblingElement().isNull()) {
         // Which room of that tag is the first in the document, only the document can tell.
         populateRoomMap();
@@ -108,9 +108,9 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
     const QDomElement undefined = undefinedRoomElement(getToRoomList(floorTag));
     // Whether elements that share a tag change their order, or come into reach: then only the document can
     // tell which of them is the first.
-    bool isOrderLost = (*m_index)[JobIndex::Rooms].isRepeated(tag);
-    const std::pair<QString, JobIndex::Kind> contents[] = {{words::PortList, JobIndex::Ports},
-                                                           {words::VerticalRunList, JobIndex::VerticalRuns}};
+    bool isOrderLost = (*m_index)[ElementKind::Rooms].isRepeated(tag);
+    const std::pair<QString, ElementKind> contents[] = {{words::PortList, ElementKind::Ports},
+                                                        {words::VerticalRunList, ElementKind::VerticalRuns}};
     for (const auto &[containerName, kind] : contents) {
         QDomElement source = room.firstChildElement(containerName);
         QDomElement target = undefined.firstChildElement(containerName);
@@ -121,7 +121,7 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
             target.appendChild(source.firstChild());
         }
     }
-    (*m_index)[JobIndex::Rooms].remove(room);
+    (*m_index)[ElementKind::Rooms].remove(room);
     m_index->roomsOfFloor[floorTag].remove(room);
     removeElement(room);
     if (isOrderLost) {
@@ -146,7 +146,7 @@ Room JobEditor::getRoomByTag(const QString &tag)
 {
     if (tag == words::Undefined)
         return undefinedRoom();
-    return readRoom((*m_index)[JobIndex::Rooms].element(tag));
+    return readRoom((*m_index)[ElementKind::Rooms].element(tag));
 }
 
 Room JobEditor::getRoomById(const QString &floorTag, const QString &id)
@@ -189,7 +189,7 @@ void JobEditor::setRoomName(const QString &floorTag, const QString &id, const QS
         populateRoomMap();
     } else {
         roomsOnFloor.append(room);
-        (*m_index)[JobIndex::Rooms].updateId(room);
+        (*m_index)[ElementKind::Rooms].updateId(room);
     }
     setDirty(true);
 }

@@ -16,7 +16,7 @@ QString JobEditor::addSheet(const QString &tag, const QString &id, int mode)
     if (sheetList.isNull())
         return badSheet;
 
-    ElementIndex &sheets = (*m_index)[JobIndex::Sheets];
+    ElementIndex &sheets = (*m_index)[ElementKind::Sheets];
     const QString prefix = words::SheetTagPrefix;
     const QString sheetTag =
         addmode::keepsTag(mode) ? tag : prefix + QString::number(sheets.firstFreeTagNumber(prefix, 1));
@@ -48,11 +48,13 @@ void JobEditor::removeSheet(const QString &tag)
     const QDomElement sheet = sheetElement(tag);
     if (sheet.isNull())
         return;
-    (*m_index)[JobIndex::Sheets].remove(sheet);
+    (*m_index)[ElementKind::Sheets].remove(sheet);
     removeElement(sheet);
     populateDeviceMap();
     populateVerticeMap();
     populateFreeTextMap();
+    dropReferencesToAll(ElementKind::Devices, sheet.firstChildElement(words::DeviceList));
+    dropReferencesToAll(ElementKind::Vertices, sheet.firstChildElement(words::VerticeList));
 }
 
 Sheet JobEditor::getSheet(const QString &tag) const
@@ -67,9 +69,7 @@ Sheet JobEditor::getSheet(const QString &tag) const
 
 void JobEditor::setSheetID(const QString &tag, const QString &id)
 {
-    const QDomElement sheet = sheetElement(tag);
-    renameElement(sheet, id);
-    (*m_index)[JobIndex::Sheets].updateId(sheet);
+    renameElementOf(ElementKind::Sheets, tag, id);
 }
 
 void JobEditor::setAllSheetIDs(const QMap<QString, QString> &idsByTag)

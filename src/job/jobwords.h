@@ -33,6 +33,14 @@ inline const QString SheetTagPrefix = QStringLiteral("SSheet_");
 inline const QString RoomTagPrefix = QStringLiteral("Room");
 inline const QString CableTagPrefix = QStringLiteral("Cable");
 inline const QString ConnectionTagPrefix = QStringLiteral("Connection");
+inline const QString PortTagPrefix = QStringLiteral("Port");
+inline const QString VertRunTagPrefix = QStringLiteral("VertRun");
+inline const QString PointTagPrefix = QStringLiteral("Point");
+inline const QString FloorFreeTextTagPrefix = QStringLiteral("TText");
+inline const QString DeviceTagPrefix = QStringLiteral("Device");
+inline const QString VerticeTagPrefix = QStringLiteral("Vertice");
+inline const QString FreeTextTagPrefix = QStringLiteral("Text");
+inline const QString ActivePortTagPrefix = QStringLiteral("ActivePort");
 
 /// Tag and id of the room that every floor has for what lies in no drawn room.
 inline const QString Undefined = QStringLiteral("Undefined");
@@ -65,7 +73,28 @@ inline const QString BundleNum = QStringLiteral("bundleNum");
 inline const QString BundleGroupNum = QStringLiteral("bundleGroupNum");
 inline const QString Path = QStringLiteral("path");
 
-// The results of a cable's test
+// Attributes of ports, vertical runs and devices
+inline const QString IconScale = QStringLiteral("icon_scale");
+inline const QString DropHeight = QStringLiteral("drop_height");
+inline const QString Connected = QStringLiteral("connected");
+inline const QString Disconnected = QStringLiteral("disconnected");
+inline const QString Info = QStringLiteral("info");
+
+// Attributes of texts
+inline const QString FontFamily = QStringLiteral("font");
+inline const QString FontSize = QStringLiteral("font_size");
+inline const QString Bold = QStringLiteral("bold");
+inline const QString Italic = QStringLiteral("italic");
+
+// Ports in the working network and what was tested there
+inline const QString Port = QStringLiteral("port");
+inline const QString ActiveTestResult = QStringLiteral("ActiveTest_Result");
+inline const QString ActiveTestValue = QStringLiteral("Value");
+inline const QString Name = QStringLiteral("name");
+inline const QString Value = QStringLiteral("value");
+
+// The results of a test
+inline const QString Time = QStringLiteral("time");
 inline const QString TestResults = QStringLiteral("Test_Results");
 inline const QString Status = QStringLiteral("status");
 inline const QString SoftwareVersion = QStringLiteral("software_version");

@@ -126,8 +126,8 @@ private:
             ids.append(job.getCableID(tag));
         TestResults results;
         results.setStatus(someId());
-        Cable cable(someTag(tags), someId(), someId(), someTag(portsOf(job)), someTag(portsOf(job)), someId(), results,
-                    {someId()}, someId(), someId(), someId(), someId());
+        Cable cable(someTag(tags), someId(), someId(), someTag(endsOf(job)), someTag(endsOf(job)), someId(), results,
+                    {oneOf(pointsOf(job)), someId()}, someId(), someId(), someId(), someId());
         const QString id = job.addCable(cable, mode);
         if (job.getCables(true).size() == tags.size())
             return;
@@ -141,17 +141,36 @@ private:
             QVERIFY2(!tags.contains(tag) && tag.startsWith("Cable"), qPrintable(tag));
     }
 
+    /// The tags of everything of a kind, on all floors or sheets.
+    static QStringList onAll(const QStringList &parents, const std::function<QStringList(const QString &)> &tagsOn)
+    {
+        QStringList tags;
+        for (const QString &parent : parents)
+            tags += tagsOn(parent);
+        return tags;
+    }
+
+    static QStringList inAllRooms(JobEditor &job,
+                                  const std::function<QStringList(const QString &, const QString &)> &tags)
+    {
+        return onAll(job.getFloorTags(), [&](const QString &floor) {
+            return onAll(job.getRooms(floor, true), [&](const QString &room) { return tags(floor, room); });
+        });
+    }
+
     static QStringList portsOf(JobEditor &job)
     {
-        QStringList ports;
-        const QStringList floors = job.getFloorTags();
-        for (const QString &floor : floors) {
-            const QStringList rooms = job.getRooms(floor, true);
-            for (const QString &room : rooms)
-                ports += job.getPorts(floor, room, true) + job.getVertRuns(floor, room, true);
-        }
-        return ports;
+        return inAllRooms(
+            job, [&job](const QString &floor, const QString &room) { return job.getPorts(floor, room, true); });
     }
+
+    static QStringList vertRunsOf(JobEditor &job)
+    {
+        return inAllRooms(
+            job, [&job](const QString &floor, const QString &room) { return job.getVertRuns(floor, room, true); });
+    }
+
+    static QStringList endsOf(JobEditor &job) { return portsOf(job) + vertRunsOf(job); }
 
     void changeCable(JobEditor &job)
     {
@@ -162,17 +181,116 @@ private:
             [&] { job.setCableID(cable, QString("Cable%1").arg(number(20), 3, 10, QChar('0'))); },
             [&] { job.setCableType(cable, someId()); },
             [&] { job.setCableUse(cable, someId()); },
-            [&] { job.setCableTo(cable, someTag(portsOf(job))); },
+            [&] { job.setCableTo(cable, someTag(endsOf(job))); },
             [&] {
-                job.setCablePath(cable, {someId(), someId()});
+                job.setCablePath(cable, {oneOf(pointsOf(job)), oneOf(vertRunsOf(job)), someId()});
             },
             [&] { job.setCableTestResults(cable, TestResults(QString(), someId(), cable_struct::untested(), 1)); },
             [&] { job.getCableTestResults(cable); },
             [&] { job.removeCable(cable); },
             [&] { job.removeCable(cable); },
-            [&] { job.addConnection(connection, someId(), "D1", "D2", "1", number(5)); },
+            [&] { job.addConnection(connection, someId(), oneOf(devicesOf(job)), "", "1", number(5)); },
+            [&] { job.setConnectionFrom(connection, oneOf(devicesOf(job))); },
             [&] { job.setConnectionTo(connection, someId()); },
             [&] { job.removeConnection(connection); },
+        };
+        operations.at(number(int(operations.size())))();
+    }
+
+    static QStringList pointsOf(JobEditor &job)
+    {
+        return onAll(job.getFloorTags(), [&job](const QString &floor) { return job.getPoints(floor, true); });
+    }
+
+    static QStringList devicesOf(JobEditor &job)
+    {
+        return onAll(job.getSheetTags(), [&job](const QString &sheet) {
+            return job.getDevices(sheet, true) + job.getVertices(sheet, true);
+        });
+    }
+
+    static QStringList textsOf(JobEditor &job)
+    {
+        return onAll(job.getSheetTags(), [&job](const QString &sheet) { return job.getFreeTexts(sheet, true); })
+               + onAll(job.getFloorTags(), [&job](const QString &floor) { return job.getFloorFreeTexts(floor, true); });
+    }
+
+    void addPlanElement(JobEditor &job)
+    {
+        const int mode = number(5);
+        const QString floor = someTag(job.getFloorTags());
+        const QString room = someTag(job.getRooms(floor, true));
+        const QString sheet = someTag(job.getSheetTags());
+        const QString place = someTag(endsOf(job));
+        const QVector<std::function<QString()>> operations{
+            [&] { return job.addPort(floor, room, 1, 2, place, someId(), "data", 1, 2, mode); },
+            [&] { return job.addPort(floor, room, 1, 2, place, someId(), "data", 1, 2, mode); },
+            [&] {
+                const QStringList cables = job.getCables(true);
+                return job.addVertRun(floor, room, 1, 2, place, someId(), "", 1, 2, {oneOf(cables), oneOf(cables)}, {},
+                                      mode);
+            },
+            [&] { return job.addPoint(floor, 1, 2, someTag(pointsOf(job)), someId(), mode); },
+            [&] { return job.addDevice(sheet, "switch", 1, 2, 1, someId(), someTag(devicesOf(job)), someId(), mode); },
+            [&] { return job.addVertice(sheet, 1, 2, someTag(devicesOf(job)), someId(), mode); },
+            [&] {
+                return job.addFreeText(
+                    FreeText(someTag(textsOf(job)), someId(), "x", 1, 2, "", 9, true, false, "", sheet), mode);
+            },
+            [&] {
+                return job.addFloorFreeText(
+                    FreeText(someTag(textsOf(job)), someId(), "x", 1, 2, "", 9, true, false, "", floor), mode);
+            },
+            [&] {
+                const ActiveTestResult result("noon", "PASS", 100, "full", someId(), {{someId(), someId()}});
+                const QString tag = job.addActivePort(
+                    ActivePort(someTag(job.getActivePorts(true)), someId(), oneOf(portsOf(job)), {result, result}),
+                    mode);
+                const bool isThere = job.activePortTestResultExists(tag, "noon");
+                return isThere ? tag : QString();
+            },
+        };
+        const QString tag = operations.at(number(int(operations.size())))();
+        if (!tag.isEmpty() && mode != 2 && mode != 3)
+            QVERIFY2(tag.at(tag.size() - 1).isDigit(), qPrintable(tag));
+    }
+
+    void changePlanElement(JobEditor &job)
+    {
+        const QString port = someTag(number(2) == 0 ? portsOf(job) : vertRunsOf(job));
+        const QString point = someTag(pointsOf(job));
+        const QString device = someTag(devicesOf(job));
+        const QString text = someTag(textsOf(job));
+        const QString activePort = someTag(job.getActivePorts(true));
+        const QString cable = someTag(job.getCables(true));
+        const QString floor = someTag(job.getFloorTags());
+        const QString room = someTag(job.getRooms(floor, true));
+        const QVector<std::function<void()>> operations{
+            [&] { job.setPortID(port, someId()); },
+            [&] { job.setPortPos(port, number(9), number(9) / 7.0); },
+            [&] { job.setPortRoom(port, floor, room); },
+            [&] { job.setPortRoom(port, floor, room); },
+            [&] { job.removePort(port); },
+            [&] { job.setVertRunID(port, someId()); },
+            [&] { job.setVertRunRoom(port, floor, room); },
+            [&] { job.connectCableToVertRun(cable, port); },
+            [&] { job.connectCableToVertRun(cable, port); },
+            [&] { job.disconnectCableFromVertRun(cable, port); },
+            [&] { job.removeCableFromVertRun(cable, port); },
+            [&] { job.removeVertRun(port); },
+            [&] { job.setPointID(point, someId()); },
+            [&] { job.removePoint(point); },
+            [&] { job.setDeviceID(device, someId()); },
+            [&] { job.setVerticeID(device, someId()); },
+            [&] { job.removeDevice(device); },
+            [&] { job.removeVertice(device); },
+            [&] { job.setFreeTextID(text, someId()); },
+            [&] { job.removeFreeText(text); },
+            [&] { job.setFloorFreeTextText(text, someId()); },
+            [&] { job.removeFloorFreeText(text); },
+            [&] { job.setActivePortPort(activePort, oneOf(portsOf(job))); },
+            [&] { job.removeActiveTestResult(activePort, "noon"); },
+            [&] { job.removeActivePort(activePort); },
         };
         operations.at(number(int(operations.size())))();
     }
@@ -197,9 +315,15 @@ private:
         operations.at(number(int(operations.size())))();
     }
 
+    /// Without the references that led nowhere when they were made: to names that no element gets by itself.
+    static QStringList generatedOnly(const QStringList &references)
+    {
+        return references.filter(QRegularExpression(": (Port|VertRun|Point|Device|Vertice|Cable)[0-9]+$"));
+    }
+
     void step(JobEditor &job)
     {
-        switch (number(14)) {
+        switch (number(20)) {
         case 0:
             addFloorOrSheet(job);
             break;
@@ -221,6 +345,17 @@ private:
             break;
         case 9:
             changeContents(job);
+            break;
+        case 10:
+        case 11:
+        case 12:
+        case 13:
+            addPlanElement(job);
+            break;
+        case 14:
+        case 15:
+        case 16:
+            changePlanElement(job);
             break;
         default:
             changeRoom(job);
@@ -259,6 +394,8 @@ private Q_SLOTS:
             QVERIFY2(probe.indexesMatchTheTree(), qPrintable(QString("after step %1").arg(i)));
             // The flag may be raised for a value that was there before, but never missing.
             QVERIFY(job.fileChanged() || probe.text() == before);
+            const QStringList dangling = generatedOnly(probe.danglingReferences());
+            QVERIFY2(dangling.isEmpty(), qPrintable(QString("%1 after step %2").arg(dangling.join(' ')).arg(i)));
         }
         const QByteArray text = probe.text();
         QVERIFY(job.save());

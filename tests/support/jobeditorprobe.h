@@ -5,6 +5,9 @@
 #include "jobindex.h"
 #include "testfiles.h"
 
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+
 /// What tests may see and do inside the job document.
 class JobEditorProbe
 {
@@ -30,14 +33,61 @@ public:
     /// Whether the indexes equal what a rebuild makes of the tree. They are left as they are, not rebuilt.
     bool indexesMatchTheTree() const
     {
-        // These lists are made when they are asked for.
+        // These are made when they are asked for.
         m_job.getCables(true);
         m_job.getCablesByType(QString());
+        m_job.m_index->allReferences(root());
         const cabledoc::JobIndex kept = *m_job.m_index;
         m_job.updateAllInternalLists();
+        m_job.m_index->allReferences(root());
         const bool match = kept == *m_job.m_index;
         *m_job.m_index = kept;
         return match;
+    }
+
+    /// What elements name that is not there, as "Cable1: Port7".
+    QStringList danglingReferences() const
+    {
+        QHash<QString, QSet<QString>> tagsIn; // by list
+        QVector<QDomElement> all{root()};
+        for (int i = 0; i < all.size(); ++i) {
+            for (QDomElement child = all.at(i).firstChildElement(); !child.isNull();
+                 child = child.nextSiblingElement()) {
+                all.append(child);
+                tagsIn[all.at(i).tagName()].insert(child.tagName());
+            }
+        }
+        const auto ends = tagsIn.value("Port_List") + tagsIn.value("VerticalRun_List");
+        const auto passed = tagsIn.value("Point_List") + tagsIn.value("VerticalRun_List");
+        const auto devices = tagsIn.value("Device_List") + tagsIn.value("Vertice_List");
+        const struct
+        {
+            const char *list;
+            const char *attribute;
+            QSet<QString> tags;
+        } rules[] = {
+            {"Cable_List", "to", ends},
+            {"Cable_List", "from", ends},
+            {"Cable_List", "path", passed},
+            {"Connection_List", "to", devices},
+            {"Connection_List", "from", devices},
+            {"VerticalRun_List", "connected", tagsIn.value("Cable_List")},
+            {"VerticalRun_List", "disconnected", tagsIn.value("Cable_List")},
+            {"ActivePort_List", "port", tagsIn.value("Port_List")},
+        };
+        QStringList dangling;
+        for (const QDomElement &element : std::as_const(all)) {
+            for (const auto &rule : rules) {
+                if (element.parentNode().nodeName() != rule.list)
+                    continue;
+                const QStringList named = element.attribute(rule.attribute).split(',');
+                for (const QString &tag : named) {
+                    if (!tag.isEmpty() && !rule.tags.contains(tag))
+                        dangling.append(element.tagName() + ": " + tag);
+                }
+            }
+        }
+        return dangling;
     }
 
 private:
