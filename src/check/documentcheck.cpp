@@ -184,7 +184,15 @@ private:
         checkNames(getElement(words::ConnectionList));
         for (const QDomElement &connection : ChildElements(getElement(words::ConnectionList)))
             checkConnection(connection);
-        checkNames(getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList));
+        const QDomElement activePorts =
+            getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList);
+        checkNames(activePorts);
+        for (const QDomElement &activePort : ChildElements(activePorts)) {
+            const QString port = activePort.attribute(words::Port);
+            if (!port.isEmpty() && !hasTag(words::PortList, port))
+                reportMissing(activePort, tr("\"%1\": there is no port \"%2\"").arg(words::Port, port));
+        }
+        checkVertRuns();
     }
 
     void checkFloors()
@@ -232,6 +240,28 @@ private:
         const QString bundle = cable.attribute(words::BundleName);
         if (!bundle.isEmpty() && !m_bundles.contains(bundle))
             reportMissing(cable, tr("there is no bundle \"%1\"").arg(bundle));
+    }
+
+    void checkVertRuns()
+    {
+        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
+            for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
+                for (const QDomElement &vertRun : ChildElements(room.firstChildElement(words::VerticalRunList)))
+                    checkVertRun(vertRun);
+            }
+        }
+    }
+
+    void checkVertRun(const QDomElement &vertRun)
+    {
+        for (const QString &attribute : {words::Connected, words::Disconnected}) {
+            QStringList cables;
+            fromText(vertRun.attribute(attribute), &cables);
+            for (const QString &cable : std::as_const(cables)) {
+                if (!hasTag(words::CableList, cable))
+                    reportMissing(vertRun, tr("\"%1\": there is no cable \"%2\"").arg(attribute, cable));
+            }
+        }
     }
 
     void checkConnection(const QDomElement &connection)

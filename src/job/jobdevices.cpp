@@ -28,14 +28,18 @@ QDomElement JobEditor::deviceElement(const QString &tag) const
     return elementOf(ElementKind::Devices, tag);
 }
 
-Device JobEditor::getDeviceByTag(const QString &tag) const
+DeviceFields JobEditor::readDevice(const QDomElement &element) const
 {
-    const QDomElement element = deviceElement(tag);
     if (element.isNull())
-        return Device();
+        return DeviceFields();
     DeviceFields fields = readElement(deviceKind(), element);
     fields.sheet = element.parentNode().parentNode().nodeName();
-    return Device(fields);
+    return fields;
+}
+
+Device JobEditor::getDeviceByTag(const QString &tag) const
+{
+    return Device(readDevice(deviceElement(tag)));
 }
 
 Device JobEditor::getDeviceById(const QString &id) const

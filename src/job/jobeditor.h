@@ -223,6 +223,15 @@ public:
     void removeFloor(const QString &tag);
     void removeFloor(const Floor &floor);
 
+    /// Copies what is on a floor to another one, as it is but for these names: points and texts get new ones,
+    /// ports and vertical runs the first free of "12A", "12B", ..., "12Z", "12[", "12AA", ... after "12". A room
+    /// whose name the other floor has stands for its copy. The cables that end on the floor are copied too, with
+    /// the copies for their ends and paths where there are any, untested, and, if useCableIds, under the ids
+    /// that cableIds gives for theirs; cables without one get a generated id. Cables of one bundle group form
+    /// a new group, with the first free number. Nothing when one of the floors does not exist.
+    void copyFloor(const QString &srcTag, const QString &dstTag, const QMap<QString, QString> &cableIds,
+                   bool useCableIds);
+
     /// The floor of that tag; an empty record when there is none. What the element lacks has its default
     /// in the record only.
     Floor getFloor(const QString &tag) const;
@@ -262,6 +271,10 @@ public:
     QString addSheet(const Sheet &sheet, int mode);
     /// Removes a sheet with all that is on it, and the connections that end there.
     void removeSheet(const QString &tag);
+
+    /// Copies the devices, bends and texts of a sheet to another one, under new names; connections are not
+    /// copied. Nothing when one of the sheets does not exist.
+    void copySheet(const QString &srcTag, const QString &dstTag);
 
     /// The sheet of that tag; an empty record when there is none.
     Sheet getSheet(const QString &tag) const;
@@ -599,6 +612,17 @@ public:
     /// as feet: whole metres (metric, cut off) or feet, 0 when none was measured.
     float getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected);
 
+    // Lengths from the plan
+
+    /// The length of a cable in feet, or in metres (metric): from end to end along its path, in straight lines
+    /// at the scale of the floor plan ("FloorPlan_Settings"; 96 pixels are an inch of the drawing), and down the
+    /// drop heights of both ends, and through the ceiling heights of the floors between those that a vertical
+    /// run joins. -1.0 when the plan has no scale, an end or a point of the path does not exist, or the way
+    /// leads to another floor without a vertical run. Settings that an older file lacks are added.
+    double estimateCableLength(const QString &tag, bool metric);
+    /// The lengths of all cables, by tag.
+    QMap<QString, double> estimateCableLengths(bool metric);
+
     // Connections of devices
 
     /// Adds a connection behind the others and returns its id. See above for the mode. An empty string, and
@@ -693,10 +717,23 @@ private:
     PortFields readPort(const QDomElement &element) const;
     PointFields readPoint(const QDomElement &element) const;
     FreeTextFields readText(const QDomElement &element) const;
+    DeviceFields readDevice(const QDomElement &element) const;
     void moveToRoom(cabledoc::ElementKind kind, const QDomElement &element, const QString &listName,
                     const QString &floorTag, const QString &roomTag);
     void putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list);
     void appendResult(const QDomElement &activePort, const ActiveTestResult &result);
+
+    struct Copies;
+    void copyPoints(const QDomElement &list, const QString &floorTag, Copies *copies);
+    void copyTexts(const QDomElement &list, const QString &parentTag, QString (JobEditor::*add)(const FreeText &, int));
+    QString copyOfRoom(const QDomElement &source, const QString &floorTag);
+    void copyRooms(const QDomElement &roomList, const QString &floorTag, Copies *copies);
+    void copyCables(const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies);
+
+    double estimatedLength(const QDomElement &cable, double feetPerPixel, bool metric) const;
+    Port placeOf(const QString &tag) const;
+    Port placeOfPoint(const QString &tag) const;
+    double heightBetween(const QString &tagA, const QString &tagB) const;
 
     QDomElement floorElement(const QString &tag) const;
     QDomElement sheetElement(const QString &tag) const;

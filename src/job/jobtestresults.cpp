@@ -3,14 +3,13 @@
 #include "bkutilities.h"
 #include "jobattributes.h"
 #include "jobwords.h"
+#include "units.h"
 
 #include <cmath>
 
 using namespace cabledoc;
 
 namespace {
-
-constexpr double feetInAMeter = 3.2808399; // 1 / 0.3048
 
 /// Feet, or metres, as lengths are shown: to the nearest tenth of a foot, but to the nearest half metre.
 float roundedLength(float feet, bool metric)

@@ -101,6 +101,16 @@ private Q_SLOTS:
                      "<Connection_List><C1 from='D1' to='V1'/>\n<C2 from='D2' to=''/></Connection_List></Job>"
             << QStringList("3 missing-reference Connection_List/C2");
 
+        QTest::newRow("active ports and vertical runs")
+            << job
+                   + "<Floor_List><F1><Room_List><R1><Port_List><P1/></Port_List><VerticalRun_List>"
+                     "<V1 connected='C1' disconnected=''/>\n<V2 connected='' disconnected='C1,C2'/></VerticalRun_List>"
+                     "</R1></Room_List></F1></Floor_List><Cable_List><C1/></Cable_List><ActiveNetworkTest_List>"
+                     "<ActivePort_List><A1 port='P1'/>\n<A2 "
+                     "port='V1'/></ActivePort_List></ActiveNetworkTest_List></Job>"
+            << QStringList({"3 missing-reference Floor_List/F1/Room_List/R1/VerticalRun_List/V2",
+                            "4 missing-reference ActiveNetworkTest_List/ActivePort_List/A2"});
+
         QTest::newRow("definitions")
             << bkt
                    + "<TestDef_List><TestDef1 id='a'/>\n<TestDef2 id='a' color='greenish'/>\n"

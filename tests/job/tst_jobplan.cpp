@@ -182,6 +182,138 @@ private Q_SLOTS:
         QCOMPARE(job().getActiveTestResults(tag).size(), 2);
     }
 
+    /// Two floors joined by a shaft that passes a third, with 20 feet to the inch: 5 inches of way, 13 feet of
+    /// drops, 9.5 feet of ceiling.
+    void lengths()
+    {
+        job().addFloor("", "Middle", 9.5, "", 1);
+        job().addFloor("", "Top", 8, "", 1);
+        const QString a = job().addPort("FFloor_1", m_room, 0, 0, "", "A", "", 1, 7, 1);
+        const QString point = job().addPoint("FFloor_1", 96, 0, "", "", 0);
+        const QString low = job().addVertRun("FFloor_1", m_room, 96, 144, "", "", "", 1, 5, {}, {}, 0);
+        const QString high = job().addVertRun("FFloor_3", "Undefined", 96, 144, "", "", "", 1, 5, {}, {}, 0);
+        const QString b = job().addPort("FFloor_3", "Undefined", 288, 288, "", "B", "", 1, 6, 1);
+        const auto addCable = [](const QString &to, const QString &from, const QStringList &path) {
+            job().addCable(Cable("", "", "", to, from, "", TestResults(), path, "", "", "", ""), 0);
+        };
+        addCable(b, a, {point, low, high}); // 96 + 144 + 0 + 240 pixels
+        addCable(low, a, {});               // 173.07 pixels
+        addCable(b, a, {point});            // no shaft
+        addCable(b, "none", {low});
+        addCable(b, a, {low, "none"});
+        addCable(b, low, {}); // the shaft itself leads up
+        const QStringList unscaled = job().getCables(true);
+        for (const QString &tag : unscaled)
+            QCOMPARE(job().estimateCableLength(tag, false), -1.0);
+
+        ScaleSettings scale;
+        scale.setStyle(1);
+        job().setScaleSettings(scale, "FloorPlan_Settings");
+        QCOMPARE(job().estimateCableLength("Cable1", false), 100 + 13 + 9.5);
+        QCOMPARE(job().estimateCableLength("Cable1", true), (100 + 13 + 9.5) / 3.2808399);
+        QVERIFY(qAbs(job().estimateCableLength("Cable2", false) - (173.0664 / 96 * 20 + 7 + 5)) < 0.001);
+        QCOMPARE(job().estimateCableLength("Cable3", false), -1.0);
+        QCOMPARE(job().estimateCableLength("Cable4", false), -1.0);
+        QCOMPARE(job().estimateCableLength("Cable5", false), -1.0);
+        QCOMPARE(job().estimateCableLength("Cable6", false), 240.0 / 96 * 20 + 5 + 6 + 9.5);
+        QCOMPARE(job().estimateCableLength("none", false), -1.0);
+
+        // 1 to 50: an inch of the drawing is 50 inches.
+        job().setScaleSettings(ScaleSettings("Metric", "1 : 5", 1, 1, 1.0, 50.0, 2), "FloorPlan_Settings");
+        QCOMPARE(job().estimateCableLength("Cable1", false), 5 * 50 / 12.0 + 13 + 9.5);
+        const QMap<QString, double> all = job().estimateCableLengths(true);
+        QCOMPARE(all.keys(), job().getCables(true));
+        for (auto length = all.cbegin(); length != all.cend(); ++length)
+            QCOMPARE(length.value(), job().estimateCableLength(length.key(), true));
+    }
+
+    void copiedFloor()
+    {
+        const QString upper = job().addFloor("", "Upper", 8, "", 1);
+        const QString lab = job().addRoom(upper, 5, 5, 1, 1, "", "Lab", 0, 0, 3, 3, 3, 1);
+        job().addRoom(m_floor, 1, 2, 3, 4, "", "Store", 5, 6, 0, 1, 2, 1);
+        const QString a = job().addPort(m_floor, m_room, 1, 2, "", "12", "data", 0.5, 3, 1);
+        const QString b = job().addPort(m_floor, "Undefined", 3, 4, "", "B", "voice", 1, 0, 1);
+        const QString far = job().addPort(upper, "Undefined", 0, 0, "", "12A", "", 1, 0, 1);
+        const QString point = job().addPoint(m_floor, 7, 8, "", "Bend1", 1);
+        const QString run = job().addVertRun(m_floor, m_room, 1, 1, "", "Riser", "", 1, 0, {}, {}, 1);
+        job().addFloorFreeText(m_floor, "North", 1, 2, "", 9, false, false, "red", "", "T", 0);
+        TestResults tested;
+        tested.setStatus("PASS");
+        job().addCable(Cable("", "", "data", a, b, "CAT5E", tested, {point, run}, "HTheatre", "1", "4", "#112233"), 0);
+        job().addCable(Cable("", "", "", far, run, "", tested, {}, "HTheatre", "2", "4", "red"), 0);
+        job().addCable(Cable("", "", "", far, far, "", tested, {}, "", "", "1", "red"), 0);
+        job().setVertRunConnected(run, {"Cable3", "Cable2"});
+        job().setVertRunDisconnected(run, {"Cable1"});
+
+        job().copyFloor(m_floor, upper, {{"Cable001", "New name"}}, true);
+        QVERIFY(JobEditorProbe(job()).indexesMatchTheTree());
+        // A room of that name was there; the other is new.
+        QCOMPARE(job().getRooms(upper, false), QStringList({"Undefined", "Lab", "Store"}));
+        QVERIFY(job().getRoomById(upper, "Store") == Room("Room4", 1, 2, 3, 4, "Store", upper, 5, 6, 0, 1, 2));
+        const QString portCopy = job().getPorts(upper, lab, true).value(0);
+        QVERIFY(job().getPortByTag(portCopy) == Port(portCopy, "12B", 1, 2, "data", 0.5, 3, lab, upper));
+        QCOMPARE(job().getPorts(upper, "Undefined", false), QStringList({"12A", "BA"}));
+        QCOMPARE(job().getPoints(upper, false), QStringList("Bend2"));
+        const QString text = job().getFloorFreeTexts(upper, true).value(0);
+        QVERIFY(job().getFloorFreeTextByTag(text)
+                == FreeText(text, "T2", "North", 1, 2, "", 9, false, false, "red", upper));
+        const QString runCopy = job().getVertRuns(upper, lab, true).value(0);
+        const QString pointCopy = job().getPoints(upper, true).value(0);
+        const QString secondPort = job().getPorts(upper, "Undefined", true).value(1);
+        QCOMPARE(job().getCables(true).size(), 5);
+        Cable expected("Cable4", "New name", "data", portCopy, secondPort, "CAT5E", TestResults(), {pointCopy, runCopy},
+                       "HTheatre", "1", "2", "#112233");
+        QCOMPARE(job().getCableStatus("Cable4"), QString("UNTESTED"));
+        expected.setTestResults(job().getCableTestResults("Cable4"));
+        QVERIFY(job().getCable("Cable4") == expected);
+        QCOMPARE(job().getCableID("Cable5"), QString("Cable004"));
+        QCOMPARE(job().getCableTo("Cable5"), far);
+        QCOMPARE(job().getCableFrom("Cable5"), runCopy);
+        QCOMPARE(job().getCableBundleGroupNum("Cable5"), QString("2"));
+        // Of the cables in the source's lists, those that were copied.
+        QCOMPARE(job().getVertRunConnected(runCopy), QStringList("Cable5"));
+        QCOMPARE(job().getVertRunDisconnected(runCopy), QStringList("Cable4"));
+        QCOMPARE(job().getCableStatus("Cable1"), QString("PASS"));
+
+        const int rooms = int(job().getRooms(m_floor, true).size());
+        job().copyFloor(m_floor, m_floor, {}, false);
+        QCOMPARE(int(job().getRooms(m_floor, true).size()), rooms);
+        QCOMPARE(job().getPorts(m_floor, m_room, false), QStringList({"12", "12C"}));
+        QVERIFY(JobEditorProbe(job()).indexesMatchTheTree());
+        const QByteArray before = JobEditorProbe(job()).text();
+        job().copyFloor(m_floor, "none", {}, false);
+        job().copySheet("none", m_sheet);
+        QCOMPARE(JobEditorProbe(job()).text(), before);
+    }
+
+    void copiedPortIdsWrapAround()
+    {
+        for (const QString &id : {QString("12"), QString("12["), QString("12AA")})
+            job().addPort(m_floor, m_room, 1, 2, "", id, "", 1, 0, 1);
+        for (char letter = 'A'; letter <= 'Z'; ++letter)
+            job().addPort(m_floor, m_room, 1, 2, "", QString("12") + letter, "", 1, 0, 1);
+        const QString source = job().addFloor("", "S", 8, "", 1);
+        const QString target = job().addFloor("", "T", 8, "", 1);
+        job().addPort(source, "Undefined", 1, 2, "", "12", "", 1, 0, 1);
+        job().copyFloor(source, target, {}, false);
+        QCOMPARE(job().getPorts(target, "Undefined", false), QStringList("12AB"));
+    }
+
+    void copiedSheet()
+    {
+        const QString device = job().addDevice(m_sheet, "switch", 1, 2, 0.5, "i", "", "S", 0);
+        const QString bend = job().addVertice(m_sheet, 1, 2, "", "V", 0);
+        job().addFreeText(m_sheet, "x", 1, 2, "", 9, true, true, "red", "", "T", 0);
+        job().addConnection("", "", device, bend, "", 0);
+        const QString target = job().addSheet("", "Target", 1);
+        job().copySheet(m_sheet, target);
+        QVERIFY(job().getDeviceByTag("Device2") == Device("Device2", "S2", "switch", 1, 2, 0.5, "i", target));
+        QCOMPARE(job().getVertices(target, false), QStringList("V2"));
+        QCOMPARE(job().getFreeTexts(target, false), QStringList("T2"));
+        QCOMPARE(job().getConnections(true).size(), 1);
+    }
+
     void nothingIsThere()
     {
         const QByteArray before = JobEditorProbe(job()).text();

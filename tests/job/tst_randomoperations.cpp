@@ -93,6 +93,16 @@ private:
             [&] { job.getFloorCeilingHeight(floor); },
             [&] { job.setFloorCeilingHeight(floor, number(100) / 7.0); },
             [&] { job.removeFloor(floor); },
+            [&] {
+                // Each copy doubles what it copies.
+                if (job.getCables(true).size() < 100)
+                    job.copyFloor(floor, someTag(job.getFloorTags()), {{"Cable001", someId()}}, number(2) == 0);
+            },
+            [&] {
+                if (textsOf(job).size() + devicesOf(job).size() < 100)
+                    job.copySheet(sheet, someTag(job.getSheetTags()));
+            },
+            [&] { job.estimateCableLengths(true); },
             [&] { job.removeSheet(sheet); },
         };
         operations.at(number(int(operations.size())))();

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace cabledoc {
+
+constexpr double feetInAMeter = 3.2808399; // 1 / 0.3048
+constexpr double inchesInAFoot = 12.0;
+constexpr double pixelsInAnInch = 96.0; ///< of a drawing
+
+} // namespace cabledoc
