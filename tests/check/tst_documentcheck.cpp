@@ -106,10 +106,11 @@ private Q_SLOTS:
                    + "<Floor_List><F1><Room_List><R1><Port_List><P1/></Port_List><VerticalRun_List>"
                      "<V1 connected='C1' disconnected=''/>\n<V2 connected='' disconnected='C1,C2'/></VerticalRun_List>"
                      "</R1></Room_List></F1></Floor_List><Cable_List><C1/></Cable_List><ActiveNetworkTest_List>"
-                     "<ActivePort_List><A1 port='P1'/>\n<A2 "
-                     "port='V1'/></ActivePort_List></ActiveNetworkTest_List></Job>"
+                     "<ActivePort_List><A1 port='P1'/>\n<A2 port='V1'/>\n<A1/></ActivePort_List>"
+                     "</ActiveNetworkTest_List></Job>"
             << QStringList({"3 missing-reference Floor_List/F1/Room_List/R1/VerticalRun_List/V2",
-                            "4 missing-reference ActiveNetworkTest_List/ActivePort_List/A2"});
+                            "4 missing-reference ActiveNetworkTest_List/ActivePort_List/A2",
+                            "5 duplicate-tag ActiveNetworkTest_List/ActivePort_List/A1"});
 
         QTest::newRow("definitions")
             << bkt

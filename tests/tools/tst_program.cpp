@@ -1,5 +1,6 @@
 #include "testfiles.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -107,6 +108,13 @@ private Q_SLOTS:
         QCOMPARE(run({"import", path("shop.job"), "--template", old, "--missing-only"}), 0);
         QVERIFY(readFile(path("shop.job")).contains("tester=\"\""));
         QVERIFY(!readFile(path("shop.job")).contains("CAT6-X"));
+        // What changes nothing does not touch the file.
+        QFile file(path("shop.job"));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QDateTime lastYear = QDateTime::currentDateTime().addYears(-1);
+        QVERIFY(file.setFileTime(lastYear, QFileDevice::FileModificationTime));
+        QCOMPARE(run({"import", path("shop.job"), "--template", old, "--missing-only"}), 0);
+        QCOMPARE(QFileInfo(path("shop.job")).lastModified().date(), lastYear.date());
         QCOMPARE(run({"import", path("shop.job"), "--template", old}), 0);
         QVERIFY(readFile(path("shop.job")).contains("tester=\"Ann\""));
         QVERIFY(readFile(path("shop.job")).contains("CAT6-X"));
