@@ -35,7 +35,7 @@ endfunction()
 function(cabledoc_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;HEADERS;USES")
   add_library(cabledoc_${name} OBJECT ${layer_SOURCES} ${layer_HEADERS})
-  target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/export)
   target_compile_definitions(cabledoc_${name} PRIVATE cabledoc_EXPORTS)
   target_link_libraries(cabledoc_${name}
     PUBLIC Qt${CABLEDOC_QT_MAJOR}::Core Qt${CABLEDOC_QT_MAJOR}::Gui Qt${CABLEDOC_QT_MAJOR}::Xml ${layer_USES}
