@@ -71,6 +71,9 @@ private Q_SLOTS:
         QCOMPARE(job().getPorts(m_floor, m_room, true), QStringList("MyPort"));
         job().setPortRoom(tag, upper, "Room9");
         QCOMPARE(job().getPortRoom(tag), QString("Undefined"));
+        job().addPort(upper, "Undefined", 1, 2, "Last", "", "", 1, 1, 2);
+        job().setPortRoom(tag, upper, "Undefined");
+        QCOMPARE(job().getPorts(upper, "Undefined", true), QStringList({tag, "Last"}));
     }
 
     void verticalRuns()
@@ -225,6 +228,9 @@ private Q_SLOTS:
         QCOMPARE(all.keys(), job().getCables(true));
         for (auto length = all.cbegin(); length != all.cend(); ++length)
             QCOMPARE(length.value(), job().estimateCableLength(length.key(), true));
+        // The first cable of a tag counts.
+        job().addCable("Cable1", "", 2);
+        QCOMPARE(job().estimateCableLengths(true), all);
     }
 
     void copiedFloor()
@@ -277,7 +283,8 @@ private Q_SLOTS:
         QCOMPARE(job().getCableStatus("Cable1"), QString("PASS"));
 
         const int rooms = int(job().getRooms(m_floor, true).size());
-        job().copyFloor(m_floor, m_floor, {}, false);
+        job().copyFloor(m_floor, m_floor, {{"Cable001", "Ignored"}}, false);
+        QVERIFY(!job().cableExists("Ignored", false));
         QCOMPARE(int(job().getRooms(m_floor, true).size()), rooms);
         QCOMPARE(job().getPorts(m_floor, m_room, false), QStringList({"12", "12C"}));
         QVERIFY(JobEditorProbe(job()).indexesMatchTheTree());
@@ -289,15 +296,25 @@ private Q_SLOTS:
 
     void copiedPortIdsWrapAround()
     {
-        for (const QString &id : {QString("12"), QString("12["), QString("12AA")})
-            job().addPort(m_floor, m_room, 1, 2, "", id, "", 1, 0, 1);
         for (char letter = 'A'; letter <= 'Z'; ++letter)
             job().addPort(m_floor, m_room, 1, 2, "", QString("12") + letter, "", 1, 0, 1);
         const QString source = job().addFloor("", "S", 8, "", 1);
         const QString target = job().addFloor("", "T", 8, "", 1);
         job().addPort(source, "Undefined", 1, 2, "", "12", "", 1, 0, 1);
-        job().copyFloor(source, target, {}, false);
-        QCOMPARE(job().getPorts(target, "Undefined", false), QStringList("12AB"));
+        for (int i = 0; i < 3; ++i)
+            job().copyFloor(source, target, {}, false);
+        QCOMPARE(job().getPorts(target, "Undefined", false), QStringList({"12[", "12AA", "12AB"}));
+    }
+
+    void copiedToFloorWithoutRooms()
+    {
+        writeFile(job().filename(), "<Job><Version number='3.0'/><Floor_List><F1><Room_List><Undefined id='Undefined'>"
+                                    "<Port_List><P1 id='1'/></Port_List></Undefined></Room_List></F1><F2/></Floor_List>"
+                                    "</Job>");
+        QVERIFY(job().Load(job().filename()));
+        job().copyFloor("F1", "F2", {}, false);
+        QCOMPARE(job().getPorts("F2", "Undefined", false), QStringList("1A"));
+        QVERIFY(JobEditorProbe(job()).indexesMatchTheTree());
     }
 
     void copiedSheet()
@@ -357,12 +374,36 @@ private Q_SLOTS:
 
         const QString device = job().addDevice(m_sheet, "", 1, 2, 1, "", "", "", 0);
         const QString bend = job().addVertice(m_sheet, 1, 2, "", "", 0);
+        // Elements of the same tag stand for each other.
+        job().addPort(m_floor, "Undefined", 1, 2, b, "", "", 1, 1, 2);
+        job().addCable("", "", "", b, 0);
+        job().addActivePort(b, "", "", 0);
+        job().addDevice(m_sheet, "", 1, 2, 1, "", device, "", 2);
+        job().addConnection("", "", device, "", "", 0);
+        job().removePort(b);
+        job().removeDevice(device);
+        QCOMPARE(job().getCables(true).size(), 1);
+        QCOMPARE(job().getActivePorts(true).size(), 1);
+        QCOMPARE(job().getConnections(true).size(), 1);
+        job().removePort(b);
+        QVERIFY(job().getCables(true).isEmpty());
+        QVERIFY(job().getActivePorts(true).isEmpty());
+        job().removeConnection("Connection1");
+
         job().addConnection("", "", device, bend, "", 0);
         job().addConnection("", "", device, "", "", 0);
         job().removeVertice(bend);
         QCOMPARE(job().getConnections(true), QStringList("Connection2"));
         job().removeSheet(m_sheet);
         QVERIFY(job().getConnections(true).isEmpty());
+
+        // What a caller changed by itself counts after a rebuild.
+        const QString c = job().addPort(m_floor, m_room, 1, 2, "", "C", "", 1, 1, 1);
+        job().addCable("", "", 0);
+        job().getToCableList().firstChildElement().setAttribute("to", c);
+        job().updateAllInternalLists();
+        job().removePort(c);
+        QVERIFY(job().getCables(true).isEmpty());
     }
 };
 
