@@ -18,7 +18,8 @@ QVector<QDomElement> childrenOf(const QDomElement &list)
 /// The name without the number at its end: copies get the same name with another number.
 QString withoutNumber(QString name)
 {
-    while (!name.isEmpty() && name.at(name.size() - 1).isDigit())
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    while (!name.isEmpty() && isDigit(name.at(name.size() - 1)))
         name.chop(1);
     return name;
 }
