@@ -1,0 +1,72 @@
+#include "vocabulary.h"
+
+#include <QtTest/QtTest>
+
+namespace {
+
+const QString PortUses = "data voice TV cable_box audio video security fire control power spare other";
+const QString DeviceTypes = "computer laptop server printer phone switch router modem access_point television camera "
+                            "speaker panel rack other";
+
+QImage picture(const Vocabulary &vocabulary, const QString &word, int size)
+{
+    return vocabulary.pixmap(word, size).toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+} // namespace
+
+class VocabularyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void storedWordsStay()
+    {
+        QCOMPARE(Vocabulary::portUses().words().join(' '), PortUses);
+        QCOMPARE(Vocabulary::deviceTypes().words().join(' '), DeviceTypes);
+    }
+
+    void names()
+    {
+        QCOMPARE(Vocabulary::portUses().name("cable_box"), QString("Cable box"));
+        QCOMPARE(Vocabulary::deviceTypes().name("panel"), QString("Patch panel"));
+    }
+
+    void everyWordHasItsOwnPicture()
+    {
+        for (const int size : {16, 64}) {
+            QImage blank(size, size, QImage::Format_ARGB32);
+            blank.fill(Qt::transparent);
+            QVector<QImage> seen{blank};
+            for (const Vocabulary *vocabulary : {&Vocabulary::portUses(), &Vocabulary::deviceTypes()}) {
+                for (const QString &word : vocabulary->words()) {
+                    const QImage image = picture(*vocabulary, word, size);
+                    QCOMPARE(image.size(), QSize(size, size));
+                    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+                    QVERIFY2(!seen.contains(image), qPrintable(word));
+                    seen.append(image);
+                }
+            }
+        }
+    }
+
+    void unknownWordsAreShownAsOther()
+    {
+        const Vocabulary &uses = Vocabulary::portUses();
+        for (const QString word : {"", "tv", "../data", "computer"}) {
+            QVERIFY(!uses.contains(word));
+            QCOMPARE(uses.name(word), word);
+            QCOMPARE(picture(uses, word, 16), picture(uses, "other", 16));
+        }
+        QVERIFY(uses.contains("TV"));
+    }
+
+    void noPictureWithoutSize()
+    {
+        QVERIFY(Vocabulary::portUses().pixmap("data", 0).isNull());
+        QVERIFY(Vocabulary::portUses().pixmap("data", -1).isNull());
+    }
+};
+
+QTEST_MAIN(VocabularyTest)
+#include "tst_vocabulary.moc"
