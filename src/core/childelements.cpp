@@ -1,5 +1,6 @@
 #include "childelements.h"
 
+#include "numberednames.h"
 #include "words.h"
 
 namespace cabledoc {
@@ -22,11 +23,12 @@ QStringList childIds(const QDomElement &parent)
 
 QString firstFreeTag(const QDomElement &parent, const QString &prefix)
 {
-    const QStringList taken = childTags(parent);
-    int number = 1;
-    while (taken.contains(prefix + QString::number(number)))
-        ++number;
-    return prefix + QString::number(number);
+    NumberedNames taken;
+    const qint64 number = taken.firstFree(prefix, 1, [&parent](const auto &use) {
+        for (const QDomElement &child : ChildElements(parent))
+            use(child.tagName());
+    });
+    return taken.name(prefix, number);
 }
 
 QDomElement childWithId(const QDomElement &parent, const QString &id)

@@ -2,6 +2,7 @@
 
 #include "attributetext.h"
 #include "childelements.h"
+#include "elementindex.h"
 #include "settingsattributes.h"
 #include "sharedattributes.h"
 #include "words.h"
@@ -52,18 +53,23 @@ void setVersion(const QDomElement &root, const QString &number)
 void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
 {
     QVector<QDomElement> definitions;
+    ElementIndex index;
     for (const QDomElement &definition : ChildElements(list)) {
+        index.append(definition);
         if (definition.hasAttribute(words::Id))
             definitions.append(definition);
     }
     for (QDomElement definition : definitions) {
         const TestDefFields fields = testDefAttributes().read(definition);
-        const QDomElement named = list.firstChildElement(QLatin1Char('T') + fields.id);
+        const QDomElement named = index.element(QLatin1Char('T') + fields.id);
         const QString expected = (named.isNull() ? definition : named).attribute(words::Expected);
 
+        index.remove(definition);
         list.removeChild(definition);
-        definition.setTagName(firstFreeTag(list, words::TestDefTagPrefix));
+        const qint64 number = index.firstFreeTagNumber(words::TestDefTagPrefix, 1);
+        definition.setTagName(words::TestDefTagPrefix + QString::number(number));
         list.appendChild(definition);
+        index.append(definition);
         if (!expected.isEmpty()) {
             const QString lengthened = expected + QString(24, QLatin1Char('0'));
             definition.setAttribute(words::Expected, toText(BKXMLEditor::stringToData(lengthened)));

@@ -42,7 +42,7 @@ QByteArray versionOf(const QByteArray &content)
 QByteArray bigTemplate()
 {
     QByteArray content = "<Bkt>\n <Version number=\"1.1\"/>\n <TestDef_List>\n";
-    for (int i = 0; i < 500; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         const QByteArray type = "Type" + QByteArray::number(i);
         content += "  <T" + type + " id=\"" + type + "\" expected=\"" + QByteArray(72, '0') + "\"/>\n";
     }
