@@ -1,5 +1,6 @@
 #include "jobattributes.h"
 
+#include "jobeditor.h"
 #include "jobwords.h"
 #include "sharedattributes.h"
 
@@ -180,6 +181,14 @@ const QStringList &siteInfoAttributes()
 {
     static const QStringList names{words::Phone, words::JobID, words::Company, words::Email, words::Contact};
     return names;
+}
+
+QString storedCableUse(const QString &use)
+{
+    // Intended: what is planned as a cable box is stored as television.
+    return use == JobEditor::tr("cable_box", "use name for Cable Box (Cblbx)")
+               ? JobEditor::tr("TV", "short for television")
+               : use;
 }
 
 const xmlfile::AttributeOrder &jobAttributeOrder()

@@ -33,6 +33,8 @@ const AttributeTable<ActivePortFields> &activePortAttributes();
 /// But for the values, which are elements of their own.
 const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes();
 const QStringList &siteInfoAttributes();
+/// What a new cable's use is stored as.
+QString storedCableUse(const QString &use);
 
 /// The order of the attributes of all elements of a job file.
 const xmlfile::AttributeOrder &jobAttributeOrder();

@@ -24,9 +24,7 @@ QString JobEditor::addCable(const Cable &cable, int mode)
         fields.id = newCableId();
     if (!qtcompat::isColorName(fields.color))
         fields.color = getTestDef(fields.type).color();
-    // Intended: what is planned as a cable box is stored as television.
-    if (fields.use == tr("cable_box", "use name for Cable Box (Cblbx)"))
-        fields.use = tr("TV", "short for television");
+    fields.use = storedCableUse(fields.use);
 
     const QDomElement element = appendElement(fields.tag, list);
     cableAttributes().write(element, fields);

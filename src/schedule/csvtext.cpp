@@ -1,0 +1,93 @@
+#include "csvtext.h"
+
+#include <csv.h>
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+/// Gathers what the parser finds.
+class Gatherer
+{
+public:
+    CsvText read(const QByteArray &text)
+    {
+        csv_parser parser;
+        csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL);
+        const auto size = std::size_t(text.size());
+        if (csv_parse(&parser, text.constData(), size, takeField, endRow, this) != size
+            || csv_fini(&parser, takeField, endRow, this) != 0) {
+            m_text.badRow = m_row.number;
+            m_text.badColumn = int(m_row.fields.size()) + 1;
+        }
+        csv_free(&parser);
+        return m_text;
+    }
+
+private:
+    static void takeField(void *text, std::size_t size, void *gatherer)
+    {
+        static_cast<Gatherer *>(gatherer)->m_row.fields.append(QByteArray(static_cast<const char *>(text), int(size)));
+    }
+
+    static void endRow(int terminator, void *gatherer) { static_cast<Gatherer *>(gatherer)->endRow(terminator); }
+
+    void endRow(int terminator)
+    {
+        // The parser reports both halves of a line end.
+        const bool isSecondHalf = terminator == CSV_LF && m_lastTerminator == CSV_CR && m_row.fields.isEmpty();
+        m_lastTerminator = isSecondHalf ? 0 : terminator;
+        if (isSecondHalf)
+            return;
+        if (!m_row.fields.isEmpty())
+            m_text.rows.append(m_row);
+        m_row = {m_row.number + 1, {}};
+    }
+
+    CsvText m_text;
+    CsvRow m_row;
+    int m_lastTerminator = 0;
+};
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t';
+}
+
+/// Whether the field would not be read as it is when it stood there bare.
+bool needsQuotes(const QByteArray &field)
+{
+    return std::any_of(field.begin(), field.end(),
+                       [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; })
+           || (!field.isEmpty() && (isBlank(field.front()) || isBlank(field.back())));
+}
+
+QByteArray csvField(const QByteArray &field)
+{
+    if (!needsQuotes(field))
+        return field;
+    const auto size = std::size_t(field.size());
+    QByteArray quoted(int(csv_write(nullptr, 0, field.constData(), size)), '\0');
+    csv_write(quoted.data(), std::size_t(quoted.size()), field.constData(), size);
+    return quoted;
+}
+
+} // namespace
+
+CsvText readCsv(const QByteArray &text)
+{
+    return Gatherer().read(text);
+}
+
+QByteArray csvLine(const QVector<QByteArray> &fields)
+{
+    QByteArray line;
+    for (const QByteArray &field : fields)
+        line += csvField(field) + ',';
+    line.back() = '\n';
+    return line;
+}
+
+} // namespace cabledoc

@@ -1,0 +1,160 @@
+#include "jobschedule.h"
+
+#include "childelements.h"
+#include "jobattributes.h"
+#include "jobeditor.h"
+#include "jobwords.h"
+#include "qtcompat.h"
+#include "xmlnames.h"
+
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+/// Beyond that, rooms of a damaged file would push new ones out of all numbers.
+constexpr double maximumBottom = 1e6;
+
+/// The attribute as a save would write it.
+QString storedText(const QDomElement &element, const QString &attribute)
+{
+    QString stored;
+    const QString text = element.attribute(attribute);
+    for (const QChar character : text) {
+        if (!character.isLowSurrogate()) // a pair becomes one "?"
+            stored += isStorable(character.unicode()) ? character : QLatin1Char('?');
+    }
+    return stored;
+}
+
+QDomElement floorList(const JobEditor &job)
+{
+    return job.getToCableList().parentNode().firstChildElement(words::FloorList);
+}
+
+QString roomName(const QDomElement &room)
+{
+    const QString id = storedText(room, words::Id);
+    return room.tagName() == words::Undefined || id == words::Undefined ? QString() : id;
+}
+
+QRectF areaOf(const QDomElement &room)
+{
+    const RoomFields fields = roomAttributes().read(room);
+    return {fields.x, fields.y, fields.width, fields.height};
+}
+
+} // namespace
+
+bool JobSchedule::isPossible(const JobEditor &job)
+{
+    return !floorList(job).isNull();
+}
+
+JobSchedule::JobSchedule(const JobEditor &job)
+    : m_job(job)
+{
+    findRooms();
+    // A tag leads to the port rather than to the vertical run.
+    findEnds(words::PortList);
+    findEnds(words::VerticalRunList);
+    findCables();
+}
+
+void JobSchedule::findRooms()
+{
+    QSet<QString> tags;
+    for (const QDomElement &floor : ChildElements(floorList(m_job))) {
+        if (tags.contains(floor.tagName()))
+            continue;
+        tags.insert(floor.tagName());
+        findRoomsOf(floor);
+    }
+}
+
+void JobSchedule::findRoomsOf(const QDomElement &floor)
+{
+    const QString floorId = storedText(floor, words::Id);
+    if (!floors.contains(floorId))
+        floors.insert(floorId, {floor.tagName(), floor, 0.0, 0});
+    double &bottom = floors[floorId].bottom;
+    QSet<QString> tags;
+    for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
+        if (tags.contains(room.tagName()))
+            continue;
+        tags.insert(room.tagName());
+        const QString name = roomName(room);
+        const QRectF area = areaOf(room);
+        rooms.insert({{floorId, name}, {floor.tagName(), room.tagName(), area, 0}});
+        bottom = std::clamp(area.bottom(), bottom, maximumBottom);
+        m_rooms.append({room, {floorId, name, QString()}});
+    }
+}
+
+void JobSchedule::findEnds(const QString &listName)
+{
+    for (const FoundRoom &room : std::as_const(m_rooms)) {
+        for (const QDomElement &element : ChildElements(room.element.firstChildElement(listName))) {
+            CableEnd end = room.name;
+            end.port = storedText(element, words::Id);
+            ++rooms[{end.floor, end.room}].ports;
+            addEnd(element.tagName(), end);
+        }
+    }
+}
+
+void JobSchedule::addEnd(const QString &tag, const CableEnd &end)
+{
+    if (m_endOfTag.contains(tag))
+        return;
+    const bool hasName = !end.floor.isEmpty() && !end.port.isEmpty();
+    m_endOfTag.insert(tag, hasName ? end : CableEnd());
+    if (hasName)
+        tagOfEnd.insert({end, tag});
+}
+
+void JobSchedule::findCables()
+{
+    QSet<QString> tags;
+    for (const QDomElement &cable : ChildElements(m_job.getToCableList())) {
+        const QString id = storedText(cable, words::Id);
+        if (id.isEmpty() || tags.contains(cable.tagName()) || cableOfId.contains(id))
+            continue;
+        tags.insert(cable.tagName());
+        cableOfId.insert(id, cable);
+        cables.append(cable);
+    }
+}
+
+ScheduleRow JobSchedule::row(const QDomElement &cable) const
+{
+    const CableEnd from = m_endOfTag.value(cable.attribute(words::From));
+    const CableEnd to = m_endOfTag.value(cable.attribute(words::To));
+    const QString type = storedText(cable, words::Type);
+    return {storedText(cable, words::Id),
+            type,
+            storedCableUse(storedText(cable, words::Use)),
+            from.floor,
+            from.room,
+            from.port,
+            to.floor,
+            to.room,
+            to.port,
+            storedText(cable, words::BundleName),
+            storedText(cable, words::BundleNum),
+            storedText(cable, words::BundleGroupNum),
+            color(storedText(cable, words::Color), type)};
+}
+
+QString JobSchedule::color(const QString &text, const QString &type) const
+{
+    if (qtcompat::isColorName(text))
+        return text;
+    const QString ofType = m_job.getTestDef(type).color();
+    return qtcompat::isColorName(ofType) ? ofType : TestDefFields().color;
+}
+
+} // namespace cabledoc

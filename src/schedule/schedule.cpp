@@ -1,0 +1,268 @@
+#include "schedule.h"
+
+#include "addmode.h"
+#include "csvtext.h"
+#include "jobattributes.h"
+#include "jobeditor.h"
+#include "jobschedule.h"
+#include "jobwords.h"
+#include "schedulereader.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cmath>
+
+using namespace cabledoc;
+
+namespace {
+
+// The grid of new rooms, in plan pixels
+constexpr int roomsInRow = 6;
+constexpr int roomWidth = 240;
+constexpr int roomHeight = 160;
+constexpr int gap = 40;
+// Ports
+constexpr int portsInRow = 16;
+constexpr int undefinedPortDistance = 24;
+constexpr int undefinedPortTop = 12;
+
+RoomFields placeOfRoom(int number, double top)
+{
+    const int row = number / roomsInRow;
+    RoomFields fields;
+    fields.x = gap + (number % roomsInRow) * (roomWidth + gap);
+    fields.y = top + gap + row * (roomHeight + gap);
+    fields.width = roomWidth;
+    fields.height = roomHeight;
+    fields.roomNameX = fields.x + fields.width / 2;
+    fields.roomNameY = fields.y + fields.height / 2;
+    return fields;
+}
+
+/// Any number of ports is spread over the room: the golden ratio puts each row into the widest space that those
+/// before it leave.
+QPointF placeOfPort(int number, const QRectF &area)
+{
+    if (area.isEmpty())
+        return {double(number + 1) * undefinedPortDistance, double(undefinedPortTop)};
+    constexpr double goldenRatio = 0.6180339887;
+    const int row = number / portsInRow;
+    const double across = (number % portsInRow + 0.5) / portsInRow;
+    const double down = std::fmod(goldenRatio * (row + 1), 1.0);
+    const auto rounded = [](double pixels) { return std::round(pixels * 100) / 100; };
+    return {rounded(area.left() + across * area.width()), rounded(area.top() + down * area.height())};
+}
+
+/// Fields of a cable but its ends, which take more than a text.
+struct TextField
+{
+    column::Column column;
+    QString attribute;
+    void (JobEditor::*set)(const QString &, const QString &);
+};
+
+const std::array<TextField, 6> &textFields()
+{
+    static const std::array<TextField, 6> fields{{
+        {column::Type, words::Type, &JobEditor::setCableType},
+        {column::Use, words::Use, &JobEditor::setCableUse},
+        {column::Bundle, words::BundleName, &JobEditor::setCableBundleName},
+        {column::BundleNumber, words::BundleNum, &JobEditor::setCableBundleNum},
+        {column::BundleGroup, words::BundleGroupNum, &JobEditor::setCableBundleGroupNum},
+        {column::Color, words::Color, &JobEditor::setCableColor},
+    }};
+    return fields;
+}
+
+/// Brings a job up to a schedule, or only counts what that takes.
+class ScheduleImport
+{
+public:
+    ScheduleImport(JobEditor &job, bool dryRun)
+        : m_job(job)
+        , m_isDry(dryRun)
+        , m_there(job)
+        , m_ceilingHeight(job.getFloor(job.getFloorTags().value(0)).ceilingHeight())
+    {
+    }
+
+    ScheduleReport import(const ScheduleFile &file)
+    {
+        for (const ScheduleRow &row : file.rows)
+            import(row, file.has);
+        return m_report;
+    }
+
+private:
+    void import(ScheduleRow row, const std::bitset<column::Count> &has)
+    {
+        const QDomElement cable = m_there.cableOfId.value(row[column::Id]);
+        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_there.row(cable);
+        for (std::size_t column = 0; column < column::Count; ++column) {
+            if (!has[column])
+                row[column] = before[column];
+        }
+        row[column::Use] = storedCableUse(row[column::Use]);
+        row[column::Color] = m_there.color(row[column::Color], row[column::Type]);
+        if (cable.isNull())
+            addCable(row);
+        else if (row != before)
+            changeCable(cable, row, before);
+    }
+
+    void addCable(const ScheduleRow &row)
+    {
+        ++m_report.cables;
+        CableFields fields;
+        fields.id = row[column::Id];
+        fields.type = row[column::Type];
+        fields.use = row[column::Use];
+        fields.from = endTag(row, column::FromFloor);
+        fields.to = endTag(row, column::ToFloor);
+        fields.bundleName = row[column::Bundle];
+        fields.bundleNum = row[column::BundleNumber];
+        fields.bundleGroupNum = row[column::BundleGroup];
+        fields.color = row[column::Color];
+        if (!m_isDry)
+            m_job.addCable(Cable(fields), addmode::GivenId);
+    }
+
+    void changeCable(const QDomElement &cable, const ScheduleRow &row, const ScheduleRow &before)
+    {
+        ++m_report.changed;
+        for (const TextField &field : textFields()) {
+            if (row[field.column] != before[field.column])
+                set(cable, field.attribute, row[field.column], field.set);
+        }
+        if (!(endIn(row, column::FromFloor) == endIn(before, column::FromFloor)))
+            set(cable, words::From, endTag(row, column::FromFloor), &JobEditor::setCableFrom);
+        if (!(endIn(row, column::ToFloor) == endIn(before, column::ToFloor)))
+            set(cable, words::To, endTag(row, column::ToFloor), &JobEditor::setCableTo);
+    }
+
+    void set(QDomElement cable, const QString &attribute, const QString &text,
+             void (JobEditor::*setter)(const QString &, const QString &))
+    {
+        if (m_isDry)
+            return;
+        // The setters create none that an older file lacks.
+        if (!cable.hasAttribute(attribute))
+            cable.setAttribute(attribute, QString());
+        (m_job.*setter)(cable.tagName(), text);
+    }
+
+    // What the job lacks of an end is added. In a dry run it is there from then on, but without a tag.
+
+    QString endTag(const ScheduleRow &row, std::size_t floorColumn)
+    {
+        const CableEnd end = endIn(row, floorColumn);
+        if (end == CableEnd())
+            return QString();
+        const auto found = m_there.tagOfEnd.find(end);
+        if (found != m_there.tagOfEnd.end())
+            return found->second;
+        const QString tag = addPort(end, row[column::Use]);
+        m_there.tagOfEnd.insert({end, tag});
+        return tag;
+    }
+
+    QString addPort(const CableEnd &end, const QString &use)
+    {
+        ++m_report.ports;
+        RoomPlace &room = roomPlace(end);
+        const QPointF place = placeOfPort(room.ports++, room.area);
+        PortFields fields;
+        fields.id = end.port;
+        fields.x = place.x();
+        fields.y = place.y();
+        fields.use = use;
+        fields.room = room.tag;
+        fields.floor = room.floorTag;
+        return m_isDry ? QString() : m_job.addPort(Port(fields), addmode::GivenId);
+    }
+
+    RoomPlace &roomPlace(const CableEnd &end)
+    {
+        FloorPlace &floor = floorPlace(end.floor);
+        const auto found = m_there.rooms.find({end.floor, end.room});
+        return found != m_there.rooms.end() ? found->second : addRoom(end, floor);
+    }
+
+    RoomPlace &addRoom(const CableEnd &end, FloorPlace &floor)
+    {
+        const bool isUndefined = end.room.isEmpty();
+        RoomFields fields;
+        if (!isUndefined) {
+            ++m_report.rooms;
+            fields = placeOfRoom(floor.newRooms++, floor.bottom);
+        }
+        fields.element = words::Undefined;
+        fields.id = isUndefined ? words::Undefined : end.room;
+        fields.floor = floor.tag;
+        QString tag;
+        if (!m_isDry) {
+            ensureRoomList(floor);
+            tag = m_job.addRoom(Room(fields), isUndefined ? addmode::GivenNames : addmode::GivenId);
+        }
+        const QRectF area(fields.x, fields.y, fields.width, fields.height);
+        return m_there.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
+    }
+
+    /// A floor that was not made here may lack its list.
+    void ensureRoomList(const FloorPlace &floor)
+    {
+        QDomElement element = floor.element;
+        if (m_job.getToRoomList(floor.tag).isNull())
+            element.appendChild(element.ownerDocument().createElement(words::RoomList));
+    }
+
+    FloorPlace &floorPlace(const QString &id)
+    {
+        const auto found = m_there.floors.find(id);
+        if (found != m_there.floors.end())
+            return *found;
+        ++m_report.floors;
+        const QString tag =
+            m_isDry ? QString() : m_job.addFloor(QString(), id, m_ceilingHeight, QString(), addmode::GivenId);
+        m_there.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
+        return *m_there.floors.insert(id, {tag, QDomElement(), 0.0, 0});
+    }
+
+    JobEditor &m_job;
+    bool m_isDry;
+    JobSchedule m_there;
+    double m_ceilingHeight;
+    ScheduleReport m_report;
+};
+
+} // namespace
+
+ScheduleReport importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
+{
+    const ScheduleFile file = readSchedule(fileName);
+    ScheduleReport report;
+    report.error = file.error;
+    report.problems = file.problems;
+    if (report.error.isEmpty() && !JobSchedule::isPossible(job))
+        report.error = QCoreApplication::translate("Schedule", "%1 has no list of cables or no list of floors")
+                           .arg(job.filename());
+    if (!report.error.isEmpty() || !report.problems.isEmpty())
+        return report;
+    return ScheduleImport(job, dryRun).import(file);
+}
+
+QByteArray exportSchedule(const JobEditor &job)
+{
+    QVector<QByteArray> fields;
+    for (const ColumnName &column : columnNames)
+        fields.append(column.name);
+    QByteArray text = csvLine(fields);
+    const JobSchedule schedule(job);
+    for (const QDomElement &cable : schedule.cables) {
+        fields.clear();
+        for (const QString &field : schedule.row(cable))
+            fields.append(field.toUtf8());
+        text += csvLine(fields);
+    }
+    return text;
+}

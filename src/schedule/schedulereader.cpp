@@ -1,0 +1,170 @@
+#include "schedulereader.h"
+
+#include "csvtext.h"
+#include "jobwords.h"
+#include "qtcompat.h"
+#include "xmlnames.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QHash>
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+bool isLost(QChar character)
+{
+    return !isStorable(character.unicode());
+}
+
+bool isEmptyRow(const CsvRow &row)
+{
+    return std::all_of(row.fields.begin(), row.fields.end(), [](const QByteArray &field) { return field.isEmpty(); });
+}
+
+class ScheduleReader
+{
+    Q_DECLARE_TR_FUNCTIONS(Schedule)
+
+public:
+    ScheduleFile read(const QString &fileName)
+    {
+        QFile file(fileName);
+        QByteArray bytes;
+        if (file.open(QIODevice::ReadOnly))
+            bytes = file.readAll();
+        if (file.error() != QFileDevice::NoError) {
+            m_file.error = file.errorString();
+            return m_file;
+        }
+        const QByteArray byteOrderMark("\xEF\xBB\xBF");
+        readText(readCsv(bytes.startsWith(byteOrderMark) ? bytes.mid(byteOrderMark.size()) : bytes));
+        std::stable_sort(m_file.problems.begin(), m_file.problems.end(),
+                         [](const ScheduleProblem &a, const ScheduleProblem &b) {
+                             return std::tie(a.row, a.column) < std::tie(b.row, b.column);
+                         });
+        return m_file;
+    }
+
+private:
+    void report(const CsvRow &row, int column, const QString &message)
+    {
+        m_file.problems.append({row.number, column, message});
+    }
+
+    void readText(const CsvText &text)
+    {
+        if (text.badRow > 0)
+            m_file.problems.append(
+                {text.badRow, text.badColumn, tr("a quotation mark is missing or stands in the wrong place")});
+        if (text.badRow == 1 || !readHeading(text.rows.isEmpty() ? CsvRow() : text.rows.constFirst()))
+            return;
+        for (const CsvRow &row : text.rows.mid(1)) {
+            if (!isEmptyRow(row))
+                readRow(row);
+        }
+    }
+
+    /// False for a heading under which every row would be wrong.
+    bool readHeading(const CsvRow &heading)
+    {
+        const auto problemsBefore = m_file.problems.size();
+        m_fieldsInHeading = int(heading.fields.size());
+        for (int field = 0; field < m_fieldsInHeading; ++field)
+            readColumnName(heading, field);
+        for (std::size_t column = 0; column < column::Count; ++column) {
+            if (columnNames[column].isNeeded && !m_file.has[column])
+                report(heading, m_fieldsInHeading + 1,
+                       tr("the column \"%1\" is missing").arg(QLatin1String(columnNames[column].name)));
+        }
+        return m_file.problems.size() == problemsBefore;
+    }
+
+    void readColumnName(const CsvRow &heading, int field)
+    {
+        const QByteArray &name = heading.fields.at(field);
+        const auto *const found = std::find_if(columnNames.begin(), columnNames.end(),
+                                               [&name](const ColumnName &column) { return name == column.name; });
+        const auto column = std::size_t(found - columnNames.begin());
+        if (column == column::Count)
+            report(heading, field + 1, tr("there is no column \"%1\"").arg(QString::fromUtf8(name)));
+        else if (m_file.has[column])
+            report(heading, field + 1, tr("the column \"%1\" is there twice").arg(QString::fromUtf8(name)));
+        else {
+            m_file.has.set(column);
+            m_fieldOf[column] = field;
+        }
+    }
+
+    void readRow(const CsvRow &row)
+    {
+        if (row.fields.size() > m_fieldsInHeading)
+            report(row, m_fieldsInHeading + 1, tr("the row has more fields than the heading"));
+        ScheduleRow texts;
+        for (std::size_t column = 0; column < column::Count; ++column) {
+            if (m_file.has[column] && m_fieldOf[column] < row.fields.size())
+                texts[column] = readField(row, m_fieldOf[column]);
+        }
+        checkId(row, texts[column::Id]);
+        checkEnd(row, texts, column::FromFloor);
+        checkEnd(row, texts, column::ToFloor);
+        const QString &color = texts[column::Color];
+        if (!color.isEmpty() && !qtcompat::isColorName(color))
+            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is no colour").arg(color));
+        for (const std::size_t room : {column::FromRoom, column::ToRoom}) {
+            if (texts[room] == words::Undefined)
+                texts[room].clear();
+        }
+        m_file.rows.append(texts);
+    }
+
+    QString readField(const CsvRow &row, int field)
+    {
+        const QByteArray &bytes = row.fields.at(field);
+        const QString text = QString::fromUtf8(bytes);
+        if (text.toUtf8() != bytes)
+            report(row, field + 1, tr("the text is not UTF-8"));
+        else if (std::any_of(text.begin(), text.end(), isLost))
+            report(row, field + 1, tr("\"%1\" has a character that a job file cannot hold").arg(text));
+        return text;
+    }
+
+    void checkId(const CsvRow &row, const QString &id)
+    {
+        const int column = m_fieldOf[column::Id] + 1;
+        if (id.isEmpty())
+            report(row, column, tr("the cable has no id"));
+        else if (m_rowOfId.contains(id))
+            report(row, column, tr("the id \"%1\" is that of row %2").arg(id).arg(m_rowOfId.value(id)));
+        else
+            m_rowOfId.insert(id, row.number);
+    }
+
+    void checkEnd(const CsvRow &row, const ScheduleRow &texts, std::size_t floorColumn)
+    {
+        const CableEnd end = endIn(texts, floorColumn);
+        if (end == CableEnd())
+            return;
+        if (end.port.isEmpty())
+            report(row, m_fieldOf[floorColumn + 2] + 1, tr("the end has a floor or room, but no port"));
+        else if (end.floor.isEmpty())
+            report(row, m_fieldOf[floorColumn] + 1, tr("the end has a port, but no floor"));
+    }
+
+    ScheduleFile m_file;
+    int m_fieldsInHeading = 0;
+    std::array<int, column::Count> m_fieldOf{}; ///< the place of a column that the file has
+    QHash<QString, int> m_rowOfId;
+};
+
+} // namespace
+
+ScheduleFile readSchedule(const QString &fileName)
+{
+    return ScheduleReader().read(fileName);
+}
+
+} // namespace cabledoc

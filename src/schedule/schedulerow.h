@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <array>
+#include <tuple>
+
+namespace cabledoc {
+
+/// The columns of a schedule, in the order in which they are written.
+namespace column {
+enum Column : std::size_t {
+    Id,
+    Type,
+    Use,
+    FromFloor,
+    FromRoom,
+    FromPort,
+    ToFloor,
+    ToRoom,
+    ToPort,
+    Bundle,
+    BundleNumber,
+    BundleGroup,
+    Color,
+    Count,
+};
+} // namespace column
+
+struct ColumnName
+{
+    const char *name;
+    bool isNeeded;
+};
+
+inline constexpr std::array<ColumnName, column::Count> columnNames{{{"id", true},
+                                                                    {"type", false},
+                                                                    {"use", false},
+                                                                    {"from_floor", true},
+                                                                    {"from_room", true},
+                                                                    {"from_port", true},
+                                                                    {"to_floor", true},
+                                                                    {"to_room", true},
+                                                                    {"to_port", true},
+                                                                    {"bundle", false},
+                                                                    {"bundle_number", false},
+                                                                    {"bundle_group", false},
+                                                                    {"color", false}}};
+
+/// What a schedule says of a cable, by column.
+using ScheduleRow = std::array<QString, column::Count>;
+
+/// Where a cable ends, by the ids; the room is empty for "Undefined", and all is for an end that is nowhere.
+struct CableEnd
+{
+    QString floor;
+    QString room;
+    QString port;
+
+    friend bool operator<(const CableEnd &a, const CableEnd &b)
+    {
+        return std::tie(a.port, a.room, a.floor) < std::tie(b.port, b.room, b.floor);
+    }
+    friend bool operator==(const CableEnd &a, const CableEnd &b)
+    {
+        return std::tie(a.port, a.room, a.floor) == std::tie(b.port, b.room, b.floor);
+    }
+};
+
+/// The end that begins in that column.
+inline CableEnd endIn(const ScheduleRow &row, std::size_t floorColumn)
+{
+    return {row[floorColumn], row[floorColumn + 1], row[floorColumn + 2]};
+}
+
+} // namespace cabledoc
