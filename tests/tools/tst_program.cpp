@@ -127,6 +127,32 @@ private Q_SLOTS:
         QVERIFY(m_messages.contains("shop.job: Incompatible"));
     }
 
+    void schedule()
+    {
+        const QByteArray heading = "id,from_floor,from_room,from_port,to_floor,to_room,to_port\n";
+        const QString plan = path("plan.csv");
+        writeFile(plan, heading + "A1,Floor_1,Lab,1,Top,,2\n");
+        QCOMPARE(run({"new", path("planned.job")}), 0);
+        const QByteArray before = readFile(path("planned.job"));
+        QCOMPARE(run({"schedule", "import", path("planned.job"), plan, "--dry-run"}), 0);
+        QCOMPARE(m_output, QByteArray("floors 1, rooms 1, ports 2, cables 1 to add; 0 cables to change\n"));
+        QCOMPARE(readFile(path("planned.job")), before);
+        QCOMPARE(run({"schedule", "import", path("planned.job"), plan}), 0);
+        QCOMPARE(m_output, QByteArray("floors 1, rooms 1, ports 2, cables 1 added; 0 cables changed\n"));
+        QCOMPARE(run({"schedule", "export", path("planned.job")}), 0);
+        QVERIFY2(m_output.endsWith("\nA1,,,Floor_1,Lab,1,Top,,2,,,,#000000\n"), m_output.constData());
+
+        writeFile(plan, heading + "A1,Floor_1,Lab,1,,,\nA2,Floor_1,Lab,,,,2\n");
+        const QByteArray planned = readFile(path("planned.job"));
+        QCOMPARE(run({"schedule", "import", path("planned.job"), plan}), 3);
+        QCOMPARE(m_output, QByteArray());
+        QVERIFY2(m_messages.startsWith(plan.toLocal8Bit() + ":3:4: "), m_messages.constData());
+        QVERIFY2(m_messages.contains('\n' + plan.toLocal8Bit() + ":3:5: "), m_messages.constData());
+        QCOMPARE(readFile(path("planned.job")), planned);
+        QCOMPARE(run({"schedule", "import", path("planned.job"), path("missing.csv")}), 3);
+        QVERIFY2(m_messages.contains("missing.csv"), m_messages.constData());
+    }
+
     void newReplacesNothing()
     {
         writeFile(path("there.job"), "precious");
@@ -157,6 +183,9 @@ private Q_SLOTS:
         QTest::newRow("neither job nor template") << QStringList{"convert", "never.xml", "-o", "never.xml"};
         QTest::newRow("export as a job") << QStringList{"export", file, "-o", file};
         QTest::newRow("no template") << QStringList{"import", file};
+        QTest::newRow("half a command") << QStringList{"schedule"};
+        QTest::newRow("unknown half") << QStringList{"schedule", file};
+        QTest::newRow("no schedule") << QStringList{"schedule", "import", file};
     }
 
     void wrongCommandLines()

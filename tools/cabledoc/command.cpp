@@ -14,11 +14,19 @@ Command::Command(const QString &name, const QString &description)
     : m_name(name)
 {
     m_parser.setApplicationDescription(description);
-    m_parser.addPositionalArgument(name, QString(), name);
+    const QStringList words = name.split(QLatin1Char(' '));
+    for (const QString &word : words)
+        m_parser.addPositionalArgument(word, QString(), word);
     m_parser.addPositionalArgument(QStringLiteral("FILE"), QCoreApplication::translate("Command", "The file."),
                                    QStringLiteral("FILE"));
     m_parser.addOption(
         {{QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("Command", "Show this help.")});
+}
+
+void Command::addFile(const QString &valueName, const QString &description)
+{
+    m_parser.addPositionalArgument(valueName, description, valueName);
+    ++m_files;
 }
 
 void Command::addFileOption(const QStringList &names, const QString &description, const QString &valueName)
@@ -44,8 +52,9 @@ bool Command::parse(const QStringList &arguments)
         m_exitCode = printData(m_parser.helpText().toLocal8Bit());
         return false;
     }
-    if (m_parser.positionalArguments().size() != 1) {
-        m_exitCode = usageError(QCoreApplication::translate("Command", "one file name is needed"));
+    if (m_parser.positionalArguments().size() != m_files) {
+        m_exitCode = usageError(m_files == 1 ? QCoreApplication::translate("Command", "one file name is needed")
+                                             : QCoreApplication::translate("Command", "two file names are needed"));
         return false;
     }
     for (const QString &option : std::as_const(m_neededOptions)) {
@@ -92,10 +101,10 @@ bool Command::mayCreate(const QString &fileName)
     return false;
 }
 
-void Command::loadError(const QString &fileName, const QString &message)
+ExitCode Command::loadError(const QString &fileName, const QString &message)
 {
     printMessage(fileName, message);
-    m_exitCode = CannotLoad;
+    return m_exitCode = CannotLoad;
 }
 
 ExitCode Command::saveError(const QString &fileName, const QString &message)

@@ -14,14 +14,16 @@ enum ExitCode {
     CannotSave = 4, ///< or cannot write to standard output
 };
 
-/// The command line of one command. It takes one file name. What cannot be done is said to standard error;
+/// The command line of one command. It takes one file name or more. What cannot be done is said to standard error;
 /// exitCode() then tells how the program ends.
 class Command
 {
 public:
-    /// Prepares for a command such as "info", described in one sentence.
+    /// Prepares for a command such as "info" or "schedule import", described in one sentence.
     Command(const QString &name, const QString &description);
 
+    /// Takes another file name behind the first.
+    void addFile(const QString &valueName, const QString &description);
     void addOption(const QCommandLineOption &option) { m_parser.addOption(option); }
     /// Adds an option that names a file and must be given.
     void addFileOption(const QStringList &names, const QString &description, const QString &valueName);
@@ -38,20 +40,21 @@ public:
     bool loadTemplate(const QString &fileName);
     /// Whether a file can be made: one that is there is not replaced.
     bool mayCreate(const QString &fileName);
+    /// Reports a file that could not be loaded.
+    ExitCode loadError(const QString &fileName, const QString &message);
     /// Reports a document that could not be saved.
     ExitCode saveError(const QString &fileName, const QString &message);
 
     ExitCode exitCode() const { return m_exitCode; }
-    QString fileName() const { return m_parser.positionalArguments().constFirst(); }
+    QString fileName(int number = 0) const { return m_parser.positionalArguments().at(number); }
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
     QString value(const QString &option) const { return m_parser.value(option); }
     QString output() const { return value(QStringLiteral("output")); }
 
 private:
-    void loadError(const QString &fileName, const QString &message);
-
     QString m_name;
     QCommandLineParser m_parser;
+    int m_files = 1;
     QStringList m_neededOptions;
     ExitCode m_exitCode = Done;
 };
@@ -71,3 +74,5 @@ ExitCode runExport(const QStringList &arguments);
 ExitCode runImport(const QStringList &arguments);
 ExitCode runInfo(const QStringList &arguments);
 ExitCode runNew(const QStringList &arguments);
+ExitCode runScheduleExport(const QStringList &arguments);
+ExitCode runScheduleImport(const QStringList &arguments);

@@ -22,6 +22,9 @@ QString usage()
                 "  import FILE.job --template FILE.bkt [--missing-only]\n"
                 "                                        let a job take over what a template holds\n"
                 "  export FILE.job -o NEW.bkt            make a template of a job\n"
+                "  schedule import FILE.job FILE.csv [--dry-run]\n"
+                "                                        bring a job up to a cable schedule\n"
+                "  schedule export FILE.job              print the cable schedule of a job\n"
                 "\n"
                 "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
                 "\n"
@@ -40,7 +43,9 @@ ExitCode run(QStringList arguments)
         printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
         return WrongUsage;
     }
-    const QString command = arguments.takeAt(1);
+    QString command = arguments.takeAt(1);
+    if (command == QLatin1String("schedule") && arguments.size() > 1)
+        command += QLatin1Char(' ') + arguments.takeAt(1);
     if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
         return printData(usage().toLocal8Bit());
     }
@@ -48,10 +53,15 @@ ExitCode run(QStringList arguments)
         return printData("cabledoc " CABLEDOC_VERSION "\n");
     }
     const QMap<QString, ExitCode (*)(const QStringList &)> commands{
-        {QStringLiteral("cables"), runCables},   {QStringLiteral("check"), runCheck},
-        {QStringLiteral("convert"), runConvert}, {QStringLiteral("export"), runExport},
-        {QStringLiteral("import"), runImport},   {QStringLiteral("info"), runInfo},
+        {QStringLiteral("cables"), runCables},
+        {QStringLiteral("check"), runCheck},
+        {QStringLiteral("convert"), runConvert},
+        {QStringLiteral("export"), runExport},
+        {QStringLiteral("import"), runImport},
+        {QStringLiteral("info"), runInfo},
         {QStringLiteral("new"), runNew},
+        {QStringLiteral("schedule export"), runScheduleExport},
+        {QStringLiteral("schedule import"), runScheduleImport},
     };
     if (commands.contains(command))
         return commands.value(command)(arguments);
