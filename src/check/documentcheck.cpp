@@ -26,11 +26,6 @@ QString pathOf(const QDomElement &element)
     return path.join(QLatin1Char('/'));
 }
 
-bool isLost(QChar character)
-{
-    return !isStorable(character.unicode());
-}
-
 /// A document that is only looked at.
 class CheckedDocument : public BKXMLEditor
 {
@@ -306,12 +301,9 @@ private:
 
     void checkText(const QDomElement &element, const QString &name, const QString &text)
     {
-        const auto *lost = std::find_if(text.begin(), text.end(), isLost);
-        if (lost == text.end())
-            return;
-        const bool isPair = lost->isHighSurrogate() && lost + 1 != text.end();
-        const QString character(lost, isPair ? 2 : 1);
-        report("lost-character", element, tr("\"%1\" holds \"%2\", which a save cannot keep").arg(name, character));
+        const QString lost = firstLostCharacter(text);
+        if (!lost.isEmpty())
+            report("lost-character", element, tr("\"%1\" holds \"%2\", which a save cannot keep").arg(name, lost));
     }
 
     CheckReport m_report;

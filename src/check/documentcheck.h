@@ -14,6 +14,7 @@ struct Finding
     QString message; ///< what is wrong, translated
 };
 
+/// What checkFile() found.
 struct CheckReport
 {
     QString error;             ///< why the file cannot be read; empty when it can

@@ -182,6 +182,12 @@ protected:
     /// Adds an element with empty attributes of these names and an empty "Address" in it.
     void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
 
+    /// Writes an attribute of a child of the root, or of the "Address" in it, creating it when it is
+    /// missing, and marks the document as changed. Nothing without the child.
+    void writeInfo(const QString &elementName, const QString &attribute, const QString &value);
+    void writeInfoAddress(const QString &elementName, const Address &address);
+    Address readInfoAddress(const QString &elementName) const;
+
     /// Four flags as "0" and "1", in their order.
     static QString boolArrayToString(const bool *flags);
     /// Reads four flags. False at the first character that is neither "0" nor "1", or missing: the flags
@@ -243,12 +249,6 @@ protected:
     QString m_filename;
     QString m_error;
     bool m_dirty = false;
-
-    /// Writes an attribute of a child of the root, or of the "Address" in it, creating it when it is
-    /// missing, and marks the document as changed. Nothing without the child.
-    void writeInfo(const QString &elementName, const QString &attribute, const QString &value);
-    void writeInfoAddress(const QString &elementName, const Address &address);
-    Address readInfoAddress(const QString &elementName) const;
 
 private:
     QDomElement settingsList(const QString &tagName) const;

@@ -3,7 +3,30 @@
 #include "numberednames.h"
 #include "words.h"
 
+#include <QtCore/QSet>
+
 namespace cabledoc {
+
+QVector<QDomElement> allChildren(const QDomElement &parent)
+{
+    QVector<QDomElement> children;
+    for (const QDomElement &child : ChildElements(parent))
+        children.append(child);
+    return children;
+}
+
+QVector<QDomElement> reachableChildren(const QDomElement &parent)
+{
+    QVector<QDomElement> children;
+    QSet<QString> tags;
+    for (const QDomElement &child : ChildElements(parent)) {
+        if (tags.contains(child.tagName()))
+            continue;
+        tags.insert(child.tagName());
+        children.append(child);
+    }
+    return children;
+}
 
 QStringList childTags(const QDomElement &parent)
 {

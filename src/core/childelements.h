@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 #include <QtXml/QDomElement>
 
 namespace cabledoc {
@@ -40,6 +41,10 @@ private:
     QDomElement m_parent;
 };
 
+/// The child elements as they are now; what is added or removed later does not count.
+QVector<QDomElement> allChildren(const QDomElement &parent);
+/// The first child element of each tag: those that a search by tag can find.
+QVector<QDomElement> reachableChildren(const QDomElement &parent);
 /// The tags of the child elements in document order.
 QStringList childTags(const QDomElement &parent);
 /// Their attributes "id".

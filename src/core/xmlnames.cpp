@@ -22,3 +22,13 @@ bool cabledoc::isXmlName(const QString &text)
     return !text.isEmpty() && startsName(text.at(0).unicode())
            && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return continuesName(c.unicode()); });
 }
+
+QString cabledoc::firstLostCharacter(const QString &text)
+{
+    const auto *lost =
+        std::find_if(text.begin(), text.end(), [](QChar character) { return !isStorable(character.unicode()); });
+    if (lost == text.end())
+        return QString();
+    const bool isPair = lost->isHighSurrogate() && lost + 1 != text.end() && (lost + 1)->isLowSurrogate();
+    return QString(lost, isPair ? 2 : 1);
+}

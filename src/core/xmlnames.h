@@ -14,4 +14,7 @@ constexpr bool isStorable(char16_t character)
     return character <= 0xFF && (character >= 0x20 || character == u'\t' || character == u'\n' || character == u'\r');
 }
 
+/// The first character of the text that a file cannot hold; empty when it can hold all of it.
+QString firstLostCharacter(const QString &text);
+
 } // namespace cabledoc

@@ -7,16 +7,16 @@
 
 struct DeviceConnectionFields
 {
-    QString tag;
-    QString id;   ///< name that the user sees
-    QString to;   ///< tag of a device or a bend
-    QString from; ///< likewise
-    QString type; ///< a number; the application assigns the meaning
+    QString element; ///< tag
+    QString id;      ///< name that the user sees
+    QString to;      ///< tag of a device or a bend
+    QString from;    ///< likewise
+    QString type;    ///< a number; the application assigns the meaning
 
     auto members() const
     {
-        const auto &[element, name, end, start, kind] = *this;
-        return std::tie(element, name, end, start, kind);
+        const auto &[ownTag, name, end, start, kind] = *this;
+        return std::tie(ownTag, name, end, start, kind);
     }
 };
 
@@ -36,8 +36,8 @@ public:
     {
     }
 
-    const QString &tag() const { return m_fields.tag; }
-    void setTag(const QString &tag) { m_fields.tag = tag; }
+    const QString &tag() const { return m_fields.element; }
+    void setTag(const QString &tag) { m_fields.element = tag; }
     const QString &id() const { return m_fields.id; }
     void setID(const QString &id) { m_fields.id = id; }
     const QString &to() const { return m_fields.to; }

@@ -6,6 +6,13 @@ using namespace cabledoc;
 
 namespace {
 
+const DrawnKind<ActivePortFields> &activePortKind()
+{
+    static const DrawnKind<ActivePortFields> kind{ElementKind::ActivePorts, words::ActivePortList,
+                                                  words::ActivePortTagPrefix, activePortAttributes()};
+    return kind;
+}
+
 ActiveTestResult readResult(const QDomElement &element)
 {
     ActiveTestResultFields fields = activeTestResultAttributes().read(element);

@@ -1,42 +1,28 @@
-#include "jobeditor.h"
-
-#include "addmode.h"
-#include "jobattributes.h"
-#include "jobindex.h"
-#include "jobwords.h"
+#include "jobelements.h"
 
 using namespace cabledoc;
+
+namespace {
+
+const DrawnKind<DeviceConnectionFields> &connectionKind()
+{
+    static const DrawnKind<DeviceConnectionFields> kind{ElementKind::Connections, words::ConnectionList,
+                                                        words::ConnectionTagPrefix, connectionAttributes()};
+    return kind;
+}
+
+} // namespace
+
+QString JobEditor::addConnection(const DeviceConnection &connection, int mode)
+{
+    const QDomElement root = getToConnectionList().parentNode().toElement();
+    return getElementId(addElement(connectionKind(), root, connection.fields(), mode));
+}
 
 QString JobEditor::addConnection(const QString &tag, const QString &id, const QString &to, const QString &from,
                                  const QString &type, int mode)
 {
-    if (addmode::keepsTag(mode) && !mayBeName(tag))
-        return QString();
-    const QDomElement list = getToConnectionList();
-    if (list.isNull())
-        return QString();
-    ElementIndex &connections = (*m_index)[ElementKind::Connections];
-    DeviceConnectionFields fields{tag, id, to, from, type};
-    if (!addmode::keepsTag(mode)) {
-        const QString prefix = words::ConnectionTagPrefix;
-        fields.tag = prefix + QString::number(connections.firstFreeTagNumber(prefix, 1));
-    }
-    if (!addmode::keepsId(mode))
-        fields.id = connections.numberedId(id, connections.firstFreeIdNumber(id, 1));
-
-    const QDomElement connection = appendElement(fields.tag, list);
-    connectionAttributes().write(connection, fields);
-    connections.append(connection);
-    if (m_index->references)
-        m_index->references->insert(connection);
-    setDirty(true);
-    return fields.id;
-}
-
-QString JobEditor::addConnection(const DeviceConnection &connection, int mode)
-{
-    return addConnection(connection.tag(), connection.id(), connection.to(), connection.from(), connection.type(),
-                         mode);
+    return addConnection(DeviceConnection(tag, id, to, from, type), mode);
 }
 
 void JobEditor::removeConnection(const QString &tag)
@@ -54,9 +40,7 @@ DeviceConnection JobEditor::getConnection(const QString &tag) const
     const QDomElement connection = elementOf(ElementKind::Connections, tag);
     if (connection.isNull())
         return DeviceConnection();
-    DeviceConnectionFields fields = connectionAttributes().read(connection);
-    fields.tag = tag;
-    return DeviceConnection(fields);
+    return DeviceConnection(readElement(connectionKind(), connection));
 }
 
 QString JobEditor::getConnectionTagById(const QString &id) const

@@ -6,15 +6,6 @@ using namespace cabledoc;
 
 namespace {
 
-/// The children as they are now: what is added to the list while they are copied does not count.
-QVector<QDomElement> childrenOf(const QDomElement &list)
-{
-    QVector<QDomElement> children;
-    for (const QDomElement &child : ChildElements(list))
-        children.append(child);
-    return children;
-}
-
 /// The name without the number at its end: copies get the same name with another number.
 QString withoutNumber(QString name)
 {
@@ -72,6 +63,8 @@ void JobEditor::copyFloor(const QString &srcTag, const QString &dstTag, const QM
 {
     if (floorElement(srcTag).isNull() || floorElement(dstTag).isNull())
         return;
+    // Also for what is created on the way: the list of rooms, the room "Undefined".
+    setDirty(true);
     ensureElement(words::RoomList, floorElement(dstTag));
     Copies copies;
     const QStringList cables = getCablesByFloor(srcTag);
@@ -89,14 +82,14 @@ void JobEditor::copySheet(const QString &srcTag, const QString &dstTag)
 {
     if (sheetElement(srcTag).isNull() || sheetElement(dstTag).isNull())
         return;
-    const QVector<QDomElement> devices = childrenOf(getToDeviceList(srcTag));
+    const QVector<QDomElement> devices = allChildren(getToDeviceList(srcTag));
     for (const QDomElement &element : devices) {
         Device device(readDevice(element));
         device.setSheet(dstTag);
         device.setID(withoutNumber(device.id()));
         addDevice(device, 0);
     }
-    const QVector<QDomElement> vertices = childrenOf(getToVerticeList(srcTag));
+    const QVector<QDomElement> vertices = allChildren(getToVerticeList(srcTag));
     for (const QDomElement &element : vertices) {
         Vertice vertice(readPoint(element));
         vertice.setParent(dstTag);
@@ -108,7 +101,7 @@ void JobEditor::copySheet(const QString &srcTag, const QString &dstTag)
 
 void JobEditor::copyPoints(const QDomElement &list, const QString &floorTag, Copies *copies)
 {
-    const QVector<QDomElement> points = childrenOf(list);
+    const QVector<QDomElement> points = allChildren(list);
     for (const QDomElement &element : points) {
         Point point(readPoint(element));
         point.setParent(floorTag);
@@ -120,7 +113,7 @@ void JobEditor::copyPoints(const QDomElement &list, const QString &floorTag, Cop
 void JobEditor::copyTexts(const QDomElement &list, const QString &parentTag,
                           QString (JobEditor::*add)(const FreeText &, int))
 {
-    const QVector<QDomElement> texts = childrenOf(list);
+    const QVector<QDomElement> texts = allChildren(list);
     for (const QDomElement &element : texts) {
         FreeText text(readText(element));
         text.setParent(parentTag);
@@ -146,11 +139,11 @@ QString JobEditor::copyOfRoom(const QDomElement &source, const QString &floorTag
 void JobEditor::copyRooms(const QDomElement &roomList, const QString &floorTag, Copies *copies)
 {
     QVector<std::pair<QDomElement, QString>> rooms;
-    const QVector<QDomElement> sources = childrenOf(roomList);
+    const QVector<QDomElement> sources = allChildren(roomList);
     for (const QDomElement &source : sources)
         rooms.append({source, copyOfRoom(source, floorTag)});
     for (const auto &[source, roomTag] : std::as_const(rooms)) {
-        const QVector<QDomElement> ports = childrenOf(source.firstChildElement(words::PortList));
+        const QVector<QDomElement> ports = allChildren(source.firstChildElement(words::PortList));
         for (const QDomElement &element : ports) {
             PortFields fields = readPort(element);
             fields.id = freeId((*m_index)[ElementKind::Ports], fields.id);
@@ -160,7 +153,7 @@ void JobEditor::copyRooms(const QDomElement &roomList, const QString &floorTag, 
         }
     }
     for (const auto &[source, roomTag] : std::as_const(rooms)) {
-        const QVector<QDomElement> vertRuns = childrenOf(source.firstChildElement(words::VerticalRunList));
+        const QVector<QDomElement> vertRuns = allChildren(source.firstChildElement(words::VerticalRunList));
         for (const QDomElement &element : vertRuns) {
             PortFields fields = readPort(element);
             fields.id = freeId((*m_index)[ElementKind::VerticalRuns], fields.id);

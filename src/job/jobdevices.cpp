@@ -2,6 +2,17 @@
 
 using namespace cabledoc;
 
+namespace {
+
+const DrawnKind<DeviceFields> &deviceKind()
+{
+    static const DrawnKind<DeviceFields> kind{ElementKind::Devices, words::DeviceList, words::DeviceTagPrefix,
+                                              deviceAttributes()};
+    return kind;
+}
+
+} // namespace
+
 QString JobEditor::addDevice(const Device &device, int mode)
 {
     return addElement(deviceKind(), sheetElement(device.sheet()), device.fields(), mode).tagName();

@@ -105,7 +105,7 @@ public:
     static bool checkUntitledJob(const QString &filename);
 
     // Templates. What a job has is copied as it is, empty texts included; definitions and bundles are known by
-    // their names, and those that the target has stay as they are.
+    // their names, and those that the target has stay as they are. A null pointer stands for nothing to take.
 
     /// Takes over the contractor and the settings of a template, and the test definitions and bundles that the
     /// job lacks.
@@ -617,8 +617,9 @@ public:
     /// The length of a cable in feet, or in metres (metric): from end to end along its path, in straight lines
     /// at the scale of the floor plan ("FloorPlan_Settings"; 96 pixels are an inch of the drawing), and down the
     /// drop heights of both ends, and through the ceiling heights, in feet, of the floors between those that a
-    /// vertical run joins. -1.0 when the plan has no scale, an end or a point of the path does not exist, or the way
-    /// leads to another floor without a vertical run. Settings that an older file lacks are added.
+    /// vertical run joins (none between neighbours). -1.0 when the plan has no scale, an end or a point of the path
+    /// does not exist, or the way leads to another floor without a vertical run. Settings that an older file lacks are
+    /// added.
     double estimateCableLength(const QString &tag, bool metric);
     /// The lengths of all cables, by tag.
     QMap<QString, double> estimateCableLengths(bool metric);

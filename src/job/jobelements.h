@@ -20,62 +20,6 @@ template <typename FieldsType> struct DrawnKind
     const AttributeTable<Fields> &attributes;
 };
 
-inline const DrawnKind<PortFields> &portKind()
-{
-    static const DrawnKind<PortFields> kind{ElementKind::Ports, words::PortList, words::PortTagPrefix,
-                                            portAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<PortFields> &vertRunKind()
-{
-    static const DrawnKind<PortFields> kind{ElementKind::VerticalRuns, words::VerticalRunList, words::VertRunTagPrefix,
-                                            portAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<PointFields> &pointKind()
-{
-    static const DrawnKind<PointFields> kind{ElementKind::Points, words::PointList, words::PointTagPrefix,
-                                             pointAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<PointFields> &verticeKind()
-{
-    static const DrawnKind<PointFields> kind{ElementKind::Vertices, words::VerticeList, words::VerticeTagPrefix,
-                                             pointAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<FreeTextFields> &freeTextKind()
-{
-    static const DrawnKind<FreeTextFields> kind{ElementKind::FreeTexts, words::FreeTextList, words::FreeTextTagPrefix,
-                                                freeTextAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<FreeTextFields> &floorFreeTextKind()
-{
-    static const DrawnKind<FreeTextFields> kind{ElementKind::FloorFreeTexts, words::FreeTextList,
-                                                words::FloorFreeTextTagPrefix, freeTextAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<DeviceFields> &deviceKind()
-{
-    static const DrawnKind<DeviceFields> kind{ElementKind::Devices, words::DeviceList, words::DeviceTagPrefix,
-                                              deviceAttributes()};
-    return kind;
-}
-
-inline const DrawnKind<ActivePortFields> &activePortKind()
-{
-    static const DrawnKind<ActivePortFields> kind{ElementKind::ActivePorts, words::ActivePortList,
-                                                  words::ActivePortTagPrefix, activePortAttributes()};
-    return kind;
-}
-
 } // namespace cabledoc
 
 /// Adds an element to its list in parent, which is created when it is missing. Null, and nothing changes,

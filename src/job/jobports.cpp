@@ -4,6 +4,20 @@ using namespace cabledoc;
 
 namespace {
 
+const DrawnKind<PortFields> &portKind()
+{
+    static const DrawnKind<PortFields> kind{ElementKind::Ports, words::PortList, words::PortTagPrefix,
+                                            portAttributes()};
+    return kind;
+}
+
+const DrawnKind<PortFields> &vertRunKind()
+{
+    static const DrawnKind<PortFields> kind{ElementKind::VerticalRuns, words::VerticalRunList, words::VertRunTagPrefix,
+                                            portAttributes()};
+    return kind;
+}
+
 QDomElement roomOf(const QDomElement &portOrVertRun)
 {
     return portOrVertRun.parentNode().parentNode().toElement();
@@ -292,19 +306,21 @@ bool JobEditor::isCableInVertRun(const QString &cableTag, const QString &tag) co
 
 void JobEditor::connectCableToVertRun(const QString &cableTag, const QString &tag)
 {
-    putCableIntoVertRun(cableTag, tag, words::Connected);
+    if (cableExists(cableTag, true))
+        putCableIntoVertRun(cableTag, tag, words::Connected);
 }
 
 void JobEditor::disconnectCableFromVertRun(const QString &cableTag, const QString &tag)
 {
-    putCableIntoVertRun(cableTag, tag, words::Disconnected);
+    if (cableExists(cableTag, true))
+        putCableIntoVertRun(cableTag, tag, words::Disconnected);
 }
 
 /// A cable stands in one of the two lists, or in none when the list is empty.
 void JobEditor::putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list)
 {
     const QDomElement element = vertRunElement(tag);
-    if (element.isNull() || !cableExists(cableTag, true))
+    if (element.isNull())
         return;
     for (const QString &attribute : {words::Connected, words::Disconnected}) {
         QStringList cables;
@@ -322,6 +338,5 @@ void JobEditor::putCableIntoVertRun(const QString &cableTag, const QString &tag,
 
 void JobEditor::removeCableFromVertRun(const QString &cableTag, const QString &tag)
 {
-    if (isCableInVertRun(cableTag, tag))
-        putCableIntoVertRun(cableTag, tag, QString());
+    putCableIntoVertRun(cableTag, tag, QString());
 }

@@ -51,6 +51,8 @@ void addMissingBundles(const BKXMLEditor &source, BKXMLEditor *target)
 
 void JobEditor::Import(BktEditor *bkt)
 {
+    if (bkt == nullptr)
+        return;
     setContractorData(bkt->getContractorData());
     copySettings(*bkt, this);
     addMissingDefinitions(*bkt, this, Definitions::All);
@@ -59,6 +61,8 @@ void JobEditor::Import(BktEditor *bkt)
 
 void JobEditor::ImportMissingDefaultCableTypes(BktEditor *bkt)
 {
+    if (bkt == nullptr)
+        return;
     addMissingDefinitions(*bkt, this, Definitions::DefaultTypes);
     addMissingBundles(*bkt, this);
 }
@@ -84,6 +88,8 @@ bool JobEditor::Export(const QString &filename)
 
 void BktEditor::Import(JobEditor *job)
 {
+    if (job == nullptr)
+        return;
     setContractorData(job->getContractorData());
     addMissingDefinitions(*job, this, Definitions::All);
     addMissingBundles(*job, this);

@@ -101,6 +101,7 @@ void addColor(QDomElement definition)
 {
     if (definition.hasAttribute(words::Color))
         return;
+    // Only what a file says is no default type is left black; the earliest files say nothing.
     const bool isOwnType =
         definition.hasAttribute(words::DefaultType) && definition.attribute(words::DefaultType).toInt() == 0;
     definition.setAttribute(words::Color,

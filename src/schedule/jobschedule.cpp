@@ -66,13 +66,9 @@ JobSchedule::JobSchedule(const JobEditor &job)
 
 void JobSchedule::findRooms()
 {
-    QSet<QString> tags;
-    for (const QDomElement &floor : ChildElements(floorList(m_job))) {
-        if (tags.contains(floor.tagName()))
-            continue;
-        tags.insert(floor.tagName());
+    const QVector<QDomElement> reachable = reachableChildren(floorList(m_job));
+    for (const QDomElement &floor : reachable)
         findRoomsOf(floor);
-    }
 }
 
 void JobSchedule::findRoomsOf(const QDomElement &floor)
@@ -81,11 +77,8 @@ void JobSchedule::findRoomsOf(const QDomElement &floor)
     if (!floors.contains(floorId))
         floors.insert(floorId, {floor.tagName(), floor, 0.0, 0});
     double &bottom = floors[floorId].bottom;
-    QSet<QString> tags;
-    for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
-        if (tags.contains(room.tagName()))
-            continue;
-        tags.insert(room.tagName());
+    const QVector<QDomElement> reachable = reachableChildren(floor.firstChildElement(words::RoomList));
+    for (const QDomElement &room : reachable) {
         const QString name = roomName(room);
         const QRectF area = areaOf(room);
         rooms.insert({{floorId, name}, {floor.tagName(), room.tagName(), area, 0}});
@@ -118,12 +111,11 @@ void JobSchedule::addEnd(const QString &tag, const CableEnd &end)
 
 void JobSchedule::findCables()
 {
-    QSet<QString> tags;
-    for (const QDomElement &cable : ChildElements(m_job.getToCableList())) {
+    const QVector<QDomElement> reachable = reachableChildren(m_job.getToCableList());
+    for (const QDomElement &cable : reachable) {
         const QString id = storedText(cable, words::Id);
-        if (id.isEmpty() || tags.contains(cable.tagName()) || cableOfId.contains(id))
+        if (id.isEmpty() || cableOfId.contains(id))
             continue;
-        tags.insert(cable.tagName());
         cableOfId.insert(id, cable);
         cables.append(cable);
     }

@@ -15,11 +15,6 @@ namespace cabledoc {
 
 namespace {
 
-bool isLost(QChar character)
-{
-    return !isStorable(character.unicode());
-}
-
 bool isEmptyRow(const CsvRow &row)
 {
     return std::all_of(row.fields.begin(), row.fields.end(), [](const QByteArray &field) { return field.isEmpty(); });
@@ -127,7 +122,7 @@ private:
         const QString text = QString::fromUtf8(bytes);
         if (text.toUtf8() != bytes)
             report(row, field + 1, tr("the text is not UTF-8"));
-        else if (std::any_of(text.begin(), text.end(), isLost))
+        else if (!firstLostCharacter(text).isEmpty())
             report(row, field + 1, tr("\"%1\" has a character that a job file cannot hold").arg(text));
         return text;
     }

@@ -41,6 +41,7 @@ QValidator::State FileValidator::validate(QString &input, int &) const
     if (input.startsWith(QLatin1Char('.')))
         return Invalid;
     const QString forbidden = tr(";<>|&?$*\"", "forbidden characters in field");
+    // As they stand, not escaped: a translation may give a range.
     const QRegularExpression anyForbidden(QLatin1Char('[') + forbidden + QLatin1Char(']'));
     return input.contains(anyForbidden) ? Invalid : Acceptable;
 }

@@ -91,6 +91,9 @@ private Q_SLOTS:
         job().connectCableToVertRun("Cable2", tag);
         job().connectCableToVertRun("none", tag);
         reload();
+        // A list may name a cable that is gone.
+        job().setVertRunConnected(tag, {"Cable2", "gone"});
+        job().removeCableFromVertRun("gone", tag);
         QCOMPARE(job().getVertRunConnected(tag), QStringList("Cable2"));
         QCOMPARE(job().getVertRunDisconnected(tag), QStringList("Cable1"));
         QVERIFY(job().isCableInVertRun("Cable1", tag) && job().isCableInVertRun("Cable2", tag));
@@ -312,6 +315,9 @@ private Q_SLOTS:
                                     "<Port_List><P1 id='1'/></Port_List></Undefined></Room_List></F1><F2/></Floor_List>"
                                     "</Job>");
         QVERIFY(job().Load(job().filename()));
+        // Only the list of rooms is new.
+        job().copyFloor("F2", "F2", {}, false);
+        QVERIFY(job().fileChanged());
         job().copyFloor("F1", "F2", {}, false);
         QCOMPARE(job().getPorts("F2", "Undefined", false), QStringList("1A"));
         QVERIFY(JobEditorProbe(job()).indexesMatchTheTree());
