@@ -24,8 +24,8 @@ prepare_build() {
     local preset=$1 qt=$2
     shift 2
     case $qt in
-        6) install_packages g++ cmake ninja-build qt6-base-dev qt6-svg-dev libcsv-dev ;;
-        5) install_packages g++ cmake ninja-build qtbase5-dev libqt5svg5-dev libcsv-dev ;;
+        6) install_packages g++ cmake ninja-build qt6-l10n-tools libcsv-dev qt6-base-dev qt6-svg-dev ;;
+        5) install_packages g++ cmake ninja-build qt6-l10n-tools libcsv-dev qtbase5-dev libqt5svg5-dev ;;
         *) say "there is no Qt $qt for this project: 6 or 5"; return 2 ;;
     esac
     build_dir=build/$preset-qt$qt

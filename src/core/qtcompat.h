@@ -2,6 +2,7 @@
 
 #include "xmlscan.h"
 
+#include <QtCore/QLibraryInfo>
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QColor>
 #include <QtXml/QDomDocument>
@@ -29,6 +30,16 @@ inline bool isColorName(const QString &text)
     return QColor::isValidColorName(text);
 #else
     return QColor::isValidColor(text);
+#endif
+}
+
+/// The folder of Qt's own language files.
+inline QString translationsFolder()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
 }
 

@@ -186,9 +186,11 @@ const QStringList &siteInfoAttributes()
 QString storedCableUse(const QString &use)
 {
     // Intended: what is planned as a cable box is stored as television.
-    return use == JobEditor::tr("cable_box", "use name for Cable Box (Cblbx)")
-               ? JobEditor::tr("TV", "short for television")
-               : use;
+    //: A word of the file format: it stays as it is.
+    const QString cableBox = JobEditor::tr("cable_box", "use name for Cable Box (Cblbx)");
+    //: A word of the file format: it stays as it is.
+    const QString television = JobEditor::tr("TV", "short for television");
+    return use == cableBox ? television : use;
 }
 
 const xmlfile::AttributeOrder &jobAttributeOrder()

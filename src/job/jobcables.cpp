@@ -91,6 +91,7 @@ QString JobEditor::newCableTag() const
 QString JobEditor::newCableId() const
 {
     ElementIndex &cables = (*m_index)[ElementKind::Cables];
+    //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
     const QString prefix = tr("Cable");
     // The last in the order of the tags, deliberately, not the highest number.
     const QString lastId = cables.id(cables.lastTagWithNumberedId(prefix));

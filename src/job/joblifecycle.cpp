@@ -70,8 +70,10 @@ QString JobEditor::New()
         return QString();
     const auto settings = BKUtilities::readSettings({BKUtils::DefaultCeilingHeight, BKUtils::NewJobDirectory});
     const QString directory = withTrailingSlash(settings.value(BKUtils::NewJobDirectory));
+    //: File name. It stays as it is: checkUntitledJob() knows the word "Untitled".
     QString candidate = directory + tr("Untitled1.job");
     for (int n = 2; QFileInfo::exists(candidate); ++n)
+        //: File name. It stays as it is: checkUntitledJob() knows the word "Untitled".
         candidate = directory + tr("Untitled%1.job").arg(n);
     m_filename = candidate;
     create(settings.value(BKUtils::DefaultCeilingHeight).toDouble());
@@ -108,8 +110,10 @@ void JobEditor::create(double ceilingHeight)
 
     addSkeleton(appendElement(words::Job, m_document));
     getElement(words::Version).setAttribute(words::Number, words::CurrentVersion);
+    //: What generated names of floors begin with, such as "Floor_1"; no characters beyond Latin-1.
     const QString floorName = tr("Floor_") + QLatin1Char('1');
     addFloor(floorName, floorName, ceilingHeight, QString(), addmode::GivenId);
+    //: What generated names of sheets begin with; no characters beyond Latin-1.
     const QString sheetName = tr("Sheet_") + QLatin1Char('1');
     addSheet(sheetName, sheetName, addmode::GivenId);
 

@@ -40,6 +40,7 @@ QValidator::State FileValidator::validate(QString &input, int &) const
 {
     if (input.startsWith(QLatin1Char('.')))
         return Invalid;
+    //: Further characters may be added behind these.
     const QString forbidden = tr(";<>|&?$*\"", "forbidden characters in field");
     // As they stand, not escaped: a translation may give a range.
     const QRegularExpression anyForbidden(QLatin1Char('[') + forbidden + QLatin1Char(']'));
@@ -88,6 +89,7 @@ LengthValidator::LengthValidator(QObject *parent)
 
 QValidator::State LengthValidator::validate(QString &input, int &) const
 {
+    //: Further characters may be added behind these.
     const QString allowed = tr("1234567890");
     if (!std::all_of(input.cbegin(), input.cend(), [&allowed](QChar c) { return allowed.contains(c); }))
         return Invalid;

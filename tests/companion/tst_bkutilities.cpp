@@ -72,5 +72,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BKUtilitiesTest)
+QTEST_GUILESS_MAIN(BKUtilitiesTest)
 #include "tst_bkutilities.moc"

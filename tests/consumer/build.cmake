@@ -12,7 +12,7 @@ if(SANITIZERS)
   string(APPEND flags " -fsanitize=${SANITIZERS}")
 endif()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
-foreach(client tools/cabledoc examples/office)
+foreach(client tools/cabledoc examples/fields examples/office)
   run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/${client} -B ${WORK_DIR}/${client} -G Ninja
       -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=${flags}")
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/${client})

@@ -146,5 +146,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BKXMLEditorTest)
+QTEST_GUILESS_MAIN(BKXMLEditorTest)
 #include "tst_bkxmleditor.moc"

@@ -208,5 +208,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(SettingsTest)
+QTEST_GUILESS_MAIN(SettingsTest)
 #include "tst_settings.moc"

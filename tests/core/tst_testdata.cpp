@@ -150,5 +150,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestDataTest)
+QTEST_GUILESS_MAIN(TestDataTest)
 #include "tst_testdata.moc"

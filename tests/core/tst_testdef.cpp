@@ -205,5 +205,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestDefTest)
+QTEST_GUILESS_MAIN(TestDefTest)
 #include "tst_testdef.moc"

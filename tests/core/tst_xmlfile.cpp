@@ -195,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(XmlFileTest)
+QTEST_GUILESS_MAIN(XmlFileTest)
 #include "tst_xmlfile.moc"

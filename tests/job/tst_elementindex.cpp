@@ -125,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ElementIndexTest)
+QTEST_GUILESS_MAIN(ElementIndexTest)
 #include "tst_elementindex.moc"

@@ -225,5 +225,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JobCablesTest)
+QTEST_GUILESS_MAIN(JobCablesTest)
 #include "tst_jobcables.moc"

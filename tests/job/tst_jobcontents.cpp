@@ -142,5 +142,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JobContentsTest)
+QTEST_GUILESS_MAIN(JobContentsTest)
 #include "tst_jobcontents.moc"

@@ -224,5 +224,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JobFloorsTest)
+QTEST_GUILESS_MAIN(JobFloorsTest)
 #include "tst_jobfloors.moc"

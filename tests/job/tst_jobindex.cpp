@@ -132,5 +132,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JobIndexTest)
+QTEST_GUILESS_MAIN(JobIndexTest)
 #include "tst_jobindex.moc"

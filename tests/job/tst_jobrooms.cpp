@@ -223,5 +223,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JobRoomsTest)
+QTEST_GUILESS_MAIN(JobRoomsTest)
 #include "tst_jobrooms.moc"

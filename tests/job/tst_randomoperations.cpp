@@ -416,5 +416,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(RandomOperationsTest)
+QTEST_GUILESS_MAIN(RandomOperationsTest)
 #include "tst_randomoperations.moc"

@@ -1,3 +1,4 @@
+#include "testlanguage.h"
 #include "vocabulary.h"
 
 #include <QtTest/QtTest>
@@ -28,8 +29,12 @@ private Q_SLOTS:
 
     void names()
     {
+        useLanguage(QLocale::c());
         QCOMPARE(Vocabulary::portUses().name("cable_box"), QString("Cable box"));
         QCOMPARE(Vocabulary::deviceTypes().name("panel"), QString("Patch panel"));
+        useLanguage(QLocale("de"));
+        QCOMPARE(Vocabulary::portUses().name("cable_box"), QString("Kabelreceiver"));
+        QCOMPARE(Vocabulary::deviceTypes().name("panel"), QString("Rangierfeld"));
     }
 
     void everyWordHasItsOwnPicture()

@@ -1,5 +1,7 @@
 #include "command.h"
 
+#include <cabledoc/translations.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QMap>
@@ -80,5 +82,6 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
+    installTranslations(QLocale::system());
     return run(QCoreApplication::arguments());
 }

@@ -1,0 +1,13 @@
+// Shows the edit fields that the library guards: what they refuse, and where they cut.
+
+#include "fieldswindow.h"
+
+#include <QtWidgets/QApplication>
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    FieldsWindow window(QDate::currentDate());
+    window.show();
+    return QApplication::exec();
+}

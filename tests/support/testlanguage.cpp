@@ -1,0 +1,54 @@
+#include "testlanguage.h"
+
+#include "translations.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QTranslator>
+
+#include <clocale>
+
+namespace {
+
+/// Is asked for what the language files lack: ends the test when that is a text of ours.
+class LackingTexts : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *comment, int) const override
+    {
+        const QByteArray name(context);
+        if (!name.startsWith('Q') || name == "QObject")
+            qFatal("not translated: %s, \"%s\", \"%s\"", context, source, comment == nullptr ? "" : comment);
+        return QString();
+    }
+};
+
+QTranslator &lackingTexts()
+{
+    static LackingTexts translator;
+    return translator;
+}
+
+/// The language of the locale for a test that is run once more in another language.
+void setUpLanguage()
+{
+    if (!qEnvironmentVariableIsSet("CABLEDOC_TEST_LOCALE"))
+        return;
+    if (*std::localeconv()->decimal_point != ',' || QLocale().toString(1.5) != "1,5")
+        qFatal("the locale has no decimal comma");
+    useLanguage(QLocale());
+}
+
+} // namespace
+
+void useLanguage(const QLocale &locale)
+{
+    QCoreApplication::removeTranslator(&lackingTexts());
+    if (!installTranslations(locale) || locale.language() == QLocale::English || locale.language() == QLocale::C)
+        return;
+    // The translator that was installed last is asked first.
+    QCoreApplication::installTranslator(&lackingTexts());
+    installTranslations(locale);
+}
+
+Q_COREAPP_STARTUP_FUNCTION(setUpLanguage)

@@ -1,0 +1,1044 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>BktEditor</name>
+    <message>
+        <source>%1 is a bad version number in BktEditor::checkVersion.</source>
+        <translation>%1 ist keine gültige Versionsnummer (BktEditor::checkVersion).</translation>
+    </message>
+    <message>
+        <source>Unable to create template with NULL filename</source>
+        <translation>Ohne Dateinamen kann keine Vorlage angelegt werden</translation>
+    </message>
+    <message>
+        <source>Empty or null filename in BktEditor::Load</source>
+        <translation>BktEditor::Load ohne Dateinamen</translation>
+    </message>
+    <message>
+        <source>Bkt file %1 does not exist</source>
+        <translation>Die Vorlagendatei %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Error parsing Bkt file %1
+ on line %2,
+ column %3,
+%4</source>
+        <translation>Fehler in der Vorlagendatei %1
+ in Zeile %2,
+ Spalte %3,
+%4</translation>
+    </message>
+    <message>
+        <source>Unable to parse Bkt file %1</source>
+        <translation>Die Vorlagendatei %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Filename is empty.</source>
+        <translation>Der Dateiname ist leer.</translation>
+    </message>
+    <message>
+        <source>Unable to Save file (NULL)</source>
+        <translation>Ohne Dateinamen kann nicht gespeichert werden</translation>
+    </message>
+</context>
+<context>
+    <name>Cables</name>
+    <message>
+        <source>Lists the cables of a job file with their ends, the status of their tests and their measured lengths.</source>
+        <translation>Listet die Kabel einer Auftragsdatei mit ihren Enden, dem Stand ihrer Prüfung und ihren gemessenen Längen auf.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of a table.</source>
+        <translation>JSON statt einer Tabelle ausgeben.</translation>
+    </message>
+    <message>
+        <source>Lengths in metres instead of feet.</source>
+        <translation>Längen in Metern statt in Fuß.</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Nutzung</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Length (m)</source>
+        <translation>Länge (m)</translation>
+    </message>
+    <message>
+        <source>Length (ft)</source>
+        <translation>Länge (ft)</translation>
+    </message>
+</context>
+<context>
+    <name>Command</name>
+    <message>
+        <source>The file.</source>
+        <translation>Die Datei.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message>
+        <source>The file to write. An existing one is not replaced.</source>
+        <translation>Die Datei, die geschrieben wird. Eine vorhandene wird nicht ersetzt.</translation>
+    </message>
+    <message>
+        <source>one file name is needed</source>
+        <translation>ein Dateiname ist nötig</translation>
+    </message>
+    <message>
+        <source>two file names are needed</source>
+        <translation>zwei Dateinamen sind nötig</translation>
+    </message>
+    <message>
+        <source>--%1 is needed</source>
+        <translation>--%1 ist nötig</translation>
+    </message>
+    <message>
+        <source>%1 exists and is left as it is</source>
+        <translation>%1 gibt es schon und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc %1 --help&quot; tells how it is used</source>
+        <translation>&quot;cabledoc %1 --help&quot; zeigt, wie es geht</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>Standardausgabe: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceType</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Laptop</source>
+        <translation>Laptop</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Switch</translation>
+    </message>
+    <message>
+        <source>Router</source>
+        <translation>Router</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Access Point</translation>
+    </message>
+    <message>
+        <source>Television</source>
+        <translation>Fernseher</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Lautsprecher</translation>
+    </message>
+    <message>
+        <source>Patch panel</source>
+        <translation>Rangierfeld</translation>
+    </message>
+    <message>
+        <source>Rack</source>
+        <translation>Netzwerkschrank</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Anderes</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCheck</name>
+    <message>
+        <source>No file is named</source>
+        <translation>Es ist keine Datei angegeben</translation>
+    </message>
+    <message>
+        <source>%1 does not exist</source>
+        <translation>%1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, Zeile %2, Spalte %3: %4</translation>
+    </message>
+    <message>
+        <source>%1 is no XML file</source>
+        <translation>%1 ist keine XML-Datei</translation>
+    </message>
+    <message>
+        <source>the file does not begin with the element &quot;%1&quot; or &quot;%2&quot;</source>
+        <translation>die Datei beginnt weder mit dem Element &quot;%1&quot; noch mit &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no version that is known</source>
+        <translation>&quot;%1&quot; ist keine bekannte Version</translation>
+    </message>
+    <message>
+        <source>version %1 is older than %2</source>
+        <translation>Version %1 ist älter als %2</translation>
+    </message>
+    <message>
+        <source>its tag is that of line %1</source>
+        <translation>das Tag ist das von Zeile %1</translation>
+    </message>
+    <message>
+        <source>its id &quot;%1&quot; is that of line %2</source>
+        <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>es gibt keine Prüfdefinition &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is no port &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt keinen Anschluss &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is no port or vertical run &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt keinen Anschluss und keine Steigleitung &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is no point or vertical run &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt keinen Punkt und keine Steigleitung &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>es gibt kein Bündel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is no cable &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt kein Kabel &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt kein Gerät und keinen Punkt &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <translation>&quot;%1&quot; enthält &quot;%2&quot;, das beim Speichern verloren geht</translation>
+    </message>
+</context>
+<context>
+    <name>FileValidator</name>
+    <message>
+        <source>;&lt;&gt;|&amp;?$*&quot;</source>
+        <comment>forbidden characters in field</comment>
+        <extracomment>Further characters may be added behind these.</extracomment>
+        <translation>;&lt;&gt;|&amp;?$*&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Info</name>
+    <message>
+        <source>Test status</source>
+        <translation>Prüfstand</translation>
+    </message>
+    <message>
+        <source>Cables</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Ceiling</source>
+        <translation>Deckenhöhe</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Räume</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Anschlüsse</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Steigleitungen</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Active ports</source>
+        <translation>Aktive Anschlüsse</translation>
+    </message>
+    <message>
+        <source>Shows what a job file holds: its floors and sheets in the order of their tags, and how many cables, connections and active ports it has.</source>
+        <translation>Zeigt, was eine Auftragsdatei enthält: ihre Etagen und Blätter in der Reihenfolge ihrer Tags, und wie viele Kabel, Verbindungen und aktive Anschlüsse sie hat.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of tables.</source>
+        <translation>JSON statt Tabellen ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>JobEditor</name>
+    <message>
+        <source>cable_box</source>
+        <comment>use name for Cable Box (Cblbx)</comment>
+        <extracomment>A word of the file format: it stays as it is.</extracomment>
+        <translation>cable_box</translation>
+    </message>
+    <message>
+        <source>TV</source>
+        <comment>short for television</comment>
+        <extracomment>A word of the file format: it stays as it is.</extracomment>
+        <translation>TV</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <extracomment>What generated ids of cables begin with, such as &quot;Cable001&quot;; no characters beyond Latin-1.</extracomment>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Filename given to JobEditor is a directory</source>
+        <translation>Der Dateiname für JobEditor ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Untitled1.job</source>
+        <extracomment>File name. It stays as it is: checkUntitledJob() knows the word &quot;Untitled&quot;.</extracomment>
+        <translation>Untitled1.job</translation>
+    </message>
+    <message>
+        <source>Untitled%1.job</source>
+        <extracomment>File name. It stays as it is: checkUntitledJob() knows the word &quot;Untitled&quot;.</extracomment>
+        <translation>Untitled%1.job</translation>
+    </message>
+    <message>
+        <source>Null filename given to New(const &amp;Qstring)</source>
+        <translation>New(const &amp;Qstring) ohne Dateinamen</translation>
+    </message>
+    <message>
+        <source>A job is open. Unload it before making a new one.</source>
+        <translation>Ein Auftrag ist offen. Er muss geschlossen werden, bevor ein neuer angelegt wird.</translation>
+    </message>
+    <message>
+        <source>Floor_</source>
+        <extracomment>What generated names of floors begin with, such as &quot;Floor_1&quot;; no characters beyond Latin-1.</extracomment>
+        <translation>Etage_</translation>
+    </message>
+    <message>
+        <source>Sheet_</source>
+        <extracomment>What generated names of sheets begin with; no characters beyond Latin-1.</extracomment>
+        <translation>Blatt_</translation>
+    </message>
+    <message>
+        <source>Empty or null filename in JobEditor::Load</source>
+        <translation>JobEditor::Load ohne Dateinamen</translation>
+    </message>
+    <message>
+        <source>Job file %1 does not exist</source>
+        <translation>Die Auftragsdatei %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Error parsing job file %1
+ on line %2,
+ column %3,
+%4</source>
+        <translation>Fehler in der Auftragsdatei %1
+ in Zeile %2,
+ Spalte %3,
+%4</translation>
+    </message>
+    <message>
+        <source>Unable to parse job file %1</source>
+        <translation>Die Auftragsdatei %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Incompatible version of job file %1</source>
+        <translation>Die Auftragsdatei %1 hat keine passende Version</translation>
+    </message>
+    <message>
+        <source>Filename is Empty</source>
+        <translation>Der Dateiname ist leer</translation>
+    </message>
+    <message>
+        <source>Filename given is a directory</source>
+        <translation>Der Dateiname ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an XML element</source>
+        <translation>&quot;%1&quot; kann nicht der Name eines XML-Elements sein</translation>
+    </message>
+    <message>
+        <source>A job holds no more than %1 releases</source>
+        <translation>Ein Auftrag enthält höchstens %1 Ausgaben</translation>
+    </message>
+    <message>
+        <source>Unable to open file.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>LengthValidator</name>
+    <message>
+        <source>1234567890</source>
+        <extracomment>Further characters may be added behind these.</extracomment>
+        <translation>1234567890</translation>
+    </message>
+</context>
+<context>
+    <name>PortUse</name>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>TV</source>
+        <translation>TV</translation>
+    </message>
+    <message>
+        <source>Cable box</source>
+        <translation>Kabelreceiver</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Fire alarm</source>
+        <translation>Brandmelder</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Strom</translation>
+    </message>
+    <message>
+        <source>Spare</source>
+        <translation>Reserve</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Anderes</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>January</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Januar</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Februar</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>März</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>April</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Juni</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Juli</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>August</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>September</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Oktober</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>November</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <comment>TranslatableDate::longMonthName()</comment>
+        <translation>Dezember</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <comment>TranslatableDate::longDayName()</comment>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>Jan</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>Feb</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>Mär</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>Apr</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>Jun</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>Jul</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>Aug</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>Sep</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>Okt</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>Nov</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>Dez</translation>
+    </message>
+</context>
+<context>
+    <name>Schedule</name>
+    <message>
+        <source>%1 has no list of cables or no list of floors</source>
+        <translation>%1 hat keine Kabelliste oder keine Etagenliste</translation>
+    </message>
+    <message>
+        <source>a quotation mark is missing or stands in the wrong place</source>
+        <translation>ein Anführungszeichen fehlt oder steht an falscher Stelle</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>die Spalte &quot;%1&quot; fehlt</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot;</source>
+        <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is there twice</source>
+        <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>die Zeile hat mehr Felder als die Überschrift</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour</source>
+        <translation>&quot;%1&quot; ist keine Farbe</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>der Text ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Auftragsdatei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>the cable has no id</source>
+        <translation>das Kabel hat keine ID</translation>
+    </message>
+    <message>
+        <source>the id &quot;%1&quot; is that of row %2</source>
+        <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
+    </message>
+    <message>
+        <source>the end has a floor or room, but no port</source>
+        <translation>das Ende hat eine Etage oder einen Raum, aber keinen Anschluss</translation>
+    </message>
+    <message>
+        <source>the end has a port, but no floor</source>
+        <translation>das Ende hat einen Anschluss, aber keine Etage</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
+</source>
+        <translation>neu wären: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
+</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
+</source>
+        <translation>neu: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
+</translation>
+    </message>
+    <message>
+        <source>Brings a job file up to a cable schedule: adds the floors, rooms, ports and cables that it lacks and changes the cables that differ. When the schedule has a bad row, the job stays as it is.</source>
+        <translation>Bringt eine Auftragsdatei auf den Stand eines Kabelplans: ergänzt die Etagen, Räume, Anschlüsse und Kabel, die ihr fehlen, und ändert die Kabel, die abweichen. Wenn der Plan eine falsche Zeile hat, bleibt der Auftrag, wie er ist.</translation>
+    </message>
+    <message>
+        <source>The schedule, a CSV file. It is not changed.</source>
+        <translation>Der Plan, eine CSV-Datei. Er wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Only tell what would be done.</source>
+        <translation>Nur sagen, was geschehen würde.</translation>
+    </message>
+    <message>
+        <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
+        <translation>Gibt den Kabelplan einer Auftragsdatei als CSV aus. Die Datei wird nicht geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStrings</name>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+</context>
+<context>
+    <name>TestDef</name>
+    <message>
+        <source>Cable has no pairs please
+ specify which pairs are in use.</source>
+        <translation>Das Kabel hat keine Adernpaare.
+Bitte angeben, welche Paare benutzt werden.</translation>
+    </message>
+    <message>
+        <source>1 Gbit/s requires
+all 4 pairs be in use.</source>
+        <translation>Für 1 Gbit/s müssen
+alle 4 Paare benutzt werden.</translation>
+    </message>
+    <message>
+        <source>1 Gbit/s requires
+no splits.</source>
+        <translation>Für 1 Gbit/s dürfen
+keine Paare gesplittet sein.</translation>
+    </message>
+    <message>
+        <source>Invalid pair-mapping
+not a valid straight through or
+crossover cable can&apos;t run 1 Gbit/s.</source>
+        <translation>Ungültige Paarzuordnung:
+nur ein durchgehendes oder ein gekreuztes
+Kabel kann mit 1 Gbit/s geprüft werden.</translation>
+    </message>
+    <message>
+        <source>1 Gbit/s requires that length constant
+is between 10.0 and 65.0 (pF/ft) or 32.8 and 213.2 (pF/m)</source>
+        <translation>Für 1 Gbit/s muss die Längenkonstante zwischen
+10,0 und 65,0 (pF/ft) oder 32,8 und 213,2 (pF/m) liegen.</translation>
+    </message>
+    <message>
+        <source>1 Gbit/s requires that skew must be measured
+and be at most 50ns.</source>
+        <translation>Für 1 Gbit/s muss die Laufzeitdifferenz gemessen werden
+und darf höchstens 50 ns betragen.</translation>
+    </message>
+    <message>
+        <source>1 Gbit/s requires that SNR must be measured
+and be at least 20dB.</source>
+        <translation>Für 1 Gbit/s muss das SNR gemessen werden
+und mindestens 20 dB betragen.</translation>
+    </message>
+    <message>
+        <source>100 Mbits/s requires pairs
+ 1-2 and 3-6 be in use.</source>
+        <translation>Für 100 Mbit/s müssen die Paare
+1-2 und 3-6 benutzt werden.</translation>
+    </message>
+    <message>
+        <source>100 Mbits/s requires no 
+splits on pairs 1-2 and 3-6.</source>
+        <translation>Für 100 Mbit/s dürfen die Paare
+1-2 und 3-6 nicht gesplittet sein.</translation>
+    </message>
+    <message>
+        <source>Invalid pair-mapping
+not a valid straight through or
+crossover cable can&apos;t run 100 Mbits/s.</source>
+        <translation>Ungültige Paarzuordnung:
+nur ein durchgehendes oder ein gekreuztes
+Kabel kann mit 100 Mbit/s geprüft werden.</translation>
+    </message>
+    <message>
+        <source>100 Mbits/s requires that length constant
+is between 10.0 and 65.0(pF/ft) or 32.8 and 213.2 (pF/m)</source>
+        <translation>Für 100 Mbit/s muss die Längenkonstante zwischen
+10,0 und 65,0 (pF/ft) oder 32,8 und 213,2 (pF/m) liegen.</translation>
+    </message>
+    <message>
+        <source>100 Mbits/s requires that SNR must be measured
+and be at least 20dB.</source>
+        <translation>Für 100 Mbit/s muss das SNR gemessen werden
+und mindestens 20 dB betragen.</translation>
+    </message>
+    <message>
+        <source>Skew test requires
+all 4 pairs be in use.</source>
+        <translation>Für die Prüfung der Laufzeitdifferenz müssen
+alle 4 Paare benutzt werden.</translation>
+    </message>
+    <message>
+        <source>Skew test requires
+no splits.</source>
+        <translation>Für die Prüfung der Laufzeitdifferenz dürfen
+keine Paare gesplittet sein.</translation>
+    </message>
+    <message>
+        <source>Invalid pair-mapping
+not a valid straight through or
+crossover cable can&apos;t run Skew test.</source>
+        <translation>Ungültige Paarzuordnung:
+nur bei einem durchgehenden oder gekreuzten
+Kabel kann die Laufzeitdifferenz geprüft werden.</translation>
+    </message>
+    <message>
+        <source>Skew test requires that length constant
+is between 10.0 and 65.0(pF/ft) or 32.8 and 213.2 (pF/m)</source>
+        <translation>Für die Prüfung der Laufzeitdifferenz muss die Längenkonstante zwischen
+10,0 und 65,0 (pF/ft) oder 32,8 und 213,2 (pF/m) liegen.</translation>
+    </message>
+    <message>
+        <source>SNR test requires pairs
+ 1-2 and 3-6 be in use.</source>
+        <translation>Für die SNR-Prüfung müssen die Paare
+1-2 und 3-6 benutzt werden.</translation>
+    </message>
+    <message>
+        <source>SNR test requires no 
+splits on pairs 1-2 and 3-6.</source>
+        <translation>Für die SNR-Prüfung dürfen die Paare
+1-2 und 3-6 nicht gesplittet sein.</translation>
+    </message>
+    <message>
+        <source>Invalid pair-mapping
+not a valid straight through or
+crossover cable can&apos;t run SNR test.</source>
+        <translation>Ungültige Paarzuordnung:
+nur bei einem durchgehenden oder gekreuzten
+Kabel kann das SNR geprüft werden.</translation>
+    </message>
+    <message>
+        <source>SNR test requires that length constant
+is between 10.0 and 65.0(pF/ft) or 32.8 and 213.2 (pF/m).</source>
+        <translation>Für die SNR-Prüfung muss die Längenkonstante zwischen
+10,0 und 65,0 (pF/ft) oder 32,8 und 213,2 (pF/m) liegen.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t map 2 pairs on near end to
+same pair on far end.</source>
+        <translation>Zwei Paare am nahen Ende können nicht
+auf dasselbe Paar am fernen Ende gelegt werden.</translation>
+    </message>
+    <message>
+        <source>Invalid color.</source>
+        <translation>Ungültige Farbe.</translation>
+    </message>
+    <message>
+        <source>SNR and BERT tests may fail with
+cable length greater than 330ft (100m).</source>
+        <translation>SNR- und BERT-Prüfungen können bei Kabeln
+von mehr als 330 ft (100 m) fehlschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlFile</name>
+    <message>
+        <source>There is a control character that XML does not allow.</source>
+        <translation>Ein Steuerzeichen, das XML nicht erlaubt, steht im Text.</translation>
+    </message>
+    <message>
+        <source>An element has more than %1 attributes.</source>
+        <translation>Ein Element hat mehr als %1 Attribute.</translation>
+    </message>
+    <message>
+        <source>Elements are nested more than %1 levels deep.</source>
+        <translation>Elemente sind mehr als %1 Stufen tief geschachtelt.</translation>
+    </message>
+    <message>
+        <source>Only a document type without declarations is supported.</source>
+        <translation>Ein Dokumenttyp ist nur ohne Deklarationen erlaubt.</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>Das Dokument ist leer.</translation>
+    </message>
+    <message>
+        <source>The document has more than one root element.</source>
+        <translation>Das Dokument hat mehr als ein Wurzelelement.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Usage: cabledoc COMMAND ...
+
+Commands:
+  new FILE.job [--floors N]             make a new job file
+  info FILE.job [--json]                show what a job file holds
+  cables FILE.job [--metric] [--json]   list the cables with their tests
+  check FILE [--json]                   report what is wrong with a job or template file
+  convert FILE -o NEW                   bring an older job or template file up to date
+  import FILE.job --template FILE.bkt [--missing-only]
+                                        let a job take over what a template holds
+  export FILE.job -o NEW.bkt            make a template of a job
+  schedule import FILE.job FILE.csv [--dry-run]
+                                        bring a job up to a cable schedule
+  schedule export FILE.job              print the cable schedule of a job
+
+&quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
+
+Exit codes:
+  0  all was done
+  1  &quot;check&quot; found something wrong
+  2  wrong command line
+  3  a file could not be loaded
+  4  a file could not be saved, or the output not be written
+</source>
+        <translation>Aufruf: cabledoc BEFEHL ...
+
+Befehle:
+  new DATEI.job [--floors N]            eine neue Auftragsdatei anlegen
+  info DATEI.job [--json]               zeigen, was eine Auftragsdatei enthält
+  cables DATEI.job [--metric] [--json]  die Kabel mit ihren Prüfungen auflisten
+  check DATEI [--json]                  berichten, was an einer Auftrags- oder Vorlagendatei nicht stimmt
+  convert DATEI -o NEU                  eine ältere Auftrags- oder Vorlagendatei auf den neuen Stand bringen
+  import DATEI.job --template DATEI.bkt [--missing-only]
+                                        einen Auftrag den Inhalt einer Vorlage übernehmen lassen
+  export DATEI.job -o NEU.bkt           aus einem Auftrag eine Vorlage machen
+  schedule import DATEI.job DATEI.csv [--dry-run]
+                                        einen Auftrag auf den Stand eines Kabelplans bringen
+  schedule export DATEI.job             den Kabelplan eines Auftrags ausgeben
+
+&quot;cabledoc BEFEHL --help&quot; sagt mehr. Außerdem: cabledoc --help, cabledoc --version.
+
+Rückgabewerte:
+  0  alles ist getan
+  1  &quot;check&quot; hat etwas gefunden
+  2  falscher Aufruf
+  3  eine Datei konnte nicht geladen werden
+  4  eine Datei konnte nicht gespeichert oder die Ausgabe nicht geschrieben werden
+</translation>
+    </message>
+    <message>
+        <source>a command is needed</source>
+        <translation>ein Befehl ist nötig</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc --help&quot; lists the commands</source>
+        <translation>&quot;cabledoc --help&quot; zeigt die Befehle</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>einen Befehl &quot;%1&quot; gibt es nicht</translation>
+    </message>
+</context>
+<context>
+    <name>runCheck</name>
+    <message>
+        <source>Reports what is wrong with a job or template file, one line for each finding. The file is not changed.</source>
+        <translation>Berichtet, was an einer Auftrags- oder Vorlagendatei nicht stimmt, eine Zeile für jeden Befund. Die Datei wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of lines.</source>
+        <translation>JSON statt Zeilen ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>runConvert</name>
+    <message>
+        <source>Writes a job or template file of an earlier version as one of the current version. The file itself is not changed.</source>
+        <translation>Schreibt eine Auftrags- oder Vorlagendatei früherer Version als eine der heutigen. Die Datei selbst wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
+        <translation>beide Namen müssen auf &quot;.job&quot; oder beide auf &quot;.bkt&quot; enden</translation>
+    </message>
+</context>
+<context>
+    <name>runExport</name>
+    <message>
+        <source>Makes a template of the contractor, the settings, the test definitions and the bundles of a job file.</source>
+        <translation>Macht eine Vorlage aus dem Auftragnehmer, den Einstellungen, den Prüfdefinitionen und den Bündeln einer Auftragsdatei.</translation>
+    </message>
+    <message>
+        <source>the name of a template must end in &quot;.bkt&quot;</source>
+        <translation>der Name einer Vorlage muss auf &quot;.bkt&quot; enden</translation>
+    </message>
+</context>
+<context>
+    <name>runImport</name>
+    <message>
+        <source>Lets a job file take over the contractor and the settings of a template, and the test definitions and bundles that it lacks.</source>
+        <translation>Lässt eine Auftragsdatei den Auftragnehmer und die Einstellungen einer Vorlage übernehmen, und die Prüfdefinitionen und Bündel, die ihr fehlen.</translation>
+    </message>
+    <message>
+        <source>The template. It is not changed.</source>
+        <translation>Die Vorlage. Sie wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Only add the default test definitions and the bundles that the job lacks.</source>
+        <translation>Nur die vorgegebenen Prüfdefinitionen und die Bündel ergänzen, die dem Auftrag fehlen.</translation>
+    </message>
+</context>
+<context>
+    <name>runNew</name>
+    <message>
+        <source>Makes a new job file with one sheet. An existing file is not replaced; &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Legt eine neue Auftragsdatei mit einem Blatt an. Eine vorhandene Datei wird nicht ersetzt; einem Namen ohne &quot;.job&quot; wird es angehängt.</translation>
+    </message>
+    <message>
+        <source>Number of floors, from 1 (the default) to %1.</source>
+        <translation>Zahl der Etagen, von 1 (die Vorgabe) bis %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from 1 to %2</source>
+        <translation>&quot;%1&quot; ist keine Zahl von 1 bis %2</translation>
+    </message>
+</context>
+</TS>
