@@ -1,8 +1,8 @@
 #include "jobeditorprobe.h"
 #include "schedule.h"
+#include "testcases.h"
 
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 
 namespace {
 
@@ -64,53 +64,14 @@ private:
 private Q_SLOTS:
     void cleanup() { JobEditor::Destroy(); }
 
-    void problems_data()
-    {
-        QTest::addColumn<QByteArray>("schedule");
-        QTest::addColumn<QString>("places");
-        const QByteArray good = "A1,,,,,,,\n";
-        QTest::newRow("empty file") << QByteArray() << "1:1 1:1 1:1 1:1 1:1 1:1 1:1";
-        QTest::newRow("unknown column") << "id,length," + ends + "\n" + good << "1:2";
-        QTest::newRow("column twice") << "id," + ends + ",id\n" + good << "1:8";
-        QTest::newRow("no id column") << ends + "\n,,,,,\n"
-                                      << "1:7";
-        QTest::newRow("too many fields") << heading + "A1,,,,,,,,\n"
-                                         << "2:9";
-        QTest::newRow("no id") << heading + good + ",,,,,,,red\n"
-                               << "3:1";
-        QTest::newRow("id twice") << heading + good + good << "3:1";
-        QTest::newRow("port without a floor") << heading + "A1,,Lab,1,,,2,\n"
-                                              << "2:2 2:5";
-        QTest::newRow("floor or room without a port") << heading + "A1,Top,,,,Lab,,\n"
-                                                      << "2:4 2:7";
-        QTest::newRow("no colour") << heading + "A1,,,,,,,reddish\n"
-                                   << "2:8";
-        QTest::newRow("beyond Latin-1") << heading + "A1,T\xE2\x82\xAC,,1,,,,\n"
-                                        << "2:2";
-        QTest::newRow("control character") << heading + "A\x01,,,,,,,\n"
-                                           << "2:1";
-        QTest::newRow("not UTF-8") << heading + "A1,T\xE9,,1,,,,\n"
-                                   << "2:2";
-        QTest::newRow("quotation mark in a bare field") << heading + good + "A2,,,a\"b\n"
-                                                        << "3:4";
-        QTest::newRow("text behind a quoted field") << heading + "\"A1\"x,,,,,,,\n"
-                                                    << "2:1";
-        QTest::newRow("quotation mark that is missing") << heading + good + "A2,\"Top\n,\n,,"
-                                                        << "3:2";
-        QTest::newRow("quotation mark in the heading") << QByteArray("id,\"") << "1:2";
-        QTest::newRow("behind rows of several lines, and empty ones, with other line ends")
-            << heading + "\"A\r\n1\",,,,,,,\r\n\r\n,,,\rA2,,,,,,,x\r\n"
-            << "5:8";
-        QTest::newRow("several") << heading + "A1,,,,,,,x\n,Top,,,,,,x\n"
-                                 << "2:8 3:1 3:4 3:8";
-    }
+    void problems_data() { addCases("cases/schedule-problems.txt"); }
 
     void problems()
     {
-        QFETCH(QByteArray, schedule);
+        QFETCH(TestCase, testCase);
         JobEditor &job = openJob();
         const QByteArray before = JobEditorProbe(job).text();
-        QTEST(summary(import(schedule)), "places");
+        QCOMPARE(summary(import(testCase.given)), testCase.expectedText());
         QCOMPARE(JobEditorProbe(job).text(), before);
         QVERIFY(!job.fileChanged());
     }
