@@ -1,9 +1,8 @@
+#include "testcases.h"
 #include "xmlfile.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 
 using namespace cabledoc;
 
@@ -22,58 +21,41 @@ private:
 
     QString fileWith(const QByteArray &content) const
     {
-        QFile file(m_directory.filePath("file.xml"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot prepare the file");
-        return file.fileName();
+        writeFile(m_directory.filePath("file.xml"), content);
+        return m_directory.filePath("file.xml");
+    }
+
+    /// An element with that many attributes.
+    static QByteArray elementWith(int attributes)
+    {
+        QByteArray element = "<b";
+        for (int i = 0; i < attributes; ++i)
+            element += " a" + QByteArray::number(i) + "='>'";
+        return element + "/>";
+    }
+
+    /// A tree of that many levels around a text.
+    static QByteArray nested(int levels, const QByteArray &text = QByteArray())
+    {
+        return QByteArray("<a>").repeated(levels) + text + QByteArray("</a>").repeated(levels);
     }
 
     xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test"); }
 
 private Q_SLOTS:
-    /// What is read is written in the one form of our files, and read and written again stays as it is.
-    void roundTrip_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QByteArray>("expected");
-        QTest::newRow("indentation") << QByteArray("<a><b><c/></b><d></d></a>")
-                                     << QByteArray("<a>\n <b>\n  <c/>\n </b>\n <d/>\n</a>\n");
-        QTest::newRow("attributes by name")
-            << QByteArray("<a c='3' a='1' b='2'/>") << QByteArray("<a a=\"1\" b=\"2\" c=\"3\"/>\n");
-        QTest::newRow("order of a container")
-            << QByteArray("<List><x a='1' second='2' first='3'/></List>")
-            << QByteArray("<List>\n <x first=\"3\" second=\"2\" a=\"1\"/>\n</List>\n");
-        QTest::newRow("order of an element")
-            << QByteArray("<own a='1' z='2'/>") << QByteArray("<own z=\"2\" a=\"1\"/>\n");
-        QTest::newRow("declaration and document type")
-            << QByteArray("<?xml version='1.0' encoding='UTF-8'?><!DOCTYPE a><a>\xe9</a>")
-            << QByteArray("<a>\xe9</a>\n");
-        QTest::newRow("comments and instructions") << QByteArray("<a><!-- <b> & --><?do it now?></a><!--end-->")
-                                                   << QByteArray("<a>\n <!-- <b> & -->\n <?do it now?>\n</a>\n"
-                                                                 "<!--end-->\n");
-        QTest::newRow("text keeps its blanks")
-            << QByteArray("<a> one <b><c/></b>\n two</a>") << QByteArray("<a> one <b><c/></b>\n two</a>\n");
-        QTest::newRow("escapes in text") << QByteArray("<a>&lt;&amp;&gt;]]&gt;\"&#13;</a>")
-                                         << QByteArray("<a>&lt;&amp;&gt;]]&gt;\"&#13;</a>\n");
-        QTest::newRow("escapes in values") << QByteArray("<a b=\"&lt;&gt;&amp;&quot;'&#9;&#10;&#13;\"/>")
-                                           << QByteArray("<a b=\"&lt;&gt;&amp;&quot;'&#9;&#10;&#13;\"/>\n");
-        QTest::newRow("CDATA") << QByteArray("<a><![CDATA[<x>&]]></a>") << QByteArray("<a><![CDATA[<x>&]]></a>\n");
-        QTest::newRow("undeclared prefix") << QByteArray("<p:a q:b='1'/>") << QByteArray("<p:a q:b=\"1\"/>\n");
-        QTest::newRow("quotes and angles in values")
-            << QByteArray("<a b='\">' c=\"'>\"/>") << QByteArray("<a b=\"&quot;&gt;\" c=\"'&gt;\"/>\n");
-    }
+    void roundTrip_data() { addCases("cases/xml.txt"); }
 
+    /// What is read is written in the one form of our files, and read and written again stays as it is.
     void roundTrip()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QByteArray, expected);
+        QFETCH(TestCase, testCase);
         xmlfile::AttributeOrder order;
         order.inContainer.insert("List", {"first", "second"});
         order.ofElement.insert("own", {"z"});
-        for (const QByteArray &text : {content, expected}) {
+        for (const QByteArray &text : {testCase.given, testCase.expected}) {
             const xmlfile::ReadResult result = read(text);
             QCOMPARE(result.problem.message, QString());
-            QCOMPARE(xmlfile::toText(result.document, order).bytes, expected);
+            QCOMPARE(xmlfile::toText(result.document, order).bytes, testCase.expected);
         }
     }
 
@@ -98,25 +80,22 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("line");
-        const QByteArray open("<a>");
-        const QByteArray close("</a>");
-        QByteArray attributes;
-        for (int i = 0; i <= maximumAttributes; ++i)
-            attributes += " a" + QByteArray::number(i) + "='>'";
-        QTest::newRow("empty") << QByteArray() << 1;
-        QTest::newRow("no XML") << QByteArray("floor plan") << 1;
-        QTest::newRow("unclosed") << QByteArray("<a>\n<b></a>") << 2;
-        QTest::newRow("cut off") << QByteArray("<a>\n<b c='") << 2;
-        QTest::newRow("two roots") << QByteArray("<a/>\n<b/>") << 2;
-        QTest::newRow("NUL") << QByteArray("<a b='\0'/>", 9) << 1;
-        QTest::newRow("control character in a name") << QByteArray("<a>\n<b c\x01='1'/></a>") << 2;
-        QTest::newRow("too deep") << QByteArray("\n") + open.repeated(257) + close.repeated(257) << 2;
-        QTest::newRow("much too deep") << open.repeated(1000000) << 1;
-        QTest::newRow("too deep behind a comment") << "<!-- ' --><b c='</a>'/>" + open.repeated(257) << 1;
-        QTest::newRow("too many attributes") << "<a\n" + attributes + "/>" << 2;
-        QTest::newRow("entity bomb") << QByteArray("<!DOCTYPE a [<!ENTITY x 'xx'><!ENTITY y '&x;&x;'>]><a>&y;</a>")
-                                     << 1;
-        QTest::newRow("outside declarations") << QByteArray("<!DOCTYPE a SYSTEM 'x'><a>&y;</a>") << 1;
+        const auto row = [](const char *name, const QByteArray &content, int line) {
+            QTest::newRow(name) << content << line;
+        };
+        row("empty", "", 1);
+        row("no XML", "floor plan", 1);
+        row("unclosed", "<a>\n<b></a>", 2);
+        row("cut off", "<a>\n<b c='", 2);
+        row("two roots", "<a/>\n<b/>", 2);
+        row("NUL", QByteArray("<a b='\0'/>", 9), 1);
+        row("control character in a name", "<a>\n<b c\x01='1'/></a>", 2);
+        row("too deep", '\n' + nested(257), 2);
+        row("much too deep", QByteArray("<a>").repeated(1000000), 1);
+        row("too deep behind a comment", "<!-- ' --><b c='</a>'/>" + nested(257), 1);
+        row("too many attributes", '\n' + elementWith(maximumAttributes + 1), 2);
+        row("entity bomb", "<!DOCTYPE a [<!ENTITY x 'xx'><!ENTITY y '&x;&x;'>]><a>&y;</a>", 1);
+        row("outside declarations", "<!DOCTYPE a SYSTEM 'x'><a>&y;</a>", 1);
     }
 
     void refusedTexts()
@@ -131,11 +110,7 @@ private Q_SLOTS:
 
     void takesWhatTheLimitsAllow()
     {
-        QByteArray attributes;
-        for (int i = 0; i < maximumAttributes; ++i)
-            attributes += " a" + QByteArray::number(i) + "=''";
-        const QByteArray content =
-            QByteArray("<a>").repeated(255) + "<b/><b" + attributes + "></b>" + QByteArray("</a>").repeated(255);
+        const QByteArray content = nested(255, "<b/>" + elementWith(maximumAttributes));
         const xmlfile::ReadResult result = read(content);
         QCOMPARE(result.problem.message, QString());
         const xmlfile::Text text = xmlfile::toText(result.document, NoOrder);
@@ -180,17 +155,14 @@ private Q_SLOTS:
 
         QCOMPARE(xmlfile::write(link, "new"), QString());
         QVERIFY(QFileInfo(link).isSymLink());
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("new"));
-        QCOMPARE(file.permissions(), permissions);
+        QCOMPARE(readFile(fileName), QByteArray("new"));
+        QCOMPARE(QFile::permissions(fileName), permissions);
     }
 
     void writeReportsFailures()
     {
-        QVERIFY(!xmlfile::write(m_directory.path(), "x").isEmpty());
-        QVERIFY(!xmlfile::write(m_directory.filePath("none/file"), "x").isEmpty());
-        QVERIFY(!xmlfile::write(fileWith("x") + "/file", "x").isEmpty());
+        for (const QString &name : {m_directory.path(), m_directory.filePath("none/file"), fileWith("x") + "/file"})
+            QVERIFY2(!xmlfile::write(name, "x").isEmpty(), qPrintable(name));
         QCOMPARE(int(xmlfile::read(m_directory.path(), "Test").status), int(xmlfile::ReadResult::NotOpened));
     }
 };

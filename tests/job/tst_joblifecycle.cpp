@@ -130,45 +130,6 @@ private Q_SLOTS:
         QCOMPARE(job.getSheetTags(), QStringList("SSheet_1"));
     }
 
-    void failedLoads_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("error");
-        QTest::addColumn<bool>("keepsTree");
-        const QString version = "Incompatible version of job file %1";
-        QTest::newRow("parse error") << QByteArray("<Job>\n<a></Job>")
-                                     << "Error parsing job file %1\n on line 2,\n column 9,\n"
-                                        "Opening and ending tag mismatch."
-                                     << false;
-        QTest::newRow("empty") << QByteArray() << "Unable to parse job file %1" << false;
-        QTest::newRow("old version") << QByteArray("<Job><Version number='2.0'/></Job>") << version << true;
-        QTest::newRow("no version") << QByteArray("<Job><Floor_List><F id='x'/></Floor_List></Job>") << version << true;
-        QTest::newRow("other root") << QByteArray("<Bkt><Version number='3.0'/></Bkt>") << version << true;
-        QTest::newRow("comment first") << "<!--c-->" + testData("site.job") << version << true;
-        QTest::newRow("declaration first") << "<?xml version='1.0'?>" + testData("site.job") << version << true;
-    }
-
-    void failedLoads()
-    {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, error);
-        QFETCH(bool, keepsTree);
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New("before"));
-        const QString name = fileWith(content);
-        QVERIFY(!job.Load(name));
-        QCOMPARE(job.error(), error.arg(name));
-        QCOMPARE(job.filename(), name);
-        QCOMPARE(!JobEditorProbe(job).root().isNull(), keepsTree);
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-        // Saving after a load that failed must not destroy what could not be read.
-        if (!keepsTree) {
-            QVERIFY(!job.save());
-            QVERIFY(!job.saveAs(name));
-            QCOMPARE(readFile(name), content);
-        }
-    }
-
     void loadsThatFindNothing()
     {
         JobEditor &job = JobEditor::Instance();

@@ -1,12 +1,11 @@
 #include "bkteditor.h"
-#include "jobeditor.h"
-#include "testfiles.h"
+#include "jobeditorprobe.h"
+#include "testcases.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 
 #include <csignal>
 
@@ -118,43 +117,37 @@ private Q_SLOTS:
         QVERIFY(!job.addConnection(QString(), "Link", "a", "b", "1", 0).isEmpty());
     }
 
-    void refused_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("reason");
-        const QString badNumber = "%1 is a bad version number in BktEditor::checkVersion.";
-        const QString noVersion = "version Doesn't Exist in BktEditor::checkVersion";
-        const QString nothing = "there are no nodes below root node in _doc in BktEditor::checkVersion";
-        QTest::newRow("between versions") << QByteArray("<R><Version number='2.0'/></R>") << badNumber.arg("2.0");
-        QTest::newRow("later version") << QByteArray("<R><Version number='3.1'/></R>") << badNumber.arg("3.1");
-        QTest::newRow("empty version") << QByteArray("<R><Version number=''/></R>") << badNumber.arg("");
-        QTest::newRow("version without number") << QByteArray("<R><Version/></R>") << badNumber.arg("");
-        QTest::newRow("no version") << QByteArray("<R><TestDef_List/></R>") << noVersion;
-        QTest::newRow("another root") << QByteArray("<Other><Version number='1.4'/></Other>") << noVersion;
-        QTest::newRow("nothing in the root") << QByteArray("<R/>") << nothing;
-        QTest::newRow("comment first") << QByteArray("<!-- --><R><Version number='1.4'/></R>") << nothing;
-        QTest::newRow("declaration first")
-            << QByteArray("<?xml version='1.0'?><R><Version number='1.4'/></R>") << nothing;
-    }
+    void refusedFiles_data() { addCases("cases/refused-files.txt"); }
 
-    void refused()
+    /// A file that cannot be loaded, as a job and as a template.
+    void refusedFiles()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, reason);
-        const QString templateName = m_directory.filePath("refused.bkt");
-        const QByteArray templateContent = QByteArray(content).replace("R>", "Bkt>").replace("R/>", "Bkt/>");
-        writeFile(templateName, templateContent);
-        BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(!bkt.Load(templateName));
-        QCOMPARE(bkt.error(), QString("Incompatible version of Bkt file"));
-        QVERIFY(!bkt.checkVersion());
-        QCOMPARE(bkt.error(), reason);
-        QCOMPARE(readFile(templateName), templateContent);
-
-        const QString jobName = m_directory.filePath("refused.job");
-        writeFile(jobName, content.replace("R>", "Job>").replace("R/>", "Job/>"));
-        QVERIFY(!JobEditor::Instance().Load(jobName));
-        QCOMPARE(JobEditor::Instance().error(), "Incompatible version of job file " + jobName);
+        QFETCH(TestCase, testCase);
+        const bool isRead = testCase.expected.contains("checkVersion");
+        QVERIFY(JobEditor::Instance().New("before"));
+        QVERIFY(BktEditor::Instance().New("before"));
+        for (const QString &root : {QString("Job"), QString("Bkt")}) {
+            const QString kind = root == "Job" ? "job" : "Bkt";
+            const QString fileName = m_directory.filePath("refused." + kind);
+            const QByteArray content = QByteArray(testCase.given).replace("ROOT", root.toLatin1());
+            writeFile(fileName, content);
+            QVERIFY(!load(fileName));
+            QCOMPARE(document(fileName).filename(), fileName);
+            QString error = testCase.expectedText().replace("KIND", kind).replace("FILE", fileName);
+            if (isRead)
+                error = root == "Job" ? "Incompatible version of job file " + fileName
+                                      : QString("Incompatible version of Bkt file");
+            QCOMPARE(document(fileName).error(), error);
+            // What was not read whole is never written over the file that it came from.
+            QVERIFY(isRead || !save(fileName));
+            QCOMPARE(readFile(fileName), content);
+        }
+        QCOMPARE(!JobEditorProbe(JobEditor::Instance()).root().isNull(), isRead);
+        QVERIFY(JobEditorProbe(JobEditor::Instance()).indexesMatchTheTree());
+        if (isRead) {
+            QVERIFY(!BktEditor::Instance().checkVersion());
+            QCOMPARE(BktEditor::Instance().error() + '\n', QString(testCase.expected));
+        }
     }
 
     void emptyDocument()
