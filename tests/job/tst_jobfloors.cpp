@@ -165,21 +165,6 @@ private Q_SLOTS:
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
-    void removingAFloorTakesItsCables()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(testDataPath("site.job")));
-        job.removeFloor(job.getFloor("FFloor_1"));
-        // The third cable ends on the other floor and nowhere.
-        QCOMPARE(job.getCables(true), QStringList("Cable3"));
-        QVERIFY(job.getCablesByType("CAT6").isEmpty());
-        QVERIFY(!job.portExists("P1", true));
-        QVERIFY(!job.pointExists("Point1", true));
-        QVERIFY(job.portExists("P3", true));
-        QCOMPARE(job.getRoomByTag("Room1").floor(), QString("FFloor_2"));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
-
     void numbers_data()
     {
         QTest::addColumn<QString>("tag");

@@ -166,61 +166,6 @@ private Q_SLOTS:
         QCOMPARE(job.getRoomById(Ground, a).element(), QString("A"));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
-
-    void removingARoomKeepsWhatIsInIt()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(testDataPath("site.job")));
-        const QString undefined = "Undefined";
-        job.removeRoom(job.getRoomByTag(Ground, "Room1"));
-        QCOMPARE(job.getRooms(Ground, true), QStringList(undefined));
-        QCOMPARE(job.getPorts(Ground, undefined, true).join(','), QString("P1,P2"));
-        QCOMPARE(job.getVertRuns(Ground, undefined, true), QStringList("V1"));
-        QCOMPARE(job.getCables(true).size(), 3);
-        // The room of that tag on the other floor is still there.
-        QCOMPARE(job.getRoomByTag("Room1").floor(), Upper);
-        job.removeRoom(Ground, undefined);
-        QCOMPARE(job.getPorts(Ground, undefined, true).size(), 2);
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
-
-    void removingARoomUncoversItsTwin()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(testDataPath("site.job")));
-        const QString lab = "Room1";
-        QDomElement twin = JobEditorProbe(job).roomElement(Ground, lab).cloneNode(true).toElement();
-        twin.firstChildElement().firstChildElement().setTagName("P7");
-        job.getToRoomList(Ground).appendChild(twin);
-        job.updateAllInternalLists();
-        QVERIFY(!job.portExists("P7", true));
-        job.removeRoom(Ground, lab);
-        QVERIFY(job.portExists("P7", true));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
-
-    void removingARoomMakesAPlaceForWhatIsInIt_data()
-    {
-        QTest::addColumn<QString>("missing");
-        QTest::newRow("no room for it") << QString();
-        QTest::newRow("no list of ports") << "Port_List";
-    }
-
-    void removingARoomMakesAPlaceForWhatIsInIt()
-    {
-        QFETCH(QString, missing);
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(testDataPath("site.job")));
-        QDomElement taken = JobEditorProbe(job).roomElement(Ground, "Undefined");
-        if (!missing.isEmpty())
-            taken = taken.firstChildElement(missing);
-        taken.parentNode().removeChild(taken);
-        job.updateAllInternalLists();
-        job.removeRoom(Ground, "Room1");
-        QCOMPARE(job.getPorts(Ground, "Undefined", true).size(), 2);
-        QCOMPARE(job.getVertRuns(Ground, "Undefined", true).size(), 1);
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
 };
 
 QTEST_GUILESS_MAIN(JobRoomsTest)
