@@ -333,43 +333,18 @@ private:
 
     void step(JobEditor &job)
     {
-        switch (number(20)) {
-        case 0:
-            addFloorOrSheet(job);
-            break;
-        case 1:
-        case 2:
-        case 3:
-            addRoom(job);
-            break;
-        case 4:
-            changeFloorOrSheet(job);
-            break;
-        case 5:
-        case 6:
-            addCable(job);
-            break;
-        case 7:
-        case 8:
-            changeCable(job);
-            break;
-        case 9:
-            changeContents(job);
-            break;
-        case 10:
-        case 11:
-        case 12:
-        case 13:
-            addPlanElement(job);
-            break;
-        case 14:
-        case 15:
-        case 16:
-            changePlanElement(job);
-            break;
-        default:
-            changeRoom(job);
-        }
+        using Test = RandomOperationsTest;
+        // With how many chances of twenty
+        static const QVector<std::pair<int, void (Test::*)(JobEditor &)>> steps{
+            {1, &Test::addFloorOrSheet}, {3, &Test::addRoom},           {1, &Test::changeFloorOrSheet},
+            {2, &Test::addCable},        {2, &Test::changeCable},       {1, &Test::changeContents},
+            {4, &Test::addPlanElement},  {3, &Test::changePlanElement}, {3, &Test::changeRoom},
+        };
+        int chance = number(20);
+        auto step = steps.begin();
+        for (; chance >= step->first; ++step)
+            chance -= step->first;
+        (this->*step->second)(job);
     }
 
 private Q_SLOTS:
