@@ -32,7 +32,7 @@ private:
     }
 
 private Q_SLOTS:
-    void contents_data() { addCases("cases/check.txt"); }
+    void contents_data() { addCases({"cases/check.txt"}); }
 
     void contents()
     {

@@ -42,7 +42,7 @@ class TestDefTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void validity_data() { addCases("cases/testdef.txt"); }
+    void validity_data() { addCases({"cases/testdef.txt"}); }
 
     void validity()
     {

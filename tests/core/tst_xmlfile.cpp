@@ -43,7 +43,7 @@ private:
     xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test"); }
 
 private Q_SLOTS:
-    void roundTrip_data() { addCases("cases/xml.txt"); }
+    void roundTrip_data() { addCases({"cases/xml.txt"}); }
 
     /// What is read is written in the one form of our files, and read and written again stays as it is.
     void roundTrip()

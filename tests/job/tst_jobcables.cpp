@@ -10,41 +10,6 @@ private Q_SLOTS:
     void init() { QVERIFY(JobEditor::Instance().New("site")); }
     void cleanup() { JobEditor::Destroy(); }
 
-    void namesAreGenerated()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QCOMPARE(job.addCable("T", "I", 0), QString("Cable001"));
-        QCOMPARE(job.getCableElement("Cable1"), QString("Cable1"));
-        QCOMPARE(job.addCable("T", "I", 1), QString("I"));
-        QCOMPARE(job.getCableID("Cable2"), QString("I"));
-        QCOMPARE(job.addCable("Mine", "I2", 2), QString("I2"));
-        QCOMPARE(job.addCable("Yours", "I3", 3), QString("Cable002"));
-        QCOMPARE(job.getCableID("Yours"), QString("Cable002"));
-        QCOMPARE(job.addCable("no name", "I4", 2), QString());
-        QCOMPARE(job.getCables(true).join(','), QString("Cable1,Cable2,Mine,Yours"));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
-
-    void namesFollowTheLastInStringOrder()
-    {
-        JobEditor &job = JobEditor::Instance();
-        job.addCable("Cable9", "Cable007", 2);
-        job.addCable("Cable10", "Cable020", 2);
-        // After "Cable9", the last tag: "Cable10" is taken. After its id: 8 is free.
-        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable008"));
-        QVERIFY(job.cableExists("Cable11", true));
-        job.removeCable("Cable9");
-        // The last tag is now "Cable11", whose id leads.
-        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable009"));
-        QVERIFY(job.cableExists("Cable12", true));
-        // Ids of another form do not lead, however late their tags, but are not given twice.
-        job.addCable("Cable99", "Cable1000", 2);
-        job.addCable("Cable98", "Cable999", 2);
-        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable1001"));
-        job.setCableID("Cable98", "Cable30");
-        QCOMPARE(job.addCable(QString(), QString(), 0), QString("Cable010"));
-    }
-
     void cablesAreStoredWhole()
     {
         JobEditor &job = JobEditor::Instance();
@@ -58,6 +23,8 @@ private Q_SLOTS:
         block.pair_length.fill(2);
         results.setResults(block);
         Cable cable("C", "Id", "data", "P1", "P2", "CAT6", results, {"Point1", "Point2"}, "B", "1", "2", "#010203");
+        QCOMPARE(job.addCable(cable, 0), QString("Cable001"));
+        QCOMPARE(job.getCableElement("Cable1"), QString("Cable1"));
         QCOMPARE(job.addCable(cable, 2), QString("Id"));
         QVERIFY(job.getCable("C") == cable);
         QVERIFY(job.getCableById("Id") == cable);
@@ -125,30 +92,6 @@ private Q_SLOTS:
         job.setCableDefaultType("C", true);
         QVERIFY(job.getCableDefaultType("C") && job.getCable("C").defaultType());
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
-
-    void readingCompletesOlderResults()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(testDataPath("site.job")));
-        const QDomElement element = job.getToCableList().firstChildElement().firstChildElement();
-        TestResults results("now", "FAIL", "2", "S", cable_struct::untested(), 1);
-        job.setCableTestResults("Cable1", results);
-        // Only the version and the serial number are created by writing.
-        QCOMPARE(element.attributes().count(), 4);
-        QCOMPARE(element.attribute("serial"), QString("S"));
-        job.setDirty(false);
-        QCOMPARE(job.getCableTestResults("Cable1").BERTResults(), -1);
-        QVERIFY(job.fileChanged());
-        QCOMPARE(element.attributes().count(), 9);
-        QCOMPARE(element.attribute("data"), QString('F').repeated(96));
-        QCOMPARE(element.attribute("bert_errors") + element.attribute("echo"), QString("-1"));
-        job.setCableTestResults("Cable1", results);
-        QCOMPARE(job.getCableTestResults("Cable1").BERTResults(), 1);
-        QCOMPARE(job.getCable("Cable1").testResults().status(), QString("FAIL"));
-        // A cable without the element has default results and gets none.
-        job.setCableTestResults("Cable2", results);
-        QVERIFY(job.getCableTestResults("Cable2") == TestResults());
     }
 
     void lengths()

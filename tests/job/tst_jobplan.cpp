@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(job().getActiveTestResults(tag).size(), 2);
     }
 
-    void lengths_data() { addCases("cases/lengths.txt"); }
+    void lengths_data() { addCases({"cases/lengths.txt"}); }
 
     /// The lengths of the cables of lengths.job, whose floor plans have that scale.
     void lengths()

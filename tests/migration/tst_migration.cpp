@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(!job.addConnection(QString(), "Link", "a", "b", "1", 0).isEmpty());
     }
 
-    void refusedFiles_data() { addCases("cases/refused-files.txt"); }
+    void refusedFiles_data() { addCases({"cases/refused-files.txt"}); }
 
     /// A file that cannot be loaded, as a job and as a template.
     void refusedFiles()

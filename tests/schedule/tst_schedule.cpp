@@ -64,7 +64,7 @@ private:
 private Q_SLOTS:
     void cleanup() { JobEditor::Destroy(); }
 
-    void problems_data() { addCases("cases/schedule-problems.txt"); }
+    void problems_data() { addCases({"cases/schedule-problems.txt"}); }
 
     void problems()
     {

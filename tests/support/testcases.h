@@ -29,10 +29,9 @@ inline QByteArray withBytes(const QString &line)
     return text.toLatin1();
 }
 
-/// Makes the cases of a file in tests/data the rows of a test. tests/data/README.md tells their form.
-inline void addCases(const char *fileName)
+/// The cases of a file in tests/data. tests/data/README.md tells their form.
+inline QVector<TestCase> casesIn(const char *fileName)
 {
-    QTest::addColumn<TestCase>("testCase");
     QVector<TestCase> cases;
     QByteArray TestCase::*part = nullptr;
     const QStringList lines = QString::fromLatin1(testData(fileName)).split('\n');
@@ -48,6 +47,15 @@ inline void addCases(const char *fileName)
     }
     if (cases.isEmpty())
         qFatal("no cases in %s", fileName);
-    for (const TestCase &testCase : std::as_const(cases))
-        QTest::newRow(testCase.name.constData()) << testCase;
+    return cases;
+}
+
+/// Makes the cases of files the rows of a test.
+inline void addCases(std::initializer_list<const char *> fileNames)
+{
+    QTest::addColumn<TestCase>("testCase");
+    for (const char *fileName : fileNames) {
+        for (const TestCase &testCase : casesIn(fileName))
+            QTest::newRow(testCase.name.constData()) << testCase;
+    }
 }

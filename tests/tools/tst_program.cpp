@@ -28,7 +28,7 @@ private:
     }
 
 private Q_SLOTS:
-    void sessions_data() { addCases("cases/program.txt"); }
+    void sessions_data() { addCases({"cases/program.txt"}); }
 
     void sessions()
     {
