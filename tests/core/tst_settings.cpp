@@ -27,12 +27,7 @@ public:
     QDomElement printEntry(const QString &name) const { return getToPrintSettingsList().firstChildElement(name); }
 };
 
-QString dimensions(const PageSettings &settings)
-{
-    return QString("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
-}
-
-QString dimensions(const PrintSettings &settings)
+template <typename Settings> QString text(const Settings &settings)
 {
     return QString("%1 x %2").arg(settings.getPageWidthDimension()).arg(settings.getPageHeightDimension());
 }
@@ -44,27 +39,7 @@ class SettingsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pageDimensions()
-    {
-        PageSettings page;
-        QCOMPARE(dimensions(page), QString("-1 x -1"));
-        page.setPageSizeStyle(1);
-        QCOMPARE(dimensions(page), QString("11 x 8.5"));
-        page.setPageSizeStyle(2);
-        QCOMPARE(dimensions(page), QString("11 x 8.5"));
-        page.setOrientation(0);
-        QCOMPARE(dimensions(page), QString("11 x 8.5"));
-        page.setPageSizeStyle(1);
-        QCOMPARE(dimensions(page), QString("8.5 x 11"));
-        for (const int style : {-1, 3, 4}) {
-            page.setPageSizeStyle(style);
-            QCOMPARE(dimensions(page), QString("-1 x -1"));
-        }
-        const PageSettings custom(A4, "Standard", 1, 2, 0, 30.0, 20.0);
-        QCOMPARE(dimensions(custom), QString("30 x 20"));
-    }
-
-    void printDimensions_data()
+    void dimensions_data()
     {
         QTest::addColumn<QString>("paper");
         QTest::addColumn<int>("orientation");
@@ -77,11 +52,20 @@ private Q_SLOTS:
         QTest::newRow("unknown paper") << "A4" << 0 << "-1 x -1";
     }
 
-    void printDimensions()
+    void dimensions()
     {
         QFETCH(QString, paper);
         QFETCH(int, orientation);
-        QTEST(dimensions(PrintSettings(paper, orientation, 100, 1, 1, 0)), "expected");
+        QTEST(text(PrintSettings(paper, orientation, 100, 1, 1, 0)), "expected");
+        PageSettings page(paper, "Standard", orientation, 1, 0, 30.0, 20.0);
+        QTEST(text(page), "expected");
+        page.setPageSizeStyle(2);
+        QCOMPARE(text(page), QString("30 x 20"));
+        for (const int style : {-1, 0, 3}) {
+            page.setPageSizeStyle(style);
+            QCOMPARE(text(page), QString("-1 x -1"));
+        }
+        QCOMPARE(text(PageSettings()), QString("-1 x -1"));
     }
 
     void paperSizesOfferedInOrder()
@@ -137,26 +121,6 @@ private Q_SLOTS:
         assigned = original;
         QVERIFY(assigned == original);
         original.setParent(nullptr);
-    }
-
-    void newDocumentHasDefaults()
-    {
-        SettingsEditor editor;
-        for (const char *name : {"JobInfo", "NetView", "Inventory", "FloorPlan", "TestSched", "DetailedCable",
-                                 "JobNotes", "ActiveNetworkTestResults"}) {
-            const QString entry = QString(name) + "_Settings";
-            const bool isDrawing = qstrcmp(name, "NetView") == 0 || qstrcmp(name, "FloorPlan") == 0;
-            PrintSettings expected;
-            expected.setOrientation(isDrawing ? 1 : 0);
-            QVERIFY2(!editor.printEntry(entry).isNull(), name);
-            QVERIFY2(editor.getPrintSettings(entry) == expected, name);
-        }
-        for (const char *name : {"NetView_Settings", "FloorPlan_Settings"}) {
-            QVERIFY(editor.getPageSettings(name) == PageSettings());
-            QVERIFY(editor.getScaleSettings(name) == ScaleSettings());
-        }
-        QVERIFY(!editor.fileChanged());
-        QVERIFY(editor.text().contains("<JobNotes_Text text=\"\"/>"));
     }
 
     void storesWhatDiffers()

@@ -114,22 +114,6 @@ private Q_SLOTS:
         QCOMPARE(job.getToPortList(ground, "Room1").childNodes().size(), 2);
         QCOMPARE(job.getToPortList(upper, "Room1").childNodes().size(), 0);
     }
-
-    void firstOfARepeatedTagCounts()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QDomElement floorList = JobEditorProbe(job).root().firstChildElement("Floor_List");
-        QDomElement twin = floorList.firstChildElement().cloneNode(true).toElement();
-        twin.setAttribute("id", "Twin");
-        floorList.appendChild(twin);
-        job.updateAllInternalLists();
-        QVERIFY(!job.floorExists("Twin", false));
-        QCOMPARE(job.getFloorIdByTag("FFloor_1"), QString("Ground"));
-        job.removeFloor("FFloor_1");
-        QCOMPARE(job.getFloorIdByTag("FFloor_1"), QString("Twin"));
-        QVERIFY(job.portExists("P1", true));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-    }
 };
 
 QTEST_GUILESS_MAIN(JobIndexTest)

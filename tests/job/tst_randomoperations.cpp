@@ -151,35 +151,30 @@ private:
             QVERIFY2(!tags.contains(tag) && tag.startsWith("Cable"), qPrintable(tag));
     }
 
+    using TagsOn = QStringList (JobEditor::*)(const QString &, bool) const;
+    using TagsIn = QStringList (JobEditor::*)(const QString &, const QString &, bool) const;
+
     /// The tags of everything of a kind, on all floors or sheets.
-    static QStringList onAll(const QStringList &parents, const std::function<QStringList(const QString &)> &tagsOn)
+    static QStringList onAll(const JobEditor &job, const QStringList &parents, TagsOn tagsOn)
     {
         QStringList tags;
         for (const QString &parent : parents)
-            tags += tagsOn(parent);
+            tags += (job.*tagsOn)(parent, true);
         return tags;
     }
 
-    static QStringList inAllRooms(JobEditor &job,
-                                  const std::function<QStringList(const QString &, const QString &)> &tags)
+    static QStringList inAllRooms(const JobEditor &job, TagsIn tagsIn)
     {
-        return onAll(job.getFloorTags(), [&](const QString &floor) {
-            return onAll(job.getRooms(floor, true), [&](const QString &room) { return tags(floor, room); });
-        });
+        QStringList tags;
+        for (const QString &floor : job.getFloorTags()) {
+            for (const QString &room : job.getRooms(floor, true))
+                tags += (job.*tagsIn)(floor, room, true);
+        }
+        return tags;
     }
 
-    static QStringList portsOf(JobEditor &job)
-    {
-        return inAllRooms(
-            job, [&job](const QString &floor, const QString &room) { return job.getPorts(floor, room, true); });
-    }
-
-    static QStringList vertRunsOf(JobEditor &job)
-    {
-        return inAllRooms(
-            job, [&job](const QString &floor, const QString &room) { return job.getVertRuns(floor, room, true); });
-    }
-
+    static QStringList portsOf(JobEditor &job) { return inAllRooms(job, &JobEditor::getPorts); }
+    static QStringList vertRunsOf(JobEditor &job) { return inAllRooms(job, &JobEditor::getVertRuns); }
     static QStringList endsOf(JobEditor &job) { return portsOf(job) + vertRunsOf(job); }
 
     void changeCable(JobEditor &job)
@@ -207,22 +202,18 @@ private:
         operations.at(number(int(operations.size())))();
     }
 
-    static QStringList pointsOf(JobEditor &job)
-    {
-        return onAll(job.getFloorTags(), [&job](const QString &floor) { return job.getPoints(floor, true); });
-    }
+    static QStringList pointsOf(JobEditor &job) { return onAll(job, job.getFloorTags(), &JobEditor::getPoints); }
 
     static QStringList devicesOf(JobEditor &job)
     {
-        return onAll(job.getSheetTags(), [&job](const QString &sheet) {
-            return job.getDevices(sheet, true) + job.getVertices(sheet, true);
-        });
+        const QStringList sheets = job.getSheetTags();
+        return onAll(job, sheets, &JobEditor::getDevices) + onAll(job, sheets, &JobEditor::getVertices);
     }
 
     static QStringList textsOf(JobEditor &job)
     {
-        return onAll(job.getSheetTags(), [&job](const QString &sheet) { return job.getFreeTexts(sheet, true); })
-               + onAll(job.getFloorTags(), [&job](const QString &floor) { return job.getFloorFreeTexts(floor, true); });
+        return onAll(job, job.getSheetTags(), &JobEditor::getFreeTexts)
+               + onAll(job, job.getFloorTags(), &JobEditor::getFloorFreeTexts);
     }
 
     void addPlanElement(JobEditor &job)

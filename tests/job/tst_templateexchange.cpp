@@ -149,29 +149,20 @@ private Q_SLOTS:
         QVERIFY(JobEditor::Instance().getBundledCableTypeIds().isEmpty());
     }
 
-    void failedExports_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("no name") << ""
-                                 << "Filename is Empty";
-        QTest::newRow("extension alone") << ".bkt"
-                                         << "Filename is Empty";
-        QTest::newRow("directory") << m_directory.path() << "Filename given is a directory";
-        QTest::newRow("in no folder") << path("none/shop.bkt") << "";
-    }
-
     void failedExports()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, message);
         BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(bkt.New(path("before.bkt")));
         JobEditor &job = JobEditor::Instance();
-        QVERIFY(!job.Export(name));
-        QCOMPARE(job.error(), message.isEmpty() ? bkt.error() : message);
+        QVERIFY(bkt.New(path("before.bkt")));
+        for (const QString &name : {QString(), QString(".bkt"), m_directory.path()}) {
+            QVERIFY(!job.Export(name));
+            QCOMPARE(job.error(), QString(name.size() > 4 ? "Filename given is a directory" : "Filename is Empty"));
+            QCOMPARE(bkt.filename(), path("before.bkt"));
+        }
+        QVERIFY(!job.Export(path("none/shop.bkt")));
+        QCOMPARE(job.error(), bkt.error());
         QVERIFY(!job.error().isEmpty());
-        QCOMPARE(bkt.filename(), message.isEmpty() ? name : path("before.bkt"));
+        QCOMPARE(bkt.filename(), path("none/shop.bkt"));
     }
 };
 
