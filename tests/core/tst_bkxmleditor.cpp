@@ -74,6 +74,7 @@ private Q_SLOTS:
 
         OpenEditor clean;
         clean = original;
+        QCOMPARE(clean.filename(), QString("name"));
         QVERIFY(!clean.fileChanged());
         original = clean;
         QVERIFY(original.fileChanged());

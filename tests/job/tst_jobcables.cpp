@@ -55,32 +55,29 @@ private Q_SLOTS:
     {
         using Get = QString (JobEditor::*)(const QString &) const;
         using Set = void (JobEditor::*)(const QString &, const QString &);
-        struct Field
-        {
-            Get get;
-            Set set;
+        const QVector<std::pair<Get, Set>> fields{
+            {&JobEditor::getCableUse, &JobEditor::setCableUse},
+            {&JobEditor::getCableTo, &JobEditor::setCableTo},
+            {&JobEditor::getCableFrom, &JobEditor::setCableFrom},
+            {&JobEditor::getCableID, &JobEditor::setCableID},
+            {&JobEditor::getCableType, &JobEditor::setCableType},
+            {&JobEditor::getCableBundleName, &JobEditor::setCableBundleName},
+            {&JobEditor::getCableBundleNum, &JobEditor::setCableBundleNum},
+            {&JobEditor::getCableBundleGroupNum, &JobEditor::setCableBundleGroupNum},
+            {&JobEditor::getCableColor, &JobEditor::setCableColor},
         };
         JobEditor &job = JobEditor::Instance();
         job.addCable("C", "I", 2);
-        const QVector<Field> fields{{&JobEditor::getCableUse, &JobEditor::setCableUse},
-                                    {&JobEditor::getCableTo, &JobEditor::setCableTo},
-                                    {&JobEditor::getCableFrom, &JobEditor::setCableFrom},
-                                    {&JobEditor::getCableID, &JobEditor::setCableID},
-                                    {&JobEditor::getCableType, &JobEditor::setCableType},
-                                    {&JobEditor::getCableBundleName, &JobEditor::setCableBundleName},
-                                    {&JobEditor::getCableBundleNum, &JobEditor::setCableBundleNum},
-                                    {&JobEditor::getCableBundleGroupNum, &JobEditor::setCableBundleGroupNum},
-                                    {&JobEditor::getCableColor, &JobEditor::setCableColor}};
         for (int i = 0; i < fields.size(); ++i) {
             job.setDirty(false);
-            (job.*fields.at(i).set)("none", "x");
+            (job.*fields.at(i).second)("Any", "x");
             QVERIFY(!job.fileChanged());
-            (job.*fields.at(i).set)("C", QString::number(i));
+            (job.*fields.at(i).second)("C", QString::number(i));
             QVERIFY(job.fileChanged());
-            QCOMPARE((job.*fields.at(i).get)("none"), QString());
+            QCOMPARE((job.*fields.at(i).first)("Any"), QString());
         }
         for (int i = 0; i < fields.size(); ++i)
-            QCOMPARE((job.*fields.at(i).get)("C"), QString::number(i));
+            QCOMPARE((job.*fields.at(i).first)("C"), QString::number(i));
         QCOMPARE(job.getCablesByType("4"), QStringList("C"));
         QCOMPARE(job.getCables(false), QStringList("3"));
         job.setCablePath("C", {"a", "b"});
@@ -100,8 +97,8 @@ private Q_SLOTS:
         TestDef definition("T");
         definition.setLengthConstant(100);
         job.addTestDef(definition);
-        definition = TestDef("Half");
-        definition.setLengthConstant(200);
+        definition = TestDef("Third");
+        definition.setLengthConstant(300);
         job.addTestDef(definition);
         TestResults results;
         cable_struct block = cable_struct::untested();
@@ -119,8 +116,9 @@ private Q_SLOTS:
         QCOMPARE(job.getMaxRoundedCableLength("C", false, true), 328.0F);
         QCOMPARE(job.getMaxRoundedCableLength("C", true, true), 99.0F);
         QCOMPARE(job.getMaxRoundedCableLength("C", false, false), 328.0F);
-        job.setCableType("C", "Half");
-        QCOMPARE(job.getMaxRoundedCableLength("C", true, false), 50.0F);
+        job.setCableType("C", "Third");
+        QCOMPARE(job.getMaxRoundedCableLength("C", true, false), 33.5F);
+        QCOMPARE(job.getMaxRoundedCableLength("C", false, false), 109.3F);
         QCOMPARE(job.getMaxRoundedCableLength("none", false, true), 0.0F);
         QVERIFY(job.getMaxRoundedCableLength("C2", false, false) <= 0.0F);
         job.setCableTestResults("C", TestResults());
@@ -139,6 +137,7 @@ private Q_SLOTS:
         QCOMPARE(job.getCablesByPort("V1").join(','), QString("Cable2"));
         QCOMPARE(job.getCablesByFloor("FFloor_1").join(','), QString("Cable1,Cable2"));
         QCOMPARE(job.getCablesByStatus("PASS").join(','), QString("Cable1"));
+        QVERIFY(job.getCablesByStatus("FAIL").isEmpty());
         QCOMPARE(job.getCableStatus("Cable1") + job.getCableStatus("Cable2"), QString("PASS"));
         QCOMPARE(job.getPortIdByTag("P3") + job.getVertRunIdByTag("V1"), QString("Jack 1Riser"));
         job.removeCable("Cable2");

@@ -40,17 +40,6 @@ void fill(BKXMLEditor &document, int mark)
     document.addBundledCableType("bundle " + text, {"CAT5E"}, "#000000", false);
 }
 
-void compareContractorAndSettings(BKXMLEditor &a, BKXMLEditor &b)
-{
-    QVERIFY(a.getContractorData() == b.getContractorData());
-    for (const QString &report : reports)
-        QVERIFY2(a.getPrintSettings(report) == b.getPrintSettings(report), qPrintable(report));
-    for (const QString &drawing : drawings) {
-        QVERIFY2(a.getPageSettings(drawing) == b.getPageSettings(drawing), qPrintable(drawing));
-        QVERIFY2(a.getScaleSettings(drawing) == b.getScaleSettings(drawing), qPrintable(drawing));
-    }
-}
-
 } // namespace
 
 /// What jobs and templates give each other.
@@ -99,7 +88,13 @@ private Q_SLOTS:
         fill(job, 100);
         fill(bkt, 500);
         job.Import(&bkt);
-        compareContractorAndSettings(job, bkt);
+        QVERIFY(job.getContractorData() == bkt.getContractorData());
+        for (const QString &report : reports)
+            QVERIFY2(job.getPrintSettings(report) == bkt.getPrintSettings(report), qPrintable(report));
+        for (const QString &drawing : drawings) {
+            QVERIFY2(job.getPageSettings(drawing) == bkt.getPageSettings(drawing), qPrintable(drawing));
+            QVERIFY2(job.getScaleSettings(drawing) == bkt.getScaleSettings(drawing), qPrintable(drawing));
+        }
         QCOMPARE(job.getTestDefNames(), QStringList({"CAT5E", "own 100", "default 100", "own 500", "default 500"}));
         QCOMPARE(job.getTestDef("CAT5E").comment(), QString("100"));
         QVERIFY(job.getTestDef("own 500") == bkt.getTestDef("own 500"));

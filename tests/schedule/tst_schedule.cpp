@@ -6,9 +6,7 @@
 
 namespace {
 
-const QByteArray ends = "from_floor,from_room,from_port,to_floor,to_room,to_port";
-const QByteArray allColumns = "id,type,use," + ends + ",bundle,bundle_number,bundle_group,color\n";
-const QByteArray heading = "id," + ends + ",color\n";
+const QByteArray heading = "id,from_floor,from_room,from_port,to_floor,to_room,to_port,color\n";
 
 } // namespace
 
@@ -82,126 +80,82 @@ private Q_SLOTS:
         QVERIFY(!importSchedule(openJob(), m_directory.path()).error.isEmpty());
         openJob("<Job><Version number=\"3.0\"/></Job>");
         QVERIFY(summary(import(heading)).contains("site.job"));
-        QCOMPARE(exportSchedule(JobEditor::Instance()), allColumns);
+        QCOMPARE(exportSchedule(JobEditor::Instance()).count('\n'), 1);
     }
 
-    void importAddsWhatIsMissing()
-    {
-        const QByteArray schedule = "\xEF\xBB\xBF"
-                                    "color,use,"
-                                    + ends
-                                    + ",id,type\n"
-                                      "#123456,cable_box,Floor_1,Lab,1,Top,,1,A1,CAT6\n"
-                                      "\"\",data,Floor_1,Lab,1,Floor_1,Lab,2,A2,CAT6\n"
-                                      "\n"
-                                      ",,,,,Floor_1,Hall,1,A3\n";
-        JobEditor &job = openJob();
-        TestDef definition("CAT6");
-        definition.setColor("#abcdef");
-        job.addTestDef(definition);
-        job.save();
-        QCOMPARE(summary(import(schedule, true)), QString("1 2 4 3 0"));
-        QVERIFY(!job.fileChanged());
-        QCOMPARE(summary(import(schedule)), QString("1 2 4 3 0"));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-        QCOMPARE(exportSchedule(job), allColumns
-                                          + "A1,CAT6,TV,Floor_1,Lab,1,Top,,1,,,,#123456\n"
-                                            "A2,CAT6,data,Floor_1,Lab,1,Floor_1,Lab,2,,,,#abcdef\n"
-                                            "A3,,,,,,Floor_1,Hall,1,,,,#000000\n");
-        const Room lab = job.getRoomById("FFloor_1", "Lab");
-        const Room hall = job.getRoomById("FFloor_1", "Hall");
-        const QRectF labArea(lab.x(), lab.y(), lab.width(), lab.height());
-        QVERIFY(!labArea.intersects(QRectF(hall.x(), hall.y(), hall.width(), hall.height())));
-        const QStringList ports = job.getPorts("FFloor_1", lab.element(), true);
-        QCOMPARE(ports.size(), 2);
-        QVERIFY(labArea.contains(job.getPortPos(ports.at(0))) && labArea.contains(job.getPortPos(ports.at(1))));
-        QVERIFY(job.getPortPos(ports.at(0)) != job.getPortPos(ports.at(1)));
+    void imports_data() { addCases({"cases/schedule-imports.txt"}); }
 
-        job.save();
-        QCOMPARE(summary(import(schedule)), QString("0 0 0 0 0"));
-        QVERIFY(!job.fileChanged());
-    }
-
-    void importChangesWhatDiffers()
+    /// A job and a schedule; what the import counts, and the schedule of the job afterwards.
+    void imports()
     {
-        // Its cables lack attributes, one has an end that is not there and one ends at a vertical run.
-        JobEditor &job = openJob(testData("site.job"));
+        QFETCH(TestCase, testCase);
+        const auto endOfJob = testCase.given.indexOf("</Job>\n") + 7;
+        const QByteArray schedule = testCase.given.mid(endOfJob);
+        JobEditor &job = openJob(testCase.given.left(endOfJob));
         const QByteArray before = JobEditorProbe(job).text();
-        QCOMPARE(summary(import(exportSchedule(job))), QString("0 0 0 0 0"));
+        const QString counts = summary(import(schedule, true));
+        QCOMPARE(JobEditorProbe(job).text(), before);
         QVERIFY(!job.fileChanged());
-        QCOMPARE(JobEditorProbe(job).text(), before);
-
-        const QByteArray schedule = "id,use," + ends
-                                    + "\n"
-                                      "Cable001,voice,Ground,Lab,Riser,Ground,Lab,Jack 1\n"
-                                      "Cable002,voice,Ground,Lab,Riser,Upper,Undefined,Twin\n";
-        QCOMPARE(summary(import(schedule, true)), QString("0 0 1 0 2"));
-        QCOMPARE(JobEditorProbe(job).text(), before);
-        QCOMPARE(summary(import(schedule)), QString("0 0 1 0 2"));
+        QCOMPARE(summary(import(schedule)), counts);
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-        const Cable first = job.getCable("Cable1");
-        QCOMPARE(first.from(), QString("V1"));
-        QCOMPARE(first.use(), QString("voice"));
-        QCOMPARE(first.type(), QString("CAT5E"));
-        QCOMPARE(first.color(), QString("#112233"));
-        QCOMPARE(first.path(), QStringList({"Point1", "V1"}));
-        QCOMPARE(first.testResults().status(), QString("PASS"));
-        QCOMPARE(job.getCableUse("Cable2"), QString("voice"));
-        QCOMPARE(job.getPortIdByTag(job.getCableTo("Cable2")), QString("Twin"));
-        QCOMPARE(summary(import(schedule)), QString("0 0 0 0 0"));
-        QVERIFY(import(heading + "Cable001,,,,,,,\n").changed == 1 && job.getCableFrom("Cable1").isEmpty());
-    }
+        const QByteArray exported = exportSchedule(job);
+        QCOMPARE(QString(counts + '\n' + exported), QString(testCase.expected));
 
-    void floorsThatLackTheirRooms()
-    {
-        JobEditor &job =
-            openJob("<Job><Version number=\"3.0\"/><Cable_List/><Floor_List><F1 id=\"a\"/></Floor_List></Job>");
-        const QByteArray schedule = heading + "A1,a,,1,a,Lab,1,\n";
-        QCOMPARE(summary(import(schedule)), QString("0 1 2 1 0"));
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
-        QCOMPARE(summary(import(schedule)), QString("0 0 0 0 0"));
-    }
-
-    void roundTrip_data()
-    {
-        QTest::addColumn<QByteArray>("schedule");
-        QTest::addColumn<int>("cables");
-        const QByteArray example = readFile(CABLEDOC_EXAMPLES "/office/office.csv");
-        QVERIFY(example.count('\n') > 200);
-        QTest::newRow("example") << example << int(example.count('\n')) - 1;
-        QTest::newRow("texts that need quotation marks")
-            << allColumns
-                   + "\"A,1\",\"a \"\"b\"\"\",\" x\",\"\r\nTop\",\"\t\",\"1\n2\",Stra\xC3\x9F"
-                     "e,H\xC3\xA4ll,'1',\",\",2,3,#ff0000\n"
-            << 1;
-    }
-
-    void roundTrip()
-    {
-        QFETCH(QByteArray, schedule);
-        JobEditor &job = openJob();
-        QTEST(import(schedule).cables, "cables");
-        QCOMPARE(exportSchedule(job), schedule);
         QVERIFY(job.save());
+        QCOMPARE(summary(import(schedule)), QString("0 0 0 0 0"));
+        QCOMPARE(summary(import(exported)), QString("0 0 0 0 0"));
+        QVERIFY(!job.fileChanged());
         QVERIFY(job.Load(QString(job.filename())));
+        QCOMPARE(exportSchedule(job), exported);
+        JobEditor &other = openJob();
+        import(exported);
+        QCOMPARE(exportSchedule(other), exported);
+    }
+
+    void example()
+    {
+        const QByteArray schedule = readFile(CABLEDOC_EXAMPLES "/office/office.csv");
+        QVERIFY(schedule.count('\n') > 200);
+        JobEditor &job = openJob();
+        QCOMPARE(import(schedule).cables, int(schedule.count('\n')) - 1);
         QCOMPARE(exportSchedule(job), schedule);
     }
 
-    void whatNoScheduleCanSay()
+    void otherPropertiesOfAChangedCableStay()
     {
-        JobEditor &job =
-            openJob("<Job><Version number=\"3.0\"/><Cable_List><C1 id=\"A\" from=\"P1\" to=\"P2\" "
-                    "use=\"cable_box\" color=\"reddish\"/><C2 id=\"A\"/><C3/><C4 id=\"&#x20AC;\" from=\"P3\"/>"
-                    "</Cable_List><Floor_List><F1 id=\"Top\"><Room_List><R1 id=\"Undefined\"><Port_List>"
-                    "<P1 id=\"\"/><P2 id=\"1\"/><P3 id=\"&#x1F600;\"/></Port_List></R1></Room_List></F1>"
-                    "</Floor_List></Job>");
-        const QByteArray schedule = exportSchedule(job);
-        QCOMPARE(schedule, allColumns + "A,,TV,,,,Top,,1,,,,#000000\n?,,,Top,,?,,,,,,,#000000\n");
-        QCOMPARE(summary(import(schedule)), QString("0 0 0 0 0"));
-        QVERIFY(!job.fileChanged());
-        JobEditor &other = openJob();
-        QCOMPARE(import(schedule).cables, 2);
-        QCOMPARE(exportSchedule(other), schedule);
+        JobEditor &job = openJob(testData("site.job"));
+        QCOMPARE(summary(import(exportSchedule(job))), QString("0 0 0 0 0"));
+        QCOMPARE(JobEditorProbe(job).text(), testData("site.job"));
+        import("id,from_floor,from_room,from_port,to_floor,to_room,to_port\nCable001,,,,,,\n");
+        const Cable cable = job.getCable("Cable1");
+        QCOMPARE(cable.from() + cable.to(), QString());
+        QCOMPARE(cable.path(), QStringList({"Point1", "V1"}));
+        QCOMPARE(cable.testResults().status(), QString("PASS"));
+    }
+
+    /// New rooms and ports lie beside what is there.
+    void places()
+    {
+        JobEditor &job = openJob();
+        const QString lab = job.addRoom("FFloor_1", 0, 0, 900, 900, "", "Lab", 0, 0, 3, 3, 3, 1);
+        import(heading + "A1,Floor_1,Lab,1,Floor_1,Hall,1,\nA2,Floor_1,Lab,2,Floor_1,Store,1,\n");
+        import(heading + "A3,Floor_1,Lab,3,,,,\n");
+        QVector<QRectF> areas;
+        for (const char *id : {"Lab", "Hall", "Store"}) {
+            const Room room = job.getRoomById("FFloor_1", id);
+            const QRectF area(room.x(), room.y(), room.width(), room.height());
+            for (const QRectF &other : std::as_const(areas))
+                QVERIFY2(!area.intersects(other), id);
+            areas.append(area);
+        }
+        QVector<QPointF> places;
+        const QStringList ports = job.getPorts("FFloor_1", lab, true);
+        QCOMPARE(ports.size(), 3);
+        for (const QString &port : ports) {
+            const QPointF place = job.getPortPos(port);
+            QVERIFY(areas.constFirst().contains(place) && !places.contains(place));
+            places.append(place);
+        }
     }
 };
 
