@@ -122,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(job.getMaxRoundedCableLength("none", false, true), 0.0F);
         QVERIFY(job.getMaxRoundedCableLength("C2", false, false) <= 0.0F);
         job.setCableTestResults("C", TestResults());
-        QCOMPARE(job.getMaxRoundedCableLength("C", false, false), -0.5F);
+        QCOMPARE(job.getMaxRoundedCableLength("C", false, false), -0.3F);
     }
 
     void lists()
