@@ -80,6 +80,8 @@ private Q_SLOTS:
             QCOMPARE((job.*fields.at(i).first)("C"), QString::number(i));
         QCOMPARE(job.getCablesByType("4"), QStringList("C"));
         QCOMPARE(job.getCables(false), QStringList("3"));
+        job.setCableBundleName("C", QString());
+        QVERIFY(!job.cableIsInBundle("C"));
         job.setCablePath("C", {"a", "b"});
         QCOMPARE(job.getCablePath("C"), QStringList({"a", "b"}));
         // A cable of an older program has the attribute; it is changed but never created.

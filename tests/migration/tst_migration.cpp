@@ -93,28 +93,13 @@ private Q_SLOTS:
         QCOMPARE(readFile(fileName), isConvertedOnDisk ? expected : before);
         QVERIFY(!JobEditor::Instance().fileChanged());
         QVERIFY(!BktEditor::Instance().fileChanged());
+        QVERIFY(JobEditorProbe(JobEditor::Instance()).indexesMatchTheTree());
 
         for (int i = 0; i < 2; ++i) {
             QVERIFY(save(fileName));
             QCOMPARE(readFile(fileName), expected);
             QVERIFY(load(fileName));
         }
-    }
-
-    void jobIsReadyForWork()
-    {
-        const QString fileName = m_directory.filePath("work.job");
-        writeFile(fileName, testData("migration/job-1.1.job"));
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.Load(fileName));
-        QCOMPARE(job.getCables(true), QStringList("Cable1"));
-        QVERIFY(job.testDefExists("CAT5E"));
-        QCOMPARE(job.getRooms("FFloor_1", true), QStringList({"Room1", "Undefined"}));
-        job.removeRoom("FFloor_1", "Room1");
-        QCOMPARE(job.getPorts("FFloor_1", "Undefined", false), QStringList({"Jack 1", "Jack 2"}));
-        job.setSiteContact("Bo");
-        QCOMPARE(job.getSiteContact(), QString("Bo"));
-        QVERIFY(!job.addConnection(QString(), "Link", "a", "b", "1", 0).isEmpty());
     }
 
     void refusedFiles_data() { addCases({"cases/refused-files.txt"}); }

@@ -20,11 +20,6 @@ public:
     /// The document as it would be saved.
     QByteArray text() const { return cabledoc::xmlfile::toText(m_job.m_document, cabledoc::jobAttributeOrder()).bytes; }
     QDomElement root() const { return m_job.m_document.documentElement(); }
-    QDomElement floorElement(const QString &tag) const { return m_job.floorElement(tag); }
-    QDomElement roomElement(const QString &floorTag, const QString &tag) const
-    {
-        return m_job.roomElement(floorTag, tag);
-    }
     QStringList floorsInBetween(const QString &tagA, const QString &tagB) const
     {
         return m_job.getFloorsInBetween(tagA, tagB);

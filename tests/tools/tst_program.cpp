@@ -16,6 +16,7 @@ private:
         shell.setWorkingDirectory(folder);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
+        environment.insert("LC_ALL", "C.UTF-8");
         shell.setProcessEnvironment(environment);
         shell.start("sh", {"-c", command});
         if (!shell.waitForFinished() || shell.exitStatus() != QProcess::NormalExit)
