@@ -16,7 +16,7 @@ private:
         shell.setWorkingDirectory(folder);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
-        environment.insert("LC_ALL", "C.UTF-8");
+        environment.insert("LANGUAGE", "en"); // whatever language the rest of the test has
         shell.setProcessEnvironment(environment);
         shell.start("sh", {"-c", command});
         if (!shell.waitForFinished() || shell.exitStatus() != QProcess::NormalExit)
