@@ -2,19 +2,30 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <vector>
 
-/// What is compared with what: time of the first divided by the time of the second.
+/// What is compared with what: the time of the first divided by the time of the second.
 struct Ratio
 {
     std::string name;
     std::string reference;
+    double aim = 0; ///< what the ratio shall not exceed; 0 when nothing was promised
 };
 
-/// Reports times as usual and keeps them for the ratios.
+inline void printRatio(const Ratio &ratio, double value, const char *what = "takes")
+{
+    std::printf("%-26s %s %8.3g times as much as %s", ratio.name.c_str(), what, value, ratio.reference.c_str());
+    if (ratio.aim > 0)
+        std::printf("   (aim: %g, %s)", ratio.aim, value <= ratio.aim ? "met" : "MISSED");
+    std::printf("\n");
+}
+
+/// Reports times as usual and keeps the shortest of each benchmark for the ratios.
 class KeepingReporter : public benchmark::ConsoleReporter
 {
 public:
@@ -27,8 +38,16 @@ public:
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration)
-                m_times[run.benchmark_name()] = run.GetAdjustedCPUTime();
+            if (run.run_type != Run::RT_Iteration)
+                continue;
+            // Manual times are real ones: what waits for a disk uses no processor.
+            const std::string name =
+                run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
+            const bool isReal = !run.run_name.time_type.empty();
+            const double seconds = (isReal ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime())
+                                   / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            const auto kept = m_seconds.find(name);
+            m_seconds[name] = kept == m_seconds.end() ? seconds : std::min(kept->second, seconds);
         }
     }
 
@@ -36,20 +55,30 @@ public:
     {
         std::printf("\n");
         for (const Ratio &ratio : ratios) {
-            const auto time = m_times.find(ratio.name);
-            const auto reference = m_times.find(ratio.reference);
-            if (time != m_times.end() && reference != m_times.end()) {
-                std::printf("%-24s takes %9.3g times as long as %s\n", ratio.name.c_str(),
-                            time->second / reference->second, ratio.reference.c_str());
-            }
+            const auto time = m_seconds.find(ratio.name);
+            const auto reference = m_seconds.find(ratio.reference);
+            if (time != m_seconds.end() && reference != m_seconds.end())
+                printRatio(ratio, time->second / reference->second);
         }
     }
 
+    /// Adds a line for each benchmark to a file: its name and its seconds.
+    void appendTimes(const char *fileName) const
+    {
+        std::FILE *file = std::fopen(fileName, "a");
+        if (file == nullptr)
+            return;
+        for (const auto &[name, seconds] : m_seconds)
+            std::fprintf(file, "%s\t%g\n", name.c_str(), seconds);
+        std::fclose(file);
+    }
+
 private:
-    std::map<std::string, double> m_times;
+    std::map<std::string, double> m_seconds;
 };
 
-/// The main function of a benchmark: all of them in one run, then the ratios.
+/// The main function of a benchmark: all of them in one run, then the ratios. The times are also added to the file that
+/// CABLEDOC_BENCH_TIMES names.
 inline int runBenchmarks(int argc, char *argv[], const std::vector<Ratio> &ratios)
 {
     benchmark::Initialize(&argc, argv);
@@ -58,5 +87,7 @@ inline int runBenchmarks(int argc, char *argv[], const std::vector<Ratio> &ratio
     KeepingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.printRatios(ratios);
+    if (const char *fileName = std::getenv("CABLEDOC_BENCH_TIMES"))
+        reporter.appendTimes(fileName);
     return 0;
 }

@@ -912,6 +912,10 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <source>The document has more than one root element.</source>
         <translation>Das Dokument hat mehr als ein Wurzelelement.</translation>
     </message>
+    <message>
+        <source>Something that is no file has this name.</source>
+        <translation>Etwas, das keine Datei ist, hat diesen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

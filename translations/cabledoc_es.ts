@@ -912,6 +912,10 @@ de más de 330 ft (100 m).</translation>
         <source>The document has more than one root element.</source>
         <translation>El documento tiene más de un elemento raíz.</translation>
     </message>
+    <message>
+        <source>Something that is no file has this name.</source>
+        <translation>Algo que no es un archivo tiene este nombre.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

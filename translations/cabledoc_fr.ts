@@ -912,6 +912,10 @@ de plus de 330 ft (100 m).</translation>
         <source>The document has more than one root element.</source>
         <translation>Le document a plus d&apos;un élément racine.</translation>
     </message>
+    <message>
+        <source>Something that is no file has this name.</source>
+        <translation>Quelque chose qui n&apos;est pas un fichier porte ce nom.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

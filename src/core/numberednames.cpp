@@ -31,7 +31,8 @@ template <typename Use> void forEachReading(const QString &name, int minimumDigi
 int numberAfter(const QString &prefix, const QString &name)
 {
     const auto position = name.lastIndexOf(prefix);
-    if (position < 0)
+    // Where the last empty text stands depends on the version of Qt.
+    if (position < 0 || prefix.isEmpty())
         return 0;
     const QString number = name.mid(position + prefix.size());
     const bool isDigits = std::all_of(number.cbegin(), number.cend(),

@@ -2,6 +2,7 @@
 
 #include "qtcompat.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -10,6 +11,7 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace cabledoc::xmlfile {
@@ -50,6 +52,20 @@ QString systemError()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
+/// Why the file cannot be replaced by another one: it is a device, a pipe, or a link that leads nowhere in a circle. An
+/// empty text when it can, or is not there.
+QString obstacle(const QString &fileName)
+{
+    struct stat status
+    {
+    };
+    if (::stat(QFile::encodeName(fileName).constData(), &status) != 0)
+        return errno == ENOENT ? QString() : systemError();
+    return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)
+               ? QString()
+               : QCoreApplication::translate("XmlFile", "Something that is no file has this name.");
+}
+
 /// Makes a rename within the folder survive a power cut. A folder that may not be read cannot be
 /// synced; the file itself is safe then.
 QString syncFolder(const QString &folder)
@@ -66,6 +82,9 @@ QString syncFolder(const QString &folder)
 
 QString write(const QString &fileName, const QByteArray &bytes)
 {
+    const QString reason = obstacle(fileName);
+    if (!reason.isEmpty())
+        return reason;
     QSaveFile file(fileName);
     // Unbuffered and with every result looked at: QSaveFile by itself moves a torn file into place when
     // the disk fills up while it empties its buffer.

@@ -19,7 +19,7 @@ bool continuesName(char16_t c)
 
 bool cabledoc::isXmlName(const QString &text)
 {
-    return !text.isEmpty() && startsName(text.at(0).unicode())
+    return !text.isEmpty() && text.size() <= maximumNameLength && startsName(text.at(0).unicode())
            && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return continuesName(c.unicode()); });
 }
 

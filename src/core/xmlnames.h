@@ -4,8 +4,11 @@
 
 namespace cabledoc {
 
+/// The parser refuses names of more than 4,096 characters.
+constexpr int maximumNameLength = 4000;
+
 /// Whether the text can name an element or attribute of a file: an XML name without a colon, of
-/// Latin-1 characters only, since names cannot be escaped.
+/// Latin-1 characters only, since names cannot be escaped, and not too long.
 bool isXmlName(const QString &text);
 
 /// Whether the files' encoding and XML 1.0 can both carry the character.

@@ -197,7 +197,9 @@ private:
             const QDomProcessingInstruction instruction = node.toProcessingInstruction();
             m_text.bytes += "<?";
             append(instruction.target(), Escape::Nothing);
-            m_text.bytes += ' ';
+            // The parser lets some targets pass that it refuses with a blank behind them.
+            if (!instruction.data().isEmpty())
+                m_text.bytes += ' ';
             append(instruction.data(), Escape::Nothing);
             m_text.bytes += "?>";
         }

@@ -3,6 +3,7 @@
 #include "words.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace cabledoc {
 
@@ -25,9 +26,26 @@ NumberedNames::Names namesWithPrefix(const QString &prefix, Iterator first, Iter
 
 } // namespace
 
-void ElementIndex::clear()
+void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
     *this = ElementIndex(m_idDigits);
+    // What is sorted before is added at the end, without a search for each.
+    std::vector<std::pair<QString, int>> tags;
+    tags.reserve(std::size_t(elements.size()));
+    for (int position = 0; position < elements.size(); ++position)
+        tags.emplace_back(elements.at(position).tagName(), position);
+    std::stable_sort(tags.begin(), tags.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    std::vector<std::pair<QString, QString>> ids;
+    ids.reserve(tags.size());
+    for (const auto &[tag, position] : tags) {
+        const QDomElement &element = elements.at(position);
+        const auto entry = m_entries.insert(m_entries.end(), {tag, {idOf(element), element}});
+        if (isFirst(entry))
+            ids.emplace_back(entry->second.id, tag);
+    }
+    // By tag they are in order.
+    std::stable_sort(ids.begin(), ids.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    m_ids = {ids.begin(), ids.end()};
 }
 
 void ElementIndex::append(const QDomElement &element)

@@ -26,7 +26,8 @@ public:
     {
     }
 
-    void clear();
+    /// Takes these elements, given in document order, for those that it had.
+    void rebuild(const QVector<QDomElement> &elements);
     /// Adds an element that comes behind all elements of its tag in document order.
     void append(const QDomElement &element);
     void remove(const QDomElement &element);

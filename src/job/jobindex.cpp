@@ -93,12 +93,12 @@ void JobIndex::rebuild(ElementKind kind, const QDomElement &root)
     case ElementKind::Count:
         return;
     }
-    ElementIndex &index = (*this)[kind];
-    index.clear();
+    Elements inOrder;
     for (const QDomElement &container : std::as_const(containers)) {
         for (const QDomElement &element : ChildElements(container))
-            index.append(element);
+            inOrder.append(element);
     }
+    (*this)[kind].rebuild(inOrder);
 }
 
 ReferenceIndex &JobIndex::allReferences(const QDomElement &root)

@@ -1,4 +1,5 @@
 #include "jobeditorprobe.h"
+#include "testlanguage.h"
 
 #include <QtTest/QtTest>
 
@@ -23,7 +24,7 @@ private Q_SLOTS:
         block.pair_length.fill(2);
         results.setResults(block);
         Cable cable("C", "Id", "data", "P1", "P2", "CAT6", results, {"Point1", "Point2"}, "B", "1", "2", "#010203");
-        QCOMPARE(job.addCable(cable, 0), QString("Cable001"));
+        QCOMPARE(job.addCable(cable, 0), QString(withGeneratedNames("Cable001")));
         QCOMPARE(job.getCableElement("Cable1"), QString("Cable1"));
         QCOMPARE(job.addCable(cable, 2), QString("Id"));
         QVERIFY(job.getCable("C") == cable);

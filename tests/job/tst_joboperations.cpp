@@ -1,5 +1,6 @@
 #include "jobeditorprobe.h"
 #include "testcases.h"
+#include "testlanguage.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -26,7 +27,7 @@ private:
         words.replaceInStrings(QRegularExpression("^-$"), "");
         const auto word = [&words](int position) { return words.value(position); };
         const auto number = [&words](int position) { return words.value(position).toInt(); };
-        const QMap<QString, QString> cableIds{{"Cable001", words.value(3, "unasked")}};
+        const QMap<QString, QString> cableIds{{withGeneratedNames("Cable001"), words.value(3, "unasked")}};
         const TestResults results("now", word(2), "2", "S", cable_struct::untested(), 1);
         const QHash<QString, std::function<void()>> operations{
             {"addCable", [&] { job.addCable(word(2), word(3), number(1)); }},
@@ -81,6 +82,8 @@ private Q_SLOTS:
     void operations()
     {
         QFETCH(TestCase, testCase);
+        testCase.given = withGeneratedNames(testCase.given);
+        testCase.expected = withGeneratedNames(testCase.expected);
         const QByteArray expected = JobEditorProbe(load(testCase.expected)).text();
         const QByteArray content = testCase.given.mid(testCase.given.indexOf('<'));
         JobEditor &job = load(content);

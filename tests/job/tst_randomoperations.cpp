@@ -144,7 +144,9 @@ private:
         const QString tag = job.getCables(true).constLast();
         QCOMPARE(job.getCables(false).constLast(), id);
         if (mode != 1 && mode != 2)
-            QVERIFY2(!ids.contains(id) && QRegularExpression("^Cable[0-9]{3,}$").match(id).hasMatch(), qPrintable(id));
+            QVERIFY2(!ids.contains(id)
+                         && QRegularExpression('^' + JobEditor::tr("Cable") + "[0-9]{3,}$").match(id).hasMatch(),
+                     qPrintable(id));
         if (mode == 2 || mode == 3)
             QCOMPARE(tag, cable.tag());
         else

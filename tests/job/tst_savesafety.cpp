@@ -1,3 +1,4 @@
+#include "failingcalls.h"
 #include "jobeditorprobe.h"
 
 #include <QtCore/QDir>
@@ -5,10 +6,14 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <functional>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,7 +42,51 @@ void nameFloors(JobEditor &job, const QString &name)
     }
 }
 
+/// The process without the rights of the administrator, who may do everything, as long as this lives. It owns the files
+/// and folders named.
+class OrdinaryUser
+{
+public:
+    explicit OrdinaryUser(const QStringList &files)
+    {
+        if (!m_isRoot)
+            return;
+        bool isDone = true;
+        for (const QString &file : files) {
+            if (QFile::exists(file))
+                isDone = isDone && chown(QFile::encodeName(file).constData(), nobody, nobody) == 0;
+        }
+        if (!isDone || setresuid(nobody, nobody, 0) != 0)
+            qFatal("cannot become an ordinary user");
+    }
+    ~OrdinaryUser()
+    {
+        if (m_isRoot && setresuid(0, 0, 0) != 0)
+            qFatal("cannot become the administrator again");
+    }
+    Q_DISABLE_COPY(OrdinaryUser)
+
+private:
+    static constexpr uid_t nobody = 65534;
+    const bool m_isRoot = geteuid() == 0;
+};
+
+/// What is in a folder, or in the file that is in its place; nothing when neither is there.
+QByteArray contentOf(const QString &folder)
+{
+    if (QFileInfo(folder).isFile())
+        return readFile(folder);
+    QByteArray content;
+    const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot;
+    const QFileInfoList files = QDir(folder).entryInfoList(all);
+    for (const QFileInfo &file : files)
+        content += file.fileName().toUtf8() + '\n' + (file.isFile() ? readFile(file.filePath()) : QByteArray());
+    return content;
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(const QString &)>)
 
 /// Whatever happens during a save, the file holds the old or the new content, whole, and the save says
 /// which.
@@ -76,6 +125,7 @@ private:
 private Q_SLOTS:
     void cleanupTestCase() { JobEditor::Destroy(); }
 
+    /// CABLEDOC_TEST_KILLS sets how often.
     void killedWhileSaving()
     {
         const QString fileName = m_directory.filePath("killed.job");
@@ -84,7 +134,9 @@ private Q_SLOTS:
         QVERIFY(JobEditor::Instance().save());
         const QByteArray second = readFile(fileName);
         QVERIFY(first != second);
-        for (int kill = 0; kill < 40; ++kill) {
+        bool isNumber = false;
+        const int kills = qEnvironmentVariableIntValue("CABLEDOC_TEST_KILLS", &isNumber);
+        for (int kill = 0; kill < (isNumber ? kills : 40); ++kill) {
             QProcess process;
             process.start(QCoreApplication::applicationFilePath(), {"--save-forever", fileName});
             QVERIFY(process.waitForReadyRead());
@@ -114,6 +166,112 @@ private Q_SLOTS:
         }
         QVERIFY(JobEditor::Instance().save());
         QVERIFY(readFile(JobEditor::Instance().filename()) != before);
+    }
+
+    void failingCalls_data()
+    {
+        QTest::addColumn<int>("call");
+        QTest::addColumn<int>("error");
+        QTest::newRow("write: disk full") << int(failingcalls::Write) << ENOSPC;
+        QTest::newRow("write: short") << int(failingcalls::Write) << 0;
+        QTest::newRow("write: broken disk") << int(failingcalls::Write) << EIO;
+        QTest::newRow("fsync") << int(failingcalls::Fsync) << EIO;
+        QTest::newRow("rename") << int(failingcalls::Rename) << EACCES;
+    }
+
+    /// One call after the other fails, until a save makes none that fails.
+    void failingCalls()
+    {
+        QFETCH(int, call);
+        QFETCH(int, error);
+        const auto function = failingcalls::Call(call);
+        prepare(m_directory.filePath("calls.job"));
+        JobEditor &job = JobEditor::Instance();
+        const QByteArray before = readFile(job.filename());
+        const QByteArray after = JobEditorProbe(job).text();
+        const QStringList files = QDir(m_directory.path()).entryList(QDir::Files);
+        int failures = 0;
+        for (int number = 1; job.fileChanged(); ++number) {
+            failingcalls::fail(function, number, error);
+            job.error().clear();
+            const bool isSaved = job.save();
+            const int made = failingcalls::made(function);
+            failingcalls::fail(function, 0, 0);
+            QCOMPARE(isSaved, made < number);
+            QCOMPARE(job.fileChanged(), !isSaved);
+            QCOMPARE(job.error().isEmpty(), isSaved);
+            const QByteArray content = readFile(job.filename());
+            // When the folder cannot be brought to the disk the new content is in place, but may not stay there.
+            QVERIFY(content == after || (!isSaved && content == before));
+            QCOMPARE(QDir(m_directory.path()).entryList(QDir::Files), files);
+            failures += isSaved ? 0 : 1;
+        }
+        QVERIFY(failures > 0);
+    }
+
+    void places_data()
+    {
+        QTest::addColumn<std::function<void(const QString &)>>("change");
+        QTest::addColumn<bool>("isSaved");
+        const auto row = [](const char *name, bool isSaved, const std::function<void(const QString &)> &change) {
+            QTest::newRow(name) << change << isSaved;
+        };
+        const auto permit = [](const QString &name, mode_t mode) {
+            QCOMPARE(chmod(QFile::encodeName(name).constData(), mode), 0);
+        };
+        row("as it was", true, [](const QString &) {});
+        row("file taken away", true, [](const QString &file) { QVERIFY(QFile::remove(file)); });
+        row("read-only file", false, [permit](const QString &file) { permit(file, 0444); });
+        row("read-only folder", false, [permit](const QString &file) { permit(QFileInfo(file).path(), 0555); });
+        row("folder taken away", false, [](const QString &file) { QDir(QFileInfo(file).path()).removeRecursively(); });
+        row("folder in its place", false,
+            [](const QString &file) { QVERIFY(QFile::remove(file) && QDir().mkdir(file)); });
+        row("file in the place of its folder", false, [](const QString &file) {
+            QDir(QFileInfo(file).path()).removeRecursively();
+            writeFile(QFileInfo(file).path(), "precious");
+        });
+        row("pipe in its place", false, [](const QString &file) {
+            QVERIFY(QFile::remove(file));
+            QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0666), 0);
+        });
+        row("link to a file", true, [](const QString &file) {
+            QVERIFY(QFile::rename(file, file + ".real") && QFile::link(file + ".real", file));
+        });
+        row("link to nothing", true,
+            [](const QString &file) { QVERIFY(QFile::remove(file) && QFile::link(file + ".gone", file)); });
+        row("link to itself", false,
+            [](const QString &file) { QVERIFY(QFile::remove(file) && QFile::link(file, file)); });
+    }
+
+    /// What happens to the file or its folder between load and save.
+    void places()
+    {
+        using Change = std::function<void(const QString &)>;
+        QFETCH(Change, change);
+        QFETCH(bool, isSaved);
+        const QString folder = m_directory.filePath("place");
+        QFile::remove(folder);
+        QDir(folder).removeRecursively();
+        QVERIFY(QDir().mkdir(folder));
+        prepare(folder + "/site.job");
+        JobEditor &job = JobEditor::Instance();
+        change(job.filename());
+        if (QTest::currentTestFailed())
+            return;
+        const bool wasLink = QFileInfo(job.filename()).isSymLink();
+        const QByteArray before = contentOf(folder);
+        job.error().clear();
+        {
+            const OrdinaryUser user({m_directory.path(), folder, job.filename()});
+            QCOMPARE(job.save(), isSaved);
+        }
+        QCOMPARE(job.fileChanged(), !isSaved);
+        QCOMPARE(job.error().isEmpty(), isSaved);
+        QCOMPARE(QFileInfo(job.filename()).isSymLink(), wasLink);
+        if (isSaved)
+            QCOMPARE(readFile(job.filename()), JobEditorProbe(job).text());
+        else
+            QCOMPARE(contentOf(folder), before);
     }
 
     void diskFull()

@@ -151,7 +151,8 @@ private Q_SLOTS:
         QVERIFY(bkt.New(path("before.bkt")));
         for (const QString &name : {QString(), QString(".bkt"), m_directory.path()}) {
             QVERIFY(!job.Export(name));
-            QCOMPARE(job.error(), QString(name.size() > 4 ? "Filename given is a directory" : "Filename is Empty"));
+            QCOMPARE(job.error(),
+                     JobEditor::tr(name.size() > 4 ? "Filename given is a directory" : "Filename is Empty"));
             QCOMPARE(bkt.filename(), path("before.bkt"));
         }
         QVERIFY(!job.Export(path("none/shop.bkt")));

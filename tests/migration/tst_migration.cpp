@@ -1,6 +1,7 @@
 #include "bkteditor.h"
 #include "jobeditorprobe.h"
 #include "testcases.h"
+#include "testlanguage.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
@@ -57,6 +58,20 @@ class MigrationTest : public QObject
 
 private:
     QTemporaryDir m_directory;
+
+    /// Why a file is refused, in the test's language.
+    static QString reason(const QString &english, const QString &root, const QString &fileName)
+    {
+        if (english.contains("checkVersion"))
+            return english;
+        const QByteArray context = root.toLatin1() + "Editor";
+        const QRegularExpression parseError("^(.*) FILE\n on line (\\d+),\n column (\\d+),\n(.*)$");
+        const QRegularExpressionMatch match = parseError.match(english);
+        if (!match.hasMatch())
+            return translated(context, QString(english).replace("FILE", "%1")).arg(fileName);
+        return translated(context, match.captured(1) + " %1\n on line %2,\n column %3,\n%4")
+            .arg(fileName, match.captured(2), match.captured(3), translated("QXmlStream", match.captured(4)));
+    }
 
 private Q_SLOTS:
     void cleanup()
@@ -118,9 +133,9 @@ private Q_SLOTS:
             writeFile(fileName, content);
             QVERIFY(!load(fileName));
             QCOMPARE(document(fileName).filename(), fileName);
-            QString error = testCase.expectedText().replace("KIND", kind).replace("FILE", fileName);
+            QString error = reason(testCase.expectedText().replace("KIND", kind), root, fileName);
             if (isRead)
-                error = root == "Job" ? "Incompatible version of job file " + fileName
+                error = root == "Job" ? JobEditor::tr("Incompatible version of job file %1").arg(fileName)
                                       : QString("Incompatible version of Bkt file");
             QCOMPARE(document(fileName).error(), error);
             // What was not read whole is never written over the file that it came from.
@@ -131,7 +146,11 @@ private Q_SLOTS:
         QVERIFY(JobEditorProbe(JobEditor::Instance()).indexesMatchTheTree());
         if (isRead) {
             QVERIFY(!BktEditor::Instance().checkVersion());
-            QCOMPARE(BktEditor::Instance().error() + '\n', QString(testCase.expected));
+            QString verdict = testCase.expected.chopped(1);
+            const QString badVersion = " is a bad version number in BktEditor::checkVersion.";
+            if (verdict.endsWith(badVersion))
+                verdict = translated("BktEditor", "%1" + badVersion).arg(verdict.chopped(badVersion.size()));
+            QCOMPARE(BktEditor::Instance().error(), verdict);
         }
     }
 

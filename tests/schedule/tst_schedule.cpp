@@ -1,6 +1,7 @@
 #include "jobeditorprobe.h"
 #include "schedule.h"
 #include "testcases.h"
+#include "testlanguage.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -138,8 +139,9 @@ private Q_SLOTS:
     {
         JobEditor &job = openJob();
         const QString lab = job.addRoom("FFloor_1", 0, 0, 900, 900, "", "Lab", 0, 0, 3, 3, 3, 1);
-        import(heading + "A1,Floor_1,Lab,1,Floor_1,Hall,1,\nA2,Floor_1,Lab,2,Floor_1,Store,1,\n");
-        import(heading + "A3,Floor_1,Lab,3,,,,\n");
+        const QByteArray cables = "A1,Floor_1,Lab,1,Floor_1,Hall,1,\nA2,Floor_1,Lab,2,Floor_1,Store,1,\n";
+        import(heading + withGeneratedNames(cables));
+        import(heading + withGeneratedNames("A3,Floor_1,Lab,3,,,,\n"));
         QVector<QRectF> areas;
         for (const char *id : {"Lab", "Hall", "Store"}) {
             const Room room = job.getRoomById("FFloor_1", id);

@@ -18,7 +18,11 @@ public:
     }
 
     /// The document as it would be saved.
-    QByteArray text() const { return cabledoc::xmlfile::toText(m_job.m_document, cabledoc::jobAttributeOrder()).bytes; }
+    cabledoc::xmlfile::Text savedText() const
+    {
+        return cabledoc::xmlfile::toText(m_job.m_document, cabledoc::jobAttributeOrder());
+    }
+    QByteArray text() const { return savedText().bytes; }
     QDomElement root() const { return m_job.m_document.documentElement(); }
     QStringList floorsInBetween(const QString &tagA, const QString &tagB) const
     {

@@ -2,7 +2,7 @@
 
 #include "translations.h"
 
-#include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTranslator>
 
 #include <clocale>
@@ -40,6 +40,16 @@ void setUpLanguage()
 }
 
 } // namespace
+
+QByteArray withGeneratedNames(const QByteArray &text)
+{
+    QString names = QString::fromLatin1(text);
+    // Tags are the same in all languages, and so are those of lists.
+    names.replace(QRegularExpression("(?<![</\\w])Cable(?=[0-9]{3})"), translated("JobEditor", "Cable"));
+    names.replace(QRegularExpression("(?<![\\w])Floor_(?=[0-9])"), translated("JobEditor", "Floor_"));
+    names.replace(QRegularExpression("(?<![\\w])Sheet_(?=[0-9])"), translated("JobEditor", "Sheet_"));
+    return names.toLatin1();
+}
 
 void useLanguage(const QLocale &locale)
 {

@@ -56,14 +56,14 @@ private Q_SLOTS:
     {
         BktEditor &bkt = BktEditor::Instance();
         QVERIFY(!bkt.New(QString()));
-        QCOMPARE(bkt.error(), QString("Unable to create template with NULL filename"));
+        QCOMPARE(bkt.error(), BktEditor::tr("Unable to create template with NULL filename"));
         QVERIFY(bkt.New(""));
         for (const QString &name : {QString(), QString(".bkt")}) {
             bkt.setFilename(name);
             QVERIFY(!bkt.save());
-            QCOMPARE(bkt.error(), QString("Filename is empty."));
+            QCOMPARE(bkt.error(), BktEditor::tr("Filename is empty."));
             QVERIFY(!bkt.saveAs(name));
-            QCOMPARE(bkt.error(), QString("Unable to Save file (NULL)"));
+            QCOMPARE(bkt.error(), BktEditor::tr("Unable to Save file (NULL)"));
         }
         QVERIFY(BktEditor::checkBktExtension("/x.job/shop.Bkt"));
         QVERIFY(!BktEditor::checkBktExtension("shop.bkt.bak"));
@@ -92,10 +92,10 @@ private Q_SLOTS:
         BktEditor &bkt = BktEditor::Instance();
         QVERIFY(bkt.New(path("before.bkt")));
         QVERIFY(!bkt.Load(QString()));
-        QCOMPARE(bkt.error(), QString("Empty or null filename in BktEditor::Load"));
+        QCOMPARE(bkt.error(), BktEditor::tr("Empty or null filename in BktEditor::Load"));
         QCOMPARE(bkt.filename(), path("before.bkt"));
         QVERIFY(!bkt.Load(path("missing.bkt")));
-        QCOMPARE(bkt.error(), "Bkt file " + path("missing.bkt") + " does not exist");
+        QCOMPARE(bkt.error(), BktEditor::tr("Bkt file %1 does not exist").arg(path("missing.bkt")));
         QVERIFY(!bkt.Load(m_directory.path()));
         QVERIFY(!bkt.error().contains("missing"));
         QCOMPARE(bkt.filename(), m_directory.path());

@@ -1,0 +1,29 @@
+// The text forms of test data: what any text becomes has a text of its own, which is read as what has the same text.
+
+#include "fuzzing.h"
+
+#include "testencoding.h"
+
+namespace {
+
+template <typename Value> void readAndWrite(const QString &text)
+{
+    Value value{};
+    cabledoc::fromText(text, &value);
+    const QString written = cabledoc::toText(value);
+    cabledoc::fromText(written, &value);
+    expect(cabledoc::toText(value) == written, "a text that was written is read as it stands");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QString text = QString::fromLatin1(reinterpret_cast<const char *>(data), int(size));
+    readAndWrite<cable_struct>(text);
+    readAndWrite<TRUEPHY_PLOT_DATA>(text);
+    std::array<bool, 4> flags{};
+    expect(!cabledoc::fromText(text, &flags) || text.startsWith(cabledoc::toText(flags)),
+           "flags are read as they stand");
+    return 0;
+}

@@ -1,0 +1,165 @@
+#include "everyquery.h"
+#include "jobeditorprobe.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+namespace {
+
+/// How much bigger the big files are made than by default: CABLEDOC_TEST_SCALE.
+int scale()
+{
+    bool isNumber = false;
+    const int number = qEnvironmentVariableIntValue("CABLEDOC_TEST_SCALE", &isNumber);
+    return isNumber ? number : 1;
+}
+
+QByteArray job(const QByteArray &content)
+{
+    return "<Job><Version number='3.0'/>" + content + "</Job>";
+}
+
+} // namespace
+
+/// Files that no program of ours wrote: each is refused with a reason, or becomes a job that answers every query and
+/// whose saved text is loaded as the same job. CTest ends a test that takes for ever.
+class HostileFilesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+
+    /// Some file systems wait for the disk when a file is emptied and written again.
+    static void writeNewFile(const QString &fileName, const QByteArray &content)
+    {
+        QFile::remove(fileName);
+        writeFile(fileName, content);
+    }
+
+    /// What is wrong with what becomes of the file; empty when nothing is.
+    QString faultOf(const QByteArray &content, bool *isLoaded = nullptr)
+    {
+        const QString fileName = m_directory.filePath("hostile.job");
+        writeNewFile(fileName, content);
+        JobEditor &editor = JobEditor::Instance();
+        const JobEditorProbe probe(editor);
+        editor.error().clear();
+        const bool loaded = editor.Load(fileName);
+        if (isLoaded != nullptr)
+            *isLoaded = loaded;
+        if (!loaded)
+            return editor.error().isEmpty() ? "refused without a reason" : QString();
+        callEveryQuery(editor);
+        if (!probe.indexesMatchTheTree())
+            return "an index differs from its rebuild";
+        const QByteArray text = probe.text();
+        writeNewFile(fileName, text);
+        if (!editor.Load(fileName) || probe.text() != text)
+            return "not loaded as it was saved: " + editor.error();
+        return QString();
+    }
+
+private Q_SLOTS:
+    void cleanupTestCase() { JobEditor::Destroy(); }
+
+    void everyByteInEveryPlace()
+    {
+        const QByteArray text = job("<!--c--><?p d?><Cable_List><C1 id=\"a&amp;\" to='b'/>t<![CDATA[s]]></Cable_List>");
+        for (int place = 0; place < text.size(); ++place) {
+            for (int byte = 0; byte < 256; ++byte) {
+                QByteArray changed = text;
+                changed[place] = char(byte);
+                const QString fault = faultOf(changed);
+                QVERIFY2(fault.isEmpty(), qPrintable(QString("%1 in place %2: %3").arg(byte).arg(place).arg(fault)));
+            }
+        }
+    }
+
+    void cutOffAtEveryByte()
+    {
+        const QByteArray text = testData("site.job");
+        for (int size = 0; size < text.size(); ++size) {
+            bool isLoaded = false;
+            const QString fault = faultOf(text.left(size), &isLoaded);
+            QVERIFY2(fault.isEmpty(), qPrintable(QString("%1 bytes: %2").arg(size).arg(fault)));
+            // Only the last line break may go.
+            QCOMPARE(isLoaded, size == text.size() - 1);
+        }
+    }
+
+    /// Each attribute with each of the values that are no number, or one out of range.
+    void oddValues()
+    {
+        const QByteArrayList values{
+            "",         "-1",  "1e999", "-1e999", "nan",      "inf",    "-2147483649", "99999999999999999999",
+            "0.1e-999", "1,5", "0x10",  " 1 ",    "\xff\xfe", "a,,b,,", "&#x20AC;",    QByteArray(10000, '9')};
+        const QString text = QString::fromLatin1(testData("site.job"));
+        auto attribute = QRegularExpression(" \\w+=\"([^\"]*)\"").globalMatch(text);
+        while (attribute.hasNext()) {
+            const QRegularExpressionMatch match = attribute.next();
+            for (const QByteArray &value : values) {
+                QByteArray changed = text.toLatin1();
+                changed.replace(int(match.capturedStart(1)), int(match.capturedLength(1)), value);
+                const QString fault = faultOf(changed);
+                QVERIFY2(fault.isEmpty(), qPrintable(match.captured() + " as " + value.left(30) + ": " + fault));
+            }
+        }
+    }
+
+    void unknownVersions()
+    {
+        const QByteArrayList versions{"", "3", "3.00", " 3.0", "03.0", "2.0", "4.0", "-3.0", "3.0\xa0", "nan", "30"};
+        for (const QByteArray &version : versions) {
+            bool isLoaded = true;
+            QCOMPARE(faultOf("<Job><Version number='" + version + "'/></Job>", &isLoaded), QString());
+            QVERIFY2(!isLoaded, version.constData());
+        }
+    }
+
+    void bigFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isLoaded");
+        const int many = 50000 * scale();
+        const auto elements = [many](const QByteArray &form) {
+            QByteArray all;
+            for (int i = 0; i < many; ++i)
+                all += QByteArray(form).replace("%1", QByteArray::number(i));
+            return all;
+        };
+        const auto row = [](const char *name, const QByteArray &content, bool isLoaded) {
+            QTest::newRow(name) << job(content) << isLoaded;
+        };
+        row("cables", "<Cable_List>" + elements("<C%1 id='%1'/>") + "</Cable_List>", true);
+        row("cables of one tag", "<Cable_List>" + elements("<C id='%1'/>") + "</Cable_List>", true);
+        row("cables of one id", "<Cable_List>" + elements("<C%1 id='a'/>") + "</Cable_List>", true);
+        row("lists of cables", elements("<Cable_List><C%1/></Cable_List>"), true);
+        row("rooms of one tag and id",
+            "<Floor_List><F><Room_List>" + elements("<R id='a'><Port_List><P/></Port_List></R>")
+                + "</Room_List></F></Floor_List>",
+            true);
+        row("floors", "<Floor_List>" + elements("<F%1 id='%1'/>") + "</Floor_List>", true);
+        row("long path", "<Cable_List><C path='" + elements("P%1,") + "'/></Cable_List>", true);
+        row("comments", elements("<!--%1-->"), true);
+        row("long value", "<Other a='" + QByteArray(10000000 * scale(), 'x') + "'/>", true);
+        row("value to be escaped", "<Other a='" + elements("&amp;&#13;") + "'/>", true);
+        row("long text", "<Other>" + QByteArray(10000000 * scale(), 'x') + "</Other>", true);
+        row("long name", '<' + QByteArray(4000, 'x') + "/>", true);
+        row("very long name", '<' + QByteArray(1000000 * scale(), 'x') + "/>", false);
+        row("attributes", "<Other" + elements(" a%1=''") + "/>", false);
+        row("levels", QByteArray("<a>").repeated(many) + QByteArray("</a>").repeated(many), false);
+    }
+
+    void bigFiles()
+    {
+        QFETCH(QByteArray, content);
+        bool isLoaded = false;
+        QCOMPARE(faultOf(content, &isLoaded), QString());
+        QTEST(isLoaded, "isLoaded");
+    }
+};
+
+QTEST_GUILESS_MAIN(HostileFilesTest)
+#include "tst_hostilefiles.moc"
