@@ -1,5 +1,5 @@
-// What one operation on one cable costs in jobs of 1,000 and of 100,000 cables, and what it costs to walk to
-// the cable from sibling to sibling.
+// What one operation on one cable costs in jobs of 1,000 to 100,000 cables, and what it costs to walk to the cable from
+// sibling to sibling; and what it costs to read all fields of all of 10,000 cables in both ways.
 
 #include "ratios.h"
 
@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int smallJob = 1000;
+constexpr int middleJob = 10000;
 constexpr int bigJob = 100000;
 
 /// Makes the one job hold that many cables; the ids run past three digits in both.
@@ -80,6 +81,12 @@ void findById(benchmark::State &state)
             [](JobEditor &job, const QString &id) { benchmark::DoNotOptimize(job.cableExists(id, false)); });
 }
 
+void exists(benchmark::State &state)
+{
+    measure(state, true,
+            [](JobEditor &job, const QString &tag) { benchmark::DoNotOptimize(job.cableExists(tag, true)); });
+}
+
 void readById(benchmark::State &state)
 {
     measure(state, false,
@@ -96,14 +103,50 @@ void rename(benchmark::State &state)
     measure(state, true, [](JobEditor &job, const QString &tag) { job.setCableID(tag, job.getCableID(tag)); });
 }
 
+QString attributeByWalk(JobEditor &job, const QString &tag, const QString &attribute)
+{
+    QDomElement cable = job.getToCableList().firstChildElement();
+    while (cable.tagName() != tag)
+        cable = cable.nextSiblingElement();
+    return cable.attribute(attribute);
+}
+
 void siblingWalk(benchmark::State &state)
 {
     measure(state, true, [](JobEditor &job, const QString &tag) {
-        QDomElement cable = job.getToCableList().firstChildElement();
-        while (cable.tagName() != tag)
-            cable = cable.nextSiblingElement();
-        benchmark::DoNotOptimize(cable.attribute(QStringLiteral("use")));
+        benchmark::DoNotOptimize(attributeByWalk(job, tag, QStringLiteral("use")));
     });
+}
+
+/// One getter a field.
+void readAllFields(benchmark::State &state)
+{
+    prepare(middleJob);
+    JobEditor &job = JobEditor::Instance();
+    const QStringList tags = job.getCables(true);
+    for (auto _ : state) {
+        for (const QString &tag : tags) {
+            for (const auto getter :
+                 {&JobEditor::getCableID, &JobEditor::getCableUse, &JobEditor::getCableTo, &JobEditor::getCableFrom,
+                  &JobEditor::getCableType, &JobEditor::getCableBundleName, &JobEditor::getCableBundleNum,
+                  &JobEditor::getCableBundleGroupNum, &JobEditor::getCableColor})
+                benchmark::DoNotOptimize((job.*getter)(tag));
+        }
+    }
+}
+
+void readAllFieldsByWalks(benchmark::State &state)
+{
+    prepare(middleJob);
+    JobEditor &job = JobEditor::Instance();
+    const QStringList tags = job.getCables(true);
+    for (auto _ : state) {
+        for (const QString &tag : tags) {
+            for (const char *attribute :
+                 {"id", "use", "to", "from", "type", "bundleName", "bundleNum", "bundleGroupNum", "color"})
+                benchmark::DoNotOptimize(attributeByWalk(job, tag, QLatin1String(attribute)));
+        }
+    }
 }
 
 } // namespace
@@ -115,6 +158,7 @@ int main(int argc, char *argv[])
         {"removeAndAddAgain", removeAndAddAgain},
         {"findByTag", findByTag},
         {"findById", findById},
+        {"exists", exists},
         {"readById", readById},
         {"change", change},
         {"rename", rename},
@@ -122,12 +166,20 @@ int main(int argc, char *argv[])
     };
     std::vector<Ratio> ratios;
     // One size after the other: preparing a job takes longer than measuring in it.
-    for (const int cables : {smallJob, bigJob}) {
+    for (const int cables : {smallJob, middleJob, bigJob}) {
         for (const auto &[name, operation] : operations)
             benchmark::RegisterBenchmark(name.c_str(), operation)->Arg(cables);
+        if (cables != middleJob)
+            continue;
+        benchmark::RegisterBenchmark("readAllFields", readAllFields)->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark("readAllFieldsByWalks", readAllFieldsByWalks)
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(1);
     }
-    for (const auto &[name, operation] : operations)
-        ratios.push_back({name + "/" + std::to_string(bigJob), name + "/" + std::to_string(smallJob)});
-    ratios.push_back({"findByTag/" + std::to_string(bigJob), "siblingWalk/" + std::to_string(bigJob)});
+    for (const auto &[name, operation] : operations) {
+        const double aim = operation == siblingWalk ? 0 : 4;
+        ratios.push_back({name + "/" + std::to_string(bigJob), name + "/" + std::to_string(smallJob), aim});
+    }
+    ratios.push_back({"readAllFields", "readAllFieldsByWalks", 0.01});
     return runBenchmarks(argc, argv, ratios);
 }

@@ -206,13 +206,12 @@ bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeN
 
 bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order)
 {
-    const xmlfile::Text text = xmlfile::toText(m_document, order);
-    const QString failure = text.error.isEmpty() ? xmlfile::write(filename, text.bytes) : text.error;
-    if (!failure.isEmpty()) {
-        m_error = failure;
+    const xmlfile::Outcome outcome = xmlfile::save(filename, m_document, order);
+    if (!outcome.error.isEmpty()) {
+        m_error = outcome.error;
         return false;
     }
-    if (text.replacedCharacters > 0)
-        qDebug("%d characters that the file cannot hold were written as \"?\"", text.replacedCharacters);
+    if (outcome.replacedCharacters > 0)
+        qDebug("%d characters that the file cannot hold were written as \"?\"", outcome.replacedCharacters);
     return true;
 }

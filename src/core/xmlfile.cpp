@@ -78,38 +78,53 @@ QString syncFolder(const QString &folder)
     return error;
 }
 
+/// Writes a piece whole, and lets the disk begin with it: the rest of the text is made meanwhile.
+QString append(const QByteArray &piece, QSaveFile *file)
+{
+    qint64 written = 0;
+    while (written < piece.size()) {
+        // After a short write the next one tells the reason.
+        const qint64 more = file->write(piece.constData() + written, piece.size() - written);
+        if (more <= 0)
+            return file->errorString();
+        written += more;
+    }
+#ifdef SYNC_FILE_RANGE_WRITE
+    // The sync at the end tells of failures.
+    ::sync_file_range(file->handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+    return QString();
+}
+
 } // namespace
 
-QString write(const QString &fileName, const QByteArray &bytes)
+Outcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order)
 {
-    const QString reason = obstacle(fileName);
-    if (!reason.isEmpty())
-        return reason;
+    Outcome outcome;
+    outcome.error = obstacle(fileName);
+    if (!outcome.error.isEmpty())
+        return outcome;
     QSaveFile file(fileName);
     // Unbuffered and with every result looked at: QSaveFile by itself moves a torn file into place when
     // the disk fills up while it empties its buffer.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return file.errorString();
-    qint64 written = 0;
-    while (written < bytes.size()) {
-        // After a short write the next one tells the reason.
-        const qint64 more = file.write(bytes.constData() + written, bytes.size() - written);
-        if (more <= 0)
-            break;
-        written += more;
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        outcome.error = file.errorString();
+        return outcome;
     }
-    QString error;
-    if (written != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError)
-        error = file.errorString();
-    else if (::fsync(file.handle()) != 0)
-        error = systemError();
-    if (!error.isEmpty()) {
+    outcome = writeText(document, order, [&file](const QByteArray &piece) { return append(piece, &file); });
+    if (outcome.error.isEmpty()) {
+        if (!file.flush() || file.error() != QFileDevice::NoError)
+            outcome.error = file.errorString();
+        else if (::fsync(file.handle()) != 0)
+            outcome.error = systemError();
+    }
+    if (!outcome.error.isEmpty()) {
         file.cancelWriting();
-        return error;
+        return outcome;
     }
-    if (!file.commit())
-        return file.errorString();
-    return syncFolder(QFileInfo(QFileInfo(fileName).canonicalFilePath()).path());
+    outcome.error =
+        file.commit() ? syncFolder(QFileInfo(QFileInfo(fileName).canonicalFilePath()).path()) : file.errorString();
+    return outcome;
 }
 
 } // namespace cabledoc::xmlfile

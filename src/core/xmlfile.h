@@ -8,6 +8,8 @@
 #include <QtCore/QStringList>
 #include <QtXml/QDomDocument>
 
+#include <functional>
+
 /// The one way from a file to a tree and back. Files are Latin-1 text, indented by one space a level,
 /// without an XML declaration and without a document type.
 namespace cabledoc::xmlfile {
@@ -35,21 +37,32 @@ struct AttributeOrder
     QHash<QString, QStringList> ofElement;   ///< of the element of that name
 };
 
-/// The text of a document. The same tree gives the same bytes in every process.
-struct Text
+/// How the writing of a document went.
+struct Outcome
 {
-    QByteArray bytes;
     /// Characters that the file cannot hold (outside Latin-1, or control characters) and that stand as
     /// "?" in the bytes.
     int replacedCharacters = 0;
-    /// Why read() would refuse the text (no root or several, beyond the limits); empty when it would not.
+    /// Why the text is not whole: read() would refuse it (no root or several, beyond the limits), or a piece of it was
+    /// not taken. Empty when it is whole.
     QString error;
+};
+
+/// Takes a piece of a text. Returns the reason when it cannot, an empty text when it did.
+using Sink = std::function<QString(const QByteArray &piece)>;
+
+/// Passes on the text of a document in pieces of some megabytes. The same tree gives the same bytes in every process.
+Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink);
+
+/// The same in one piece.
+struct Text : Outcome
+{
+    QByteArray bytes;
 };
 Text toText(const QDomDocument &document, const AttributeOrder &order);
 
-/// Replaces the content of a file, or creates it. The new content is written beside the old and moved
-/// into place when it is safely on the disk; on any failure the old file is as it was. Returns the
-/// reason of a failure, an empty text when all went well.
-QString write(const QString &fileName, const QByteArray &bytes);
+/// Replaces the content of a file by the text of a document, or creates it. The new content is written beside the old
+/// and moved into place when it is safely on the disk; on any failure the old file is as it was.
+Outcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order);
 
 } // namespace cabledoc::xmlfile

@@ -3,7 +3,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVector>
-#include <QtXml/QDomAttr>
 #include <QtXml/QDomProcessingInstruction>
 
 #include <algorithm>
@@ -88,25 +87,28 @@ bool isMixed(const QDomElement &element)
 class TextWriter
 {
 public:
-    explicit TextWriter(const AttributeOrder &order)
+    TextWriter(const AttributeOrder &order, const Sink &sink)
         : m_order(order)
+        , m_sink(sink)
     {
     }
 
     /// Goes through the tree without recursion, so that no depth can exhaust the stack.
-    Text write(const QDomDocument &document)
+    Outcome write(const QDomDocument &document)
     {
         int roots = 0;
         for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling())
             roots += node.isElement() ? 1 : 0;
         if (roots != 1) {
-            m_text.error = roots == 0
-                               ? QCoreApplication::translate("XmlFile", "The document is empty.")
-                               : QCoreApplication::translate("XmlFile", "The document has more than one root element.");
+            m_outcome.error =
+                roots == 0 ? QCoreApplication::translate("XmlFile", "The document is empty.")
+                           : QCoreApplication::translate("XmlFile", "The document has more than one root element.");
         }
 
         QDomNode node = document.firstChild();
-        while (!node.isNull() && m_text.error.isEmpty()) {
+        while (!node.isNull() && m_outcome.error.isEmpty()) {
+            if (m_bytes.size() >= pieceSize)
+                passOn();
             start(node);
             if (node.isElement() && node.hasChildNodes()) {
                 node = node.firstChild();
@@ -118,7 +120,9 @@ public:
             }
             node = node.nextSibling();
         }
-        return m_text;
+        if (m_outcome.error.isEmpty())
+            passOn();
+        return m_outcome;
     }
 
 private:
@@ -128,6 +132,12 @@ private:
         bool isMixed;                  ///< itself or by one of its ancestors
         const QStringList *childOrder; ///< of its children's attributes; null when there is none
     };
+
+    void passOn()
+    {
+        m_outcome.error = m_sink(m_bytes);
+        m_bytes.resize(0);
+    }
 
     void start(const QDomNode &node)
     {
@@ -147,20 +157,20 @@ private:
     void startElement(const QDomElement &element)
     {
         const QString name = element.tagName();
-        m_text.bytes += '<';
+        m_bytes += '<';
         append(name, Escape::Nothing);
         writeAttributes(element);
         if (!element.hasChildNodes()) {
-            m_text.bytes += "/>";
+            m_bytes += "/>";
             endLine();
             return;
         }
         if (m_open.size() == maximumDepth - 1) {
-            m_text.error = QCoreApplication::translate("XmlFile", "Elements are nested more than %1 levels deep.")
-                               .arg(maximumDepth);
+            m_outcome.error = QCoreApplication::translate("XmlFile", "Elements are nested more than %1 levels deep.")
+                                  .arg(maximumDepth);
             return;
         }
-        m_text.bytes += '>';
+        m_bytes += '>';
         const bool mixed = isMixedHere() || isMixed(element);
         const auto childOrder = m_order.inContainer.constFind(name);
         m_open.append({name.toLatin1(), mixed, childOrder == m_order.inContainer.cend() ? nullptr : &*childOrder});
@@ -171,10 +181,10 @@ private:
     {
         const OpenElement element = m_open.takeLast();
         if (!element.isMixed)
-            m_text.bytes.append(m_open.size(), ' ');
-        m_text.bytes += "</";
-        m_text.bytes += element.name;
-        m_text.bytes += '>';
+            m_bytes.append(m_open.size(), ' ');
+        m_bytes += "</";
+        m_bytes += element.name;
+        m_bytes += '>';
         endLine();
     }
 
@@ -184,43 +194,45 @@ private:
             // Qt 5 drops an empty section on reading, Qt 6 keeps it.
             if (node.nodeValue().isEmpty())
                 return;
-            m_text.bytes += "<![CDATA[";
+            m_bytes += "<![CDATA[";
             append(node.nodeValue(), Escape::Nothing);
-            m_text.bytes += "]]>";
+            m_bytes += "]]>";
         } else if (node.isText()) {
             append(node.nodeValue(), Escape::Text);
         } else if (node.isComment()) {
-            m_text.bytes += "<!--";
+            m_bytes += "<!--";
             append(node.nodeValue(), Escape::Nothing);
-            m_text.bytes += "-->";
+            m_bytes += "-->";
         } else if (node.isProcessingInstruction()) {
             const QDomProcessingInstruction instruction = node.toProcessingInstruction();
-            m_text.bytes += "<?";
+            m_bytes += "<?";
             append(instruction.target(), Escape::Nothing);
             // The parser lets some targets pass that it refuses with a blank behind them.
             if (!instruction.data().isEmpty())
-                m_text.bytes += ' ';
+                m_bytes += ' ';
             append(instruction.data(), Escape::Nothing);
-            m_text.bytes += "?>";
+            m_bytes += "?>";
         }
     }
 
-    void writeAttributes(QDomElement element)
+    void writeAttributes(const QDomElement &element)
     {
         const QDomNamedNodeMap attributes = element.attributes();
         if (attributes.count() > maximumAttributes) {
-            m_text.error = QCoreApplication::translate("XmlFile", "An element has more than %1 attributes.")
-                               .arg(maximumAttributes);
+            m_outcome.error = QCoreApplication::translate("XmlFile", "An element has more than %1 attributes.")
+                                  .arg(maximumAttributes);
             return;
         }
         const QStringList *order = orderOf(element);
         int written = 0;
         if (order != nullptr) {
             for (const QString &name : *order) {
-                const QDomAttr attribute = element.attributeNode(name);
-                if (attribute.isNull())
+                // One search for each, and no node made for it.
+                static const QString missing(QLatin1String("missing"));
+                const QString value = element.attribute(name, missing);
+                if (value.constData() == missing.constData())
                     continue;
-                writeAttribute(name, attribute.value());
+                writeAttribute(name, value);
                 ++written;
             }
         }
@@ -240,11 +252,11 @@ private:
 
     void writeAttribute(const QString &name, const QString &value)
     {
-        m_text.bytes += ' ';
+        m_bytes += ' ';
         append(name, Escape::Nothing);
-        m_text.bytes += "=\"";
+        m_bytes += "=\"";
         append(value, Escape::AttributeValue);
-        m_text.bytes += '"';
+        m_bytes += '"';
     }
 
     const QStringList *orderOf(const QDomElement &element) const
@@ -260,13 +272,13 @@ private:
     void indent()
     {
         if (!isMixedHere())
-            m_text.bytes.append(m_open.size(), ' ');
+            m_bytes.append(m_open.size(), ' ');
     }
 
     void endLine()
     {
         if (!isMixedHere())
-            m_text.bytes += '\n';
+            m_bytes += '\n';
     }
 
     void append(const QString &text, Escape escape)
@@ -282,12 +294,12 @@ private:
             if (next == end)
                 return;
             if (const char *escaped = reference(*next, escape)) {
-                m_text.bytes += escaped;
+                m_bytes += escaped;
             } else {
                 if (QChar::isHighSurrogate(*next) && next + 1 != end && QChar::isLowSurrogate(next[1]))
                     ++next;
-                m_text.bytes += '?';
-                ++m_text.replacedCharacters;
+                m_bytes += '?';
+                ++m_outcome.replacedCharacters;
             }
             ++next;
         }
@@ -296,21 +308,35 @@ private:
     /// Appends characters that are the same in Latin-1, all at once.
     void appendPlain(const char16_t *begin, const char16_t *end)
     {
-        const auto size = m_text.bytes.size();
-        m_text.bytes.resize(size + int(end - begin));
-        std::transform(begin, end, m_text.bytes.data() + size, [](char16_t character) { return char(character); });
+        const auto size = m_bytes.size();
+        m_bytes.resize(size + int(end - begin));
+        std::transform(begin, end, m_bytes.data() + size, [](char16_t character) { return char(character); });
     }
 
+    static constexpr int pieceSize = 4 << 20;
+
     const AttributeOrder &m_order;
+    const Sink &m_sink;
     QVector<OpenElement> m_open;
-    Text m_text;
+    QByteArray m_bytes; ///< not yet passed on
+    Outcome m_outcome;
 };
 
 } // namespace
 
+Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink)
+{
+    return TextWriter(order, sink).write(document);
+}
+
 Text toText(const QDomDocument &document, const AttributeOrder &order)
 {
-    return TextWriter(order).write(document);
+    Text text;
+    static_cast<Outcome &>(text) = writeText(document, order, [&text](const QByteArray &piece) {
+        text.bytes += piece;
+        return QString();
+    });
+    return text;
 }
 
 } // namespace cabledoc::xmlfile

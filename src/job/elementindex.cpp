@@ -3,6 +3,7 @@
 #include "words.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace cabledoc {
@@ -24,28 +25,77 @@ NumberedNames::Names namesWithPrefix(const QString &prefix, Iterator first, Iter
     };
 }
 
+/// The beginning of a text as a number that compares as the text does, as far as it goes.
+class Beginning
+{
+public:
+    explicit Beginning(const QString &text)
+    {
+        bool isBeyond = false; // from what does not fit on, all texts count as equal
+        for (int i = 0; i < 2 * charactersOfNumber && (isBeyond || i < text.size()); ++i) {
+            const char16_t character = isBeyond ? char16_t(0xFF) : text.at(i).unicode();
+            isBeyond = character >= 0xFF;
+            const int place = charactersOfNumber - 1 - i % charactersOfNumber;
+            m_numbers.at(i / charactersOfNumber) |= quint64(isBeyond ? 0xFF : character) << (8 * place);
+        }
+    }
+
+    bool operator<(const Beginning &other) const { return m_numbers < other.m_numbers; }
+    bool operator!=(const Beginning &other) const { return m_numbers != other.m_numbers; }
+
+private:
+    static constexpr int charactersOfNumber = 8;
+    std::array<quint64, 2> m_numbers{};
+};
+
+/// The positions of the texts in string order; those of equal texts as they are.
+std::vector<std::size_t> inStringOrder(const std::vector<QString> &texts)
+{
+    // Most texts are told apart without a look at them.
+    std::vector<std::pair<Beginning, std::size_t>> sorted;
+    sorted.reserve(texts.size());
+    for (const QString &text : texts)
+        sorted.emplace_back(Beginning(text), sorted.size());
+    std::sort(sorted.begin(), sorted.end(), [&texts](const auto &a, const auto &b) {
+        if (a.first != b.first)
+            return a.first < b.first;
+        const int order = texts[a.second].compare(texts[b.second]);
+        return order != 0 ? order < 0 : a.second < b.second;
+    });
+    std::vector<std::size_t> positions;
+    positions.reserve(sorted.size());
+    for (const auto &[beginning, position] : sorted)
+        positions.push_back(position);
+    return positions;
+}
+
 } // namespace
 
 void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
     *this = ElementIndex(m_idDigits);
-    // What is sorted before is added at the end, without a search for each.
-    std::vector<std::pair<QString, int>> tags;
+    // The elements are read in their own order, which memory likes. What is sorted before is added at the end, without
+    // a search for each.
+    std::vector<QString> tags;
+    std::vector<QString> ids;
     tags.reserve(std::size_t(elements.size()));
-    for (int position = 0; position < elements.size(); ++position)
-        tags.emplace_back(elements.at(position).tagName(), position);
-    std::stable_sort(tags.begin(), tags.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
-    std::vector<std::pair<QString, QString>> ids;
-    ids.reserve(tags.size());
-    for (const auto &[tag, position] : tags) {
-        const QDomElement &element = elements.at(position);
-        const auto entry = m_entries.insert(m_entries.end(), {tag, {idOf(element), element}});
-        if (isFirst(entry))
-            ids.emplace_back(entry->second.id, tag);
+    ids.reserve(tags.capacity());
+    for (const QDomElement &element : elements) {
+        tags.push_back(element.tagName());
+        ids.push_back(idOf(element));
     }
-    // By tag they are in order.
-    std::stable_sort(ids.begin(), ids.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
-    m_ids = {ids.begin(), ids.end()};
+    std::vector<QString> shownTags;
+    std::vector<QString> shownIds;
+    for (const std::size_t position : inStringOrder(tags)) {
+        const auto entry =
+            m_entries.insert(m_entries.end(), {tags[position], {ids[position], elements.at(int(position))}});
+        if (!isFirst(entry))
+            continue;
+        shownTags.push_back(entry->first);
+        shownIds.push_back(entry->second.id);
+    }
+    for (const std::size_t position : inStringOrder(shownIds))
+        m_ids.insert(m_ids.end(), {shownIds[position], shownTags[position]});
 }
 
 void ElementIndex::append(const QDomElement &element)

@@ -30,18 +30,22 @@ QStringList cablesWith(const QDomElement &cableList, const QString &attribute, c
 
 } // namespace
 
-QStringList JobEditor::getCables(bool byTag) const
+const CableLists &JobEditor::cableLists() const
 {
     if (!m_index->cables)
-        m_index->cables = cableNamesIn(getToCableList());
-    return byTag ? m_index->cables->tags : m_index->cables->ids;
+        m_index->cables.emplace(getToCableList());
+    return *m_index->cables;
+}
+
+QStringList JobEditor::getCables(bool byTag) const
+{
+    const CableLists &lists = cableLists();
+    return byTag ? lists.tags : lists.ids;
 }
 
 QStringList JobEditor::getCablesByType(const QString &type) const
 {
-    if (!m_index->cablesOfType)
-        m_index->cablesOfType = cablesByTypeIn(getToCableList());
-    return m_index->cablesOfType->value(type);
+    return cableLists().tagsOfType.value(type);
 }
 
 QStringList JobEditor::getCablesByUse(const QString &use) const
@@ -99,5 +103,4 @@ bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const
 void JobEditor::forgetCableLists()
 {
     m_index->cables.reset();
-    m_index->cablesOfType.reset();
 }

@@ -27,6 +27,7 @@ class BktEditor;
 namespace cabledoc {
 class ElementIndex;
 enum class ElementKind;
+struct CableLists;
 struct JobIndex;
 } // namespace cabledoc
 
@@ -753,6 +754,7 @@ private:
     QString newCableTag() const;
     QString newCableId() const;
     QStringList cablesEndingAt(const QSet<QString> &ends) const;
+    const cabledoc::CableLists &cableLists() const;
     void forgetCableLists();
     float correctedLength(int reading, const QString &cableTag) const;
 

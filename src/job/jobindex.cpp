@@ -122,17 +122,14 @@ ReferenceIndex &JobIndex::allReferences(const QDomElement &root)
     return *references;
 }
 
-CableNames cabledoc::cableNamesIn(const QDomElement &cableList)
+CableLists::CableLists(const QDomElement &cableList)
 {
-    return {childTags(cableList), childIds(cableList)};
-}
-
-QMap<QString, QStringList> cabledoc::cablesByTypeIn(const QDomElement &cableList)
-{
-    QMap<QString, QStringList> tags;
-    for (const QDomElement &cable : ChildElements(cableList))
-        tags[cable.attribute(words::Type)].append(cable.tagName());
-    return tags;
+    for (const QDomElement &cable : ChildElements(cableList)) {
+        const QString tag = cable.tagName();
+        tags.append(tag);
+        ids.append(cable.attribute(words::Id));
+        tagsOfType[cable.attribute(words::Type)].append(tag);
+    }
 }
 
 // Rebuilding
@@ -142,7 +139,6 @@ void JobEditor::updateAllInternalLists()
     m_index->references.reset();
     populateCurrentCablesLists();
     populateCableMap();
-    populateCableTypeMap();
     populateConnectionMap();
     populateSheetMap();
     populateDeviceMap();
@@ -159,7 +155,7 @@ void JobEditor::updateAllInternalLists()
 
 void JobEditor::populateCurrentCablesLists()
 {
-    m_index->cables = cableNamesIn(getToCableList());
+    m_index->cables = CableLists(getToCableList());
 }
 
 void JobEditor::populateCableMap()
@@ -169,7 +165,8 @@ void JobEditor::populateCableMap()
 
 void JobEditor::populateCableTypeMap()
 {
-    m_index->cablesOfType = cablesByTypeIn(getToCableList());
+    // One walk makes all lists of cables.
+    populateCurrentCablesLists();
 }
 
 void JobEditor::populateConnectionMap()

@@ -12,18 +12,20 @@
 
 namespace cabledoc {
 
-/// The tags of all cables, and their ids.
-struct CableNames
+/// The cables of a list in document order.
+struct CableLists
 {
+    explicit CableLists(const QDomElement &cableList);
+
     QStringList tags;
     QStringList ids;
+    QMap<QString, QStringList> tagsOfType;
 
-    bool operator==(const CableNames &other) const { return tags == other.tags && ids == other.ids; }
+    bool operator==(const CableLists &other) const
+    {
+        return tags == other.tags && ids == other.ids && tagsOfType == other.tagsOfType;
+    }
 };
-
-CableNames cableNamesIn(const QDomElement &cableList);
-/// The tags of all cables by their type.
-QMap<QString, QStringList> cablesByTypeIn(const QDomElement &cableList);
 
 /// The kinds of element that have tags and ids.
 enum class ElementKind {
@@ -59,16 +61,15 @@ struct JobIndex
     bool operator==(const JobIndex &other) const
     {
         return elements == other.elements && roomsOfFloor == other.roomsOfFloor && cables == other.cables
-               && cablesOfType == other.cablesOfType && references == other.references;
+               && references == other.references;
     }
 
     std::array<ElementIndex, std::size_t(ElementKind::Count)> elements;
     QHash<QString, ContainerIndex> roomsOfFloor; ///< by floor tag: room ids are unique on a floor only
 
-    // Lists of cables, all in document order. A change of the cables drops them; the next question for them
-    // makes them anew, as costly as the answer. Adding or removing one cable does not cost all the others.
-    std::optional<CableNames> cables;
-    std::optional<QMap<QString, QStringList>> cablesOfType; ///< tags by cable type
+    /// A change of the cables drops the lists; the next question for them makes them anew, as costly as the answer.
+    /// Adding or removing one cable does not cost all the others.
+    std::optional<CableLists> cables;
 
     std::optional<ReferenceIndex> references; ///< see allReferences()
 };

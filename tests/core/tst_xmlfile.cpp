@@ -145,24 +145,28 @@ private Q_SLOTS:
         QVERIFY(!xmlfile::toText(twoRoots, NoOrder).error.isEmpty());
     }
 
-    void writeReplacesTheFile()
+    void saveReplacesTheFile()
     {
+        const QDomDocument document = read("<new/>").document;
         const QString fileName = fileWith("old");
         QVERIFY(QFile::setPermissions(fileName, QFileDevice::ReadOwner | QFileDevice::WriteOwner));
         const auto permissions = QFile::permissions(fileName);
         const QString link = m_directory.filePath("link");
         QVERIFY(QFile::link(fileName, link));
 
-        QCOMPARE(xmlfile::write(link, "new"), QString());
+        QCOMPARE(xmlfile::save(link, document, NoOrder).error, QString());
         QVERIFY(QFileInfo(link).isSymLink());
-        QCOMPARE(readFile(fileName), QByteArray("new"));
+        QCOMPARE(readFile(fileName), QByteArray("<new/>\n"));
         QCOMPARE(QFile::permissions(fileName), permissions);
     }
 
-    void writeReportsFailures()
+    void saveReportsFailures()
     {
+        const QDomDocument document = read("<new/>").document;
         for (const QString &name : {m_directory.path(), m_directory.filePath("none/file"), fileWith("x") + "/file"})
-            QVERIFY2(!xmlfile::write(name, "x").isEmpty(), qPrintable(name));
+            QVERIFY2(!xmlfile::save(name, document, NoOrder).error.isEmpty(), qPrintable(name));
+        QVERIFY(!xmlfile::save(fileWith("kept"), QDomDocument(), NoOrder).error.isEmpty());
+        QCOMPARE(readFile(m_directory.filePath("file.xml")), QByteArray("kept"));
         QCOMPARE(int(xmlfile::read(m_directory.path(), "Test").status), int(xmlfile::ReadResult::NotOpened));
     }
 };

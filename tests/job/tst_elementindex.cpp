@@ -46,6 +46,41 @@ private Q_SLOTS:
         }
     }
 
+    /// Sorting at once gives the order that adding one after the other gives, whatever the names are made of.
+    void rebuiltAtOnce()
+    {
+        const QString beyond = QString(QChar(0x100));
+        const QStringList names{"",
+                                "T10",
+                                "T9",
+                                "T",
+                                "T10",
+                                "\u00ff",
+                                "\u00ffb",
+                                "\u00fea",
+                                beyond,
+                                "Tb",
+                                beyond + "a",
+                                "T" + beyond,
+                                "T\u00ffzz",
+                                "a long name beyond sixteen 2",
+                                "a long name beyond sixteen 10",
+                                "a long name beyond",
+                                "T" + beyond + beyond,
+                                "T10"};
+        ElementIndex added;
+        QVector<QDomElement> elements;
+        for (int i = 0; i < names.size() * names.size(); ++i) {
+            elements.append(element('t' + names.at(i % names.size()), names.at(i / names.size())));
+            added.append(elements.last());
+        }
+        ElementIndex rebuilt;
+        rebuilt.rebuild(elements);
+        QVERIFY(rebuilt == added);
+        QCOMPARE(rebuilt.tags(), added.tags());
+        QCOMPARE(rebuilt.ids(), added.ids());
+    }
+
     void numbersOfNames()
     {
         ElementIndex index;

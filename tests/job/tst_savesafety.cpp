@@ -187,6 +187,7 @@ private Q_SLOTS:
         const auto function = failingcalls::Call(call);
         prepare(m_directory.filePath("calls.job"));
         JobEditor &job = JobEditor::Instance();
+        job.setJobNotesText(QString(9000000, 'x')); // written in several pieces
         const QByteArray before = readFile(job.filename());
         const QByteArray after = JobEditorProbe(job).text();
         const QStringList files = QDir(m_directory.path()).entryList(QDir::Files);
@@ -206,7 +207,7 @@ private Q_SLOTS:
             QCOMPARE(QDir(m_directory.path()).entryList(QDir::Files), files);
             failures += isSaved ? 0 : 1;
         }
-        QVERIFY(failures > 0);
+        QVERIFY(failures > (function == failingcalls::Write ? 1 : 0));
     }
 
     void places_data()
