@@ -16,6 +16,18 @@
 
 namespace cabledoc::xmlfile {
 
+namespace {
+
+bool isAscii(const QByteArray &bytes)
+{
+    char all = 0;
+    for (const char byte : bytes)
+        all = char(all | byte);
+    return (all & 0x80) == 0;
+}
+
+} // namespace
+
 ReadResult read(const QString &fileName, const QString &documentTypeName)
 {
     ReadResult result;
@@ -33,7 +45,12 @@ ReadResult read(const QString &fileName, const QString &documentTypeName)
 
     result.problem = scanXml(bytes);
     if (result.problem.message.isNull()) {
-        QXmlStreamReader reader(QString::fromLatin1(bytes));
+        QXmlStreamReader reader;
+        // The reader takes ASCII as it is, unless a declaration makes it take another encoding.
+        if (isAscii(bytes) && !bytes.startsWith("<?xml"))
+            reader.addData(bytes);
+        else
+            reader.addData(QString::fromLatin1(bytes));
         reader.setNamespaceProcessing(false);
         result.problem = qtcompat::setContent(&result.document, &reader);
     }
