@@ -963,7 +963,7 @@ Exit codes:
 &quot;cabledoc ORDEN --help&quot; dice más. También: cabledoc --help, cabledoc --version.
 
 Códigos de salida:
-  0  todo está hecho
+  0  hecho sin errores
   1  &quot;check&quot; ha encontrado algo
   2  línea de órdenes incorrecta
   3  no se pudo cargar un archivo

@@ -62,7 +62,9 @@ struct Text : Outcome
 Text toText(const QDomDocument &document, const AttributeOrder &order);
 
 /// Replaces the content of a file by the text of a document, or creates it. The new content is written beside the old
-/// and moved into place when it is safely on the disk; on any failure the old file is as it was.
+/// and moved into place when it is safely on the disk; on any failure the old file is as it was. There is one
+/// exception: when the folder cannot be brought to the disk at the end, the new content is in place already. A link is
+/// followed; a device or a pipe is not replaced.
 Outcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order);
 
 } // namespace cabledoc::xmlfile

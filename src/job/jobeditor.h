@@ -89,9 +89,10 @@ public:
     /// Empties the document and its name and sets error() to "Unloading". Tags and ids are still known to
     /// existence tests and lists until the next New() or Load().
     virtual void Unload();
-    /// Writes the document to its file. False, with a text in error(), when it has no name or no content
-    /// or cannot be written; the file is then as it was, and the document stays changed. A process that
-    /// may run into a file-size limit has to ignore SIGXFSZ to get this answer.
+    /// Writes the document to its file. False, with a text in error(), when it has no name or no content, when the name
+    /// is that of a device or a pipe, or when it cannot be written; the file is then as it was, and the document stays
+    /// changed. Clears the mark of a change otherwise. A process that may run into a file-size limit has to ignore
+    /// SIGXFSZ to get this answer.
     virtual bool save();
     /// Writes the document to another file, which it belongs to from then on. An existing file is
     /// replaced; ".job" is not added. On a failure nothing changes, as with save().

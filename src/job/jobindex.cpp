@@ -4,7 +4,6 @@
 #include "jobeditor.h"
 #include "jobwords.h"
 
-#include <QtCore/QSet>
 #include <QtCore/QVector>
 
 using namespace cabledoc;

@@ -7,8 +7,6 @@
 #include "qtcompat.h"
 #include "xmlnames.h"
 
-#include <QtCore/QSet>
-
 #include <algorithm>
 
 namespace cabledoc {

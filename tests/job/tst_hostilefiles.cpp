@@ -96,9 +96,11 @@ private Q_SLOTS:
             "",         "-1",  "1e999", "-1e999", "nan",      "inf",    "-2147483649", "99999999999999999999",
             "0.1e-999", "1,5", "0x10",  " 1 ",    "\xff\xfe", "a,,b,,", "&#x20AC;",    QByteArray(10000, '9')};
         const QString text = QString::fromLatin1(testData("site.job"));
+        int attributes = 0;
         auto attribute = QRegularExpression(" \\w+=\"([^\"]*)\"").globalMatch(text);
         while (attribute.hasNext()) {
             const QRegularExpressionMatch match = attribute.next();
+            ++attributes;
             for (const QByteArray &value : values) {
                 QByteArray changed = text.toLatin1();
                 changed.replace(int(match.capturedStart(1)), int(match.capturedLength(1)), value);
@@ -106,6 +108,7 @@ private Q_SLOTS:
                 QVERIFY2(fault.isEmpty(), qPrintable(match.captured() + " as " + value.left(30) + ": " + fault));
             }
         }
+        QVERIFY(attributes > 50);
     }
 
     void unknownVersions()
