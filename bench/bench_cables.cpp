@@ -100,7 +100,10 @@ void change(benchmark::State &state)
 
 void rename(benchmark::State &state)
 {
-    measure(state, true, [](JobEditor &job, const QString &tag) { job.setCableID(tag, job.getCableID(tag)); });
+    measure(state, true, [](JobEditor &job, const QString &tag) {
+        const QString id = job.getCableID(tag);
+        job.setCableID(tag, id.endsWith(QLatin1Char('x')) ? id.chopped(1) : id + QLatin1Char('x'));
+    });
 }
 
 QString attributeByWalk(JobEditor &job, const QString &tag, const QString &attribute)

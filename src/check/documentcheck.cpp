@@ -8,11 +8,11 @@
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QHash>
-#include <QtCore/QSet>
+#include <QtCore/QMap>
 #include <QtXml/QDomAttr>
 
 #include <algorithm>
+#include <set>
 
 using namespace cabledoc;
 
@@ -90,7 +90,7 @@ private:
     /// element in the whole document.
     void checkTags(const QDomElement &list, const QString &scope)
     {
-        QHash<QString, int> &lines = m_linesOfTags[scope];
+        QMap<QString, int> &lines = m_linesOfTags[scope];
         for (const QDomElement &element : ChildElements(list)) {
             if (lines.contains(element.tagName()))
                 report("duplicate-tag", element, tr("its tag is that of line %1").arg(lines.value(element.tagName())));
@@ -101,7 +101,7 @@ private:
 
     void checkIds(const QDomElement &list)
     {
-        QHash<QString, int> lines;
+        QMap<QString, int> lines;
         for (const QDomElement &element : ChildElements(list)) {
             const QString id = getElementId(element);
             if (id.isEmpty())
@@ -163,7 +163,7 @@ private:
 
     void checkType(const QDomElement &element, const QString &type)
     {
-        if (!type.isEmpty() && !m_types.contains(type))
+        if (!type.isEmpty() && m_types.count(type) == 0)
             reportMissing(element, tr("there is no test definition \"%1\"").arg(type));
     }
 
@@ -233,7 +233,7 @@ private:
         }
         checkType(cable, cable.attribute(words::Type));
         const QString bundle = cable.attribute(words::BundleName);
-        if (!bundle.isEmpty() && !m_bundles.contains(bundle))
+        if (!bundle.isEmpty() && m_bundles.count(bundle) == 0)
             reportMissing(cable, tr("there is no bundle \"%1\"").arg(bundle));
     }
 
@@ -307,9 +307,9 @@ private:
     }
 
     CheckReport m_report;
-    QHash<QString, QHash<QString, int>> m_linesOfTags; ///< by scope
-    QSet<QString> m_types;                             ///< with a test definition
-    QSet<QString> m_bundles;
+    QMap<QString, QMap<QString, int>> m_linesOfTags; ///< by scope
+    std::set<QString> m_types;                       ///< with a test definition
+    std::set<QString> m_bundles;
 };
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "numberednames.h"
 #include "words.h"
 
-#include <QtCore/QSet>
+#include <set>
 
 namespace cabledoc {
 
@@ -18,12 +18,10 @@ QVector<QDomElement> allChildren(const QDomElement &parent)
 QVector<QDomElement> reachableChildren(const QDomElement &parent)
 {
     QVector<QDomElement> children;
-    QSet<QString> tags;
+    std::set<QString> tags;
     for (const QDomElement &child : ChildElements(parent)) {
-        if (tags.contains(child.tagName()))
-            continue;
-        tags.insert(child.tagName());
-        children.append(child);
+        if (tags.insert(child.tagName()).second)
+            children.append(child);
     }
     return children;
 }
@@ -46,12 +44,11 @@ QStringList childIds(const QDomElement &parent)
 
 QString firstFreeTag(const QDomElement &parent, const QString &prefix)
 {
-    NumberedNames taken;
-    const qint64 number = taken.firstFree(prefix, 1, [&parent](const auto &use) {
-        for (const QDomElement &child : ChildElements(parent))
-            use(child.tagName());
-    });
-    return taken.name(prefix, number);
+    const QStringList tags = childTags(parent);
+    const std::set<QString> taken(tags.cbegin(), tags.cend());
+    NumberedNames names;
+    return names.name(prefix,
+                      names.firstFree(prefix, 1, [&taken](const QString &tag) { return taken.count(tag) != 0; }));
 }
 
 QDomElement childWithId(const QDomElement &parent, const QString &id)

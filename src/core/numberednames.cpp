@@ -94,39 +94,57 @@ QString NumberedNames::name(const QString &prefix, qint64 number) const
 
 void NumberedNames::insert(const QString &name)
 {
-    if (m_numbers.isEmpty())
+    if (m_taken.isEmpty())
         return;
     forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
-        const auto numbers = m_numbers.find(prefix);
-        if (numbers != m_numbers.end())
-            numbers->insert(number);
+        const auto taken = m_taken.find(prefix);
+        if (taken != m_taken.end())
+            taken->insert(number);
     });
 }
 
 void NumberedNames::remove(const QString &name)
 {
-    if (m_numbers.isEmpty())
+    if (m_taken.isEmpty())
         return;
     forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
-        const auto numbers = m_numbers.find(prefix);
-        if (numbers != m_numbers.end())
-            numbers->remove(number);
+        const auto taken = m_taken.find(prefix);
+        if (taken != m_taken.end())
+            taken->remove(number);
     });
 }
 
-qint64 NumberedNames::firstFree(const QString &prefix, qint64 from, const Names &names)
+qint64 NumberedNames::firstFree(const QString &prefix, qint64 from, const IsTaken &isTaken)
 {
-    if (!m_numbers.contains(prefix)) {
-        NumberSet numbers;
-        names([&](const QString &name) {
-            forEachReading(name, m_digits, [&](const QString &itsPrefix, qint64 number) {
-                if (itsPrefix == prefix)
-                    numbers.insert(number);
-            });
-        });
-        m_numbers.insert(prefix, numbers);
+    NumberSet &taken = m_taken[prefix];
+    qint64 number = taken.firstFree(from);
+    while (isTaken(name(prefix, number))) {
+        taken.insert(number);
+        number = taken.firstFree(number);
     }
-    return m_numbers.constFind(prefix)->firstFree(from);
+    return number;
+}
+
+void LastName::insert(const QString &name)
+{
+    if (m_names)
+        m_names->insert(name);
+}
+
+void LastName::remove(const QString &name)
+{
+    if (m_names)
+        m_names->erase(name);
+}
+
+QString LastName::last(const Gather &gather)
+{
+    if (!m_names) {
+        QStringList names = gather();
+        names.sort(); // what is sorted becomes a set without a search for each
+        m_names.emplace(names.cbegin(), names.cend());
+    }
+    return m_names->empty() ? QString() : *m_names->rbegin();
 }
 
 } // namespace cabledoc

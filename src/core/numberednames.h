@@ -1,10 +1,12 @@
 #pragma once
 
-#include <QtCore/QHash>
-#include <QtCore/QString>
+#include <QtCore/QMap>
+#include <QtCore/QStringList>
 
 #include <functional>
 #include <map>
+#include <optional>
+#include <set>
 
 namespace cabledoc {
 
@@ -25,8 +27,8 @@ private:
 /// otherwise.
 int numberAfter(const QString &prefix, const QString &name);
 
-/// Knows which of the names made of a prefix and a number ("Room12") are taken. The numbers of a prefix
-/// are gathered when it is first asked for and kept in step from then on.
+/// Finds free names made of a prefix and a number ("Room12"). Of the numbers of a prefix those that were found to be
+/// taken are remembered and kept in step, so that none is tried twice.
 class NumberedNames
 {
 public:
@@ -37,20 +39,35 @@ public:
     }
 
     QString name(const QString &prefix, qint64 number) const;
-    void clear() { m_numbers.clear(); }
+    /// To be called for names that come into use, and for those that go.
     void insert(const QString &name);
     void remove(const QString &name);
 
-    /// Calls its argument with every name in use that may begin with the prefix.
-    using Names = std::function<void(const std::function<void(const QString &)> &)>;
+    using IsTaken = std::function<bool(const QString &name)>;
 
-    /// The smallest number, at least from, that makes a free name with the prefix. names is called when
-    /// the prefix is new.
-    qint64 firstFree(const QString &prefix, qint64 from, const Names &names);
+    /// The smallest number, at least from, that makes a free name with the prefix.
+    qint64 firstFree(const QString &prefix, qint64 from, const IsTaken &isTaken);
 
 private:
     int m_digits;
-    QHash<QString, NumberSet> m_numbers; ///< by prefix
+    QMap<QString, NumberSet> m_taken; ///< by prefix
+};
+
+/// Knows the last of the names in use, in string order. They are gathered when it is first asked for and kept in step
+/// from then on.
+class LastName
+{
+public:
+    void insert(const QString &name);
+    void remove(const QString &name);
+
+    using Gather = std::function<QStringList()>;
+
+    /// Empty when there is none.
+    QString last(const Gather &gather);
+
+private:
+    std::optional<std::set<QString>> m_names;
 };
 
 } // namespace cabledoc

@@ -3,8 +3,6 @@
 #include "words.h"
 
 #include <algorithm>
-#include <array>
-#include <vector>
 
 namespace cabledoc {
 
@@ -15,58 +13,12 @@ QString idOf(const QDomElement &element)
     return element.attribute(words::Id);
 }
 
-/// Passes on the names in an ordered container that begin with the prefix.
-template <typename Iterator, typename NameOf>
-NumberedNames::Names namesWithPrefix(const QString &prefix, Iterator first, Iterator end, NameOf nameOf)
+template <typename Map> QStringList namesIn(const Map &map)
 {
-    return [=](const std::function<void(const QString &)> &use) {
-        for (Iterator it = first; it != end && nameOf(*it).startsWith(prefix); ++it)
-            use(nameOf(*it));
-    };
-}
-
-/// The beginning of a text as a number that compares as the text does, as far as it goes.
-class Beginning
-{
-public:
-    explicit Beginning(const QString &text)
-    {
-        bool isBeyond = false; // from what does not fit on, all texts count as equal
-        for (int i = 0; i < 2 * charactersOfNumber && (isBeyond || i < text.size()); ++i) {
-            const char16_t character = isBeyond ? char16_t(0xFF) : text.at(i).unicode();
-            isBeyond = character >= 0xFF;
-            const int place = charactersOfNumber - 1 - i % charactersOfNumber;
-            m_numbers.at(i / charactersOfNumber) |= quint64(isBeyond ? 0xFF : character) << (8 * place);
-        }
-    }
-
-    bool operator<(const Beginning &other) const { return m_numbers < other.m_numbers; }
-    bool operator!=(const Beginning &other) const { return m_numbers != other.m_numbers; }
-
-private:
-    static constexpr int charactersOfNumber = 8;
-    std::array<quint64, 2> m_numbers{};
-};
-
-/// The positions of the texts in string order; those of equal texts as they are.
-std::vector<std::size_t> inStringOrder(const std::vector<QString> &texts)
-{
-    // Most texts are told apart without a look at them.
-    std::vector<std::pair<Beginning, std::size_t>> sorted;
-    sorted.reserve(texts.size());
-    for (const QString &text : texts)
-        sorted.emplace_back(Beginning(text), sorted.size());
-    std::sort(sorted.begin(), sorted.end(), [&texts](const auto &a, const auto &b) {
-        if (a.first != b.first)
-            return a.first < b.first;
-        const int order = texts[a.second].compare(texts[b.second]);
-        return order != 0 ? order < 0 : a.second < b.second;
-    });
-    std::vector<std::size_t> positions;
-    positions.reserve(sorted.size());
-    for (const auto &[beginning, position] : sorted)
-        positions.push_back(position);
-    return positions;
+    QStringList names;
+    for (const auto &entry : map)
+        names.append(entry.first);
+    return names;
 }
 
 } // namespace
@@ -74,186 +26,153 @@ std::vector<std::size_t> inStringOrder(const std::vector<QString> &texts)
 void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
     *this = ElementIndex(m_idDigits);
-    // The elements are read in their own order, which memory likes. What is sorted before is added at the end, without
-    // a search for each.
-    std::vector<QString> tags;
-    std::vector<QString> ids;
-    tags.reserve(std::size_t(elements.size()));
-    ids.reserve(tags.capacity());
-    for (const QDomElement &element : elements) {
-        tags.push_back(element.tagName());
-        ids.push_back(idOf(element));
-    }
-    std::vector<QString> shownTags;
-    std::vector<QString> shownIds;
-    for (const std::size_t position : inStringOrder(tags)) {
-        const auto entry =
-            m_entries.insert(m_entries.end(), {tags[position], {ids[position], elements.at(int(position))}});
-        if (!isFirst(entry))
-            continue;
-        shownTags.push_back(entry->first);
-        shownIds.push_back(entry->second.id);
-    }
-    for (const std::size_t position : inStringOrder(shownIds))
-        m_ids.insert(m_ids.end(), {shownIds[position], shownTags[position]});
+    m_entries.reserve(std::size_t(elements.size()));
+    m_tagOfId.reserve(std::size_t(elements.size()));
+    for (const QDomElement &element : elements)
+        append(element);
 }
 
 void ElementIndex::append(const QDomElement &element)
 {
-    const auto entry = m_entries.insert({element.tagName(), {idOf(element), element}});
-    if (isFirst(entry))
-        show(entry);
+    const auto [entry, isNew] = m_entries.try_emplace(element.tagName());
+    if (!isNew) {
+        m_waiting[entry->first].push_back(element);
+        return;
+    }
+    m_tagNames.insert(entry->first);
+    m_lastTag.insert(entry->first);
+    show(entry->first, element, &entry->second);
 }
 
 void ElementIndex::remove(const QDomElement &element)
 {
-    const auto entry = find(element);
+    const auto entry = m_entries.find(element.tagName());
     if (entry == m_entries.end())
         return;
-    const bool wasFirst = isFirst(entry);
-    if (wasFirst)
-        hide(entry);
-    const auto next = m_entries.erase(entry);
-    if (wasFirst && next != m_entries.end() && isFirst(next) && next->first == element.tagName())
-        show(next);
+    const auto waiting = m_waiting.find(entry->first);
+    if (entry->second.element == element) {
+        hide(entry->first, entry->second.id);
+        if (waiting == m_waiting.end()) {
+            m_tagNames.remove(entry->first);
+            m_lastTag.remove(entry->first);
+            m_entries.erase(entry);
+            return;
+        }
+        show(entry->first, waiting->second.front(), &entry->second);
+        waiting->second.pop_front();
+    } else if (waiting != m_waiting.end()) {
+        waiting->second.remove(element);
+    }
+    if (waiting != m_waiting.end() && waiting->second.empty())
+        m_waiting.erase(waiting);
 }
 
 void ElementIndex::updateId(const QDomElement &element)
 {
-    const auto entry = find(element);
-    if (entry == m_entries.end())
+    const auto entry = m_entries.find(element.tagName());
+    if (entry == m_entries.end() || entry->second.element != element)
         return;
-    if (!isFirst(entry)) {
-        entry->second.id = idOf(element);
-        return;
-    }
-    hide(entry);
-    entry->second.id = idOf(element);
-    show(entry);
+    hide(entry->first, entry->second.id);
+    show(entry->first, element, &entry->second);
 }
 
 void ElementIndex::forgetElements()
 {
     for (auto &[tag, entry] : m_entries)
         entry.element = QDomElement();
-}
-
-bool ElementIndex::containsTag(const QString &tag) const
-{
-    return m_entries.find(tag) != m_entries.end();
-}
-
-bool ElementIndex::containsId(const QString &id) const
-{
-    const auto found = m_ids.lower_bound({id, QString()});
-    return found != m_ids.end() && found->first == id;
+    m_waiting.clear();
 }
 
 QDomElement ElementIndex::element(const QString &tag) const
 {
-    const auto entry = m_entries.lower_bound(tag);
-    return entry != m_entries.end() && entry->first == tag ? entry->second.element : QDomElement();
-}
-
-bool ElementIndex::isRepeated(const QString &tag) const
-{
-    const auto first = m_entries.lower_bound(tag);
-    return first != m_entries.end() && first->first == tag && std::next(first) != m_entries.end()
-           && !isFirst(std::next(first));
+    const auto entry = m_entries.find(tag);
+    return entry == m_entries.end() ? QDomElement() : entry->second.element;
 }
 
 QString ElementIndex::id(const QString &tag) const
 {
-    const auto entry = m_entries.lower_bound(tag);
-    return entry != m_entries.end() && entry->first == tag ? entry->second.id : QString();
+    const auto entry = m_entries.find(tag);
+    return entry == m_entries.end() ? QString() : entry->second.id;
 }
 
 QString ElementIndex::tagOfId(const QString &id) const
 {
-    const auto found = m_ids.lower_bound({id, QString()});
-    return found != m_ids.end() && found->first == id ? found->second : QString();
+    const auto tag = m_tagOfId.find(id);
+    return tag == m_tagOfId.end() ? QString() : tag->second;
 }
 
 QStringList ElementIndex::tags() const
 {
-    QStringList tags;
-    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
-        if (isFirst(entry))
-            tags.append(entry->first);
-    }
+    QStringList tags = namesIn(m_entries);
+    tags.sort();
     return tags;
 }
 
 QStringList ElementIndex::ids() const
 {
     QStringList ids;
-    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
-        if (isFirst(entry))
-            ids.append(entry->second.id);
-    }
+    for (const QString &tag : tags())
+        ids.append(id(tag));
     return ids;
 }
 
-QString ElementIndex::lastTag() const
+QString ElementIndex::lastTag()
 {
-    return m_entries.empty() ? QString() : m_entries.rbegin()->first;
+    return m_lastTag.last([this] { return namesIn(m_entries); });
 }
 
-QString ElementIndex::lastId() const
+QString ElementIndex::lastId()
 {
-    return m_ids.empty() ? QString() : m_ids.rbegin()->first;
+    return m_lastId.last([this] { return namesIn(m_tagOfId); });
 }
 
 qint64 ElementIndex::firstFreeTagNumber(const QString &prefix, qint64 from)
 {
-    return m_numberedTags.firstFree(prefix, from,
-                                    namesWithPrefix(prefix, m_entries.lower_bound(prefix), m_entries.end(),
-                                                    [](const auto &entry) { return entry.first; }));
+    return m_tagNames.firstFree(prefix, from, [this](const QString &tag) { return containsTag(tag); });
 }
 
 qint64 ElementIndex::firstFreeIdNumber(const QString &prefix, qint64 from)
 {
-    return m_numberedIds.firstFree(prefix, from,
-                                   namesWithPrefix(prefix, m_ids.lower_bound({prefix, QString()}), m_ids.end(),
-                                                   [](const auto &name) { return name.first; }));
+    return m_idNames.firstFree(prefix, from, [this](const QString &id) { return containsId(id); });
 }
 
 bool ElementIndex::operator==(const ElementIndex &other) const
 {
-    return m_entries == other.m_entries && m_ids == other.m_ids;
+    return m_entries == other.m_entries && m_waiting == other.m_waiting && m_tagOfId == other.m_tagOfId
+           && m_waitingTagsOfId == other.m_waitingTagsOfId;
 }
 
-bool ElementIndex::isFirst(Entries::const_iterator entry) const
+void ElementIndex::show(const QString &tag, const QDomElement &element, Entry *entry)
 {
-    return entry == m_entries.begin() || std::prev(entry)->first != entry->first;
-}
-
-ElementIndex::Entries::iterator ElementIndex::find(const QDomElement &element)
-{
-    const auto [first, last] = m_entries.equal_range(element.tagName());
-    const auto entry =
-        std::find_if(first, last, [&element](const auto &candidate) { return candidate.second.element == element; });
-    return entry == last ? m_entries.end() : entry;
-}
-
-void ElementIndex::show(Entries::const_iterator entry)
-{
-    const auto &[tag, value] = *entry;
-    m_numberedTags.insert(tag);
-    m_ids.insert({value.id, tag});
-    m_numberedIds.insert(value.id);
-    if (isNumberedId(value.id))
+    *entry = {idOf(element), element};
+    m_idNames.insert(entry->id);
+    m_lastId.insert(entry->id);
+    if (isNumberedId(entry->id))
         m_tagsWithNumberedId.insert(tag);
+    const auto [first, isNew] = m_tagOfId.try_emplace(entry->id, tag);
+    if (isNew)
+        return;
+    m_waitingTagsOfId[entry->id].insert(std::max(tag, first->second));
+    first->second = std::min(tag, first->second);
 }
 
-void ElementIndex::hide(Entries::const_iterator entry)
+void ElementIndex::hide(const QString &tag, const QString &id)
 {
-    const auto &[tag, value] = *entry;
-    m_numberedTags.remove(tag);
-    m_ids.erase({value.id, tag});
-    m_tagsWithNumberedId.erase(tag);
-    if (!containsId(value.id))
-        m_numberedIds.remove(value.id);
+    const auto first = m_tagOfId.find(id);
+    const auto waiting = m_waitingTagsOfId.find(id);
+    if (waiting == m_waitingTagsOfId.end()) {
+        m_tagOfId.erase(first);
+        m_idNames.remove(id);
+        m_lastId.remove(id);
+        return;
+    }
+    std::set<QString> &others = waiting->second;
+    if (first->second == tag)
+        first->second = others.extract(others.begin()).value();
+    else
+        others.erase(tag);
+    if (others.empty())
+        m_waitingTagsOfId.erase(waiting);
 }
 
 bool ElementIndex::isNumberedId(const QString &id) const
@@ -268,18 +187,24 @@ QString ElementIndex::lastTagWithNumberedId(const QString &prefix)
     if (m_idPrefix.isNull() || m_idPrefix != prefix) {
         m_idPrefix = prefix;
         m_tagsWithNumberedId.clear();
-        for (const auto &[id, tag] : m_ids) {
-            if (isNumberedId(id))
+        for (const auto &[tag, entry] : m_entries) {
+            if (isNumberedId(entry.id))
                 m_tagsWithNumberedId.insert(tag);
         }
     }
-    return m_tagsWithNumberedId.empty() ? QString() : *m_tagsWithNumberedId.rbegin();
+    while (!m_tagsWithNumberedId.empty()) {
+        const auto last = std::prev(m_tagsWithNumberedId.end());
+        if (isNumberedId(id(*last)))
+            return *last;
+        m_tagsWithNumberedId.erase(last);
+    }
+    return QString();
 }
 
 void ContainerIndex::append(const QDomElement &element)
 {
     m_elements.insert({idOf(element), element});
-    m_numberedIds.insert(idOf(element));
+    m_ids.insert(idOf(element));
 }
 
 QDomElement ContainerIndex::element(const QString &id) const
@@ -290,9 +215,7 @@ QDomElement ContainerIndex::element(const QString &id) const
 
 qint64 ContainerIndex::firstFreeIdNumber(const QString &prefix, qint64 from)
 {
-    return m_numberedIds.firstFree(prefix, from,
-                                   namesWithPrefix(prefix, m_elements.lower_bound(prefix), m_elements.end(),
-                                                   [](const auto &entry) { return entry.first; }));
+    return m_ids.firstFree(prefix, from, [this](const QString &id) { return m_elements.find(id) != m_elements.end(); });
 }
 
 void ContainerIndex::remove(const QDomElement &element)
@@ -305,7 +228,7 @@ void ContainerIndex::remove(const QDomElement &element)
     const QString id = found->first;
     m_elements.erase(found);
     if (m_elements.find(id) == m_elements.end())
-        m_numberedIds.remove(id);
+        m_ids.remove(id);
 }
 
 } // namespace cabledoc

@@ -1,18 +1,20 @@
 #pragma once
 
 #include "numberednames.h"
+#include "texthash.h"
 
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 #include <QtXml/QDomElement>
 
+#include <list>
 #include <map>
 #include <set>
-#include <utility>
 
 namespace cabledoc {
 
 /// The elements of one kind by tag and by id. Whatever is looked up costs the same among ten elements
-/// and among a hundred thousand, but for the logarithm.
+/// and among a hundred thousand. Order is kept from when it is first asked for, and then costs the logarithm.
 ///
 /// A tag should be unique. Where a file has it twice, the first element in document order stands for it
 /// and the others wait behind: when it is removed, the next one takes its place.
@@ -22,7 +24,7 @@ public:
     /// The numbers in generated ids have that many digits at least.
     explicit ElementIndex(int idDigits = 1)
         : m_idDigits(idDigits)
-        , m_numberedIds(idDigits)
+        , m_idNames(idDigits)
     {
     }
 
@@ -37,12 +39,12 @@ public:
     void forgetElements();
 
     bool isEmpty() const { return m_entries.empty(); }
-    bool containsTag(const QString &tag) const;
-    bool containsId(const QString &id) const;
+    bool containsTag(const QString &tag) const { return m_entries.count(tag) != 0; }
+    bool containsId(const QString &id) const { return m_tagOfId.count(id) != 0; }
     /// The element of that tag; null when there is none.
     QDomElement element(const QString &tag) const;
     /// Whether several elements have that tag.
-    bool isRepeated(const QString &tag) const;
+    bool isRepeated(const QString &tag) const { return m_waiting.count(tag) != 0; }
     /// The id of that tag; empty when there is none.
     QString id(const QString &tag) const;
     /// The first tag, in string order, that has that id; empty when there is none.
@@ -51,14 +53,14 @@ public:
     QStringList tags() const;
     QStringList ids() const;
     /// The last tag and the last id in string order; empty for an empty index.
-    QString lastTag() const;
-    QString lastId() const;
+    QString lastTag();
+    QString lastId();
 
     /// The smallest number, at least from, that makes an unused tag or id with the prefix.
     qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
     qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
     /// The id of that prefix and number.
-    QString numberedId(const QString &prefix, qint64 number) const { return m_numberedIds.name(prefix, number); }
+    QString numberedId(const QString &prefix, qint64 number) const { return m_idNames.name(prefix, number); }
     /// The last tag, in string order, whose id is the prefix and as many digits as ids have at least; empty
     /// when there is none.
     QString lastTagWithNumberedId(const QString &prefix);
@@ -73,21 +75,22 @@ private:
 
         bool operator==(const Entry &other) const { return id == other.id && element == other.element; }
     };
-    using Entries = std::multimap<QString, Entry>;
 
-    bool isFirst(Entries::const_iterator entry) const;
-    Entries::iterator find(const QDomElement &element);
-    void show(Entries::const_iterator entry);
-    void hide(Entries::const_iterator entry);
+    void show(const QString &tag, const QDomElement &element, Entry *entry);
+    void hide(const QString &tag, const QString &id);
     bool isNumberedId(const QString &id) const;
 
-    Entries m_entries;                           ///< by tag; those of one tag in document order
-    std::set<std::pair<QString, QString>> m_ids; ///< id and tag, of the first element of each tag
+    TextMap<Entry> m_entries;                     ///< by tag: the first element of each
+    TextMap<std::list<QDomElement>> m_waiting;    ///< by tag: the others, in document order
+    TextMap<QString> m_tagOfId;                   ///< by id: the first tag of each, in string order
+    TextMap<std::set<QString>> m_waitingTagsOfId; ///< by id: the others
     int m_idDigits;
-    NumberedNames m_numberedTags;
-    NumberedNames m_numberedIds;
+    NumberedNames m_tagNames;
+    NumberedNames m_idNames;
+    LastName m_lastTag;
+    LastName m_lastId;
     QString m_idPrefix;                     ///< what lastTagWithNumberedId() was last asked for; null before
-    std::set<QString> m_tagsWithNumberedId; ///< those with that prefix
+    std::set<QString> m_tagsWithNumberedId; ///< those with that prefix, and some that had it
 };
 
 /// The elements of one container by id, those that share an id in document order.
@@ -105,7 +108,7 @@ public:
 
 private:
     std::multimap<QString, QDomElement> m_elements; ///< by id
-    NumberedNames m_numberedIds;
+    NumberedNames m_ids;
 };
 
 } // namespace cabledoc

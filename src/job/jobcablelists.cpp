@@ -4,8 +4,6 @@
 #include "jobindex.h"
 #include "jobwords.h"
 
-#include <QtCore/QSet>
-
 using namespace cabledoc;
 
 namespace {
@@ -70,7 +68,7 @@ QStringList JobEditor::getCablesByPort(const QString &portTag) const
 
 QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
 {
-    QSet<QString> ends;
+    std::set<QString> ends;
     for (const QDomElement &room : ChildElements(getToRoomList(floorTag))) {
         for (const QString &containerName : {words::PortList, words::VerticalRunList}) {
             for (const QDomElement &end : ChildElements(room.firstChildElement(containerName)))
@@ -80,10 +78,10 @@ QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
     return cablesEndingAt(ends);
 }
 
-QStringList JobEditor::cablesEndingAt(const QSet<QString> &ends) const
+QStringList JobEditor::cablesEndingAt(const std::set<QString> &ends) const
 {
     return cablesWhere(getToCableList(), [&ends](const QDomElement &cable) {
-        return ends.contains(cable.attribute(words::To)) || ends.contains(cable.attribute(words::From));
+        return ends.count(cable.attribute(words::To)) != 0 || ends.count(cable.attribute(words::From)) != 0;
     });
 }
 

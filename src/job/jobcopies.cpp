@@ -32,7 +32,7 @@ QString freeId(const ElementIndex &index, const QString &id)
     return candidate;
 }
 
-QStringList copiesOf(const QStringList &tags, const QHash<QString, QString> &copies)
+QStringList copiesOf(const QStringList &tags, const QMap<QString, QString> &copies)
 {
     QStringList list;
     for (const QString &tag : tags) {
@@ -47,11 +47,11 @@ QStringList copiesOf(const QStringList &tags, const QHash<QString, QString> &cop
 /// The tags of what was copied, and those of the copies.
 struct JobEditor::Copies
 {
-    QHash<QString, QString> ports;
-    QHash<QString, QString> vertRuns;
-    QHash<QString, QString> points;
-    QHash<QString, QString> cables;
-    QHash<QString, QString> bundleGroups; ///< their numbers
+    QMap<QString, QString> ports;
+    QMap<QString, QString> vertRuns;
+    QMap<QString, QString> points;
+    QMap<QString, QString> cables;
+    QMap<QString, QString> bundleGroups; ///< their numbers
 
     /// What a copied cable names: the copy where there is one, otherwise the same as before.
     QString end(const QString &tag) const { return ports.value(tag, vertRuns.value(tag, tag)); }
@@ -166,7 +166,7 @@ void JobEditor::copyRooms(const QDomElement &roomList, const QString &floorTag, 
 
 void JobEditor::copyCables(const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies)
 {
-    QSet<QString> takenGroups;
+    std::set<QString> takenGroups;
     for (const QDomElement &cable : ChildElements(getToCableList()))
         takenGroups.insert(cable.attribute(words::BundleGroupNum));
     int freeGroup = 1;
@@ -178,7 +178,7 @@ void JobEditor::copyCables(const QStringList &tags, const QMap<QString, QString>
             passed = copies->passed(passed);
         QString &group = copies->bundleGroups[fields.bundleGroupNum];
         if (group.isEmpty() && !fields.bundleGroupNum.isEmpty()) {
-            while (takenGroups.contains(QString::number(freeGroup)))
+            while (takenGroups.count(QString::number(freeGroup)) != 0)
                 ++freeGroup;
             group = QString::number(freeGroup++);
         }

@@ -17,10 +17,10 @@
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
 #include <QtCore/QPointF>
-#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <memory>
+#include <set>
 
 class BktEditor;
 
@@ -754,7 +754,7 @@ private:
     QDomElement cableElement(const QString &tag) const;
     QString newCableTag() const;
     QString newCableId() const;
-    QStringList cablesEndingAt(const QSet<QString> &ends) const;
+    QStringList cablesEndingAt(const std::set<QString> &ends) const;
     const cabledoc::CableLists &cableLists() const;
     void forgetCableLists();
     float correctedLength(int reading, const QString &cableTag) const;

@@ -3,7 +3,6 @@
 #include "elementindex.h"
 #include "referenceindex.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QStringList>
 
@@ -65,7 +64,7 @@ struct JobIndex
     }
 
     std::array<ElementIndex, std::size_t(ElementKind::Count)> elements;
-    QHash<QString, ContainerIndex> roomsOfFloor; ///< by floor tag: room ids are unique on a floor only
+    QMap<QString, ContainerIndex> roomsOfFloor; ///< by floor tag: room ids are unique on a floor only
 
     /// A change of the cables drops the lists; the next question for them makes them anew, as costly as the answer.
     /// Adding or removing one cable does not cost all the others.

@@ -26,7 +26,8 @@ QStringList tagsNamedBy(const QDomElement &element)
         fromText(element.attribute(attribute), &entries);
         tags += entries;
     }
-    tags.removeDuplicates();
+    tags.sort();
+    tags.erase(std::unique(tags.begin(), tags.end()), tags.end());
     return tags;
 }
 

@@ -9,8 +9,9 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QSet>
 #include <QtCore/QVector>
+
+#include <set>
 
 using namespace cabledoc;
 
@@ -85,11 +86,11 @@ void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
 void giveDefinitionsTheirOwnTags(const QDomElement &list)
 {
     static const QRegularExpression number(QStringLiteral("[1-9][0-9]{0,}"));
-    QSet<QString> used;
+    std::set<QString> used;
     int counter = 1;
     for (QDomElement definition : ChildElements(list)) {
-        if (!definition.tagName().contains(number) || used.contains(definition.tagName())) {
-            while (used.contains(words::TestDefTagPrefix + QString::number(counter)))
+        if (!definition.tagName().contains(number) || used.count(definition.tagName()) != 0) {
+            while (used.count(words::TestDefTagPrefix + QString::number(counter)) != 0)
                 ++counter;
             definition.setTagName(words::TestDefTagPrefix + QString::number(counter));
         }

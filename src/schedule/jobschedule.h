@@ -2,7 +2,7 @@
 
 #include "schedulerow.h"
 
-#include <QtCore/QHash>
+#include <QtCore/QMap>
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
 #include <QtXml/QDomElement>
@@ -45,8 +45,8 @@ public:
     QString color(const QString &text, const QString &type) const;
 
     QVector<QDomElement> cables;                            ///< in document order
-    QHash<QString, QDomElement> cableOfId;                  ///< the same
-    QHash<QString, FloorPlace> floors;                      ///< by id
+    QMap<QString, QDomElement> cableOfId;                   ///< the same
+    QMap<QString, FloorPlace> floors;                       ///< by id
     std::map<std::pair<QString, QString>, RoomPlace> rooms; ///< by the floor's id and their own
     std::map<CableEnd, QString> tagOfEnd;                   ///< of ports and vertical runs
 
@@ -65,7 +65,7 @@ private:
 
     const JobEditor &m_job;
     QVector<FoundRoom> m_rooms;
-    QHash<QString, CableEnd> m_endOfTag;
+    QMap<QString, CableEnd> m_endOfTag;
 };
 
 } // namespace cabledoc

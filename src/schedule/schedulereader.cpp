@@ -7,7 +7,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtCore/QHash>
+#include <QtCore/QMap>
 
 #include <algorithm>
 
@@ -152,7 +152,7 @@ private:
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
     std::array<int, column::Count> m_fieldOf{}; ///< the place of a column that the file has
-    QHash<QString, int> m_rowOfId;
+    QMap<QString, int> m_rowOfId;
 };
 
 } // namespace

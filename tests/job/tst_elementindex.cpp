@@ -46,41 +46,6 @@ private Q_SLOTS:
         }
     }
 
-    /// Sorting at once gives the order that adding one after the other gives, whatever the names are made of.
-    void rebuiltAtOnce()
-    {
-        const QString beyond = QString(QChar(0x100));
-        const QStringList names{"",
-                                "T10",
-                                "T9",
-                                "T",
-                                "T10",
-                                "\u00ff",
-                                "\u00ffb",
-                                "\u00fea",
-                                beyond,
-                                "Tb",
-                                beyond + "a",
-                                "T" + beyond,
-                                "T\u00ffzz",
-                                "a long name beyond sixteen 2",
-                                "a long name beyond sixteen 10",
-                                "a long name beyond",
-                                "T" + beyond + beyond,
-                                "T10"};
-        ElementIndex added;
-        QVector<QDomElement> elements;
-        for (int i = 0; i < names.size() * names.size(); ++i) {
-            elements.append(element('t' + names.at(i % names.size()), names.at(i / names.size())));
-            added.append(elements.last());
-        }
-        ElementIndex rebuilt;
-        rebuilt.rebuild(elements);
-        QVERIFY(rebuilt == added);
-        QCOMPARE(rebuilt.tags(), added.tags());
-        QCOMPARE(rebuilt.ids(), added.ids());
-    }
-
     void numbersOfNames()
     {
         ElementIndex index;
@@ -117,6 +82,32 @@ private Q_SLOTS:
         index.remove(b);
         QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 1);
         QCOMPARE(index.lastId(), QString("Plan 2"));
+    }
+
+    /// Whichever of the tags that share an id goes, the first of the others stands for it.
+    void firstTagOfAnId()
+    {
+        const QStringList tags{"c", "a", "d", "b"};
+        QStringList order = tags;
+        order.sort();
+        do {
+            ElementIndex index;
+            QMap<QString, QDomElement> elements;
+            for (const QString &tag : tags) {
+                elements[tag] = element(tag, "Plan");
+                index.append(elements[tag]);
+            }
+            QCOMPARE(index.lastTag(), QString("d"));
+            for (const QString &tag : std::as_const(order)) {
+                QCOMPARE(index.tagOfId("Plan"), elements.firstKey());
+                QCOMPARE(index.lastTag(), elements.lastKey());
+                QCOMPARE(index.lastId(), QString("Plan"));
+                index.remove(elements.take(tag));
+            }
+            QVERIFY(!index.containsId("Plan"));
+            QCOMPARE(index.lastTag() + index.lastId(), QString());
+            QVERIFY(index == ElementIndex());
+        } while (std::next_permutation(order.begin(), order.end()));
     }
 
     void idsOfAContainer()

@@ -136,6 +136,19 @@ private Q_SLOTS:
             QTest::newRow(name) << job(content) << isLoaded;
         };
         row("cables", "<Cable_List>" + elements("<C%1 id='%1'/>") + "</Cable_List>", true);
+        // All the same to Qt 5's hash, with every seed, whichever of the two parts stands in a place.
+        QByteArray cablesOfOneHash;
+        QByteArray path;
+        for (int i = 0; i < many; ++i) {
+            QByteArray name = "C";
+            for (int bits = i + many; bits > 0; bits /= 2)
+                name += bits % 2 == 0 ? "THC7XkgK" : "xwnH4GNw";
+            cablesOfOneHash += '<' + name + " id='" + name + "'/>";
+            path += name + ',';
+        }
+        row("cables of one hash", "<Cable_List>" + cablesOfOneHash + "</Cable_List>", true);
+        row("path of one hash", "<Cable_List><C path='" + path + "'/></Cable_List>", true);
+        row("floors of one hash", "<Floor_List>" + cablesOfOneHash + "</Floor_List>", true);
         row("cables of one tag", "<Cable_List>" + elements("<C id='%1'/>") + "</Cable_List>", true);
         row("cables of one id", "<Cable_List>" + elements("<C%1 id='a'/>") + "</Cable_List>", true);
         row("lists of cables", elements("<Cable_List><C%1/></Cable_List>"), true);
