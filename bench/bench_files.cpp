@@ -271,7 +271,7 @@ int main(int argc, char *argv[])
                 ->UseManualTime()
                 ->Unit(benchmark::kMillisecond)
                 ->Iterations(std::max(1, 10000 / cables))
-                ->Repetitions(3);
+                ->Repetitions(5);
         }
         const std::string size = '/' + std::to_string(cables);
         ratios.insert(ratios.end(), {{"load" + size, "bareParse" + size, 1.15},

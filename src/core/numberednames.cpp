@@ -94,23 +94,22 @@ QString NumberedNames::name(const QString &prefix, qint64 number) const
 
 void NumberedNames::insert(const QString &name)
 {
-    if (m_taken.isEmpty())
-        return;
-    forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
-        const auto taken = m_taken.find(prefix);
-        if (taken != m_taken.end())
-            taken->insert(number);
-    });
+    update(name, &NumberSet::insert);
 }
 
 void NumberedNames::remove(const QString &name)
 {
+    update(name, &NumberSet::remove);
+}
+
+void NumberedNames::update(const QString &name, void (NumberSet::*change)(qint64))
+{
     if (m_taken.isEmpty())
         return;
-    forEachReading(name, m_digits, [this](const QString &prefix, qint64 number) {
+    forEachReading(name, m_digits, [this, change](const QString &prefix, qint64 number) {
         const auto taken = m_taken.find(prefix);
         if (taken != m_taken.end())
-            taken->remove(number);
+            ((*taken).*change)(number);
     });
 }
 

@@ -49,6 +49,8 @@ public:
     qint64 firstFree(const QString &prefix, qint64 from, const IsTaken &isTaken);
 
 private:
+    void update(const QString &name, void (NumberSet::*change)(qint64));
+
     int m_digits;
     QMap<QString, NumberSet> m_taken; ///< by prefix
 };
