@@ -121,35 +121,37 @@ void siblingWalk(benchmark::State &state)
     });
 }
 
-/// One getter a field.
-void readAllFields(benchmark::State &state)
+/// Reads all fields of all cables, those of one tag with each call.
+template <typename ReadFields> void readAll(benchmark::State &state, ReadFields readFields)
 {
     prepare(middleJob);
     JobEditor &job = JobEditor::Instance();
     const QStringList tags = job.getCables(true);
     for (auto _ : state) {
-        for (const QString &tag : tags) {
-            for (const auto getter :
-                 {&JobEditor::getCableID, &JobEditor::getCableUse, &JobEditor::getCableTo, &JobEditor::getCableFrom,
-                  &JobEditor::getCableType, &JobEditor::getCableBundleName, &JobEditor::getCableBundleNum,
-                  &JobEditor::getCableBundleGroupNum, &JobEditor::getCableColor})
-                benchmark::DoNotOptimize((job.*getter)(tag));
-        }
+        for (const QString &tag : tags)
+            readFields(job, tag);
     }
+}
+
+/// One getter a field.
+void readAllFields(benchmark::State &state)
+{
+    readAll(state, [](JobEditor &job, const QString &tag) {
+        for (const auto getter :
+             {&JobEditor::getCableID, &JobEditor::getCableUse, &JobEditor::getCableTo, &JobEditor::getCableFrom,
+              &JobEditor::getCableType, &JobEditor::getCableBundleName, &JobEditor::getCableBundleNum,
+              &JobEditor::getCableBundleGroupNum, &JobEditor::getCableColor})
+            benchmark::DoNotOptimize((job.*getter)(tag));
+    });
 }
 
 void readAllFieldsByWalks(benchmark::State &state)
 {
-    prepare(middleJob);
-    JobEditor &job = JobEditor::Instance();
-    const QStringList tags = job.getCables(true);
-    for (auto _ : state) {
-        for (const QString &tag : tags) {
-            for (const char *attribute :
-                 {"id", "use", "to", "from", "type", "bundleName", "bundleNum", "bundleGroupNum", "color"})
-                benchmark::DoNotOptimize(attributeByWalk(job, tag, QLatin1String(attribute)));
-        }
-    }
+    readAll(state, [](JobEditor &job, const QString &tag) {
+        for (const char *attribute :
+             {"id", "use", "to", "from", "type", "bundleName", "bundleNum", "bundleGroupNum", "color"})
+            benchmark::DoNotOptimize(attributeByWalk(job, tag, QLatin1String(attribute)));
+    });
 }
 
 } // namespace

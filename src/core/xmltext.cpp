@@ -227,7 +227,7 @@ private:
         int written = 0;
         if (order != nullptr) {
             for (const QString &name : *order) {
-                // One search for each, and no node made for it.
+                // One search tells whether there is a value and which: the default is known by its address.
                 static const QString missing(QLatin1String("missing"));
                 const QString value = element.attribute(name, missing);
                 if (value.constData() == missing.constData())

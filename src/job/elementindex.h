@@ -49,7 +49,7 @@ public:
     QString id(const QString &tag) const;
     /// The first tag, in string order, that has that id; empty when there is none.
     QString tagOfId(const QString &id) const;
-    /// All tags in string order, and the id of each in the order of the tags.
+    /// All tags in string order, and the id of each in the order of the tags; sorted anew with each call.
     QStringList tags() const;
     QStringList ids() const;
     /// The last tag and the last id in string order; empty for an empty index.
@@ -76,8 +76,11 @@ private:
         bool operator==(const Entry &other) const { return id == other.id && element == other.element; }
     };
 
+    /// Makes the element stand for its tag, whose entry is given, and the tag for the element's id.
     void show(const QString &tag, const QDomElement &element, Entry *entry);
+    /// Makes the tag stand for that id no longer.
     void hide(const QString &tag, const QString &id);
+    /// Whether the id is m_idPrefix and as many digits as ids have at least.
     bool isNumberedId(const QString &id) const;
 
     TextMap<Entry> m_entries;                     ///< by tag: the first element of each

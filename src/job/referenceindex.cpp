@@ -26,6 +26,7 @@ QStringList tagsNamedBy(const QDomElement &element)
         fromText(element.attribute(attribute), &entries);
         tags += entries;
     }
+    // removeDuplicates() would take Qt's hash of names that come from a file.
     tags.sort();
     tags.erase(std::unique(tags.begin(), tags.end()), tags.end());
     return tags;

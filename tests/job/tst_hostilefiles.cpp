@@ -137,11 +137,12 @@ private Q_SLOTS:
         };
         row("cables", "<Cable_List>" + elements("<C%1 id='%1'/>") + "</Cable_List>", true);
         // All the same to Qt 5's hash, with every seed, whichever of the two parts stands in a place.
+        constexpr int collisions = 50000;
         QByteArray cablesOfOneHash;
         QByteArray path;
-        for (int i = 0; i < many; ++i) {
+        for (int i = 0; i < collisions; ++i) {
             QByteArray name = "C";
-            for (int bits = i + many; bits > 0; bits /= 2)
+            for (int bits = i + collisions; bits > 0; bits /= 2)
                 name += bits % 2 == 0 ? "THC7XkgK" : "xwnH4GNw";
             cablesOfOneHash += '<' + name + " id='" + name + "'/>";
             path += name + ',';
