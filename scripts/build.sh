@@ -23,6 +23,7 @@ install_packages() {
 prepare_build() {
     local preset=$1 qt=$2
     shift 2
+    [ "$preset" != sanitize ] || install_packages clang libclang-rt-dev
     case $qt in
         6) install_packages g++ cmake ninja-build qt6-l10n-tools libcsv-dev qt6-base-dev qt6-svg-dev ;;
         5) install_packages g++ cmake ninja-build qt6-l10n-tools libcsv-dev qtbase5-dev libqt5svg5-dev ;;

@@ -14,7 +14,7 @@ endif()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
 foreach(client tools/cabledoc examples/fields examples/office)
   run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/${client} -B ${WORK_DIR}/${client} -G Ninja
-      -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=${flags}")
+      -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=${flags}")
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/${client})
 endforeach()
 run(${WORK_DIR}/tools/cabledoc/cabledoc new ${WORK_DIR}/site.job --floors 2)
