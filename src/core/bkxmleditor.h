@@ -11,6 +11,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 #include <QtXml/QDomDocument>
 
 #include <functional>
@@ -73,10 +74,14 @@ public:
     /// Adds a definition. One of that name that is there already stays as it is. The length constant and
     /// the maximum length are stored without their fractions.
     void addTestDef(const TestDef &definition);
+    /// The same for several, which takes less time than one by one.
+    void addTestDefs(const QVector<TestDef> &definitions);
     void renameTestDef(const QString &oldName, const QString &newName);
     void removeTestDef(const QString &name);
     /// The definition of that name; a default definition with that name when there is none.
     TestDef getTestDef(const QString &name) const;
+    /// All definitions in document order. Of those that share a name the first; none without a name.
+    QVector<TestDef> getTestDefs() const;
     bool testDefExists(const QString &name) const;
     /// Whether there is a definition whose element has that tag.
     bool testDefElementExists(const QString &tag) const;
@@ -92,10 +97,14 @@ public:
                              const bool &defaultType);
     /// The same from a record, whose tag does not count.
     void addBundledCableType(const BundledCable &bundle);
+    /// The same for several, which takes less time than one by one.
+    void addBundledCableTypes(const QVector<BundledCable> &bundles);
     void renameBundledCableType(const QString &oldName, const QString &newName);
     void removeBundledCableTypeByTag(const QString &tag);
     /// The bundle of that name; a record whose id is "error" when there is none.
     BundledCable getBundledCableType(const QString &name) const;
+    /// All bundles in document order. Of those that share a name the first; none without a name.
+    QVector<BundledCable> getBundledCableTypes() const;
     /// The name of a tag and the tag of a name; empty when there is none.
     QString getBundledCableTypeIdByTag(const QString &tag) const;
     QString getBundledCableTypeTagById(const QString &id) const;

@@ -1,9 +1,6 @@
 #include "childelements.h"
 
-#include "numberednames.h"
 #include "words.h"
-
-#include <set>
 
 namespace cabledoc {
 
@@ -42,15 +39,6 @@ QStringList childIds(const QDomElement &parent)
     return ids;
 }
 
-QString firstFreeTag(const QDomElement &parent, const QString &prefix)
-{
-    const QStringList tags = childTags(parent);
-    const std::set<QString> taken(tags.cbegin(), tags.cend());
-    NumberedNames names;
-    return names.name(prefix,
-                      names.firstFree(prefix, 1, [&taken](const QString &tag) { return taken.count(tag) != 0; }));
-}
-
 QDomElement childWithId(const QDomElement &parent, const QString &id)
 {
     for (const QDomElement &child : ChildElements(parent)) {
@@ -58,6 +46,37 @@ QDomElement childWithId(const QDomElement &parent, const QString &id)
             return child;
     }
     return QDomElement();
+}
+
+QVector<QDomElement> childrenWithId(const QDomElement &parent)
+{
+    QVector<QDomElement> children;
+    std::set<QString> ids;
+    for (const QDomElement &child : ChildElements(parent)) {
+        if (child.hasAttribute(words::Id) && ids.insert(child.attribute(words::Id)).second)
+            children.append(child);
+    }
+    return children;
+}
+
+ChildNames::ChildNames(const QDomElement &parent)
+{
+    for (const QDomElement &child : ChildElements(parent))
+        insert(child);
+}
+
+QString ChildNames::firstFreeTag(const QString &prefix)
+{
+    return m_numbers.name(
+        prefix, m_numbers.firstFree(prefix, 1, [this](const QString &tag) { return m_tags.count(tag) != 0; }));
+}
+
+void ChildNames::insert(const QDomElement &child)
+{
+    m_tags.insert(child.tagName());
+    m_numbers.insert(child.tagName());
+    if (child.hasAttribute(words::Id))
+        m_ids.insert(child.attribute(words::Id));
 }
 
 } // namespace cabledoc

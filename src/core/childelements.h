@@ -1,8 +1,12 @@
 #pragma once
 
+#include "numberednames.h"
+
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 #include <QtXml/QDomElement>
+
+#include <set>
 
 namespace cabledoc {
 
@@ -49,9 +53,27 @@ QVector<QDomElement> reachableChildren(const QDomElement &parent);
 QStringList childTags(const QDomElement &parent);
 /// Their attributes "id".
 QStringList childIds(const QDomElement &parent);
-/// The prefix with the smallest number, from 1, that no child element has for its tag.
-QString firstFreeTag(const QDomElement &parent, const QString &prefix);
 /// The first child element with that "id"; null when there is none.
 QDomElement childWithId(const QDomElement &parent, const QString &id);
+/// The first child element of each "id": those that a search by id can find.
+QVector<QDomElement> childrenWithId(const QDomElement &parent);
+
+/// The names of an element's children, read once: adding many children does not walk over all others for each.
+class ChildNames
+{
+public:
+    explicit ChildNames(const QDomElement &parent);
+
+    bool containsId(const QString &id) const { return m_ids.count(id) != 0; }
+    /// The prefix with the smallest number, from 1, that is no child's tag.
+    QString firstFreeTag(const QString &prefix);
+    /// To be called for a child that was added.
+    void insert(const QDomElement &child);
+
+private:
+    std::set<QString> m_tags;
+    std::set<QString> m_ids;
+    NumberedNames m_numbers;
+};
 
 } // namespace cabledoc

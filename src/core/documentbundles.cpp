@@ -11,31 +11,51 @@ namespace {
 /// The format keeps no more cable types of a bundle.
 constexpr int maximumTypes = 8;
 
+BundledCable bundleFrom(const QDomElement &element)
+{
+    bool isDefault = false;
+    fromText(element.attribute(words::DefaultType), &isDefault);
+    return BundledCable(element.tagName(), element.attribute(words::Id),
+                        childIds(element.firstChildElement(words::BundledCableTypeList)),
+                        element.attribute(words::Color), isDefault);
+}
+
 } // namespace
 
 void BKXMLEditor::addBundledCableType(const QString &id, const QStringList &types, const QString &color,
                                       const bool &defaultType)
 {
-    const QDomElement list = getToBundledCableTypeList();
-    if (list.isNull() || bundledCableTypeIdExists(id))
-        return;
-    QDomElement bundle = appendElement(firstFreeTag(list, words::BundledCableTagPrefix), list);
-    bundle.setAttribute(words::Id, id);
-    bundle.setAttribute(words::Color, color);
-    bundle.setAttribute(words::DefaultType, toText(defaultType));
-    const QDomElement typeList = appendElement(words::BundledCableTypeList, bundle);
-    int position = 0;
-    for (const QString &type : types.mid(0, maximumTypes)) {
-        ++position;
-        appendElement(words::BundledCableTypeTagPrefix + QString::number(position), typeList)
-            .setAttribute(words::Id, type);
-    }
-    setDirty(true);
+    addBundledCableType(BundledCable(QString(), id, types, color, defaultType));
 }
 
 void BKXMLEditor::addBundledCableType(const BundledCable &bundle)
 {
-    addBundledCableType(bundle.id(), bundle.types(), bundle.color(), bundle.defaultType());
+    addBundledCableTypes({bundle});
+}
+
+void BKXMLEditor::addBundledCableTypes(const QVector<BundledCable> &bundles)
+{
+    const QDomElement list = getToBundledCableTypeList();
+    if (list.isNull())
+        return;
+    ChildNames names(list);
+    for (const BundledCable &bundle : bundles) {
+        if (names.containsId(bundle.id()))
+            continue;
+        QDomElement element = appendElement(names.firstFreeTag(words::BundledCableTagPrefix), list);
+        element.setAttribute(words::Id, bundle.id());
+        element.setAttribute(words::Color, bundle.color());
+        element.setAttribute(words::DefaultType, toText(bundle.defaultType()));
+        const QDomElement typeList = appendElement(words::BundledCableTypeList, element);
+        int position = 0;
+        for (const QString &type : bundle.types().mid(0, maximumTypes)) {
+            ++position;
+            appendElement(words::BundledCableTypeTagPrefix + QString::number(position), typeList)
+                .setAttribute(words::Id, type);
+        }
+        names.insert(element);
+        setDirty(true);
+    }
 }
 
 void BKXMLEditor::renameBundledCableType(const QString &oldName, const QString &newName)
@@ -51,19 +71,20 @@ void BKXMLEditor::removeBundledCableTypeByTag(const QString &tag)
 BundledCable BKXMLEditor::getBundledCableType(const QString &name) const
 {
     const QDomElement bundle = childWithId(getToBundledCableTypeList(), name);
-    BundledCable record;
-    if (bundle.isNull()) {
-        record.setID(QStringLiteral("error"));
-        return record;
-    }
-    record.setTag(bundle.tagName());
-    record.setID(name);
-    record.setTypes(childIds(bundle.firstChildElement(words::BundledCableTypeList)));
-    record.setColor(getChildAttr(words::Color, bundle));
-    bool isDefault = false;
-    fromText(getChildAttr(words::DefaultType, bundle), &isDefault);
-    record.setDefaultType(isDefault);
-    return record;
+    if (!bundle.isNull())
+        return bundleFrom(bundle);
+    BundledCable unknown;
+    unknown.setID(QStringLiteral("error"));
+    return unknown;
+}
+
+QVector<BundledCable> BKXMLEditor::getBundledCableTypes() const
+{
+    QVector<BundledCable> bundles;
+    const QVector<QDomElement> elements = childrenWithId(getToBundledCableTypeList());
+    for (const QDomElement &element : elements)
+        bundles.append(bundleFrom(element));
+    return bundles;
 }
 
 QString BKXMLEditor::getBundledCableTypeIdByTag(const QString &tag) const

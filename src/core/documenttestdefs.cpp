@@ -14,14 +14,34 @@ TestDef BKXMLEditor::getTestDef(const QString &name) const
     return TestDef(testDefAttributes().read(element));
 }
 
+QVector<TestDef> BKXMLEditor::getTestDefs() const
+{
+    QVector<TestDef> definitions;
+    const QVector<QDomElement> elements = childrenWithId(getToTestDefList());
+    for (const QDomElement &element : elements)
+        definitions.append(TestDef(testDefAttributes().read(element)));
+    return definitions;
+}
+
 void BKXMLEditor::addTestDef(const TestDef &definition)
 {
+    addTestDefs({definition});
+}
+
+void BKXMLEditor::addTestDefs(const QVector<TestDef> &definitions)
+{
     const QDomElement list = getToTestDefList();
-    if (list.isNull() || testDefExists(definition.id()))
+    if (list.isNull())
         return;
-    const QDomElement element = appendElement(firstFreeTag(list, words::TestDefTagPrefix), list);
-    testDefAttributes().write(element, definition.fields());
-    setDirty(true);
+    ChildNames names(list);
+    for (const TestDef &definition : definitions) {
+        if (names.containsId(definition.id()))
+            continue;
+        const QDomElement element = appendElement(names.firstFreeTag(words::TestDefTagPrefix), list);
+        testDefAttributes().write(element, definition.fields());
+        names.insert(element);
+        setDirty(true);
+    }
 }
 
 void BKXMLEditor::renameTestDef(const QString &oldName, const QString &newName)

@@ -4,6 +4,8 @@
 #include "settingsattributes.h"
 #include "words.h"
 
+#include <algorithm>
+
 using namespace cabledoc;
 
 // What moves between a job and a template, through the operations that both documents have.
@@ -21,30 +23,14 @@ void copySettings(BKXMLEditor &source, BKXMLEditor *target)
         target->setPageSettings(source.getPageSettings(name), name);
 }
 
-enum class Definitions { All, DefaultTypes };
-
-/// Adds what the target lacks of the source's definitions.
-void addMissingDefinitions(const BKXMLEditor &source, BKXMLEditor *target, Definitions which)
+/// The definitions of the built-in types.
+QVector<TestDef> defaultDefinitions(const BKXMLEditor &source)
 {
-    const QStringList types = source.getTestDefNames();
-    for (const QString &type : types) {
-        // An element without a name has none.
-        if (!source.testDefExists(type))
-            continue;
-        const TestDef definition = source.getTestDef(type);
-        if (which == Definitions::All || definition.default_type())
-            target->addTestDef(definition);
-    }
-}
-
-/// Adds what the target lacks of the source's bundles.
-void addMissingBundles(const BKXMLEditor &source, BKXMLEditor *target)
-{
-    const QStringList names = source.getBundledCableTypeIds();
-    for (const QString &name : names) {
-        if (source.bundledCableTypeIdExists(name))
-            target->addBundledCableType(source.getBundledCableType(name));
-    }
+    QVector<TestDef> definitions = source.getTestDefs();
+    definitions.erase(std::remove_if(definitions.begin(), definitions.end(),
+                                     [](const TestDef &definition) { return !definition.default_type(); }),
+                      definitions.end());
+    return definitions;
 }
 
 } // namespace
@@ -55,16 +41,16 @@ void JobEditor::Import(BktEditor *bkt)
         return;
     setContractorData(bkt->getContractorData());
     copySettings(*bkt, this);
-    addMissingDefinitions(*bkt, this, Definitions::All);
-    addMissingBundles(*bkt, this);
+    addTestDefs(bkt->getTestDefs());
+    addBundledCableTypes(bkt->getBundledCableTypes());
 }
 
 void JobEditor::ImportMissingDefaultCableTypes(BktEditor *bkt)
 {
     if (bkt == nullptr)
         return;
-    addMissingDefinitions(*bkt, this, Definitions::DefaultTypes);
-    addMissingBundles(*bkt, this);
+    addTestDefs(defaultDefinitions(*bkt));
+    addBundledCableTypes(bkt->getBundledCableTypes());
 }
 
 bool JobEditor::Export(const QString &filename)
@@ -78,8 +64,8 @@ bool JobEditor::Export(const QString &filename)
     }
     bkt.setContractorData(getContractorData());
     copySettings(*this, &bkt);
-    addMissingDefinitions(*this, &bkt, Definitions::All);
-    addMissingBundles(*this, &bkt);
+    bkt.addTestDefs(getTestDefs());
+    bkt.addBundledCableTypes(getBundledCableTypes());
     if (bkt.save())
         return true;
     m_error = bkt.error();
@@ -91,6 +77,6 @@ void BktEditor::Import(JobEditor *job)
     if (job == nullptr)
         return;
     setContractorData(job->getContractorData());
-    addMissingDefinitions(*job, this, Definitions::All);
-    addMissingBundles(*job, this);
+    addTestDefs(job->getTestDefs());
+    addBundledCableTypes(job->getBundledCableTypes());
 }

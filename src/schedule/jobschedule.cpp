@@ -60,6 +60,9 @@ JobSchedule::JobSchedule(const JobEditor &job)
     findEnds(words::PortList);
     findEnds(words::VerticalRunList);
     findCables();
+    const QVector<TestDef> definitions = job.getTestDefs();
+    for (const TestDef &definition : definitions)
+        m_colorOfType.insert(definition.id(), definition.color());
 }
 
 void JobSchedule::findRooms()
@@ -143,7 +146,7 @@ QString JobSchedule::color(const QString &text, const QString &type) const
 {
     if (qtcompat::isColorName(text))
         return text;
-    const QString ofType = m_job.getTestDef(type).color();
+    const QString ofType = m_colorOfType.value(type);
     return qtcompat::isColorName(ofType) ? ofType : TestDefFields().color;
 }
 

@@ -66,6 +66,7 @@ private:
     const JobEditor &m_job;
     QVector<FoundRoom> m_rooms;
     QMap<QString, CableEnd> m_endOfTag;
+    QMap<QString, QString> m_colorOfType;
 };
 
 } // namespace cabledoc

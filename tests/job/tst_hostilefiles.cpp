@@ -1,3 +1,4 @@
+#include "bkteditor.h"
 #include "everyquery.h"
 #include "jobeditorprobe.h"
 
@@ -13,6 +14,21 @@ int scale()
     bool isNumber = false;
     const int number = qEnvironmentVariableIntValue("CABLEDOC_TEST_SCALE", &isNumber);
     return isNumber ? number : 1;
+}
+
+/// That many make a list long.
+int many()
+{
+    return 50000 * scale();
+}
+
+/// Many elements of that form, in which "%1" stands for the number of each.
+QByteArray elements(const QByteArray &form)
+{
+    QByteArray all;
+    for (int i = 0; i < many(); ++i)
+        all += QByteArray(form).replace("%1", QByteArray::number(i));
+    return all;
 }
 
 QByteArray job(const QByteArray &content)
@@ -125,13 +141,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<bool>("isLoaded");
-        const int many = 50000 * scale();
-        const auto elements = [many](const QByteArray &form) {
-            QByteArray all;
-            for (int i = 0; i < many; ++i)
-                all += QByteArray(form).replace("%1", QByteArray::number(i));
-            return all;
-        };
         const auto row = [](const char *name, const QByteArray &content, bool isLoaded) {
             QTest::newRow(name) << job(content) << isLoaded;
         };
@@ -166,7 +175,7 @@ private Q_SLOTS:
         row("long name", '<' + QByteArray(4000, 'x') + "/>", true);
         row("very long name", '<' + QByteArray(1000000 * scale(), 'x') + "/>", false);
         row("attributes", "<Other" + elements(" a%1=''") + "/>", false);
-        row("levels", QByteArray("<a>").repeated(many) + QByteArray("</a>").repeated(many), false);
+        row("levels", QByteArray("<a>").repeated(many()) + QByteArray("</a>").repeated(many()), false);
     }
 
     void bigFiles()
@@ -175,6 +184,27 @@ private Q_SLOTS:
         bool isLoaded = false;
         QCOMPARE(faultOf(content, &isLoaded), QString());
         QTEST(isLoaded, "isLoaded");
+    }
+
+    /// A job takes it over, and a second time adds nothing.
+    void bigTemplate()
+    {
+        const QString fileName = m_directory.filePath("big.bkt");
+        const QByteArray version = "<Version number='3.0'/>";
+        writeFile(fileName, "<Bkt>" + version + "<TestDef_List>" + elements("<T%1 id='%1'/>")
+                                + "</TestDef_List><BundledCable_List>" + elements("<B%1 id='%1'/>")
+                                + "</BundledCable_List></Bkt>");
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY2(bkt.Load(fileName), qPrintable(bkt.error()));
+        JobEditor &editor = JobEditor::Instance();
+        writeFile(m_directory.filePath("taker.job"), job("<TestDef_List/><BundledCable_List/>"));
+        QVERIFY2(editor.Load(m_directory.filePath("taker.job")), qPrintable(editor.error()));
+        for (int import = 0; import < 2; ++import) {
+            editor.Import(&bkt);
+            QCOMPARE(editor.getTestDefNames(), bkt.getTestDefNames());
+            QCOMPARE(editor.getBundledCableTypeIds().size(), many());
+        }
+        BktEditor::Destroy();
     }
 };
 
