@@ -74,13 +74,15 @@ public:
     /// Adds a definition. One of that name that is there already stays as it is. The length constant and
     /// the maximum length are stored without their fractions.
     void addTestDef(const TestDef &definition);
-    /// The same for several, which takes less time than one by one.
+    /// The same for several, with one walk over the list.
     void addTestDefs(const QVector<TestDef> &definitions);
+    /// Nothing when there is none of that name. The new name is not checked.
     void renameTestDef(const QString &oldName, const QString &newName);
     void removeTestDef(const QString &name);
     /// The definition of that name; a default definition with that name when there is none.
     TestDef getTestDef(const QString &name) const;
-    /// All definitions in document order. Of those that share a name the first; none without a name.
+    /// All definitions in document order: of those that share a name the first, and none without a name. Empty when
+    /// there are none.
     QVector<TestDef> getTestDefs() const;
     bool testDefExists(const QString &name) const;
     /// Whether there is a definition whose element has that tag.
@@ -97,13 +99,15 @@ public:
                              const bool &defaultType);
     /// The same from a record, whose tag does not count.
     void addBundledCableType(const BundledCable &bundle);
-    /// The same for several, which takes less time than one by one.
+    /// The same for several, with one walk over the list.
     void addBundledCableTypes(const QVector<BundledCable> &bundles);
+    /// Nothing when there is none of that name, or tag. The new name is not checked.
     void renameBundledCableType(const QString &oldName, const QString &newName);
     void removeBundledCableTypeByTag(const QString &tag);
     /// The bundle of that name; a record whose id is "error" when there is none.
     BundledCable getBundledCableType(const QString &name) const;
-    /// All bundles in document order. Of those that share a name the first; none without a name.
+    /// All bundles in document order: of those that share a name the first, and none without a name. Empty when there
+    /// are none.
     QVector<BundledCable> getBundledCableTypes() const;
     /// The name of a tag and the tag of a name; empty when there is none.
     QString getBundledCableTypeIdByTag(const QString &tag) const;

@@ -202,7 +202,9 @@ private Q_SLOTS:
         for (int import = 0; import < 2; ++import) {
             editor.Import(&bkt);
             QCOMPARE(editor.getTestDefNames(), bkt.getTestDefNames());
-            QCOMPARE(editor.getBundledCableTypeIds().size(), many());
+            QCOMPARE(editor.getBundledCableTypeIds(), bkt.getBundledCableTypeIds());
+            QCOMPARE(editor.getTestDefElements().last(), QString("TestDef%1").arg(many()));
+            QCOMPARE(editor.getBundledCableTypeTags().last(), QString("BundledCable%1").arg(many()));
         }
         BktEditor::Destroy();
     }

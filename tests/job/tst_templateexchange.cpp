@@ -133,15 +133,22 @@ private Q_SLOTS:
         QCOMPARE(bkt.getBundledCableTypeIds(), QStringList({"HTheatre", "bundle 500", "bundle 100"}));
     }
 
-    void namelessElementsAreNotTaken()
+    /// Elements without a name, and those behind another one of their name.
+    void whatNoNameFindsIsNotTaken()
     {
-        writeFile(path("nameless.bkt"), "<Bkt><Version number='3.0'/><TestDef_List><TestDef1/></TestDef_List>"
-                                        "<BundledCable_List><BundledCable1/></BundledCable_List></Bkt>");
+        writeFile(path("odd.bkt"), "<Bkt><Version number='3.0'/><TestDef_List><TestDef1/><TestDef2 id='a'/>"
+                                   "<TestDef3 id='a' default_type='1'/></TestDef_List><BundledCable_List>"
+                                   "<BundledCable1/><BundledCable2 id='b' color='red'/>"
+                                   "<BundledCable3 id='b' color='blue'/></BundledCable_List></Bkt>");
         BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(bkt.Load(path("nameless.bkt")));
-        JobEditor::Instance().Import(&bkt);
-        QVERIFY(JobEditor::Instance().getTestDefNames().isEmpty());
-        QVERIFY(JobEditor::Instance().getBundledCableTypeIds().isEmpty());
+        JobEditor &job = JobEditor::Instance();
+        QVERIFY(bkt.Load(path("odd.bkt")));
+        job.ImportMissingDefaultCableTypes(&bkt);
+        QVERIFY(job.getTestDefNames().isEmpty());
+        job.Import(&bkt);
+        QCOMPARE(job.getTestDefNames(), QStringList("a"));
+        QCOMPARE(job.getBundledCableTypeIds(), QStringList("b"));
+        QCOMPARE(job.getBundledCableType("b").color(), QString("red"));
     }
 
     void failedExports()
