@@ -34,10 +34,7 @@ int numberAfter(const QString &prefix, const QString &name)
     // Where the last empty text stands depends on the version of Qt.
     if (position < 0 || prefix.isEmpty())
         return 0;
-    const QString number = name.mid(position + prefix.size());
-    const bool isDigits = std::all_of(number.cbegin(), number.cend(),
-                                      [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
-    return isDigits ? number.toInt() : 0;
+    return std::max(0, name.mid(position + prefix.size()).toInt());
 }
 
 void NumberSet::insert(qint64 number)
@@ -136,14 +133,17 @@ void LastName::remove(const QString &name)
         m_names->erase(name);
 }
 
-QString LastName::last(const Gather &gather)
+QString LastName::last(const Gather &gather, const QString &ignored)
 {
     if (!m_names) {
         QStringList names = gather();
         names.sort(); // what is sorted becomes a set without a search for each
         m_names.emplace(names.cbegin(), names.cend());
     }
-    return m_names->empty() ? QString() : *m_names->rbegin();
+    auto last = m_names->crbegin();
+    if (last != m_names->crend() && *last == ignored)
+        ++last;
+    return last == m_names->crend() ? QString() : *last;
 }
 
 } // namespace cabledoc

@@ -23,8 +23,8 @@ private:
     std::map<qint64, qint64> m_intervals; ///< first to last number of each; never adjacent
 };
 
-/// The number behind the last occurrence of the prefix in a name, when nothing but digits follows; 0
-/// otherwise.
+/// Returns the number behind the last occurrence of the prefix in a name, read as QString::toInt() reads it: 5 for
+/// "Zone" and "Zone 5". Returns 0 if there is no number, or one that is negative or overflows.
 int numberAfter(const QString &prefix, const QString &name);
 
 /// Finds free names made of a prefix and a number ("Room12"). Of the numbers of a prefix those that were found to be
@@ -65,8 +65,8 @@ public:
 
     using Gather = std::function<QStringList()>;
 
-    /// Empty when there is none.
-    QString last(const Gather &gather);
+    /// Returns the last name other than the ignored one, or an empty text if there is none.
+    QString last(const Gather &gather, const QString &ignored);
 
 private:
     std::optional<std::set<QString>> m_names;

@@ -116,14 +116,9 @@ QStringList ElementIndex::ids() const
     return ids;
 }
 
-QString ElementIndex::lastTag()
+QString ElementIndex::lastTag(const QString &ignored)
 {
-    return m_lastTag.last([this] { return namesIn(m_entries); });
-}
-
-QString ElementIndex::lastId()
-{
-    return m_lastId.last([this] { return namesIn(m_tagOfId); });
+    return m_lastTag.last([this] { return namesIn(m_entries); }, ignored);
 }
 
 qint64 ElementIndex::firstFreeTagNumber(const QString &prefix, qint64 from)
@@ -146,7 +141,6 @@ void ElementIndex::show(const QString &tag, const QDomElement &element, Entry *e
 {
     *entry = {idOf(element), element};
     m_idNames.insert(entry->id);
-    m_lastId.insert(entry->id);
     if (isNumberedId(entry->id))
         m_tagsWithNumberedId.insert(tag);
     const auto [first, isNew] = m_tagOfId.try_emplace(entry->id, tag);
@@ -163,7 +157,6 @@ void ElementIndex::hide(const QString &tag, const QString &id)
     if (waiting == m_waitingTagsOfId.end()) {
         m_tagOfId.erase(first);
         m_idNames.remove(id);
-        m_lastId.remove(id);
         return;
     }
     std::set<QString> &others = waiting->second;
@@ -211,6 +204,14 @@ QDomElement ContainerIndex::element(const QString &id) const
 {
     const auto found = m_elements.lower_bound(id);
     return found != m_elements.end() && found->first == id ? found->second : QDomElement();
+}
+
+QString ContainerIndex::lastId(const QString &ignoredTag) const
+{
+    const auto last = std::find_if(m_elements.crbegin(), m_elements.crend(), [&ignoredTag](const auto &candidate) {
+        return candidate.second.tagName() != ignoredTag;
+    });
+    return last == m_elements.crend() ? QString() : last->first;
 }
 
 qint64 ContainerIndex::firstFreeIdNumber(const QString &prefix, qint64 from)

@@ -52,9 +52,8 @@ public:
     /// All tags in string order, and the id of each in the order of the tags; sorted anew with each call.
     QStringList tags() const;
     QStringList ids() const;
-    /// The last tag and the last id in string order; empty for an empty index.
-    QString lastTag();
-    QString lastId();
+    /// Returns the last tag in string order other than the ignored one, or an empty text if there is none.
+    QString lastTag(const QString &ignored = QString());
 
     /// The smallest number, at least from, that makes an unused tag or id with the prefix.
     qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
@@ -91,7 +90,6 @@ private:
     NumberedNames m_tagNames;
     NumberedNames m_idNames;
     LastName m_lastTag;
-    LastName m_lastId;
     QString m_idPrefix;                     ///< what lastTagWithNumberedId() was last asked for; null before
     std::set<QString> m_tagsWithNumberedId; ///< those with that prefix, and some that had it
 };
@@ -103,6 +101,8 @@ public:
     void append(const QDomElement &element);
     /// The first element in document order that has that id; null when there is none.
     QDomElement element(const QString &id) const;
+    /// Returns the last id in string order, without elements of the ignored tag; an empty text if there is none.
+    QString lastId(const QString &ignoredTag) const;
     /// The smallest number, at least from, that makes an unused id with the prefix.
     qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
     void remove(const QDomElement &element);

@@ -51,15 +51,15 @@ QString JobEditor::addRoom(const Room &room, int mode)
 QString JobEditor::newRoomTag() const
 {
     ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
-    // The last tag in string order is "Room9" beside "Room10", and "Undefined" beside any of them.
-    const int last = numberAfter(words::RoomTagPrefix, rooms.lastTag());
+    // The last tag in string order is "Room9" beside "Room10". The room that every floor has does not count.
+    const int last = numberAfter(words::RoomTagPrefix, rooms.lastTag(words::Undefined));
     return words::RoomTagPrefix + QString::number(rooms.firstFreeTagNumber(words::RoomTagPrefix, last + qint64(1)));
 }
 
 QString JobEditor::newRoomId(const QString &floorTag, const QString &prefix) const
 {
-    const int last = numberAfter(prefix, (*m_index)[ElementKind::Rooms].lastId());
     ContainerIndex &roomsOnFloor = m_index->roomsOfFloor[floorTag];
+    const int last = numberAfter(prefix, roomsOnFloor.lastId(words::Undefined));
     return prefix + QString::number(roomsOnFloor.firstFreeIdNumber(prefix, last + qint64(1)));
 }
 

@@ -81,7 +81,6 @@ private Q_SLOTS:
         QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 3);
         index.remove(b);
         QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 1);
-        QCOMPARE(index.lastId(), QString("Plan 2"));
     }
 
     /// Whichever of the tags that share an id goes, the first of the others stands for it.
@@ -101,11 +100,10 @@ private Q_SLOTS:
             for (const QString &tag : std::as_const(order)) {
                 QCOMPARE(index.tagOfId("Plan"), elements.firstKey());
                 QCOMPARE(index.lastTag(), elements.lastKey());
-                QCOMPARE(index.lastId(), QString("Plan"));
                 index.remove(elements.take(tag));
             }
             QVERIFY(!index.containsId("Plan"));
-            QCOMPARE(index.lastTag() + index.lastId(), QString());
+            QCOMPARE(index.lastTag(), QString());
             QVERIFY(index == ElementIndex());
         } while (std::next_permutation(order.begin(), order.end()));
     }
