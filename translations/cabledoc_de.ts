@@ -246,8 +246,8 @@
         <translation>&quot;%1&quot;: es gibt keinen Anschluss und keine Steigleitung &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no point or vertical run &quot;%2&quot;</source>
-        <translation>&quot;%1&quot;: es gibt keinen Punkt und keine Steigleitung &quot;%2&quot;</translation>
+        <source>&quot;%1&quot;: there is no point, port or vertical run &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: es gibt keinen Punkt, keinen Anschluss und keine Steigleitung &quot;%2&quot;</translation>
     </message>
     <message>
         <source>there is no bundle &quot;%1&quot;</source>

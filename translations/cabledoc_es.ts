@@ -246,8 +246,8 @@
         <translation>&quot;%1&quot;: no hay ninguna toma ni montante &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no point or vertical run &quot;%2&quot;</source>
-        <translation>&quot;%1&quot;: no hay ningún punto ni montante &quot;%2&quot;</translation>
+        <source>&quot;%1&quot;: there is no point, port or vertical run &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;: no hay ningún punto, toma ni montante &quot;%2&quot;</translation>
     </message>
     <message>
         <source>there is no bundle &quot;%1&quot;</source>

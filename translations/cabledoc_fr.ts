@@ -246,8 +246,8 @@
         <translation>&quot;%1&quot; : il n&apos;y a pas de prise ni de colonne montante &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no point or vertical run &quot;%2&quot;</source>
-        <translation>&quot;%1&quot; : il n&apos;y a pas de point ni de colonne montante &quot;%2&quot;</translation>
+        <source>&quot;%1&quot;: there is no point, port or vertical run &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; : il n&apos;y a pas de point, de prise ni de colonne montante &quot;%2&quot;</translation>
     </message>
     <message>
         <source>there is no bundle &quot;%1&quot;</source>

@@ -218,18 +218,25 @@ private:
         }
     }
 
+    bool isPortOrVertRun(const QString &tag) const
+    {
+        return hasTag(words::PortList, tag) || hasTag(words::VerticalRunList, tag);
+    }
+
     void checkCable(const QDomElement &cable)
     {
         for (const QString &attribute : {words::From, words::To}) {
             const QString end = cable.attribute(attribute);
-            if (!end.isEmpty() && !hasTag(words::PortList, end) && !hasTag(words::VerticalRunList, end))
+            if (!end.isEmpty() && !isPortOrVertRun(end))
                 reportMissing(cable, tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, end));
         }
         QStringList path;
         fromText(cable.attribute(words::Path), &path);
-        for (const QString &point : std::as_const(path)) {
-            if (!hasTag(words::PointList, point) && !hasTag(words::VerticalRunList, point))
-                reportMissing(cable, tr("\"%1\": there is no point or vertical run \"%2\"").arg(words::Path, point));
+        for (const QString &passed : std::as_const(path)) {
+            if (!hasTag(words::PointList, passed) && !isPortOrVertRun(passed)) {
+                reportMissing(cable,
+                              tr("\"%1\": there is no point, port or vertical run \"%2\"").arg(words::Path, passed));
+            }
         }
         checkType(cable, cable.attribute(words::Type));
         const QString bundle = cable.attribute(words::BundleName);

@@ -15,7 +15,7 @@ struct CableFields
     QString from; ///< likewise
     QString type; ///< name of the test definition
     TestResults testResults;
-    QStringList path;   ///< tags of the points that the cable passes
+    QStringList path;   ///< tags of the points, ports and vertical runs that the cable passes
     QString bundleName; ///< empty for a cable in no bundle
     QString bundleNum;
     QString bundleGroupNum; ///< the same for the cables that are pulled together

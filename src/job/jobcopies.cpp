@@ -55,7 +55,7 @@ struct JobEditor::Copies
 
     /// What a copied cable names: the copy where there is one, otherwise the same as before.
     QString end(const QString &tag) const { return ports.value(tag, vertRuns.value(tag, tag)); }
-    QString passed(const QString &tag) const { return points.value(tag, vertRuns.value(tag, tag)); }
+    QString passed(const QString &tag) const { return points.value(tag, end(tag)); }
 };
 
 void JobEditor::copyFloor(const QString &srcTag, const QString &dstTag, const QMap<QString, QString> &cableIds,

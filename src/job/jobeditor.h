@@ -220,8 +220,8 @@ public:
     QString addFloor(const QString &tag, const QString &id, double ceilingHeight, const QString &pic, int mode);
     /// The same from a record.
     QString addFloor(const Floor &floor, int mode);
-    /// Removes a floor with all that is on it, the cables that end there and the active ports for its ports, and
-    /// takes its points and vertical runs out of the paths of other cables.
+    /// Removes a floor with all that is on it, the cables that end there and the active ports that name its ports, and
+    /// takes its points, ports and vertical runs out of the paths of other cables.
     void removeFloor(const QString &tag);
     void removeFloor(const Floor &floor);
 
@@ -328,7 +328,8 @@ public:
     QString addPort(const QString &floorTag, const QString &roomTag, double x, double y, const QString &tag,
                     const QString &id, const QString &use, double iconScale, double dropHeight, int mode);
     QString addPort(const Port &port, int mode);
-    /// Removes a port, the cables that end there and the active ports that stand for it.
+    /// Removes a port, the cables that end there and the active ports that name it, and takes it out of the paths
+    /// of other cables.
     void removePort(const QString &tag);
     void removePort(const Port &port);
     Port getPortByTag(const QString &tag) const;

@@ -98,20 +98,16 @@ void JobEditor::dropReferences(ElementKind kind, const QString &tag)
             removeElementOf(naming, element);
     };
     const bool isEndGone = !portOrVertRunExists(tag, true);
-    const bool isPassedGone = !pointExists(tag, true) && !vertRunExists(tag, true);
+    const bool isPassedGone = isEndGone && !pointExists(tag, true);
     switch (kind) {
     case ElementKind::Ports:
         if (!portExists(tag, true))
             removeThoseNaming(ElementKind::ActivePorts, words::ActivePortList, {words::Port});
-        if (isEndGone)
-            removeThoseNaming(ElementKind::Cables, words::CableList, {words::To, words::From});
-        break;
+        Q_FALLTHROUGH();
     case ElementKind::VerticalRuns:
         if (isEndGone)
             removeThoseNaming(ElementKind::Cables, words::CableList, {words::To, words::From});
-        if (isPassedGone)
-            forgetTag(tag, words::CableList, {words::Path});
-        break;
+        Q_FALLTHROUGH();
     case ElementKind::Points:
         if (isPassedGone)
             forgetTag(tag, words::CableList, {words::Path});

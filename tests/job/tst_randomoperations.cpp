@@ -190,7 +190,7 @@ private:
             [&] { job.setCableUse(cable, someId()); },
             [&] { job.setCableTo(cable, someTag(endsOf(job))); },
             [&] {
-                job.setCablePath(cable, {oneOf(pointsOf(job)), oneOf(vertRunsOf(job)), someId()});
+                job.setCablePath(cable, {oneOf(pointsOf(job)), oneOf(endsOf(job)), someId()});
             },
             [&] { job.setCableTestResults(cable, TestResults(QString(), someId(), cable_struct::untested(), 1)); },
             [&] { job.getCableTestResults(cable); },

@@ -57,7 +57,7 @@ public:
             }
         }
         const auto ends = tagsIn.value("Port_List") + tagsIn.value("VerticalRun_List");
-        const auto passed = tagsIn.value("Point_List") + tagsIn.value("VerticalRun_List");
+        const auto passed = tagsIn.value("Point_List") + ends;
         const auto devices = tagsIn.value("Device_List") + tagsIn.value("Vertice_List");
         const struct
         {
