@@ -19,9 +19,16 @@ QString toText(bool value)
 
 QString toText(double value)
 {
-    // Not QString::number: its shortest form differs between the versions of Qt ("100000", "1e+05").
+    // Not QString::number(): its shortest form differs between the versions of Qt ("100000", "1e+05").
     std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    const char *end = text.data();
+    double readBack = 0.0;
+    for (int digits = 6; digits <= std::numeric_limits<double>::max_digits10; ++digits) {
+        end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits).ptr;
+        std::from_chars(text.data(), end, readBack);
+        if (readBack == value)
+            break;
+    }
     return QString::fromLatin1(text.data(), int(end - text.data()));
 }
 

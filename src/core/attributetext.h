@@ -12,7 +12,8 @@ inline QString toText(const QString &value)
 QString toText(int value);
 /// "1" or "0".
 QString toText(bool value);
-/// The shortest text that reads back to the same value: "8", "9.5", "0.1".
+/// The number in the form of C's "%g", with as many digits as it takes to read back the same value, but never fewer
+/// than six: "8", "9.5", "100000", "1.2e+06", "1234567".
 QString toText(double value);
 /// The entries, separated by commas.
 QString toText(const QStringList &entries);
