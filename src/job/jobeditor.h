@@ -131,7 +131,8 @@ public:
     /// Rebuilds all indexes from the tree. The document's own operations keep them in step; a caller needs
     /// this only after changing elements that the navigation operations returned.
     void updateAllInternalLists();
-    /// Each rebuilds one index. Of elements that share a tag the first in document order counts.
+    /// Each rebuilds one index, and lets removals see anew what elements name. Of elements that share a tag the first
+    /// in document order counts.
     void populateCurrentCablesLists();
     void populateCableMap();
     void populateCableTypeMap();
@@ -698,6 +699,7 @@ private:
     bool mayBeFile(const QString &filename, const QString &extension);
 
     // All kinds of elements that have tags and ids
+    void populate(cabledoc::ElementKind kind);
     template <typename Kind>
     QDomElement addElement(const Kind &kind, const QDomElement &parent, typename Kind::Fields fields, int mode);
     template <typename Kind> typename Kind::Fields readElement(const Kind &kind, const QDomElement &element) const;

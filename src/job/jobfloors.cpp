@@ -54,12 +54,9 @@ void JobEditor::removeFloor(const QString &tag)
     }
     (*m_index)[ElementKind::Floors].remove(floor);
     removeElement(floor);
-    populateRoomMap();
-    populatePortMap();
-    populateActivePortMap();
-    populateVerticalRunMap();
-    populatePointMap();
-    populateFloorFreeTextMap();
+    for (const ElementKind kind : {ElementKind::Rooms, ElementKind::Ports, ElementKind::ActivePorts,
+                                   ElementKind::VerticalRuns, ElementKind::Points, ElementKind::FloorFreeTexts})
+        rebuildIndex(kind);
     for (const QDomElement &room : ChildElements(roomList)) {
         dropReferencesToAll(ElementKind::Ports, room.firstChildElement(words::PortList));
         dropReferencesToAll(ElementKind::VerticalRuns, room.firstChildElement(words::VerticalRunList));

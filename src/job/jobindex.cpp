@@ -137,7 +137,6 @@ CableLists::CableLists(const QDomElement &cableList)
 
 void JobEditor::updateAllInternalLists()
 {
-    m_index->references.reset();
     populateCurrentCablesLists();
     populateCableMap();
     populateConnectionMap();
@@ -156,12 +155,13 @@ void JobEditor::updateAllInternalLists()
 
 void JobEditor::populateCurrentCablesLists()
 {
+    m_index->references.reset();
     m_index->cables = CableLists(getToCableList());
 }
 
 void JobEditor::populateCableMap()
 {
-    rebuildIndex(ElementKind::Cables);
+    populate(ElementKind::Cables);
 }
 
 void JobEditor::populateCableTypeMap()
@@ -172,62 +172,69 @@ void JobEditor::populateCableTypeMap()
 
 void JobEditor::populateConnectionMap()
 {
-    rebuildIndex(ElementKind::Connections);
+    populate(ElementKind::Connections);
 }
 
 void JobEditor::populateSheetMap()
 {
-    rebuildIndex(ElementKind::Sheets);
+    populate(ElementKind::Sheets);
 }
 
 void JobEditor::populateDeviceMap()
 {
-    rebuildIndex(ElementKind::Devices);
+    populate(ElementKind::Devices);
 }
 
 void JobEditor::populateVerticeMap()
 {
-    rebuildIndex(ElementKind::Vertices);
+    populate(ElementKind::Vertices);
 }
 
 void JobEditor::populateFreeTextMap()
 {
-    rebuildIndex(ElementKind::FreeTexts);
+    populate(ElementKind::FreeTexts);
 }
 
 void JobEditor::populateFloorMap()
 {
-    rebuildIndex(ElementKind::Floors);
+    populate(ElementKind::Floors);
 }
 
 void JobEditor::populateRoomMap()
 {
-    rebuildIndex(ElementKind::Rooms);
+    populate(ElementKind::Rooms);
 }
 
 void JobEditor::populatePortMap()
 {
-    rebuildIndex(ElementKind::Ports);
+    populate(ElementKind::Ports);
 }
 
 void JobEditor::populateActivePortMap()
 {
-    rebuildIndex(ElementKind::ActivePorts);
+    populate(ElementKind::ActivePorts);
 }
 
 void JobEditor::populateVerticalRunMap()
 {
-    rebuildIndex(ElementKind::VerticalRuns);
+    populate(ElementKind::VerticalRuns);
 }
 
 void JobEditor::populatePointMap()
 {
-    rebuildIndex(ElementKind::Points);
+    populate(ElementKind::Points);
 }
 
 void JobEditor::populateFloorFreeTextMap()
 {
-    rebuildIndex(ElementKind::FloorFreeTexts);
+    populate(ElementKind::FloorFreeTexts);
+}
+
+/// Rebuilds an index for a caller, who may also have changed what elements name.
+void JobEditor::populate(ElementKind kind)
+{
+    m_index->references.reset();
+    rebuildIndex(kind);
 }
 
 void JobEditor::rebuildIndex(ElementKind kind)

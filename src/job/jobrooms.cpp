@@ -93,7 +93,7 @@ void JobEditor::completeNewRoom(const QDomElement &room)
     ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
     if (rooms.containsTag(room.tagName()) && !floor.nextSiblingElement().isNull()) {
         // Which room of that tag is the first in the document, only the document can tell.
-        populateRoomMap();
+        rebuildIndex(ElementKind::Rooms);
         return;
     }
     rooms.append(room);
@@ -125,8 +125,8 @@ void JobEditor::removeRoom(const QString &floorTag, const QString &tag)
     m_index->roomsOfFloor[floorTag].remove(room);
     removeElement(room);
     if (isOrderLost) {
-        populatePortMap();
-        populateVerticalRunMap();
+        rebuildIndex(ElementKind::Ports);
+        rebuildIndex(ElementKind::VerticalRuns);
     }
 }
 
@@ -186,7 +186,7 @@ void JobEditor::setRoomName(const QString &floorTag, const QString &id, const QS
     room.setAttribute(words::Id, newId);
     if (isTaken) {
         // Which room of that id is the first on the floor, only the document can tell.
-        populateRoomMap();
+        rebuildIndex(ElementKind::Rooms);
     } else {
         roomsOnFloor.append(room);
         (*m_index)[ElementKind::Rooms].updateId(room);

@@ -50,9 +50,9 @@ void JobEditor::removeSheet(const QString &tag)
         return;
     (*m_index)[ElementKind::Sheets].remove(sheet);
     removeElement(sheet);
-    populateDeviceMap();
-    populateVerticeMap();
-    populateFreeTextMap();
+    rebuildIndex(ElementKind::Devices);
+    rebuildIndex(ElementKind::Vertices);
+    rebuildIndex(ElementKind::FreeTexts);
     dropReferencesToAll(ElementKind::Devices, sheet.firstChildElement(words::DeviceList));
     dropReferencesToAll(ElementKind::Vertices, sheet.firstChildElement(words::VerticeList));
 }

@@ -208,14 +208,25 @@ private Q_SLOTS:
         QCOMPARE(JobEditorProbe(job()).text(), before);
     }
 
+    /// What a caller did to the tree counts after any of the rebuilds.
     void callersChangesCountAfterARebuild()
     {
-        const QString c = job().addPort(m_floor, m_room, 1, 2, "", "C", "", 1, 1, 1);
-        job().addCable("", "", 0);
-        job().getToCableList().firstChildElement().setAttribute("to", c);
-        job().updateAllInternalLists();
-        job().removePort(c);
-        QVERIFY(job().getCables(true).isEmpty());
+        using Rebuild = void (JobEditor::*)();
+        for (const Rebuild rebuild :
+             {&JobEditor::updateAllInternalLists, &JobEditor::populateCurrentCablesLists, &JobEditor::populateCableMap,
+              &JobEditor::populateCableTypeMap, &JobEditor::populateConnectionMap, &JobEditor::populateSheetMap,
+              &JobEditor::populateDeviceMap, &JobEditor::populateVerticeMap, &JobEditor::populateFreeTextMap,
+              &JobEditor::populateFloorMap, &JobEditor::populateRoomMap, &JobEditor::populatePortMap,
+              &JobEditor::populateActivePortMap, &JobEditor::populateVerticalRunMap, &JobEditor::populatePointMap,
+              &JobEditor::populateFloorFreeTextMap}) {
+            const QString port = job().addPort(m_floor, m_room, 1, 2, "", "P", "", 1, 1, 1);
+            job().removePort(job().addPort(m_floor, m_room, 1, 2, "", "Q", "", 1, 1, 1));
+            job().addCable("", "", 0);
+            job().getToCableList().firstChildElement().setAttribute("to", port);
+            (job().*rebuild)();
+            job().removePort(port);
+            QCOMPARE(job().getCables(true), QStringList());
+        }
     }
 };
 
