@@ -618,12 +618,17 @@ public:
 
     // Lengths from the plan
 
-    /// The length of a cable in feet, or in metres (metric): from end to end along its path, in straight lines
-    /// at the scale of the floor plan ("FloorPlan_Settings"; 96 pixels are an inch of the drawing), and down the
-    /// drop heights of both ends, and through the ceiling heights, in feet, of the floors between those that a
-    /// vertical run joins (none between neighbours). -1.0 when the plan has no scale, an end or a point of the path
-    /// does not exist, or the way leads to another floor without a vertical run. Settings that an older file lacks are
-    /// added.
+    /// Returns the estimated length of a cable in feet, or in metres (metric). It is the sum of
+    ///
+    ///   - the straight lines from end to end along the path, at the scale of the floor plan ("FloorPlan_Settings"; 96
+    ///     pixels are an inch of the drawing),
+    ///   - the drop heights of both ends, from the ceiling down,
+    ///   - for each way between two floors, the ceiling heights of the floors above the lower one, up to and including
+    ///     the upper one, as far as the job has them. Cables run along ceilings, and the ceiling of the upper floor is
+    ///     that many storeys above that of the lower one: from floor 1 to floor 2 it is the height of floor 2.
+    ///
+    /// Returns -1.0 if the plan has no scale, if an end or an entry of the path does not exist, or if the way leads to
+    /// another floor without a vertical run. Adds settings that an older file lacks.
     double estimateCableLength(const QString &tag, bool metric);
     /// The lengths of all cables, by tag.
     QMap<QString, double> estimateCableLengths(bool metric);

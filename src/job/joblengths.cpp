@@ -84,12 +84,17 @@ Port JobEditor::placeOfPoint(const QString &tag) const
     return {tag, point.id(), point.x(), point.y(), QString(), 1.0, 0.0, QString(), point.parent()};
 }
 
-/// The ceiling heights of the floors between two.
+/// The way from the ceiling of a floor to that of another one: through the storeys above the lower floor, up to and
+/// including the upper one.
 double JobEditor::heightBetween(const QString &tagA, const QString &tagB) const
 {
+    const int numberA = getFloorNumber(tagA).toInt();
+    const int numberB = getFloorNumber(tagB).toInt();
+    if (numberA == numberB)
+        return 0.0;
     double height = 0.0;
-    const QStringList floors = getFloorsInBetween(tagA, tagB);
+    const QStringList floors = getFloorsInBetween(tagA, tagB) + QStringList(numberA < numberB ? tagB : tagA);
     for (const QString &floor : floors)
-        height += getFloor(floor).ceilingHeight();
+        height += floorAttributes().read(floorElement(floor)).ceilingHeight;
     return height;
 }
