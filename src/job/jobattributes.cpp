@@ -12,7 +12,7 @@ const AttributeTable<FloorFields> &floorAttributes()
     static const AttributeTable<F> table{
         attribute<&F::id>(words::Id),
         attribute<&F::pic>(words::Picture),
-        attribute<&F::ceilingHeight>(words::CeilingHeight),
+        attribute<&F::ceilingHeight>(words::CeilingHeight, WhenMissing::AddDefault),
         onDemand<F>(words::PictureX, QStringLiteral("0")),
         onDemand<F>(words::PictureY, QStringLiteral("0")),
         onDemand<F>(words::BackgroundOption, QStringLiteral("Center")),

@@ -235,9 +235,9 @@ public:
     void copyFloor(const QString &srcTag, const QString &dstTag, const QMap<QString, QString> &cableIds,
                    bool useCableIds);
 
-    /// The floor of that tag; an empty record when there is none. What the element lacks has its default
-    /// in the record only.
-    Floor getFloor(const QString &tag) const;
+    /// Returns the floor with the given tag, or an empty record if there is none. Adds a missing ceiling height of 8 to
+    /// the document. What else the element lacks has its default in the record only.
+    Floor getFloor(const QString &tag);
     /// Renames a floor.
     void setFloorId(const QString &tag, const QString &id);
     /// Renames floors, given as tag and new id.
@@ -311,10 +311,13 @@ public:
     /// The same by id.
     Room getRoomById(const QString &floorTag, const QString &id);
 
+    /// Sets position and size.
     void setRoomPos(const QString &floorTag, const QString &id, int x, int y, int width, int height);
     /// Renames a room.
     void setRoomName(const QString &floorTag, const QString &id, const QString &newId);
-    /// Position of the name's label.
+    // The following find the room as getRoomById() does, and like it add the layer and the display flags that it lacks.
+
+    /// Sets the position of the name's label.
     void setRoomNamePos(const QString &floorTag, const QString &id, const QPoint &position);
     void setRoomLayer(const QString &floorTag, const QString &id, int layer);
     void setShowRoomName(const QString &floorTag, const QString &id, int show);

@@ -69,11 +69,14 @@ void JobEditor::removeFloor(const Floor &floor)
     removeFloor(floor.element());
 }
 
-Floor JobEditor::getFloor(const QString &tag) const
+Floor JobEditor::getFloor(const QString &tag)
 {
     const QDomElement element = floorElement(tag);
     if (element.isNull())
         return Floor();
+    // Reading brings floors of older files up to date, on purpose.
+    if (floorAttributes().complete(element))
+        setDirty(true);
     FloorFields fields = floorAttributes().read(element);
     fields.element = tag;
     return Floor(fields);

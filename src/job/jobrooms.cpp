@@ -196,21 +196,25 @@ void JobEditor::setRoomName(const QString &floorTag, const QString &id, const QS
 
 void JobEditor::setRoomNamePos(const QString &floorTag, const QString &id, const QPoint &position)
 {
+    getRoomById(floorTag, id); // completes an older room
     writeRoomAttributes(floorTag, id, {{words::NameX, position.x()}, {words::NameY, position.y()}});
 }
 
 void JobEditor::setRoomLayer(const QString &floorTag, const QString &id, int layer)
 {
+    getRoomById(floorTag, id); // completes an older room
     writeRoomAttributes(floorTag, id, {{words::Layer, layer}});
 }
 
 void JobEditor::setShowRoomName(const QString &floorTag, const QString &id, int show)
 {
+    getRoomById(floorTag, id); // completes an older room
     writeRoomAttributes(floorTag, id, {{words::ShowName, show}});
 }
 
 void JobEditor::setShowRoomDimensions(const QString &floorTag, const QString &id, int show)
 {
+    getRoomById(floorTag, id); // completes an older room
     writeRoomAttributes(floorTag, id, {{words::ShowDimensions, show}});
 }
 

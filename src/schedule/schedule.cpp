@@ -82,7 +82,7 @@ public:
         : m_job(job)
         , m_isDry(dryRun)
         , m_there(job)
-        , m_ceilingHeight(job.getFloor(job.getFloorTags().value(0)).ceilingHeight())
+        , m_firstFloor(job.getFloorTags().value(0))
     {
     }
 
@@ -222,8 +222,9 @@ private:
         if (found != m_there.floors.end())
             return *found;
         ++m_report.floors;
-        const QString tag =
-            m_isDry ? QString() : m_job.addFloor(QString(), id, m_ceilingHeight, QString(), addmode::GivenId);
+        const QString tag = m_isDry ? QString()
+                                    : m_job.addFloor(QString(), id, m_job.getFloorCeilingHeight(m_firstFloor),
+                                                     QString(), addmode::GivenId);
         m_there.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
         return *m_there.floors.insert(id, {tag, QDomElement(), 0.0, 0});
     }
@@ -231,7 +232,7 @@ private:
     JobEditor &m_job;
     bool m_isDry;
     JobSchedule m_there;
-    double m_ceilingHeight;
+    QString m_firstFloor;
     ScheduleReport m_report;
 };
 

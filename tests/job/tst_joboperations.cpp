@@ -37,6 +37,7 @@ private:
             {"copySheet", [&] { job.copySheet(word(1), word(2)); }},
             {"getBackgroundOption", [&] { job.getBackgroundOption(word(1)); }},
             {"getCable", [&] { job.getCable(word(1)); }},
+            {"getFloor", [&] { job.getFloor(word(1)); }},
             {"getFloorBackgroundOrigin", [&] { job.getFloorBackgroundOrigin(word(1)); }},
             {"getFloorCeilingHeight", [&] { job.getFloorCeilingHeight(word(1)); }},
             {"getRoomById", [&] { job.getRoomById(word(1), word(2)); }},
