@@ -80,6 +80,12 @@ const AttributeTable<TestResultsFields> &testResultsAttributes()
     return table;
 }
 
+QString testStatus(const QDomElement &cable)
+{
+    static const QString untested = testResultsAttributes().defaultText(words::Status);
+    return cable.firstChildElement(words::TestResults).attribute(words::Status, untested);
+}
+
 const AttributeTable<DeviceConnectionFields> &connectionAttributes()
 {
     using F = DeviceConnectionFields;

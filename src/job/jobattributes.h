@@ -32,6 +32,8 @@ const AttributeTable<DeviceFields> &deviceAttributes();
 const AttributeTable<ActivePortFields> &activePortAttributes();
 /// But for the values, which are elements of their own.
 const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes();
+/// The status of a cable's test; "UNTESTED" for a cable that has no results or whose results lack a status.
+QString testStatus(const QDomElement &cable);
 const QStringList &siteInfoAttributes();
 /// What a new cable's use is stored as.
 QString storedCableUse(const QString &use);

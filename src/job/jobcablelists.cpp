@@ -1,6 +1,7 @@
 #include "jobeditor.h"
 
 #include "childelements.h"
+#include "jobattributes.h"
 #include "jobindex.h"
 #include "jobwords.h"
 
@@ -87,10 +88,8 @@ QStringList JobEditor::cablesEndingAt(const std::set<QString> &ends) const
 
 QStringList JobEditor::getCablesByStatus(const QString &status) const
 {
-    return cablesWhere(getToCableList(), [&status](const QDomElement &cable) {
-        const QDomElement results = cable.firstChildElement(words::TestResults);
-        return !results.isNull() && results.attribute(words::Status) == status;
-    });
+    return cablesWhere(getToCableList(),
+                       [&status](const QDomElement &cable) { return testStatus(cable) == status; });
 }
 
 bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const

@@ -597,7 +597,7 @@ public:
     QStringList getCablesByPort(const QString &tag) const;
     /// The tags of the cables with an end at a port or vertical run on that floor.
     QStringList getCablesByFloor(const QString &floorTag) const;
-    /// The tags of the cables whose test has that status.
+    /// Returns the tags of the cables that have this status, as getCableStatus() gives it.
     QStringList getCablesByStatus(const QString &status) const;
 
     // Test results of cables
@@ -608,7 +608,8 @@ public:
     /// The results; a default record for an unknown cable. What an older file lacks but for status and time
     /// is added with its default.
     TestResults getCableTestResults(const QString &cableTag);
-    /// The status alone; empty for a cable without test results.
+    /// Returns the status alone: "UNTESTED" if the cable has no test results or they lack a status, empty if there is
+    /// no such cable.
     QString getCableStatus(const QString &cableTag) const;
     /// The measured length of a pair (0 to 3): its reading divided by the length constant, in pF per foot,
     /// of the type's test definition. To the nearest half metre (metric) or tenth of a foot. 0 for another
@@ -698,6 +699,7 @@ private:
 
     ~JobEditor() override;
 
+    void populate(cabledoc::ElementKind kind);
     void rebuildIndex(cabledoc::ElementKind kind);
     bool refuseWhenOpen();
     void create(double ceilingHeight);
@@ -707,7 +709,6 @@ private:
     bool mayBeFile(const QString &filename, const QString &extension);
 
     // All kinds of elements that have tags and ids
-    void populate(cabledoc::ElementKind kind);
     template <typename Kind>
     QDomElement addElement(const Kind &kind, const QDomElement &parent, typename Kind::Fields fields, int mode);
     template <typename Kind> typename Kind::Fields readElement(const Kind &kind, const QDomElement &element) const;

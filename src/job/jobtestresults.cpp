@@ -46,7 +46,8 @@ TestResults JobEditor::getCableTestResults(const QString &cableTag)
 
 QString JobEditor::getCableStatus(const QString &cableTag) const
 {
-    return getChildAttr(words::Status, cableElement(cableTag).firstChildElement(words::TestResults));
+    const QDomElement cable = cableElement(cableTag);
+    return cable.isNull() ? QString() : testStatus(cable);
 }
 
 /// A length reading in feet, as the test definition of the cable's type says.

@@ -94,6 +94,25 @@ private Q_SLOTS:
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
+    void cablesWithoutAStatusAreUntested()
+    {
+        JobEditor &job = JobEditor::Instance();
+        job.addCable("A", "A", "data", "P1", "P2", "T", TestResults("", "PASS", cable_struct::untested(), 1), 2);
+        job.addCable("B", "B", "data", "P1", "P2", "T", TestResults("", "", cable_struct::untested(), 1), 2);
+        job.addCable("C", "C", 2);
+        job.addCable("D", "D", 2);
+        QDomElement withoutStatus = job.getToCableList().firstChildElement("C").firstChildElement();
+        withoutStatus.removeAttribute("status");
+        QDomElement withoutResults = job.getToCableList().firstChildElement("D");
+        withoutResults.removeChild(withoutResults.firstChild());
+        for (const QString &tag : {QString("C"), QString("D")}) {
+            QCOMPARE(job.getCableStatus(tag), QString("UNTESTED"));
+            QCOMPARE(job.getCableTestResults(tag).status(), QString("UNTESTED"));
+        }
+        QCOMPARE(job.getCableStatus("A") + job.getCableStatus("B") + job.getCableStatus("none"), QString("PASS"));
+        QCOMPARE(job.getCablesByStatus("UNTESTED").join(','), QString("C,D"));
+    }
+
     void lengths()
     {
         JobEditor &job = JobEditor::Instance();
@@ -141,7 +160,6 @@ private Q_SLOTS:
         QCOMPARE(job.getCablesByFloor("FFloor_1").join(','), QString("Cable1,Cable2"));
         QCOMPARE(job.getCablesByStatus("PASS").join(','), QString("Cable1"));
         QVERIFY(job.getCablesByStatus("FAIL").isEmpty());
-        QCOMPARE(job.getCableStatus("Cable1") + job.getCableStatus("Cable2"), QString("PASS"));
         QCOMPARE(job.getPortIdByTag("P3") + job.getVertRunIdByTag("V1"), QString("Jack 1Riser"));
         job.removeCable("Cable2");
         QCOMPARE(job.getCablesByPort("P3").join(','), QString("Cable3"));
