@@ -916,6 +916,10 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <source>Something that is no file has this name.</source>
         <translation>Etwas, das keine Datei ist, hat diesen Namen.</translation>
     </message>
+    <message>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>Die Datei beginnt mit der Bytereihenfolge-Markierung von %1. Speichern Sie sie in der Kodierung ISO-8859-1 (Latin-1), ohne Markierung.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -916,6 +916,10 @@ de más de 330 ft (100 m).</translation>
         <source>Something that is no file has this name.</source>
         <translation>Algo que no es un archivo tiene este nombre.</translation>
     </message>
+    <message>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>El archivo empieza con la marca de orden de bytes de %1. Guárdelo en la codificación ISO-8859-1 (Latin-1), sin marca.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -916,6 +916,10 @@ de plus de 330 ft (100 m).</translation>
         <source>Something that is no file has this name.</source>
         <translation>Quelque chose qui n&apos;est pas un fichier porte ce nom.</translation>
     </message>
+    <message>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>Le fichier commence par la marque d&apos;ordre des octets de %1. Enregistrez-le dans le codage ISO-8859-1 (Latin-1), sans marque.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QSaveFile>
 
 #include <cerrno>
@@ -24,6 +25,28 @@ bool isAscii(const QByteArray &bytes)
     for (const char byte : bytes)
         all = char(all | byte);
     return (all & 0x80) == 0;
+}
+
+/// The text of a file. The encoding that its XML declaration names does not count; Qt 5 would refuse a file for a name
+/// that it does not know. Blanks take the place of the name, so that positions stay as they are.
+QString decoded(const QByteArray &bytes)
+{
+    static const QRegularExpression encoding(
+        QStringLiteral("^<\\?xml\\s[^>]*?(\\sencoding\\s*=\\s*(?:\"[A-Za-z][\\w.-]*\"|'[A-Za-z][\\w.-]*'))[^>]*>"));
+    QString text = QString::fromLatin1(bytes);
+    const QRegularExpressionMatch match = encoding.match(text);
+    if (match.hasMatch())
+        text.replace(match.capturedStart(1), match.capturedLength(1),
+                     QString(match.capturedLength(1), QLatin1Char(' ')));
+    return text;
+}
+
+/// Takes the XML declaration, which a save never writes, out of the tree, so that the root comes first.
+void removeDeclaration(QDomDocument *document)
+{
+    const QDomNode first = document->firstChild();
+    if (first.isProcessingInstruction() && first.nodeName() == QLatin1String("xml"))
+        document->removeChild(first);
 }
 
 } // namespace
@@ -46,13 +69,14 @@ ReadResult read(const QString &fileName, const QString &documentTypeName)
     result.problem = scanXml(bytes);
     if (result.problem.message.isNull()) {
         QXmlStreamReader reader;
-        // The reader takes ASCII as it is, unless a declaration makes it take another encoding.
+        // The reader takes ASCII as it is, unless a declaration says something else.
         if (isAscii(bytes) && !bytes.startsWith("<?xml"))
             reader.addData(bytes);
         else
-            reader.addData(QString::fromLatin1(bytes));
+            reader.addData(decoded(bytes));
         reader.setNamespaceProcessing(false);
         result.problem = qtcompat::setContent(&result.document, &reader);
+        removeDeclaration(&result.document);
     }
     if (!result.problem.message.isNull()) {
         result.status = ReadResult::NotParsed;

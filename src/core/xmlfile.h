@@ -10,8 +10,9 @@
 
 #include <functional>
 
-/// The one way from a file to a tree and back. Files are Latin-1 text, indented by one space a level,
-/// without an XML declaration and without a document type.
+/// The one way from a file to a tree and back. Files are Latin-1 text, indented by one space a level, without an XML
+/// declaration and without a document type. A declaration in a file that is read does not count, whatever encoding it
+/// names, and is not kept.
 namespace cabledoc::xmlfile {
 
 struct ReadResult

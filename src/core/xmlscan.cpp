@@ -6,8 +6,16 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
+
+/// What files of other encodings begin with.
+constexpr std::pair<const char *, const char *> marks[] = {
+    {"\xEF\xBB\xBF", "UTF-8"},
+    {"\xFE\xFF", "UTF-16"},
+    {"\xFF\xFE", "UTF-16"},
+};
 
 /// Walks the markup of a text. Where the text is not well-formed the walk may go astray, but not before
 /// the place at which the parser stops.
@@ -23,6 +31,16 @@ public:
 
     cabledoc::XmlProblem run()
     {
+        for (const auto &[mark, encoding] : marks) {
+            if (skip(mark)) {
+                m_position = m_begin;
+                report(QCoreApplication::translate(
+                           "XmlFile", "The file begins with the byte order mark of %1. Save it in the encoding "
+                                      "ISO-8859-1 (Latin-1), without a mark.")
+                           .arg(QLatin1String(encoding)));
+                return m_problem;
+            }
+        }
         // The parser lets control characters pass in names.
         m_position = firstForbidden();
         if (m_position != m_end)

@@ -19,8 +19,8 @@ struct XmlProblem
     int column = 0; ///< counted from 1
 };
 
-/// Looks through an undecoded XML text for what the parser must not see: control characters, too many levels
-/// or attributes, and document types that say more than a name (they could hold entities that grow without end, or
+/// Looks through an undecoded XML text for what the parser must not see: the mark of another encoding, control
+/// characters, too many levels or attributes, and document types that say more than a name (they could hold entities that grow without end, or
 /// that cannot be resolved). Faults of syntax are left to the parser.
 XmlProblem scanXml(const QByteArray &text);
 

@@ -7,7 +7,7 @@ using namespace cabledoc;
 
 bool JobEditor::checkVersion()
 {
-    // The first child of the document has to be the root: nothing skips a declaration or a comment.
+    // The first child of the document has to be the root: nothing skips a comment.
     const QDomElement root = m_document.firstChild().toElement();
     if (root.tagName() != words::Job)
         return false;

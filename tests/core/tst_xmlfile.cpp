@@ -108,6 +108,18 @@ private Q_SLOTS:
         QVERIFY(!result.document.hasChildNodes());
     }
 
+    void marksOfOtherEncodings()
+    {
+        const QVector<QPair<QByteArray, QString>> marks{
+            {"\xEF\xBB\xBF", "UTF-8"}, {"\xFE\xFF", "UTF-16"}, {"\xFF\xFE", "UTF-16"}};
+        for (const auto &[mark, encoding] : marks) {
+            const XmlProblem problem = read(mark + "<a/>").problem;
+            QVERIFY2(problem.message.contains(encoding) && problem.message.contains("ISO-8859-1"),
+                     qPrintable(problem.message));
+            QCOMPARE(problem.line + problem.column, 2);
+        }
+    }
+
     void takesWhatTheLimitsAllow()
     {
         const QByteArray content = nested(255, "<b/>" + elementWith(maximumAttributes));
