@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString text = QString::fromLatin1(reinterpret_cast<const char *>(data), int(size));
     readAndWrite<cable_struct>(text);
     readAndWrite<TRUEPHY_PLOT_DATA>(text);
-    std::array<bool, 4> flags{};
+    cabledoc::PairFlags flags{};
     expect(!cabledoc::fromText(text, &flags) || text.startsWith(cabledoc::toText(flags)),
            "flags are read as they stand");
     return 0;

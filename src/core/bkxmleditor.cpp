@@ -9,6 +9,7 @@
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 
 using namespace cabledoc;
 
@@ -98,14 +99,14 @@ QDomElement BKXMLEditor::getToBundledCableTypeList() const
 
 QString BKXMLEditor::boolArrayToString(const bool *flags)
 {
-    return toText(std::array<bool, 4>{flags[0], flags[1], flags[2], flags[3]});
+    return toText(PairFlags{flags[0], flags[1], flags[2], flags[3]});
 }
 
 bool BKXMLEditor::stringToBoolArray(const QString &text, bool *flags)
 {
-    std::array<bool, 4> read{flags[0], flags[1], flags[2], flags[3]};
+    PairFlags read{flags[0], flags[1], flags[2], flags[3]};
     const bool isWhole = fromText(text, &read);
-    std::copy(read.begin(), read.end(), flags);
+    std::copy(std::begin(read), std::end(read), flags);
     return isWhole;
 }
 

@@ -4,6 +4,7 @@
 #include "qtcompat.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace cabledoc;
 
@@ -96,9 +97,28 @@ TestDef::TestDef(const QString &id)
     m_fields.id = id;
 }
 
+TestDef::TestDef(const QString &id, const cable_struct &expected, const bool *pairsInUse, int dataRate, int snr,
+                 int skew, bool shield, float lengthConstant, float maxLength, const QString &comment,
+                 int cableCategory, bool defaultType, const QString &color)
+    : Record({id,
+              expected,
+              {pairsInUse[0], pairsInUse[1], pairsInUse[2], pairsInUse[3]},
+              dataRate,
+              snr,
+              skew,
+              shield,
+              lengthConstant,
+              maxLength,
+              comment,
+              cableCategory,
+              defaultType,
+              color})
+{
+}
+
 void TestDef::setPairInUse(const bool *flags)
 {
-    std::copy(flags, flags + pairCount, m_fields.pairInUse.begin());
+    std::copy(flags, flags + pairCount, m_fields.pairInUse);
 }
 
 int TestDef::length_constant() const
@@ -146,7 +166,8 @@ void TestDef::setPairCare(int pair, int side, int code)
 QString TestDef::validDef() const
 {
     const Conditions is(*this);
-    if (std::none_of(m_fields.pairInUse.begin(), m_fields.pairInUse.end(), [](bool inUse) { return inUse; }))
+    const bool *pairs = pair_in_use();
+    if (std::none_of(pairs, pairs + pairCount, [](bool inUse) { return inUse; }))
         return tr("Cable has no pairs please\n specify which pairs are in use.");
 
     if (data_rate() == 1000) {

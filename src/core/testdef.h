@@ -8,12 +8,12 @@
 
 struct TestDefFields
 {
-    QString id;                                            ///< name, which is the cable type
-    cable_struct expected = cable_struct::untested();      ///< what a good cable gives
-    std::array<bool, 4> pairInUse{true, true, true, true}; ///< pair 0 is on pins 1-2, pair 1 on pins 3-6
-    int dataRate = 0;                                      ///< 1000 for 1 Gbit/s, 100 for 100 Mbit/s, 0 for none
-    int snr = 0;                                           ///< tenths of a dB; 0: not measured
-    int skew = 0;                                          ///< tenths of a ns; 0: not measured
+    QString id;                                               ///< name, which is the cable type
+    cable_struct expected = cable_struct::untested();         ///< what a good cable gives
+    cabledoc::PairFlags pairInUse = {true, true, true, true}; ///< pair 0 is on pins 1-2, pair 1 on pins 3-6
+    int dataRate = 0;                                         ///< 1000 for 1 Gbit/s, 100 for 100 Mbit/s, 0 for none
+    int snr = 0;                                              ///< tenths of a dB; 0: not measured
+    int skew = 0;                                             ///< tenths of a ns; 0: not measured
     bool shield = false;
     /// Hundredths of pF per foot. The default lies outside of what rated cables may have: a new definition
     /// is not rated.
@@ -28,8 +28,9 @@ struct TestDefFields
     {
         const auto &[name, block, pairs, rate, noise, delay, shielded, constant, length, remark, category, isDefault,
                      colorName] = *this;
-        return std::tie(name, block, pairs, rate, noise, delay, shielded, constant, length, remark, category, isDefault,
-                        colorName);
+        // An array of its own would be compared by its address.
+        return std::tie(name, block, pairs[0], pairs[1], pairs[2], pairs[3], rate, noise, delay, shielded, constant,
+                        length, remark, category, isDefault, colorName);
     }
 };
 
@@ -44,13 +45,19 @@ public:
     explicit TestDef(const Fields &fields);
     /// A definition of that name for cables without a rating: all pairs in use and straight.
     explicit TestDef(const QString &id);
+    /// All fields in their order. pairsInUse points to four flags.
+    TestDef(const QString &id, const cable_struct &expected, const bool *pairsInUse, int dataRate, int snr, int skew,
+            bool shield, float lengthConstant, float maxLength, const QString &comment, int cableCategory,
+            bool defaultType, const QString &color);
 
     const QString &id() const { return m_fields.id; }
     void setID(const QString &id) { m_fields.id = id; }
     const cable_struct &expected() const { return m_fields.expected; }
     void setExpected(const cable_struct &expected) { m_fields.expected = expected; }
-    /// Four flags.
-    const bool *pair_in_use() const { return m_fields.pairInUse.data(); }
+    /// Four flags, which can be written through.
+    bool *pair_in_use() { return m_fields.pairInUse; }
+    const bool *pair_in_use() const { return m_fields.pairInUse; }
+    /// flags points to four flags.
     void setPairInUse(const bool *flags);
     int data_rate() const { return m_fields.dataRate; }
     void setDataRate(int rate) { m_fields.dataRate = rate; }

@@ -1,6 +1,8 @@
 #include "testencoding.h"
 
+#include <array>
 #include <charconv>
+#include <iterator>
 
 namespace cabledoc {
 
@@ -178,7 +180,7 @@ void fromText(const QString &text, TRUEPHY_PLOT_DATA *curve)
         curve->count = reader.next();
 }
 
-QString toText(const std::array<bool, 4> &flags)
+QString toText(const PairFlags &flags)
 {
     QString text;
     for (const bool flag : flags)
@@ -186,9 +188,9 @@ QString toText(const std::array<bool, 4> &flags)
     return text;
 }
 
-bool fromText(const QString &text, std::array<bool, 4> *flags)
+bool fromText(const QString &text, PairFlags *flags)
 {
-    for (int i = 0; i < int(flags->size()); ++i) {
+    for (int i = 0; i < int(std::size(*flags)); ++i) {
         const QChar character = i < text.size() ? text.at(i) : QChar();
         if (character != QLatin1Char('0') && character != QLatin1Char('1'))
             return false;

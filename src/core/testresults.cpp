@@ -1,5 +1,8 @@
 #include "testresults.h"
 
+#include <algorithm>
+#include <iterator>
+
 TestResults::TestResults(const Fields &fields)
     : Record(fields)
 {
@@ -23,6 +26,13 @@ TestResults::TestResults(const QString &time, const QString &status, const QStri
     m_fields.results = results;
 }
 
+TestResults::TestResults(const QString &time, const QString &softwareVersion, const QString &serialNumber,
+                         const QString &status, int bertErrors, const cable_struct &results,
+                         const TRUEPHY_PLOT_DATA &next, const TRUEPHY_PLOT_DATA &echo, const TRUEPHY_PLOT_DATA &channel)
+    : Record({time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel})
+{
+}
+
 void TestResults::initializeCableStruct()
 {
     m_fields.results = cable_struct::untested();
@@ -31,8 +41,8 @@ void TestResults::initializeCableStruct()
 void TestResults::initializeResponsePlotData()
 {
     for (TRUEPHY_PLOT_DATA *curve : {&m_fields.next, &m_fields.echo, &m_fields.channel}) {
-        curve->plot_a.fill(0);
-        curve->plot_b.fill(0);
+        std::fill(std::begin(curve->plot_a), std::end(curve->plot_a), 0);
+        std::fill(std::begin(curve->plot_b), std::end(curve->plot_b), 0);
         curve->count = 0;
     }
 }

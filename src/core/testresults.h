@@ -39,6 +39,10 @@ public:
     /// The status comes second. The curves are empty.
     TestResults(const QString &time, const QString &status, const QString &softwareVersion, const QString &serialNumber,
                 const cable_struct &results, int bertErrors);
+    /// All fields in their order.
+    TestResults(const QString &time, const QString &softwareVersion, const QString &serialNumber, const QString &status,
+                int bertErrors, const cable_struct &results, const TRUEPHY_PLOT_DATA &next,
+                const TRUEPHY_PLOT_DATA &echo, const TRUEPHY_PLOT_DATA &channel);
 
     const QString &time() const { return m_fields.time; }
     void setTime(const QString &time) { m_fields.time = time; }
@@ -50,6 +54,8 @@ public:
     void setStatus(const QString &status) { m_fields.status = status; }
     int BERTResults() const { return m_fields.bertErrors; }
     void setBERTResults(int errors) { m_fields.bertErrors = errors; }
+    /// The results block, which can be written through.
+    cable_struct &results() { return m_fields.results; }
     const cable_struct &results() const { return m_fields.results; }
     void setResults(const cable_struct &results) { m_fields.results = results; }
     TRUEPHY_PLOT_DATA next() const { return m_fields.next; }

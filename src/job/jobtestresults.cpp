@@ -6,6 +6,7 @@
 #include "units.h"
 
 #include <cmath>
+#include <iterator>
 
 using namespace cabledoc;
 
@@ -60,7 +61,7 @@ float JobEditor::correctedLength(int reading, const QString &cableTag) const
 float JobEditor::getRoundedCableLength(const QString &cableTag, int pair, bool metric)
 {
     const cable_struct results = getCableTestResults(cableTag).results();
-    if (pair < 0 || pair >= int(results.pair_length.size()))
+    if (pair < 0 || pair >= int(std::size(results.pair_length)))
         return 0.0F;
     return roundedLength(correctedLength(results.pair_length[pair], cableTag), metric);
 }

@@ -20,8 +20,8 @@ private Q_SLOTS:
         curve.count = 257;
         results.setChannel(curve);
         cable_struct block = cable_struct::untested();
-        block.word_group_a.fill(1);
-        block.pair_length.fill(2);
+        std::fill_n(block.word_group_a, 4, 1);
+        std::fill_n(block.pair_length, 4, 2);
         results.setResults(block);
         Cable cable("C", "Id", "data", "P1", "P2", "CAT6", results, {"Point1", "Point2"}, "B", "1", "2", "#010203");
         QCOMPARE(job.addCable(cable, 0), QString(withGeneratedNames("Cable001")));
@@ -124,7 +124,8 @@ private Q_SLOTS:
         job.addTestDef(definition);
         TestResults results;
         cable_struct block = cable_struct::untested();
-        block.pair_length = {328, 99, 0, 1};
+        const int readings[] = {328, 99, 0, 1};
+        std::copy(std::begin(readings), std::end(readings), block.pair_length);
         results.setResults(block);
         job.addCable("C", "C", "data", "P1", "P2", "T", results, 2);
         QCOMPARE(job.getRoundedCableLength("C", 0, false), 328.0F);
@@ -132,7 +133,7 @@ private Q_SLOTS:
         // 30.18 metres
         QCOMPARE(job.getRoundedCableLength("C", 1, true), 30.0F);
         QCOMPARE(job.getRoundedCableLength("C", 4, true), 0.0F);
-        block.pair_length = {328, 0, 0, 0};
+        std::fill_n(block.pair_length + 1, 3, 0);
         results.setResults(block);
         job.setCableTestResults("C", results);
         QCOMPARE(job.getMaxRoundedCableLength("C", false, true), 328.0F);

@@ -15,8 +15,8 @@ private Q_SLOTS:
     {
         JobEditor &job = JobEditor::Instance();
         TestDef definition("CAT6");
-        const std::array<bool, 4> pairs{true, false, true, false};
-        definition.setPairInUse(pairs.data());
+        const bool pairs[] = {true, false, true, false};
+        definition.setPairInUse(pairs);
         definition.setPairMapping(0, 1);
         definition.setPairCare(2, 1, 1);
         definition.setDataRate(100);
@@ -30,8 +30,8 @@ private Q_SLOTS:
         definition.setDefaultType(true);
         definition.setColor("#123456");
         cable_struct expected = definition.expected();
-        expected.word_group_a.fill(65535);
-        expected.pair_length.fill(65535);
+        std::fill_n(expected.word_group_a, 4, 65535);
+        std::fill_n(expected.pair_length, 4, 65535);
         definition.setExpected(expected);
         job.addTestDef(definition);
         QVERIFY(job.fileChanged());
