@@ -2,6 +2,7 @@
 
 #include "cabledoc_export.h"
 
+#include <QtCore/QCalendar>
 #include <QtCore/QDate>
 #include <QtCore/QString>
 
@@ -15,7 +16,7 @@ public:
         : QDate(year, month, day)
     {
     }
-    explicit TranslatableDate(const QDate &date)
+    TranslatableDate(const QDate &date)
         : QDate(date)
     {
     }
@@ -28,6 +29,9 @@ public:
     /// The date in a format of QDate::toString(), with the names of "ddd", "dddd", "MMM" and "MMMM" translated,
     /// even in quotes. Empty for an invalid date.
     QString toString(const QString &format) const;
+    /// The other forms of QDate::toString(), which do not translate.
+    using QDate::toString;
+    QString toString(const QString &format, QCalendar calendar) const { return QDate::toString(format, calendar); }
 
     /// The translated name of a month (1 to 12) or of a day of the week (1, Monday, to 7); empty for another
     /// number.

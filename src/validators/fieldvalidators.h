@@ -14,7 +14,7 @@ class CABLEDOC_EXPORT DeviceValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit DeviceValidator(QObject *parent);
+    explicit DeviceValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -26,7 +26,7 @@ class CABLEDOC_EXPORT FileValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit FileValidator(QObject *parent);
+    explicit FileValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -37,7 +37,7 @@ class CABLEDOC_EXPORT IDValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit IDValidator(QObject *parent);
+    explicit IDValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -48,7 +48,7 @@ class CABLEDOC_EXPORT InfoValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit InfoValidator(QObject *parent);
+    explicit InfoValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -59,7 +59,7 @@ class CABLEDOC_EXPORT LengthValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit LengthValidator(QObject *parent);
+    explicit LengthValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -70,7 +70,7 @@ class CABLEDOC_EXPORT PortValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit PortValidator(QObject *parent);
+    explicit PortValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
@@ -81,7 +81,7 @@ class CABLEDOC_EXPORT TypeValidator : public QValidator
     Q_OBJECT
 
 public:
-    explicit TypeValidator(QObject *parent);
+    explicit TypeValidator(QObject *parent = nullptr);
     State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
 };
