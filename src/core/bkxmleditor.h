@@ -68,6 +68,10 @@ public:
     PageSettings getPageSettings(const QString &name);
     ScaleSettings getScaleSettings(const QString &name);
 
+    /// Adds the default settings to parent, and an empty "JobNotes_Text". What parent has of it already stays as it is,
+    /// so that this brings an older document up to date too. Does nothing for a null element.
+    void addSettingsList(QDomElement *parent);
+
     // Test definitions, one for each cable type, known by their names. Without the list of definitions
     // nothing is stored and nothing found.
 
@@ -190,8 +194,6 @@ protected:
     // What a new document holds. What parent has of it already stays as it is, so that these bring an older
     // document up to date too.
 
-    /// Adds the default settings to parent, and an empty "JobNotes_Text".
-    void addSettingsList(QDomElement *parent);
     /// Adds an element with empty attributes of these names and an empty "Address" in it.
     void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
 

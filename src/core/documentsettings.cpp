@@ -130,6 +130,8 @@ void BKXMLEditor::addEntries(const QDomElement &settings, const Kind &kind, Init
 
 void BKXMLEditor::addSettingsList(QDomElement *parent)
 {
+    if (parent == nullptr || parent->isNull())
+        return;
     const QDomElement settings = ensureElement(words::SettingsList, *parent);
     addEntries(settings, printKind(), initialPrintSettings);
     addEntries(settings, pageKind(), [](const QString &) { return PageSettings(); });

@@ -51,6 +51,12 @@ public:
     /// Brings the tree to version 3.0 and saves it after each step. Load() does it. False, with a text in
     /// error(), when the tree is no template of a known version or cannot be saved.
     bool checkVersion();
+    /// Each takes the tree from one version to the next: sets the version, adds what the newer one brought where it is
+    /// missing, and returns true. Both arguments are the root. Nothing is saved.
+    using BKXMLEditor::convert14To21;
+    using BKXMLEditor::convert21To22;
+    using BKXMLEditor::convert22To23;
+    using BKXMLEditor::convert23To30;
 
 protected:
     /// An empty document.
