@@ -25,6 +25,12 @@ QString JobEditor::addConnection(const QString &tag, const QString &id, const QS
     return addConnection(DeviceConnection(tag, id, to, from, type), mode);
 }
 
+QString JobEditor::addConnection(const QString &tag, const QString &id, const QString &to, const QString &from,
+                                 int type, int mode)
+{
+    return addConnection(tag, id, to, from, toText(type), mode);
+}
+
 void JobEditor::removeConnection(const QString &tag)
 {
     removeElementOf(ElementKind::Connections, elementOf(ElementKind::Connections, tag));
@@ -76,4 +82,9 @@ void JobEditor::setConnectionFrom(const QString &tag, const QString &from)
 void JobEditor::setConnectionType(const QString &tag, const QString &type)
 {
     changeAttribute(elementOf(ElementKind::Connections, tag), words::Type, type);
+}
+
+void JobEditor::setConnectionType(const QString &tag, int type)
+{
+    setConnectionType(tag, toText(type));
 }

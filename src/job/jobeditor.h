@@ -643,6 +643,8 @@ public:
     /// nothing changes, in a document without a list of connections.
     QString addConnection(const QString &tag, const QString &id, const QString &to, const QString &from,
                           const QString &type, int mode);
+    QString addConnection(const QString &tag, const QString &id, const QString &to, const QString &from, int type,
+                          int mode);
     QString addConnection(const DeviceConnection &connection, int mode);
     void removeConnection(const QString &tag);
     void removeConnection(const DeviceConnection &connection);
@@ -657,6 +659,7 @@ public:
     void setConnectionTo(const QString &tag, const QString &to);
     void setConnectionFrom(const QString &tag, const QString &from);
     void setConnectionType(const QString &tag, const QString &type);
+    void setConnectionType(const QString &tag, int type);
 
     // The site, releases and notes. Setters of the site mark the document as changed, also when the value is
     // the same, and create an attribute that an older file lacks. Without the element nothing is stored, and
