@@ -166,7 +166,9 @@ public:
     bool freeTextExists(const QString &text, bool byTag) const;
     bool floorFreeTextExists(const QString &text, bool byTag) const;
     bool activePortExists(const QString &text, bool byTag) const;
-    /// Whether one of the rooms of that floor has that text as its tag (byTag) or as its id.
+    /// Whether one of the rooms of a floor has that text as its tag (byTag) or as its id. The floor is given by its
+    /// tag. It may come first as well: of the two texts the one that is a floor's tag is the floor, and the second if
+    /// both are.
     bool roomExistsOnFloor(const QString &room, const QString &floorTag, bool byTag) const;
 
     // Index: lists and names

@@ -95,6 +95,8 @@ bool JobEditor::activePortExists(const QString &text, bool byTag) const
 
 bool JobEditor::roomExistsOnFloor(const QString &room, const QString &floorTag, bool byTag) const
 {
+    if (!floorExists(floorTag, true) && floorExists(room, true))
+        return roomExistsOnFloor(floorTag, room, byTag);
     return !(byTag ? roomElement(floorTag, room) : roomElementById(floorTag, room)).isNull();
 }
 
