@@ -117,7 +117,7 @@ Cable JobEditor::getCable(const QString &tag)
         return Cable();
     CableFields fields = cableAttributes().read(element);
     fields.tag = tag;
-    fields.testResults = getCableTestResults(tag);
+    fields.testResults = readTestResults(element);
     return Cable(fields);
 }
 

@@ -602,25 +602,26 @@ public:
     /// Returns the tags of the cables that have this status, as getCableStatus() gives it.
     QStringList getCablesByStatus(const QString &status) const;
 
-    // Test results of cables
+    // Test results of cables. But for getCableStatus(), these take a cable's tag and, if no cable has that tag, its id:
+    // what addCable() returns. Of several cables with an id it is the one that getCableById() finds.
 
     /// Stores the results. Of the attributes that an older file lacks, only the tester's version and serial
     /// number are created; getCableTestResults() creates the others.
-    void setCableTestResults(const QString &cableTag, const TestResults &results);
+    void setCableTestResults(const QString &cable, const TestResults &results);
     /// The results; a default record for an unknown cable. What an older file lacks but for status and time
     /// is added with its default.
-    TestResults getCableTestResults(const QString &cableTag);
+    TestResults getCableTestResults(const QString &cable);
     /// Returns the status alone: "UNTESTED" if the cable has no test results or they lack a status, empty if there is
-    /// no such cable.
-    QString getCableStatus(const QString &cableTag) const;
+    /// no cable with that tag.
+    QString getCableStatus(const QString &tag) const;
     /// The measured length of a pair (0 to 3): its reading divided by the length constant, in pF per foot,
     /// of the type's test definition. To the nearest half metre (metric) or tenth of a foot. 0 for another
     /// pair. Reads, and may complete, the results.
-    float getRoundedCableLength(const QString &cableTag, int pair, bool metric);
+    float getRoundedCableLength(const QString &cable, int pair, bool metric);
     /// The measured length of the cable, that of its shortest measured pair, likewise; when none was
     /// measured, a reading of -1 counts, so that the length is no more than 0. Uncorrected, the reading itself counts
     /// as feet: whole metres (metric, cut off) or feet, 0 when none was measured.
-    float getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected);
+    float getMaxRoundedCableLength(const QString &cable, bool metric, bool uncorrected);
 
     // Lengths from the plan
 
@@ -774,7 +775,9 @@ private:
     QStringList cablesEndingAt(const std::set<QString> &ends) const;
     const cabledoc::CableLists &cableLists() const;
     void forgetCableLists();
-    float correctedLength(int reading, const QString &cableTag) const;
+    QDomElement cableOfTagOrId(const QString &text) const;
+    TestResults readTestResults(const QDomElement &cable);
+    float correctedLength(int reading, const QDomElement &cable) const;
 
     QString newRoomTag() const;
     QString newRoomId(const QString &floorTag, const QString &prefix) const;

@@ -2,6 +2,7 @@
 
 #include "bkutilities.h"
 #include "jobattributes.h"
+#include "jobindex.h"
 #include "jobwords.h"
 #include "units.h"
 
@@ -20,9 +21,14 @@ float roundedLength(float feet, bool metric)
 
 } // namespace
 
-void JobEditor::setCableTestResults(const QString &cableTag, const TestResults &results)
+QDomElement JobEditor::cableOfTagOrId(const QString &text) const
 {
-    QDomElement element = cableElement(cableTag).firstChildElement(words::TestResults);
+    return cableElement(cableExists(text, true) ? text : (*m_index)[ElementKind::Cables].tagOfId(text));
+}
+
+void JobEditor::setCableTestResults(const QString &cable, const TestResults &results)
+{
+    QDomElement element = cableOfTagOrId(cable).firstChildElement(words::TestResults);
     if (element.isNull())
         return;
     // The two that the earliest files lack are created; all others are changed only where they are.
@@ -34,9 +40,14 @@ void JobEditor::setCableTestResults(const QString &cableTag, const TestResults &
     setDirty(true);
 }
 
-TestResults JobEditor::getCableTestResults(const QString &cableTag)
+TestResults JobEditor::getCableTestResults(const QString &cable)
 {
-    const QDomElement element = cableElement(cableTag).firstChildElement(words::TestResults);
+    return readTestResults(cableOfTagOrId(cable));
+}
+
+TestResults JobEditor::readTestResults(const QDomElement &cable)
+{
+    const QDomElement element = cable.firstChildElement(words::TestResults);
     if (element.isNull())
         return TestResults();
     // Reading completes what an older version wrote, on purpose.
@@ -45,32 +56,34 @@ TestResults JobEditor::getCableTestResults(const QString &cableTag)
     return TestResults(testResultsAttributes().read(element));
 }
 
-QString JobEditor::getCableStatus(const QString &cableTag) const
+QString JobEditor::getCableStatus(const QString &tag) const
 {
-    const QDomElement cable = cableElement(cableTag);
+    const QDomElement cable = cableElement(tag);
     return cable.isNull() ? QString() : testStatus(cable);
 }
 
 /// A length reading in feet, as the test definition of the cable's type says.
-float JobEditor::correctedLength(int reading, const QString &cableTag) const
+float JobEditor::correctedLength(int reading, const QDomElement &cable) const
 {
-    const int lengthConstant = getTestDef(getCableType(cableTag)).length_constant();
+    const int lengthConstant = getTestDef(cable.attribute(words::Type)).length_constant();
     return float(reading / (lengthConstant / 100.0));
 }
 
-float JobEditor::getRoundedCableLength(const QString &cableTag, int pair, bool metric)
+float JobEditor::getRoundedCableLength(const QString &cable, int pair, bool metric)
 {
-    const cable_struct results = getCableTestResults(cableTag).results();
+    const QDomElement element = cableOfTagOrId(cable);
+    const cable_struct results = readTestResults(element).results();
     if (pair < 0 || pair >= int(std::size(results.pair_length)))
         return 0.0F;
-    return roundedLength(correctedLength(results.pair_length[pair], cableTag), metric);
+    return roundedLength(correctedLength(results.pair_length[pair], element), metric);
 }
 
-float JobEditor::getMaxRoundedCableLength(const QString &cableTag, bool metric, bool uncorrected)
+float JobEditor::getMaxRoundedCableLength(const QString &cable, bool metric, bool uncorrected)
 {
-    const int reading = getCableTestResults(cableTag).cableLength();
+    const QDomElement element = cableOfTagOrId(cable);
+    const int reading = readTestResults(element).cableLength();
     if (!uncorrected)
-        return roundedLength(correctedLength(reading, cableTag), metric);
+        return roundedLength(correctedLength(reading, element), metric);
     const float feet = reading < 0 ? 0.0F : float(reading);
     // Whole metres, cut off and not rounded.
     return metric ? float(std::trunc(feet / feetInAMeter)) : feet;
