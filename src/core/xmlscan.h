@@ -20,8 +20,8 @@ struct XmlProblem
 };
 
 /// Looks through an undecoded XML text for what the parser must not see: the mark of another encoding, control
-/// characters, too many levels or attributes, and document types that say more than a name (they could hold entities that grow without end, or
-/// that cannot be resolved). Faults of syntax are left to the parser.
+/// characters, too many levels or attributes, and document types that say more than a name (they could hold entities
+/// that grow without end, or that cannot be resolved). Faults of syntax are left to the parser.
 XmlProblem scanXml(const QByteArray &text);
 
 } // namespace cabledoc

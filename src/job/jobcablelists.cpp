@@ -88,8 +88,7 @@ QStringList JobEditor::cablesEndingAt(const std::set<QString> &ends) const
 
 QStringList JobEditor::getCablesByStatus(const QString &status) const
 {
-    return cablesWhere(getToCableList(),
-                       [&status](const QDomElement &cable) { return testStatus(cable) == status; });
+    return cablesWhere(getToCableList(), [&status](const QDomElement &cable) { return testStatus(cable) == status; });
 }
 
 bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const
