@@ -19,14 +19,22 @@ target_compile_definitions(cabledoc_strict INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING)
 target_link_libraries(cabledoc_strict INTERFACE cabledoc_warnings)
 
-# Public headers are gathered here, flat, as they are when installed: <cabledoc/jobeditor.h>.
-# The program and the examples see this folder only.
+# Public headers are gathered here, flat, as they are when installed: <cabledoc/jobeditor.h>. Each class that they
+# define gets a header of its own name that includes them: <cabledoc/JobEditor>. The program and the examples see this
+# folder only.
 set(CABLEDOC_PUBLIC_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
 
 function(cabledoc_public_headers)
   foreach(header IN LISTS ARGN)
     cmake_path(GET header FILENAME name)
     configure_file(${header} ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${name} COPYONLY)
+    file(STRINGS ${header} definitions REGEX "^(template <.*> )?(class|struct) [^;]*$")
+    foreach(definition IN LISTS definitions)
+      string(REGEX REPLACE ".*(class|struct) (CABLEDOC_EXPORT )?([A-Za-z_]+).*" "\\3" class ${definition})
+      file(CONFIGURE OUTPUT ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class} CONTENT "#include \"${name}\"\n")
+      install(FILES ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class}
+              DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+    endforeach()
   endforeach()
   install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
 endfunction()

@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString fileName = inputFile("fuzzed.job", data, size);
-    (void)checkFile(fileName);
+    (void)cabledoc::checkFile(fileName);
     JobEditor::Destroy();
     JobEditor &job = JobEditor::Instance();
     const JobEditorProbe probe(job);

@@ -5,6 +5,8 @@
 #include "jobeditorprobe.h"
 #include "schedule.h"
 
+using namespace cabledoc;
+
 namespace {
 
 bool isImported(const ScheduleReport &report)

@@ -19,7 +19,7 @@ QDomDocument parsed(const QString &fileName)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QString fileName = inputFile("fuzzed.bkt", data, size);
-    (void)checkFile(fileName);
+    (void)cabledoc::checkFile(fileName);
     BktEditor::Destroy();
     BktEditor &bkt = BktEditor::Instance();
     if (!bkt.Load(fileName)) {

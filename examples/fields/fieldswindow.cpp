@@ -43,7 +43,7 @@ FieldsWindow::FieldsWindow(const QDate &date, QWidget *parent)
     layout->addRow(QStringLiteral("Lan&guage"), &m_language);
     layout->addRow(QStringLiteral("Date"), &m_shownDate);
     connect(&m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this] { installTranslations(QLocale(m_language.currentData().toString())); });
+            [this] { cabledoc::installTranslations(QLocale(m_language.currentData().toString())); });
     // The user's own language at first, when it is among them.
     m_language.setCurrentIndex(std::max(0, m_language.findData(QLocale().name().left(2))));
     showDate();

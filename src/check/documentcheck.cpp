@@ -321,7 +321,7 @@ private:
 
 } // namespace
 
-CheckReport checkFile(const QString &filename)
+CheckReport cabledoc::checkFile(const QString &filename)
 {
     return CheckedDocument().check(filename);
 }

@@ -5,6 +5,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
+namespace cabledoc {
+
 /// Something in a file that is not as it should be.
 struct Finding
 {
@@ -35,3 +37,5 @@ struct CheckReport
 ///     invalid-definition   a test definition that cannot be used, as TestDef::validDef() says
 ///     lost-character       a character that the file's encoding cannot hold: a save will write "?"
 CABLEDOC_EXPORT CheckReport checkFile(const QString &filename);
+
+} // namespace cabledoc

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct AddressFields
 {
     QString address1;
@@ -21,8 +23,10 @@ struct AddressFields
     }
 };
 
+} // namespace cabledoc
+
 /// A postal address. See Record for copying and comparing.
-class CABLEDOC_EXPORT Address : public Record<AddressFields>
+class CABLEDOC_EXPORT Address : public cabledoc::Record<cabledoc::AddressFields>
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@
 
 #include <QtCore/QStringList>
 
+namespace cabledoc {
+
 struct BundledCableFields
 {
     QString tag;
@@ -20,8 +22,10 @@ struct BundledCableFields
     }
 };
 
+} // namespace cabledoc
+
 /// Cable types that are pulled together as one run. See Record for copying and comparing.
-class CABLEDOC_EXPORT BundledCable : public Record<BundledCableFields>
+class CABLEDOC_EXPORT BundledCable : public cabledoc::Record<cabledoc::BundledCableFields>
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #include "cabledoc_export.h"
 #include "record.h"
 
+namespace cabledoc {
+
 struct ContractorDataFields
 {
     QString tester; ///< who tested
@@ -20,8 +22,10 @@ struct ContractorDataFields
     }
 };
 
+} // namespace cabledoc
+
 /// Who does the job. See Record for copying and comparing.
-class CABLEDOC_EXPORT ContractorData : public Record<ContractorDataFields>
+class CABLEDOC_EXPORT ContractorData : public cabledoc::Record<cabledoc::ContractorDataFields>
 {
     Q_OBJECT
 

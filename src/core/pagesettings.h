@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct PageSettingsFields
 {
     QString pageSize = SettingsStrings::letter();       ///< one of SettingsStrings::paperSizes()
@@ -23,8 +25,10 @@ struct PageSettingsFields
     }
 };
 
+} // namespace cabledoc
+
 /// The drawing sheet of a view. See Record for copying and comparing.
-class CABLEDOC_EXPORT PageSettings : public Record<PageSettingsFields>
+class CABLEDOC_EXPORT PageSettings : public cabledoc::Record<cabledoc::PageSettingsFields>
 {
     Q_OBJECT
 

@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct PrintSettingsFields
 {
     QString paperSize = SettingsStrings::letter(); ///< one of SettingsStrings::paperSizes()
@@ -22,8 +24,10 @@ struct PrintSettingsFields
     }
 };
 
+} // namespace cabledoc
+
 /// How a report or view is printed. See Record for copying and comparing.
-class CABLEDOC_EXPORT PrintSettings : public Record<PrintSettingsFields>
+class CABLEDOC_EXPORT PrintSettings : public cabledoc::Record<cabledoc::PrintSettingsFields>
 {
     Q_OBJECT
 

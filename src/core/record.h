@@ -5,6 +5,8 @@
 #include <tuple>
 #include <utility>
 
+namespace cabledoc {
+
 /// What all records are: a QObject around plain fields, which are copied and compared as one.
 ///
 /// A record is a value: whoever receives it owns it, and it knows nothing of the document that it was
@@ -42,3 +44,5 @@ public:
 protected:
     Fields m_fields;
 };
+
+} // namespace cabledoc

@@ -34,7 +34,7 @@ bool ScaleSettings::isMetric() const
 {
     switch (style()) {
     case Predefined:
-        return predefinedStyle() != SettingsStrings::english();
+        return predefinedStyle() != cabledoc::SettingsStrings::english();
     case Custom:
         return heightUnits() == 1 || heightUnits() == 2;
     default:

@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct ScaleSettingsFields
 {
     QString predefinedStyle = SettingsStrings::english();             ///< one of SettingsStrings::scaleStyles()
@@ -23,8 +25,10 @@ struct ScaleSettingsFields
     }
 };
 
+} // namespace cabledoc
+
 /// The scale that a view is drawn in. See Record for copying and comparing.
-class CABLEDOC_EXPORT ScaleSettings : public Record<ScaleSettingsFields>
+class CABLEDOC_EXPORT ScaleSettings : public cabledoc::Record<cabledoc::ScaleSettingsFields>
 {
     Q_OBJECT
 

@@ -118,48 +118,48 @@ int cabledoc::scaleFactor(const QString &name)
     return scale == nullptr ? 10 : scale->factor;
 }
 
-QStringList SettingsStrings::paperSizes()
+QStringList cabledoc::SettingsStrings::paperSizes()
 {
     return names(paperSizeTable());
 }
 
-QStringList SettingsStrings::pageStandards()
+QStringList cabledoc::SettingsStrings::pageStandards()
 {
     return {standard(), QStringLiteral("Metric (ISO)"), QStringLiteral("ANSI Engineering"),
             QStringLiteral("ANSI Architectural")};
 }
 
-QStringList SettingsStrings::scaleStyles()
+QStringList cabledoc::SettingsStrings::scaleStyles()
 {
     return {english(), QStringLiteral("Metric")};
 }
 
-QStringList SettingsStrings::predefinedScales()
+QStringList cabledoc::SettingsStrings::predefinedScales()
 {
     return names(scaleTable());
 }
 
-QString SettingsStrings::network()
+QString cabledoc::SettingsStrings::network()
 {
     return QCoreApplication::translate("SettingsStrings", "Network");
 }
 
-QString SettingsStrings::letter()
+QString cabledoc::SettingsStrings::letter()
 {
     return QStringLiteral("Letter: 8.5 in. x 11 in.");
 }
 
-QString SettingsStrings::standard()
+QString cabledoc::SettingsStrings::standard()
 {
     return QStringLiteral("Standard");
 }
 
-QString SettingsStrings::english()
+QString cabledoc::SettingsStrings::english()
 {
     return QStringLiteral("English");
 }
 
-QString SettingsStrings::twentyFeetToTheInch()
+QString cabledoc::SettingsStrings::twentyFeetToTheInch()
 {
     return QStringLiteral("1\" = 20'0\"");
 }

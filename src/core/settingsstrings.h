@@ -6,7 +6,7 @@
 
 /// The texts that print, page and scale settings hold and that a user interface offers for choice.
 /// They are stored as they stand; only network() is translated.
-namespace SettingsStrings {
+namespace cabledoc::SettingsStrings {
 
 /// Names of all paper sizes, in the order in which they are offered.
 CABLEDOC_EXPORT QStringList paperSizes();
@@ -25,4 +25,4 @@ CABLEDOC_EXPORT QString standard();
 CABLEDOC_EXPORT QString english();
 CABLEDOC_EXPORT QString twentyFeetToTheInch();
 
-} // namespace SettingsStrings
+} // namespace cabledoc::SettingsStrings

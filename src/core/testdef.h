@@ -6,14 +6,16 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct TestDefFields
 {
-    QString id;                                               ///< name, which is the cable type
-    cable_struct expected = cable_struct::untested();         ///< what a good cable gives
-    cabledoc::PairFlags pairInUse = {true, true, true, true}; ///< pair 0 is on pins 1-2, pair 1 on pins 3-6
-    int dataRate = 0;                                         ///< 1000 for 1 Gbit/s, 100 for 100 Mbit/s, 0 for none
-    int snr = 0;                                              ///< tenths of a dB; 0: not measured
-    int skew = 0;                                             ///< tenths of a ns; 0: not measured
+    QString id;                                       ///< name, which is the cable type
+    cable_struct expected = cable_struct::untested(); ///< what a good cable gives
+    PairFlags pairInUse = {true, true, true, true};   ///< pair 0 is on pins 1-2, pair 1 on pins 3-6
+    int dataRate = 0;                                 ///< 1000 for 1 Gbit/s, 100 for 100 Mbit/s, 0 for none
+    int snr = 0;                                      ///< tenths of a dB; 0: not measured
+    int skew = 0;                                     ///< tenths of a ns; 0: not measured
     bool shield = false;
     /// Hundredths of pF per foot. The default lies outside of what rated cables may have: a new definition
     /// is not rated.
@@ -34,9 +36,11 @@ struct TestDefFields
     }
 };
 
+} // namespace cabledoc
+
 /// What a tester checks of the cables of one type, and what a good one gives. See Record for copying and
 /// comparing.
-class CABLEDOC_EXPORT TestDef : public Record<TestDefFields>
+class CABLEDOC_EXPORT TestDef : public cabledoc::Record<cabledoc::TestDefFields>
 {
     Q_OBJECT
 

@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct TestResultsFields
 {
     QString time;
@@ -25,8 +27,10 @@ struct TestResultsFields
     }
 };
 
+} // namespace cabledoc
+
 /// The results of one test of a cable. A record of some 10 KB. See Record for copying and comparing.
-class CABLEDOC_EXPORT TestResults : public Record<TestResultsFields>
+class CABLEDOC_EXPORT TestResults : public cabledoc::Record<cabledoc::TestResultsFields>
 {
     Q_OBJECT
 

@@ -7,6 +7,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
+namespace cabledoc {
+
 struct ActiveTestResultFields
 {
     QString time;
@@ -23,8 +25,10 @@ struct ActiveTestResultFields
     }
 };
 
+} // namespace cabledoc
+
 /// The result of one test of a port in the working network. See Record for copying and comparing.
-class CABLEDOC_EXPORT ActiveTestResult : public Record<ActiveTestResultFields>
+class CABLEDOC_EXPORT ActiveTestResult : public cabledoc::Record<cabledoc::ActiveTestResultFields>
 {
     Q_OBJECT
 
@@ -54,6 +58,8 @@ public:
     void setValues(const QVector<QPair<QString, QString>> &values) { m_fields.values = values; }
 };
 
+namespace cabledoc {
+
 struct ActivePortFields
 {
     QString element; ///< tag
@@ -68,8 +74,10 @@ struct ActivePortFields
     }
 };
 
+} // namespace cabledoc
+
 /// A port with the results of its tests in the working network. See Record for copying and comparing.
-class CABLEDOC_EXPORT ActivePort : public Record<ActivePortFields>
+class CABLEDOC_EXPORT ActivePort : public cabledoc::Record<cabledoc::ActivePortFields>
 {
     Q_OBJECT
 

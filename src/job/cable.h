@@ -6,6 +6,8 @@
 
 #include <QtCore/QStringList>
 
+namespace cabledoc {
+
 struct CableFields
 {
     QString tag;
@@ -31,9 +33,11 @@ struct CableFields
     }
 };
 
+} // namespace cabledoc
+
 /// A cable between two ports or vertical runs, with the results of its test. See Record for copying and
 /// comparing.
-class CABLEDOC_EXPORT Cable : public Record<CableFields>
+class CABLEDOC_EXPORT Cable : public cabledoc::Record<cabledoc::CableFields>
 {
     Q_OBJECT
 

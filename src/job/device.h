@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct DeviceFields
 {
     QString element; ///< tag
@@ -23,8 +25,10 @@ struct DeviceFields
     }
 };
 
+} // namespace cabledoc
+
 /// A network device on a sheet. See Record for copying and comparing.
-class CABLEDOC_EXPORT Device : public Record<DeviceFields>
+class CABLEDOC_EXPORT Device : public cabledoc::Record<cabledoc::DeviceFields>
 {
     Q_OBJECT
 

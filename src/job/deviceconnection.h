@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct DeviceConnectionFields
 {
     QString element; ///< tag
@@ -20,8 +22,10 @@ struct DeviceConnectionFields
     }
 };
 
+} // namespace cabledoc
+
 /// A connection between two network devices. See Record for copying and comparing.
-class CABLEDOC_EXPORT DeviceConnection : public Record<DeviceConnectionFields>
+class CABLEDOC_EXPORT DeviceConnection : public cabledoc::Record<cabledoc::DeviceConnectionFields>
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct FloorFields
 {
     QString id;                 ///< name that the user sees, unique among floors
@@ -19,8 +21,10 @@ struct FloorFields
     }
 };
 
+} // namespace cabledoc
+
 /// A level of the building. See Record for copying and comparing.
-class CABLEDOC_EXPORT Floor : public Record<FloorFields>
+class CABLEDOC_EXPORT Floor : public cabledoc::Record<cabledoc::FloorFields>
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct FreeTextFields
 {
     QString element; ///< tag
@@ -26,8 +28,10 @@ struct FreeTextFields
     }
 };
 
+} // namespace cabledoc
+
 /// A text that stands by itself on a floor plan or a sheet. See Record for copying and comparing.
-class CABLEDOC_EXPORT FreeText : public Record<FreeTextFields>
+class CABLEDOC_EXPORT FreeText : public cabledoc::Record<cabledoc::FreeTextFields>
 {
     Q_OBJECT
 

@@ -735,10 +735,10 @@ private:
     QDomElement vertRunElement(const QString &tag) const;
     QDomElement deviceElement(const QString &tag) const;
     QDomElement activePortElement(const QString &tag) const;
-    PortFields readPort(const QDomElement &element) const;
-    PointFields readPoint(const QDomElement &element) const;
-    FreeTextFields readText(const QDomElement &element) const;
-    DeviceFields readDevice(const QDomElement &element) const;
+    cabledoc::PortFields readPort(const QDomElement &element) const;
+    cabledoc::PointFields readPoint(const QDomElement &element) const;
+    cabledoc::FreeTextFields readText(const QDomElement &element) const;
+    cabledoc::DeviceFields readDevice(const QDomElement &element) const;
     void moveToRoom(cabledoc::ElementKind kind, const QDomElement &element, const QString &listName,
                     const QString &floorTag, const QString &roomTag);
     void putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list);

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct PointFields
 {
     QString element; ///< tag
@@ -20,8 +22,10 @@ struct PointFields
     }
 };
 
+} // namespace cabledoc
+
 /// A point on a floor plan, which cables pass. See Record for copying and comparing.
-class CABLEDOC_EXPORT Point : public Record<PointFields>
+class CABLEDOC_EXPORT Point : public cabledoc::Record<cabledoc::PointFields>
 {
     Q_OBJECT
 

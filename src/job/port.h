@@ -5,6 +5,8 @@
 
 #include <QtCore/QStringList>
 
+namespace cabledoc {
+
 struct PortFields
 {
     QString element; ///< tag
@@ -24,8 +26,10 @@ struct PortFields
     }
 };
 
+} // namespace cabledoc
+
 /// A port in a wall: where cables end. See Record for copying and comparing.
-class CABLEDOC_EXPORT Port : public Record<PortFields>
+class CABLEDOC_EXPORT Port : public cabledoc::Record<cabledoc::PortFields>
 {
     Q_OBJECT
 
@@ -61,6 +65,8 @@ public:
     void setFloor(const QString &floorTag) { m_fields.floor = floorTag; }
 };
 
+namespace cabledoc {
+
 struct VertRunFields
 {
     QStringList connected;    ///< tags of the cables that pass it and are connected
@@ -73,6 +79,8 @@ struct VertRunFields
     }
 };
 
+} // namespace cabledoc
+
 /// A vertical run: a shaft through which cables pass from floor to floor. It stands on the plan of one floor, and
 /// cables may end at it as at a port.
 class CABLEDOC_EXPORT VertRun : public Port
@@ -81,7 +89,7 @@ class CABLEDOC_EXPORT VertRun : public Port
 
 public:
     VertRun() = default;
-    VertRun(const PortFields &place, const VertRunFields &cables)
+    VertRun(const cabledoc::PortFields &place, const cabledoc::VertRunFields &cables)
         : Port(place)
         , m_cables(cables)
     {
@@ -93,7 +101,7 @@ public:
     }
     VertRun &operator=(const VertRun &other) = default;
 
-    const VertRunFields &cables() const { return m_cables; }
+    const cabledoc::VertRunFields &cables() const { return m_cables; }
     const QStringList &connected() const { return m_cables.connected; }
     void setConnected(const QStringList &cableTags) { m_cables.connected = cableTags; }
     const QStringList &disconnected() const { return m_cables.disconnected; }
@@ -106,5 +114,5 @@ public:
     friend bool operator!=(const VertRun &a, const VertRun &b) { return !(a == b); }
 
 private:
-    VertRunFields m_cables;
+    cabledoc::VertRunFields m_cables;
 };

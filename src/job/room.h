@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct RoomFields
 {
     QString element;        ///< tag
@@ -28,9 +30,11 @@ struct RoomFields
     }
 };
 
+} // namespace cabledoc
+
 /// A named rectangle on a floor plan. Its coordinates are doubles, but the file holds whole pixels. See
 /// Record for copying and comparing.
-class CABLEDOC_EXPORT Room : public Record<RoomFields>
+class CABLEDOC_EXPORT Room : public cabledoc::Record<cabledoc::RoomFields>
 {
     Q_OBJECT
 

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+namespace cabledoc {
+
 struct SheetFields
 {
     QString id;      ///< name that the user sees, unique among sheets
@@ -17,8 +19,10 @@ struct SheetFields
     }
 };
 
+} // namespace cabledoc
+
 /// A drawing page that holds network devices, points and texts. See Record for copying and comparing.
-class CABLEDOC_EXPORT Sheet : public Record<SheetFields>
+class CABLEDOC_EXPORT Sheet : public cabledoc::Record<cabledoc::SheetFields>
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #include "cabledoc_export.h"
 #include "record.h"
 
+namespace cabledoc {
+
 struct SiteDataFields
 {
     QString contact;
@@ -20,8 +22,10 @@ struct SiteDataFields
     }
 };
 
+} // namespace cabledoc
+
 /// Where the job is done. See Record for copying and comparing.
-class CABLEDOC_EXPORT SiteData : public Record<SiteDataFields>
+class CABLEDOC_EXPORT SiteData : public cabledoc::Record<cabledoc::SiteDataFields>
 {
     Q_OBJECT
 

@@ -24,7 +24,7 @@ bool install(const QString &fileName, const QString &folder, QObject *owner)
 
 } // namespace
 
-bool installTranslations(const QLocale &locale)
+bool cabledoc::installTranslations(const QLocale &locale)
 {
     initLanguageFiles();
     static QPointer<QObject> installed;

@@ -238,7 +238,7 @@ private:
 
 } // namespace
 
-ScheduleReport importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
+ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
 {
     const ScheduleFile file = readSchedule(fileName);
     ScheduleReport report;
@@ -252,7 +252,7 @@ ScheduleReport importSchedule(JobEditor &job, const QString &fileName, bool dryR
     return ScheduleImport(job, dryRun).import(file);
 }
 
-QByteArray exportSchedule(const JobEditor &job)
+QByteArray cabledoc::exportSchedule(const JobEditor &job)
 {
     QVector<QByteArray> fields;
     for (const ColumnName &column : columnNames)

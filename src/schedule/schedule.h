@@ -8,6 +8,8 @@
 
 class JobEditor;
 
+namespace cabledoc {
+
 /// Something in a cable schedule that keeps it from being imported.
 struct ScheduleProblem
 {
@@ -63,3 +65,5 @@ CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fil
 /// Characters that a job file cannot hold are "?", as on saving, and colours that are none are those of the test
 /// definitions. So the schedule can be imported; that into a job without cables, exported again, gives the same bytes.
 CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job);
+
+} // namespace cabledoc

@@ -14,6 +14,8 @@ static void initPictures()
     Q_INIT_RESOURCE(vocabulary);
 }
 
+namespace cabledoc {
+
 Vocabulary::Vocabulary(const char *context, const QString &pictures, const QVector<Entry> &entries)
     : m_context(context)
     , m_pictures(pictures)
@@ -105,3 +107,5 @@ const Vocabulary::Entry *Vocabulary::find(const QString &word) const
         std::find_if(m_entries.cbegin(), m_entries.cend(), [&word](const Entry &entry) { return entry.word == word; });
     return found == m_entries.cend() ? nullptr : &*found;
 }
+
+} // namespace cabledoc

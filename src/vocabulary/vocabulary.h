@@ -6,6 +6,8 @@
 #include <QtCore/QVector>
 #include <QtGui/QPixmap>
 
+namespace cabledoc {
+
 /// Words that documents store and that a user interface offers for choice, each with a name in the user's
 /// language and a picture. A word is found only as it is stored; "tv" is not "TV".
 class CABLEDOC_EXPORT Vocabulary
@@ -40,3 +42,5 @@ private:
     QString m_pictures;    // what the names of the picture files begin with
     QVector<Entry> m_entries;
 };
+
+} // namespace cabledoc

@@ -4,6 +4,8 @@
 
 #include <QtCore/QTemporaryDir>
 
+using namespace cabledoc;
+
 /// What is found in a file.
 class DocumentCheckTest : public QObject
 {

@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void paperSizesOfferedInOrder()
     {
-        const QStringList sizes = SettingsStrings::paperSizes();
+        const QStringList sizes = cabledoc::SettingsStrings::paperSizes();
         QCOMPARE(sizes.size(), 38);
         QCOMPARE(sizes.mid(4, 4).join('|'),
                  QString("Tabloid: 11 in. x 17 in.|DLE: 110 mm. x 220 mm.|C5E: 163 mm. x 229 mm.|"

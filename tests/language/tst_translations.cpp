@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         QFETCH(QLocale, locale);
         useLanguage(QLocale::c());
-        QTEST(installTranslations(locale), "isThere");
+        QTEST(cabledoc::installTranslations(locale), "isThere");
         QTEST(QObject::tr("Monday", "TranslatableDate::longDayName()"), "monday");
     }
 

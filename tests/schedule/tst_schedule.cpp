@@ -5,6 +5,8 @@
 
 #include <QtCore/QTemporaryDir>
 
+using namespace cabledoc;
+
 namespace {
 
 const QByteArray heading = "id,from_floor,from_room,from_port,to_floor,to_room,to_port,color\n";

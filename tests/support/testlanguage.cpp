@@ -54,11 +54,12 @@ QByteArray withGeneratedNames(const QByteArray &text)
 void useLanguage(const QLocale &locale)
 {
     QCoreApplication::removeTranslator(&lackingTexts());
-    if (!installTranslations(locale) || locale.language() == QLocale::English || locale.language() == QLocale::C)
+    if (!cabledoc::installTranslations(locale) || locale.language() == QLocale::English
+        || locale.language() == QLocale::C)
         return;
     // The translator that was installed last is asked first.
     QCoreApplication::installTranslator(&lackingTexts());
-    installTranslations(locale);
+    cabledoc::installTranslations(locale);
 }
 
 Q_COREAPP_STARTUP_FUNCTION(setUpLanguage)

@@ -3,6 +3,8 @@
 
 #include <QtTest/QtTest>
 
+using namespace cabledoc;
+
 namespace {
 
 const QString PortUses = "data voice TV cable_box audio video security fire control power spare other";

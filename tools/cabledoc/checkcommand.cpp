@@ -7,6 +7,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+using namespace cabledoc;
+
 namespace {
 
 QByteArray asJson(const QString &fileName, const QVector<Finding> &findings)

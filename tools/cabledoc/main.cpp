@@ -82,6 +82,6 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
-    installTranslations(QLocale::system());
+    cabledoc::installTranslations(QLocale::system());
     return run(QCoreApplication::arguments());
 }

@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace cabledoc;
+
 namespace {
 
 struct Schedule
