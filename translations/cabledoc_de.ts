@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>BKXMLEditor</name>
+    <message>
+        <source>The file name holds a NUL character.</source>
+        <translation>Der Dateiname enthält ein NUL-Zeichen.</translation>
+    </message>
+    <message>
+        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <translation>Die Datei konnte nicht geladen werden. Sie wird nicht ersetzt; speichern Sie unter einem anderen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>BktEditor</name>
     <message>
         <source>%1 is a bad version number in BktEditor::checkVersion.</source>
@@ -442,6 +453,10 @@
     <message>
         <source>Unable to open file.</source>
         <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>This is the file of the job itself. A template needs another name.</source>
+        <translation>Das ist die Datei des Auftrags selbst. Eine Vorlage braucht einen anderen Namen.</translation>
     </message>
 </context>
 <context>
@@ -913,12 +928,32 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <translation>Das Dokument hat mehr als ein Wurzelelement.</translation>
     </message>
     <message>
-        <source>Something that is no file has this name.</source>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>Die Datei beginnt mit der Bytereihenfolge-Markierung von %1. Speichern Sie sie in der Kodierung ISO-8859-1 (Latin-1), ohne Markierung.</translation>
+    </message>
+    <message>
+        <source>A folder has this name.</source>
+        <translation>Ein Ordner hat diesen Namen.</translation>
+    </message>
+    <message>
+        <source>Something that is not a file has this name.</source>
         <translation>Etwas, das keine Datei ist, hat diesen Namen.</translation>
     </message>
     <message>
-        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
-        <translation>Die Datei beginnt mit der Bytereihenfolge-Markierung von %1. Speichern Sie sie in der Kodierung ISO-8859-1 (Latin-1), ohne Markierung.</translation>
+        <source>Another program has changed the file since it was read. It is left as it is.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>There is a file of this name. It is left as it is.</source>
+        <translation>Es gibt eine Datei dieses Namens. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <translation>Die Datei hat %1, erlaubt sind %2. Ein Dokument dieser Größe braucht etwa %3 Speicher.</translation>
     </message>
 </context>
 <context>

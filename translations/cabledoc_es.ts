@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en">
 <context>
+    <name>BKXMLEditor</name>
+    <message>
+        <source>The file name holds a NUL character.</source>
+        <translation>El nombre del archivo contiene un carácter NUL.</translation>
+    </message>
+    <message>
+        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <translation>No se pudo cargar el archivo. No se reemplaza; guarde con otro nombre.</translation>
+    </message>
+</context>
+<context>
     <name>BktEditor</name>
     <message>
         <source>%1 is a bad version number in BktEditor::checkVersion.</source>
@@ -442,6 +453,10 @@
     <message>
         <source>Unable to open file.</source>
         <translation>No se puede abrir el archivo.</translation>
+    </message>
+    <message>
+        <source>This is the file of the job itself. A template needs another name.</source>
+        <translation>Este es el archivo del propio trabajo. Una plantilla necesita otro nombre.</translation>
     </message>
 </context>
 <context>
@@ -913,12 +928,32 @@ de más de 330 ft (100 m).</translation>
         <translation>El documento tiene más de un elemento raíz.</translation>
     </message>
     <message>
-        <source>Something that is no file has this name.</source>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>El archivo empieza con la marca de orden de bytes de %1. Guárdelo en la codificación ISO-8859-1 (Latin-1), sin marca.</translation>
+    </message>
+    <message>
+        <source>A folder has this name.</source>
+        <translation>Una carpeta tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>Something that is not a file has this name.</source>
         <translation>Algo que no es un archivo tiene este nombre.</translation>
     </message>
     <message>
-        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
-        <translation>El archivo empieza con la marca de orden de bytes de %1. Guárdelo en la codificación ISO-8859-1 (Latin-1), sin marca.</translation>
+        <source>Another program has changed the file since it was read. It is left as it is.</source>
+        <translation>Otro programa ha cambiado el archivo desde que se leyó. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>There is a file of this name. It is left as it is.</source>
+        <translation>Ya hay un archivo con este nombre. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <translation>El archivo tiene %1 y el límite es %2. Un documento de este tamaño necesita unos %3 de memoria.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
+    <name>BKXMLEditor</name>
+    <message>
+        <source>The file name holds a NUL character.</source>
+        <translation>Le nom du fichier contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <translation>Le fichier n&apos;a pas pu être chargé. Il n&apos;est pas remplacé ; enregistrez sous un autre nom.</translation>
+    </message>
+</context>
+<context>
     <name>BktEditor</name>
     <message>
         <source>%1 is a bad version number in BktEditor::checkVersion.</source>
@@ -442,6 +453,10 @@
     <message>
         <source>Unable to open file.</source>
         <translation>Impossible d&apos;ouvrir le fichier.</translation>
+    </message>
+    <message>
+        <source>This is the file of the job itself. A template needs another name.</source>
+        <translation>C&apos;est le fichier du travail lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -913,12 +928,32 @@ de plus de 330 ft (100 m).</translation>
         <translation>Le document a plus d&apos;un élément racine.</translation>
     </message>
     <message>
-        <source>Something that is no file has this name.</source>
+        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
+        <translation>Le fichier commence par la marque d&apos;ordre des octets de %1. Enregistrez-le dans le codage ISO-8859-1 (Latin-1), sans marque.</translation>
+    </message>
+    <message>
+        <source>A folder has this name.</source>
+        <translation>Un dossier porte ce nom.</translation>
+    </message>
+    <message>
+        <source>Something that is not a file has this name.</source>
         <translation>Quelque chose qui n&apos;est pas un fichier porte ce nom.</translation>
     </message>
     <message>
-        <source>The file begins with the byte order mark of %1. Save it in the encoding ISO-8859-1 (Latin-1), without a mark.</source>
-        <translation>Le fichier commence par la marque d&apos;ordre des octets de %1. Enregistrez-le dans le codage ISO-8859-1 (Latin-1), sans marque.</translation>
+        <source>Another program has changed the file since it was read. It is left as it is.</source>
+        <translation>Un autre programme a modifié le fichier depuis sa lecture. Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>There is a file of this name. It is left as it is.</source>
+        <translation>Il existe un fichier de ce nom. Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>Ce n&apos;est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <translation>Le fichier fait %1, et la limite est de %2. Un document de cette taille demande environ %3 de mémoire.</translation>
     </message>
 </context>
 <context>

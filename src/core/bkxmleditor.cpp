@@ -1,6 +1,7 @@
 #include "bkxmleditor.h"
 
 #include "childelements.h"
+#include "knownfiles.h"
 #include "testencoding.h"
 #include "words.h"
 #include "xmlfile.h"
@@ -17,6 +18,8 @@ BKXMLEditor::BKXMLEditor(const QString &documentTypeName)
     : m_document(documentTypeName)
     , m_filename(QLatin1String(""))
     , m_error(QLatin1String(""))
+    , m_files(std::make_unique<KnownFiles>())
+    , m_maximumFileSize(xmlfile::defaultMaximumSize)
 {
 }
 
@@ -25,6 +28,11 @@ BKXMLEditor::BKXMLEditor(BKXMLEditor &other)
     , m_document(other.m_document)
     , m_filename(other.m_filename)
     , m_error(other.m_error)
+    , m_files(std::make_unique<KnownFiles>(*other.m_files))
+    , m_maximumFileSize(other.m_maximumFileSize)
+    , m_isLoadFailed(other.m_isLoadFailed)
+    , m_writesReferences(other.m_writesReferences)
+    , m_replacesUnknownFiles(other.m_replacesUnknownFiles)
 {
 }
 
@@ -35,6 +43,8 @@ BKXMLEditor &BKXMLEditor::operator=(const BKXMLEditor &other)
     m_document = other.m_document;
     m_filename = other.m_filename;
     m_error = other.m_error;
+    *m_files = *other.m_files;
+    m_isLoadFailed = other.m_isLoadFailed;
     // The dirty flag tells of this object's own file and stays.
     return *this;
 }
@@ -171,6 +181,36 @@ bool BKXMLEditor::namesAFile(const QString &filename, const QString &extension)
     return !filename.isEmpty() && filename != QLatin1Char('.') + extension;
 }
 
+bool BKXMLEditor::mayBeFileName(const QString &filename)
+{
+    if (!filename.contains(QChar(0)))
+        return true;
+    // The system would take the name to end there.
+    m_error = tr("The file name holds a NUL character.");
+    return false;
+}
+
+bool BKXMLEditor::takeName(const QString &filename)
+{
+    if (!mayBeFileName(filename))
+        return false;
+    m_filename = filename;
+    m_files->takeName(filename);
+    m_isLoadFailed = false;
+    return true;
+}
+
+void BKXMLEditor::changeName(const QString &filename)
+{
+    m_filename = filename;
+    m_files->changeName(filename);
+}
+
+bool BKXMLEditor::isOwnFile(const QString &filename) const
+{
+    return isSameFile(m_files->path(m_filename), filename);
+}
+
 bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts)
 {
     if (filename.isEmpty()) {
@@ -179,18 +219,26 @@ bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeN
     }
     // Before anything is checked: a failed load leaves the new name in place.
     m_filename = filename;
-    if (!QFileInfo::exists(filename)) {
+    m_files->takeName(filename);
+    rejectFile();
+    if (!mayBeFileName(filename))
+        return false;
+    const QString path = m_files->path(filename);
+    if (!QFileInfo::exists(path)) {
         m_error = texts.missing.arg(filename);
         return false;
     }
-    const xmlfile::ReadResult result = xmlfile::read(filename, documentTypeName);
+    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, m_maximumFileSize);
     if (result.status == xmlfile::ReadResult::NotOpened) {
         m_error = result.deviceError;
         return false;
     }
     m_document = result.document;
-    if (result.status == xmlfile::ReadResult::Read)
+    if (result.status == xmlfile::ReadResult::Read) {
+        m_files->remember(path, result.state);
+        m_isLoadFailed = false;
         return true;
+    }
 
     const XmlProblem &problem = result.problem;
     if (problem.line != 0 && problem.column != 0) {
@@ -205,14 +253,41 @@ bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeN
     return false;
 }
 
-bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order)
+void BKXMLEditor::rejectFile()
 {
-    const xmlfile::Outcome outcome = xmlfile::save(filename, m_document, order);
+    m_files->rememberUnread(m_files->path(m_filename));
+    m_isLoadFailed = true;
+}
+
+bool BKXMLEditor::refuseUnloaded()
+{
+    if (m_isLoadFailed)
+        m_error = tr("The file could not be loaded. It is not replaced; save under another name.");
+    return m_isLoadFailed;
+}
+
+bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order, Replace replace)
+{
+    if (!mayBeFileName(filename))
+        return false;
+    const QString path = m_files->path(filename);
+    Expectation expected;
+    if (!m_files->knows(path))
+        expected.kind = m_replacesUnknownFiles ? Expectation::Anything : Expectation::NoFile;
+    else if (replace == Replace::ExpectedFile)
+        expected = {Expectation::KnownContent, m_files->state(path)};
+    const auto beyondLatin1 = m_writesReferences ? xmlfile::BeyondLatin1::AsReferences : xmlfile::BeyondLatin1::Replace;
+
+    const xmlfile::SaveOutcome outcome = xmlfile::save(path, m_document, order, beyondLatin1, expected);
+    if (outcome.state)
+        m_files->remember(path, *outcome.state);
     if (!outcome.error.isEmpty()) {
         m_error = outcome.error;
         return false;
     }
-    if (outcome.replacedCharacters > 0)
-        qDebug("%d characters that the file cannot hold were written as \"?\"", outcome.replacedCharacters);
+    m_isLoadFailed = false;
+    m_replacedCharacters = outcome.replacedCharacters;
+    if (m_replacedCharacters > 0)
+        qDebug("%lld characters that the file cannot hold were written as \"?\"", m_replacedCharacters);
     return true;
 }

@@ -15,10 +15,14 @@
 #include <QtXml/QDomDocument>
 
 #include <functional>
+#include <memory>
 
-namespace cabledoc::xmlfile {
+namespace cabledoc {
+class KnownFiles;
+namespace xmlfile {
 struct AttributeOrder;
 }
+} // namespace cabledoc
 
 /// What the job document and the template document have in common: one XML tree in memory, the name of
 /// its file, the text of the last failure, and whether the tree was changed since it was last created,
@@ -48,6 +52,25 @@ public:
     /// The last failure in words for the user, or a status word; empty when there was none. May be
     /// assigned through.
     QString &error() { return m_error; }
+
+    // Reading and writing files. These settings belong to the document object, not to its content.
+
+    /// Lets a save write characters beyond Latin-1 in texts and values as numeric references, which every XML reader
+    /// understands. Off by default: they become "?" then. In comments and CDATA sections, which cannot hold references,
+    /// they always do.
+    void setCharacterReferences(bool on) { m_writesReferences = on; }
+    bool characterReferences() const { return m_writesReferences; }
+    /// Returns how many characters the last save or saveAs() wrote as "?".
+    qint64 replacedCharacters() const { return m_replacedCharacters; }
+    /// Sets the size in bytes above which a file is not read; 4 GiB by default. A document needs some forty times the
+    /// size of its file in memory.
+    void setMaximumFileSize(qint64 bytes) { m_maximumFileSize = bytes; }
+    qint64 maximumFileSize() const { return m_maximumFileSize; }
+    /// Whether a save or saveAs() may replace a file that the document was neither read from nor written to. True by
+    /// default. If not, such a file is only ever created, and of two programs that create it at the same time one
+    /// fails.
+    void setReplacesUnknownFiles(bool on) { m_replacesUnknownFiles = on; }
+    bool replacesUnknownFiles() const { return m_replacesUnknownFiles; }
 
     // Print, page and scale settings, one entry for each report or view: "JobInfo_Settings",
     // "NetView_Settings", "Inventory_Settings", "FloorPlan_Settings", "TestSched_Settings",
@@ -253,12 +276,28 @@ protected:
         QString badAtPosition;
         QString bad; ///< when the parser gave no position
     };
+    /// Gives a new document its name. False, with a text in error(), if no file can have it.
+    bool takeName(const QString &filename);
     /// Makes filename the document's and replaces the tree by the content of the file; by nothing when it
-    /// is no XML. False, with a text in error(), when it cannot be read; the version is not looked at.
+    /// is no XML. False, with a text in error(), when it cannot be read; the version is not looked at. An empty name
+    /// changes nothing.
     bool readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts);
+    /// To be called when what readFile() read cannot be used after all.
+    void rejectFile();
+    /// Whether a save must fail since the file was not loaded; sets error() then.
+    bool refuseUnloaded();
+
+    enum class Replace {
+        ExpectedFile, ///< a file that is as the document knows it
+        AnyFile,      ///< whatever another program made of it
+    };
     /// Writes the tree to a file. On a failure the file is as it was, the dirty flag too, and error()
     /// says why.
-    bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order);
+    bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order, Replace replace);
+    /// Makes filename the document's after it was written to it.
+    void changeName(const QString &filename);
+    /// Whether the name leads to the document's own file, in whatever spelling and through whatever link.
+    bool isOwnFile(const QString &filename) const;
 
     QDomDocument m_document;
     QString m_filename;
@@ -266,9 +305,17 @@ protected:
     bool m_dirty = false;
 
 private:
+    bool mayBeFileName(const QString &filename);
     QDomElement settingsList(const QString &tagName) const;
     template <typename Settings, typename Kind> void store(const Settings &settings, const QString &name, const Kind &);
     template <typename Settings, typename Kind> Settings fetch(const QString &name, const Kind &);
     template <typename Kind, typename Initial>
     void addEntries(const QDomElement &settings, const Kind &kind, Initial initial);
+
+    std::unique_ptr<cabledoc::KnownFiles> m_files;
+    qint64 m_maximumFileSize;
+    qint64 m_replacedCharacters = 0;
+    bool m_isLoadFailed = false;
+    bool m_writesReferences = false;
+    bool m_replacesUnknownFiles = true;
 };

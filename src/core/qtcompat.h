@@ -23,6 +23,12 @@ inline XmlProblem setContent(QDomDocument *document, QXmlStreamReader *reader)
     return problem;
 }
 
+/// How many bytes of memory a document needs for each byte of its file, as measured for cables without curves.
+constexpr double memoryOfAByte = QT_VERSION_MAJOR == 5 ? 30 : 42;
+
+/// The largest file whose text can be held.
+constexpr qint64 largestText = QT_VERSION_MAJOR == 5 ? (qint64(1) << 30) - 64 : qint64(1) << 40;
+
 /// Whether the text names a colour, without the warning that a QColor made of another text would print.
 inline bool isColorName(const QString &text)
 {

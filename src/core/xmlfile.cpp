@@ -2,18 +2,9 @@
 
 #include "qtcompat.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QSaveFile>
 
-#include <cerrno>
-#include <cstring>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace cabledoc::xmlfile {
 
@@ -49,23 +40,54 @@ void removeDeclaration(QDomDocument *document)
         document->removeChild(first);
 }
 
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+/// Takes CDATA sections of nothing but blanks out of the tree: Qt 5 leaves them out, Qt 6 does not.
+void removeBlankSections(QDomNode node)
+{
+    const QDomNode top = node;
+    while (!node.isNull()) {
+        const QString value = node.nodeValue();
+        QDomNode next = node.firstChild();
+        for (QDomNode ancestor = node; next.isNull() && ancestor != top; ancestor = ancestor.parentNode())
+            next = ancestor.nextSibling();
+        if (node.isCDATASection() && std::all_of(value.cbegin(), value.cend(), [](QChar character) {
+                return character.unicode() < 0x80 && isBlank(char(character.unicode()));
+            }))
+            node.parentNode().removeChild(node);
+        node = next;
+    }
+}
+
+/// Where a text ends that was cut off: in its last line that is not blank, behind what is there. The parser gives no
+/// column if the cut is at the end of a line. Neither a line nor a column for a blank text.
+void locateEnd(const QByteArray &bytes, XmlProblem *problem)
+{
+    const auto end = std::find_if_not(bytes.crbegin(), bytes.crend(), isBlank).base();
+    problem->line = end == bytes.cbegin() ? 0 : 1 + int(std::count(bytes.cbegin(), end, '\n'));
+    problem->column = int(end - std::find(std::make_reverse_iterator(end), bytes.crend(), '\n').base());
+    problem->column += end == bytes.cbegin() ? 0 : 1;
+}
+
 } // namespace
 
-ReadResult read(const QString &fileName, const QString &documentTypeName)
+ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize)
 {
     ReadResult result;
     result.document = QDomDocument(documentTypeName);
 
-    QFile file(fileName);
-    QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly))
-        bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
+    const FileContent content = readContent(fileName, maximumSize);
+    if (!content.error.isEmpty()) {
         result.status = ReadResult::NotOpened;
-        result.deviceError = file.errorString();
+        result.deviceError = content.error;
         return result;
     }
+    result.state = content.state;
 
+    const QByteArray &bytes = content.bytes;
     result.problem = scanXml(bytes);
     if (result.problem.message.isNull()) {
         QXmlStreamReader reader;
@@ -77,94 +99,32 @@ ReadResult read(const QString &fileName, const QString &documentTypeName)
         reader.setNamespaceProcessing(false);
         result.problem = qtcompat::setContent(&result.document, &reader);
         removeDeclaration(&result.document);
+        if (bytes.contains("<![CDATA["))
+            removeBlankSections(result.document);
     }
     if (!result.problem.message.isNull()) {
         result.status = ReadResult::NotParsed;
         // A failed parse leaves half a tree behind.
         result.document = QDomDocument(documentTypeName);
+        if (result.problem.column == 0 || std::all_of(bytes.cbegin(), bytes.cend(), isBlank))
+            locateEnd(bytes, &result.problem);
     }
     return result;
 }
 
-namespace {
-
-QString systemError()
+SaveOutcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order,
+                 BeyondLatin1 beyondLatin1, const Expectation &expected)
 {
-    return QString::fromLocal8Bit(std::strerror(errno));
-}
-
-/// Why the file cannot be replaced by another one: it is a device, a pipe, or a link that leads nowhere in a circle. An
-/// empty text when it can, or is not there.
-QString obstacle(const QString &fileName)
-{
-    struct stat status
-    {
-    };
-    if (::stat(QFile::encodeName(fileName).constData(), &status) != 0)
-        return errno == ENOENT ? QString() : systemError();
-    return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)
-               ? QString()
-               : QCoreApplication::translate("XmlFile", "Something that is no file has this name.");
-}
-
-/// Makes a rename within the folder survive a power cut. A folder that may not be read cannot be
-/// synced; the file itself is safe then.
-QString syncFolder(const QString &folder)
-{
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return QString();
-    const QString error = ::fsync(handle) == 0 || errno == EINVAL ? QString() : systemError();
-    ::close(handle);
-    return error;
-}
-
-/// Writes a piece whole, and lets the disk begin with it: the rest of the text is made meanwhile.
-QString append(const QByteArray &piece, QSaveFile *file)
-{
-    qint64 written = 0;
-    while (written < piece.size()) {
-        // After a short write the next one tells the reason.
-        const qint64 more = file->write(piece.constData() + written, piece.size() - written);
-        if (more <= 0)
-            return file->errorString();
-        written += more;
-    }
-#ifdef SYNC_FILE_RANGE_WRITE
-    // The sync at the end tells of failures.
-    ::sync_file_range(file->handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
-#endif
-    return QString();
-}
-
-} // namespace
-
-Outcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order)
-{
-    Outcome outcome;
-    outcome.error = obstacle(fileName);
+    SaveOutcome outcome;
+    FileReplacement file(fileName);
+    outcome.error = file.open();
     if (!outcome.error.isEmpty())
         return outcome;
-    QSaveFile file(fileName);
-    // Unbuffered and with every result looked at: QSaveFile by itself moves a torn file into place when
-    // the disk fills up while it empties its buffer.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        outcome.error = file.errorString();
-        return outcome;
-    }
-    outcome = writeText(document, order, [&file](const QByteArray &piece) { return append(piece, &file); });
-    if (outcome.error.isEmpty()) {
-        if (!file.flush() || file.error() != QFileDevice::NoError)
-            outcome.error = file.errorString();
-        else if (::fsync(file.handle()) != 0)
-            outcome.error = systemError();
-    }
-    if (!outcome.error.isEmpty()) {
-        file.cancelWriting();
-        return outcome;
-    }
-    outcome.error =
-        file.commit() ? syncFolder(QFileInfo(QFileInfo(fileName).canonicalFilePath()).path()) : file.errorString();
+    static_cast<Outcome &>(outcome) = writeText(
+        document, order, [&file](const QByteArray &piece) { return file.write(piece); }, beyondLatin1);
+    if (outcome.error.isEmpty())
+        outcome.error = file.commit(expected);
+    outcome.state = file.state();
     return outcome;
 }
 

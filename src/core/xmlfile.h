@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filereplacement.h"
 #include "xmlscan.h"
 
 #include <QtCore/QByteArray>
@@ -26,10 +27,14 @@ struct ReadResult
     QDomDocument document; ///< whole, or without any content
     QString deviceError;
     XmlProblem problem;
+    FileState state; ///< of the file that was read
 };
 
+/// Files above this size are not read if nobody asks for it.
+constexpr qint64 defaultMaximumSize = qint64(4) << 30;
+
 /// Reads a file into a new document of that type name.
-ReadResult read(const QString &fileName, const QString &documentTypeName);
+ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize = defaultMaximumSize);
 
 /// In which order the attributes of an element are written. Those not named follow by name.
 struct AttributeOrder
@@ -38,12 +43,18 @@ struct AttributeOrder
     QHash<QString, QStringList> ofElement;   ///< of the element of that name
 };
 
+/// What becomes of characters beyond Latin-1 in texts and values.
+enum class BeyondLatin1 {
+    Replace,      ///< they become "?"
+    AsReferences, ///< they become references such as "&#8364;"
+};
+
 /// How the writing of a document went.
 struct Outcome
 {
-    /// Characters that the file cannot hold (outside Latin-1, or control characters) and that stand as
-    /// "?" in the bytes.
-    int replacedCharacters = 0;
+    /// Characters that stand as "?" in the bytes: those that XML does not allow; and those outside Latin-1, in
+    /// comments, CDATA sections and names always, in texts and values if they are to be replaced.
+    qint64 replacedCharacters = 0;
     /// Why the text is not whole: read() would refuse it (no root or several, beyond the limits), or a piece of it was
     /// not taken. Empty when it is whole.
     QString error;
@@ -53,19 +64,26 @@ struct Outcome
 using Sink = std::function<QString(const QByteArray &piece)>;
 
 /// Passes on the text of a document in pieces of some megabytes. The same tree gives the same bytes in every process.
-Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink);
+Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink,
+                  BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace);
 
 /// The same in one piece.
 struct Text : Outcome
 {
     QByteArray bytes;
 };
-Text toText(const QDomDocument &document, const AttributeOrder &order);
+Text toText(const QDomDocument &document, const AttributeOrder &order,
+            BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace);
 
-/// Replaces the content of a file by the text of a document, or creates it. The new content is written beside the old
-/// and moved into place when it is safely on the disk; on any failure the old file is as it was. There is one
-/// exception: when the folder cannot be brought to the disk at the end, the new content is in place already. A link is
-/// followed; a device or a pipe is not replaced.
-Outcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order);
+struct SaveOutcome : Outcome
+{
+    std::optional<FileState> state; ///< of the file, once the new content is in place
+};
+
+/// Replaces the content of a file by the text of a document, or creates it, if the file is the expected one. On any
+/// failure the old file is as it was. There is one exception: when the folder cannot be brought to the disk at the end,
+/// the new content is in place already. A link is followed; a device or a pipe is not replaced.
+SaveOutcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order,
+                 BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace, const Expectation &expected = {});
 
 } // namespace cabledoc::xmlfile

@@ -17,6 +17,12 @@ constexpr bool isStorable(char16_t character)
     return character <= 0xFF && (character >= 0x20 || character == u'\t' || character == u'\n' || character == u'\r');
 }
 
+/// Whether a numeric reference can stand for a character beyond Latin-1: XML 1.0 allows it, and it is not half of one.
+constexpr bool isReferable(char32_t character)
+{
+    return character > 0xFF && (character < 0xD800 || character > 0xDFFF) && character != 0xFFFE && character != 0xFFFF;
+}
+
 /// The first character of the text that a file cannot hold; empty when it can hold all of it.
 QString firstLostCharacter(const QString &text);
 

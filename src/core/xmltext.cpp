@@ -87,9 +87,10 @@ bool isMixed(const QDomElement &element)
 class TextWriter
 {
 public:
-    TextWriter(const AttributeOrder &order, const Sink &sink)
+    TextWriter(const AttributeOrder &order, const Sink &sink, BeyondLatin1 beyondLatin1)
         : m_order(order)
         , m_sink(sink)
+        , m_beyondLatin1(beyondLatin1)
     {
     }
 
@@ -191,9 +192,6 @@ private:
     void writeLeaf(const QDomNode &node)
     {
         if (node.isCDATASection()) {
-            // Qt 5 drops an empty section on reading, Qt 6 keeps it.
-            if (node.nodeValue().isEmpty())
-                return;
             m_bytes += "<![CDATA[";
             append(node.nodeValue(), Escape::Nothing);
             m_bytes += "]]>";
@@ -296,12 +294,22 @@ private:
             if (const char *escaped = reference(*next, escape)) {
                 m_bytes += escaped;
             } else {
-                if (QChar::isHighSurrogate(*next) && next + 1 != end && QChar::isLowSurrogate(next[1]))
-                    ++next;
-                m_bytes += '?';
-                ++m_outcome.replacedCharacters;
+                const bool isPair = QChar::isHighSurrogate(*next) && next + 1 != end && QChar::isLowSurrogate(next[1]);
+                appendOdd(isPair ? QChar::surrogateToUcs4(next[0], next[1]) : char32_t(*next), escape);
+                next += isPair ? 1 : 0;
             }
             ++next;
+        }
+    }
+
+    /// Appends a character that cannot stand as it is and has no reference of its own.
+    void appendOdd(char32_t character, Escape escape)
+    {
+        if (m_beyondLatin1 == BeyondLatin1::AsReferences && escape != Escape::Nothing && isReferable(character)) {
+            m_bytes += "&#" + QByteArray::number(quint32(character)) + ';';
+        } else {
+            m_bytes += '?';
+            ++m_outcome.replacedCharacters;
         }
     }
 
@@ -317,6 +325,7 @@ private:
 
     const AttributeOrder &m_order;
     const Sink &m_sink;
+    BeyondLatin1 m_beyondLatin1;
     QVector<OpenElement> m_open;
     QByteArray m_bytes; ///< not yet passed on
     Outcome m_outcome;
@@ -324,18 +333,20 @@ private:
 
 } // namespace
 
-Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink)
+Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink,
+                  BeyondLatin1 beyondLatin1)
 {
-    return TextWriter(order, sink).write(document);
+    return TextWriter(order, sink, beyondLatin1).write(document);
 }
 
-Text toText(const QDomDocument &document, const AttributeOrder &order)
+Text toText(const QDomDocument &document, const AttributeOrder &order, BeyondLatin1 beyondLatin1)
 {
     Text text;
-    static_cast<Outcome &>(text) = writeText(document, order, [&text](const QByteArray &piece) {
+    const auto append = [&text](const QByteArray &piece) {
         text.bytes += piece;
         return QString();
-    });
+    };
+    static_cast<Outcome &>(text) = writeText(document, order, append, beyondLatin1);
     return text;
 }
 

@@ -81,22 +81,25 @@ public:
     /// when a job is open, which stays as it was.
     virtual bool New(const QString &filename);
     /// Replaces the document by the content of a file. The job is unchanged afterwards. False, with a text
-    /// in error(), when the name is empty, or the file is missing, cannot be opened (the open job is as it
-    /// was, under the new name), is no XML (the document is empty) or has a version that is not supported
-    /// (the document holds it as it was read). An older job is brought to version 3.0; its file stays as it
-    /// is until the job is saved, and the conversion does not count as a change.
+    /// in error(), when the name is empty (nothing changes), or the file is missing, above maximumFileSize(), cannot be
+    /// opened (the open job is as it was, under the new name), is no XML (the document is empty) or has a version that
+    /// is not supported (the document holds it as it was read). An older job is brought to version 3.0; its file stays
+    /// as it is until the job is saved, and the conversion does not count as a change.
     virtual bool Load(const QString &filename);
     /// Empties the document and its name and sets error() to "Unloading". Tags and ids are still known to
     /// existence tests and lists until the next New() or Load().
     virtual void Unload();
-    /// Writes the document to its file. False, with a text in error(), when it has no name or no content, when the name
-    /// is that of a device or a pipe, or when it cannot be written; the file is then as it was, and the document stays
-    /// changed. Clears the mark of a change otherwise. A process that may run into a file-size limit has to ignore
-    /// SIGXFSZ to get this answer.
+    /// Writes the document to its file, and clears the mark of a change. Returns false, with a text in error(), if the
+    /// document has no name or no content, if the name is that of a device or a pipe, if the last Load() failed (until
+    /// New(), saveAs() or a Load() succeeds), if another program has changed the file since it was read or written, or
+    /// if the file cannot be written. The file is then as it was, and the document stays changed. A file that was taken
+    /// away is created again. A process that may run into a file-size limit has to ignore SIGXFSZ to get this answer.
     virtual bool save();
     /// Writes the document to another file, which it belongs to from then on. An existing file is
     /// replaced; ".job" is not added. On a failure nothing changes, as with save().
     virtual bool saveAs(const QString &filename);
+    /// Does what save() does, but replaces the file even if another program has changed it.
+    bool saveAnyway();
 
     /// Whether the document was changed since it was last created, loaded or saved.
     using BKXMLEditor::fileChanged;
@@ -115,9 +118,9 @@ public:
     /// Takes over those default test definitions, and those bundles, of a template that the job lacks.
     void ImportMissingDefaultCableTypes(BktEditor *bkt);
     /// Writes contractor, settings, test definitions and bundles to a file as a new template, which replaces the
-    /// one in the template document and stays open there. False, with a text in error(), when the name is empty
-    /// or that of a directory (the open template is as it was), or the file cannot be written. Entries of the
-    /// settings that the job lacks are added to it with their defaults.
+    /// one in the template document and stays open there. False, with a text in error(), when the name is empty, that
+    /// of a directory or that of the job's own file (the open template is as it was), or the file cannot be written.
+    /// Entries of the settings that the job lacks are added to it with their defaults.
     bool Export(const QString &filename);
     /// The file of the default template. Setting an empty path changes nothing. Not part of the document.
     void setDefaultBktFile(const QString &filename);
@@ -713,6 +716,7 @@ private:
     bool checkVersion();
     bool mayBeName(const QString &name);
     bool mayBeFile(const QString &filename, const QString &extension);
+    bool save(Replace replace);
 
     // All kinds of elements that have tags and ids
     template <typename Kind>

@@ -75,7 +75,8 @@ QString JobEditor::New()
     for (int n = 2; QFileInfo::exists(candidate); ++n)
         //: File name. It stays as it is: checkUntitledJob() knows the word "Untitled".
         candidate = directory + tr("Untitled%1.job").arg(n);
-    m_filename = candidate;
+    if (!takeName(candidate))
+        return QString();
     create(settings.value(BKUtils::DefaultCeilingHeight).toDouble());
     return candidate;
 }
@@ -89,7 +90,8 @@ bool JobEditor::New(const QString &filename)
     }
     if (refuseWhenOpen())
         return false;
-    m_filename = checkJobExtension(filename) ? filename : filename + QLatin1String(".job");
+    if (!takeName(checkJobExtension(filename) ? filename : filename + QLatin1String(".job")))
+        return false;
     create(settings.value(BKUtils::DefaultCeilingHeight).toDouble());
     return true;
 }
@@ -142,8 +144,10 @@ bool JobEditor::Load(const QString &filename)
                   tr("Error parsing job file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse job file %1")});
     const bool isLoaded = isRead && checkVersion();
     updateAllInternalLists();
-    if (isRead && !isLoaded)
+    if (isRead && !isLoaded) {
+        rejectFile();
         m_error = tr("Incompatible version of job file %1").arg(filename);
+    }
     if (isLoaded)
         setDirty(false);
     return isLoaded;
@@ -166,11 +170,21 @@ void JobEditor::Unload()
 
 bool JobEditor::save()
 {
+    return save(Replace::ExpectedFile);
+}
+
+bool JobEditor::saveAnyway()
+{
+    return save(Replace::AnyFile);
+}
+
+bool JobEditor::save(Replace replace)
+{
     if (!namesAFile(m_filename, words::JobExtension)) {
         m_error = tr("Filename is Empty");
         return false;
     }
-    if (!writeFile(m_filename, jobAttributeOrder()))
+    if (refuseUnloaded() || !writeFile(m_filename, jobAttributeOrder(), replace))
         return false;
     setDirty(false);
     return true;
@@ -198,9 +212,9 @@ bool JobEditor::saveAs(const QString &filename)
         return false;
     if (QFileInfo::exists(filename))
         qDebug("Overwriting in JobEditor::saveAs");
-    if (!writeFile(filename, jobAttributeOrder()))
+    if (!writeFile(filename, jobAttributeOrder(), Replace::AnyFile))
         return false;
-    m_filename = filename;
+    changeName(filename);
     setDirty(false);
     return true;
 }

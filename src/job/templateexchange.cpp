@@ -57,6 +57,10 @@ bool JobEditor::Export(const QString &filename)
 {
     if (!mayBeFile(filename, words::BktExtension))
         return false;
+    if (isOwnFile(filename)) {
+        m_error = tr("This is the file of the job itself. A template needs another name.");
+        return false;
+    }
     BktEditor &bkt = BktEditor::Instance();
     if (!bkt.New(filename)) {
         m_error = tr("Unable to open file.");

@@ -6,6 +6,11 @@ using namespace cabledoc;
 
 bool BktEditor::checkVersion()
 {
+    return checkVersion([this] { return save(); });
+}
+
+bool BktEditor::checkVersion(const std::function<bool()> &stepDone)
+{
     // The three texts are for developers: Load() puts its own in their place.
     if (!m_document.hasChildNodes()) {
         m_error = QStringLiteral("_doc has no child nodes in BktEditor::checkVersion");
@@ -21,7 +26,7 @@ bool BktEditor::checkVersion()
     }
     const QString found = version();
     bool isSaved = true;
-    if (convertToCurrentVersion([this, &isSaved] { return isSaved = save(); }))
+    if (convertToCurrentVersion([&] { return isSaved = stepDone(); }))
         return true;
     if (isSaved)
         m_error = tr("%1 is a bad version number in BktEditor::checkVersion.").arg(found);

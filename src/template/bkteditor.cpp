@@ -49,8 +49,9 @@ bool BktEditor::New(const QString &filename)
         m_error = tr("Unable to create template with NULL filename");
         return false;
     }
+    if (!takeName(filename))
+        return false;
     m_document = QDomDocument(words::Bkt);
-    m_filename = filename;
 
     QDomElement root = appendElement(words::Bkt, m_document);
     appendElement(words::Version, root).setAttribute(words::Number, words::CurrentVersion);
@@ -64,11 +65,22 @@ bool BktEditor::New(const QString &filename)
 
 bool BktEditor::Load(const QString &filename)
 {
+    return load(filename, [this] { return save(); });
+}
+
+bool BktEditor::LoadWithoutSaving(const QString &filename)
+{
+    return load(filename, [] { return true; });
+}
+
+bool BktEditor::load(const QString &filename, const std::function<bool()> &stepDone)
+{
     if (!readFile(filename, words::Bkt,
                   {tr("Empty or null filename in BktEditor::Load"), tr("Bkt file %1 does not exist"),
                    tr("Error parsing Bkt file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse Bkt file %1")}))
         return false;
-    if (!checkVersion()) {
+    if (!checkVersion(stepDone)) {
+        rejectFile();
         m_error = QStringLiteral("Incompatible version of Bkt file");
         return false;
     }
@@ -78,11 +90,21 @@ bool BktEditor::Load(const QString &filename)
 
 bool BktEditor::save()
 {
+    return save(Replace::ExpectedFile);
+}
+
+bool BktEditor::saveAnyway()
+{
+    return save(Replace::AnyFile);
+}
+
+bool BktEditor::save(Replace replace)
+{
     if (!namesAFile(m_filename, words::BktExtension)) {
         m_error = tr("Filename is empty.");
         return false;
     }
-    if (!writeFile(m_filename, sharedAttributeOrder()))
+    if (refuseUnloaded() || !writeFile(m_filename, sharedAttributeOrder(), replace))
         return false;
     setDirty(false);
     return true;
@@ -94,7 +116,7 @@ bool BktEditor::saveAs(const QString &filename)
         m_error = tr("Unable to Save file (NULL)");
         return false;
     }
-    return writeFile(filename, sharedAttributeOrder());
+    return writeFile(filename, sharedAttributeOrder(), Replace::AnyFile);
 }
 
 bool BktEditor::checkBktExtension(const QString &filename)

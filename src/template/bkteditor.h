@@ -32,9 +32,15 @@ public:
     /// document is empty), has a version that is not supported or cannot be rewritten (the file then holds
     /// what the last completed step wrote).
     bool Load(const QString &filename);
-    /// Writes the document to its file. False, with a text in error(), when it has no name or no content or
-    /// cannot be written; the file is then as it was.
+    /// Does what Load() does, but leaves an older file as it is: only the document in memory is converted.
+    bool LoadWithoutSaving(const QString &filename);
+    /// Writes the document to its file. Returns false, with a text in error(), if it has no name or no content, if the
+    /// last Load() failed (until New(), saveAs() or a Load() succeeds), if another program has changed the file since
+    /// it was read or written, or if the file cannot be written. The file is then as it was. A file that was taken away
+    /// is created again.
     bool save();
+    /// Does what save() does, but replaces the file even if another program has changed it.
+    bool saveAnyway();
     /// Writes the document to another file. The document still belongs to its own file, which save() writes,
     /// and counts as changed as it did before.
     bool saveAs(const QString &filename);
@@ -67,5 +73,9 @@ protected:
     ~BktEditor() override;
 
 private:
+    bool load(const QString &filename, const std::function<bool()> &stepDone);
+    bool checkVersion(const std::function<bool()> &stepDone);
+    bool save(Replace replace);
+
     static BktEditor *s_instance;
 };

@@ -83,7 +83,9 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QByteArray &content, int line) {
             QTest::newRow(name) << content << line;
         };
-        row("empty", "", 1);
+        row("empty", "", 0);
+        row("blank", " \n\n", 0);
+        row("cut off at the end of a line", "<a>\n<b>\n\n", 2);
         row("no XML", "floor plan", 1);
         row("unclosed", "<a>\n<b></a>", 2);
         row("cut off", "<a>\n<b c='", 2);

@@ -2,10 +2,13 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdarg>
 #include <cstddef>
 #include <cstdio>
 
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace failingcalls {
@@ -62,22 +65,53 @@ extern "C" ssize_t write(int file, const void *data, size_t size)
     return -1;
 }
 
+/// A call that does nothing but fail when it shall.
+template <typename Function, typename... Arguments>
+auto failingCall(Call call, const char *name, Function *, Arguments... arguments)
+{
+    static const auto real = theSystems<Function *>(name);
+    State &state = states.at(call);
+    if (!failsNow(&state))
+        return real(arguments...);
+    errno = state.error;
+    return decltype(real(arguments...))(-1);
+}
+
 extern "C" int fsync(int file)
 {
-    static const auto real = theSystems<int (*)(int)>("fsync");
-    State &state = states.at(Fsync);
-    if (!failsNow(&state))
-        return real(file);
-    errno = state.error;
-    return -1;
+    return failingCall(Fsync, "fsync", fsync, file);
 }
 
 extern "C" int rename(const char *from, const char *to) noexcept
 {
-    static const auto real = theSystems<int (*)(const char *, const char *)>("rename");
-    State &state = states.at(Rename);
-    if (!failsNow(&state))
-        return real(from, to);
-    errno = state.error;
-    return -1;
+    return failingCall(Rename, "rename", rename, from, to);
+}
+
+extern "C" int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
+{
+    return failingCall(Rename, "renameat2", renameat2, fromFolder, from, toFolder, to, flags);
+}
+
+extern "C" int open(const char *name, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return failingCall(Open, "open", open, name, flags, mode);
+}
+
+extern "C" ssize_t read(int file, void *data, size_t size)
+{
+    return failingCall(Read, "read", read, file, data, size);
+}
+
+extern "C" int stat(const char *name, struct stat *status) noexcept
+{
+    return failingCall(Stat, "stat", stat, name, status);
+}
+
+extern "C" int fstat(int file, struct stat *status) noexcept
+{
+    return failingCall(Stat, "fstat", fstat, file, status);
 }

@@ -4,6 +4,9 @@
 namespace failingcalls {
 
 enum Call {
+    Open, ///< of files by the library; Qt's own go another way
+    Read,
+    Stat,  ///< of a name or an open file
     Write, ///< to a file; those to standard output and standard error are left alone
     Fsync,
     Rename,

@@ -1,0 +1,88 @@
+#include "fileaccess.h"
+
+#include <QtCore/QList>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace cabledoc {
+
+namespace {
+
+/// Under this name the system keeps the access control list of a file.
+const char accessList[] = "system.posix_acl_access";
+/// Rights of a program, which a save drops as it drops the bits for them.
+const char capabilities[] = "security.capability";
+
+constexpr mode_t ownerBits = S_IRWXU;
+constexpr mode_t groupBits = S_IRWXG;
+constexpr mode_t otherBits = S_IRWXO;
+
+/// Asks the system twice, for the size and for the data; empty if there are none.
+template <typename Ask> QByteArray answerTo(Ask ask)
+{
+    QByteArray answer;
+    const ssize_t size = ask(nullptr, 0);
+    if (size <= 0)
+        return answer;
+    answer.resize(int(size));
+    answer.resize(int(std::max<ssize_t>(0, ask(answer.data(), std::size_t(size)))));
+    return answer;
+}
+
+QByteArray attributeOf(const QByteArray &file, const char *name)
+{
+    return answerTo([&](char *data, std::size_t size) { return ::getxattr(file.constData(), name, data, size); });
+}
+
+bool setAttribute(int file, const char *name, const QByteArray &value)
+{
+    return ::fsetxattr(file, name, value.constData(), std::size_t(value.size()), 0) == 0;
+}
+
+void copyOtherAttributes(const QByteArray &from, int to)
+{
+    const QList<QByteArray> names =
+        answerTo([&](char *data, std::size_t size) { return ::listxattr(from.constData(), data, size); }).split('\0');
+    for (const QByteArray &name : names) {
+        if (!name.isEmpty() && name != accessList && name != capabilities)
+            setAttribute(to, name.constData(), attributeOf(from, name.constData()));
+    }
+}
+
+} // namespace
+
+bool copyAccess(const QByteArray &from, int to)
+{
+    struct stat status
+    {
+    };
+    if (::stat(from.constData(), &status) != 0)
+        return false;
+    mode_t mode = status.st_mode & (ownerBits | groupBits | otherBits);
+    const bool isOwnerKept = ::geteuid() == status.st_uid || ::fchown(to, status.st_uid, gid_t(-1)) == 0;
+    const bool isGroupKept = ::fchown(to, uid_t(-1), status.st_gid) == 0;
+
+    const QByteArray list = attributeOf(from, accessList);
+    bool isListKept = true;
+    if (list.isEmpty())
+        ::fremovexattr(to, accessList); // one that the folder gives to new files
+    else
+        isListKept = isGroupKept && setAttribute(to, accessList, list);
+    copyOtherAttributes(from, to);
+
+    // Whoever is no longer the owner, in the group or in the list may now do what the group or the others may: no more
+    // than before.
+    if (!isListKept)
+        mode &= ownerBits;
+    if (!isGroupKept)
+        mode &= ownerBits | (mode >> 3 & otherBits);
+    if (!isOwnerKept)
+        mode &= ownerBits | (mode >> 3 & groupBits) | (mode >> 6 & otherBits);
+    return ::fchmod(to, mode) == 0;
+}
+
+} // namespace cabledoc

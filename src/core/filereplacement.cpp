@@ -1,0 +1,170 @@
+#include "filereplacement.h"
+
+#include "fileaccess.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRandomGenerator>
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace cabledoc {
+
+namespace {
+
+/// Follows the links from a name to where they end, which may be at nothing. Empty, with errno set, if they do not end.
+QByteArray endOfLinks(QByteArray name)
+{
+    constexpr int maximumLinks = 40; // as in the system
+    for (int links = 0; links < maximumLinks; ++links) {
+        QByteArray target(PATH_MAX, '\0');
+        const ssize_t size = ::readlink(name.constData(), target.data(), std::size_t(target.size()));
+        if (size < 0)
+            return name;
+        target.truncate(int(size));
+        name = target.startsWith('/') ? target : name.left(name.lastIndexOf('/') + 1) + target;
+    }
+    errno = ELOOP;
+    return QByteArray();
+}
+
+/// Makes a change of names in the folder survive a power cut. A folder that may not be read cannot be synced; the file
+/// itself is safe then.
+QString syncFolder(const QByteArray &folder)
+{
+    const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return QString();
+    const QString error = ::fsync(handle) == 0 || errno == EINVAL ? QString() : systemError();
+    ::close(handle);
+    return error;
+}
+
+/// Gives a file another name that no file has.
+bool renameToNewName(const QByteArray &from, const QByteArray &to)
+{
+#ifdef RENAME_NOREPLACE
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+#endif
+    // Not every file system can do that at once.
+    if (::link(from.constData(), to.constData()) != 0)
+        return false;
+    ::unlink(from.constData());
+    return true;
+}
+
+} // namespace
+
+FileReplacement::~FileReplacement()
+{
+    if (m_handle >= 0)
+        ::close(m_handle);
+    if (!m_copy.isEmpty())
+        ::unlink(m_copy.constData());
+}
+
+QString FileReplacement::open()
+{
+    m_target = endOfLinks(QFile::encodeName(m_fileName));
+    if (m_target.isEmpty())
+        return systemError();
+    struct stat status
+    {
+    };
+    m_isNew = ::stat(m_target.constData(), &status) != 0;
+    if (m_isNew && errno != ENOENT)
+        return systemError();
+    if (!m_isNew && S_ISDIR(status.st_mode))
+        return QCoreApplication::translate("XmlFile", "A folder has this name.");
+    if (!m_isNew && !S_ISREG(status.st_mode))
+        return QCoreApplication::translate("XmlFile", "Something that is not a file has this name.");
+    // The folder would let a file be replaced that nobody may write to.
+    if (!m_isNew && ::faccessat(AT_FDCWD, m_target.constData(), W_OK, AT_EACCESS) != 0)
+        return systemError();
+    return createCopy();
+}
+
+QString FileReplacement::createCopy()
+{
+    // What the folder gives to a new file is for the file itself. An existing one gets what the old one has at the end;
+    // until then nobody else reads it.
+    const mode_t mode = m_isNew ? 0666 : 0600;
+    constexpr int attempts = 100;
+    for (int attempt = 0; attempt < attempts && m_handle < 0; ++attempt) {
+        const quint32 number = QRandomGenerator::global()->bounded(1U << 24);
+        m_copy = m_target + '.' + QByteArray::number(number, 16).rightJustified(6, '0');
+        m_handle = ::open(m_copy.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (m_handle < 0 && errno != EEXIST)
+            break;
+    }
+    if (m_handle >= 0)
+        return QString();
+    m_copy.clear(); // the file of that name is another one's
+    return systemError();
+}
+
+QString FileReplacement::write(const QByteArray &piece)
+{
+    qint64 written = 0;
+    while (written < piece.size()) {
+        // After a short write the next one tells the reason.
+        const ssize_t more = ::write(m_handle, piece.constData() + written, std::size_t(piece.size() - written));
+        if (more < 0 && errno != EINTR)
+            return systemError();
+        written += more < 0 ? 0 : more;
+    }
+#ifdef SYNC_FILE_RANGE_WRITE
+    // The disk begins with it: the rest of the text is made meanwhile. The sync at the end tells of failures.
+    ::sync_file_range(m_handle, 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+    m_hash.add(piece);
+    return QString();
+}
+
+QString FileReplacement::commit(const Expectation &expected)
+{
+    if (!m_isNew && !copyAccess(m_target, m_handle) && errno != ENOENT)
+        return systemError();
+    if (::fsync(m_handle) != 0)
+        return systemError();
+    const QString error = moveIntoPlace(expected);
+    if (!error.isEmpty())
+        return error;
+    m_copy.clear();
+    m_state = FileState{FileStatus(), m_hash.value()};
+    struct stat status
+    {
+    };
+    // Of what was written, wherever somebody else may have put it by now. Without it the hash tells.
+    if (::fstat(m_handle, &status) == 0)
+        m_state->status = FileStatus(status);
+    return syncFolder(QFile::encodeName(QFileInfo(QFile::decodeName(m_target)).path()));
+}
+
+QString FileReplacement::moveIntoPlace(const Expectation &expected)
+{
+    const bool isThere = ::access(m_target.constData(), F_OK) == 0 || errno != ENOENT;
+    if (isThere && expected.kind == Expectation::KnownContent
+        && !hasContent(QFile::decodeName(m_target), expected.known))
+        return QCoreApplication::translate("XmlFile",
+                                           "Another program has changed the file since it was read. It is left "
+                                           "as it is.");
+    const bool mayReplace = expected.kind == Expectation::Anything || (isThere && expected.kind != Expectation::NoFile);
+    if (mayReplace ? ::rename(m_copy.constData(), m_target.constData()) == 0 : renameToNewName(m_copy, m_target))
+        return QString();
+    if (errno == EEXIST)
+        return QCoreApplication::translate("XmlFile", "There is a file of this name. It is left as it is.");
+    return systemError();
+}
+
+} // namespace cabledoc
