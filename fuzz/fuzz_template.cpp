@@ -11,7 +11,7 @@ namespace {
 
 QDomDocument parsed(const QString &fileName)
 {
-    return cabledoc::xmlfile::read(fileName, QString()).document;
+    return cabledoc::xmlfile::read(fileName, QString(), BKXMLEditor::defaultMaximumFileSize).document;
 }
 
 } // namespace

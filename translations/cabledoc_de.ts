@@ -138,6 +138,26 @@
         <source>standard output: %1</source>
         <translation>Standardausgabe: %1</translation>
     </message>
+    <message>
+        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
+        <translation>Die Größe, über der eine Datei nicht gelesen wird, etwa 500M oder 8G; 4G, wenn nichts angegeben ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; ist keine Größe wie 500M</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Ein anderes Programm ändert die Datei gerade: %1, Prozess %2 auf %3. Wenn nicht, löschen Sie %4</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: its folder does not let a file be created</source>
+        <translation>Die Datei kann nicht gesperrt werden: Ihr Ordner lässt keine neue Datei zu</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>DeviceType</name>
@@ -279,6 +299,10 @@
     <message>
         <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
         <translation>&quot;%1&quot; enthält &quot;%2&quot;, das beim Speichern verloren geht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <translation>&quot;%1&quot;: &quot;%2&quot; ist keine brauchbare Zahl</translation>
     </message>
 </context>
 <context>
@@ -746,6 +770,10 @@
         <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
         <translation>Gibt den Kabelplan einer Auftragsdatei als CSV aus. Die Datei wird nicht geändert.</translation>
     </message>
+    <message>
+        <source>Print JSON instead of lines, with all problems.</source>
+        <translation>JSON statt Zeilen ausgeben, mit allen Fehlern.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
@@ -959,6 +987,18 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
 <context>
     <name>main</name>
     <message>
+        <source>a command is needed</source>
+        <translation>ein Befehl ist nötig</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc --help&quot; lists the commands</source>
+        <translation>&quot;cabledoc --help&quot; zeigt die Befehle</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>einen Befehl &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
         <source>Usage: cabledoc COMMAND ...
 
 Commands:
@@ -970,10 +1010,11 @@ Commands:
   import FILE.job --template FILE.bkt [--missing-only]
                                         let a job take over what a template holds
   export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run]
+  schedule import FILE.job FILE.csv [--dry-run] [--json]
                                         bring a job up to a cable schedule
   schedule export FILE.job              print the cable schedule of a job
 
+Commands that read files take --max-size SIZE.
 &quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
 
 Exit codes:
@@ -981,7 +1022,8 @@ Exit codes:
   1  &quot;check&quot; found something wrong
   2  wrong command line
   3  a file could not be loaded
-  4  a file could not be saved, or the output not be written
+  4  a file could not be saved
+  5  all was done, but standard output could not be written
 </source>
         <translation>Aufruf: cabledoc BEFEHL ...
 
@@ -994,10 +1036,11 @@ Befehle:
   import DATEI.job --template DATEI.bkt [--missing-only]
                                         einen Auftrag den Inhalt einer Vorlage übernehmen lassen
   export DATEI.job -o NEU.bkt           aus einem Auftrag eine Vorlage machen
-  schedule import DATEI.job DATEI.csv [--dry-run]
+  schedule import DATEI.job DATEI.csv [--dry-run] [--json]
                                         einen Auftrag auf den Stand eines Kabelplans bringen
   schedule export DATEI.job             den Kabelplan eines Auftrags ausgeben
 
+Befehle, die Dateien lesen, nehmen --max-size GRÖSSE.
 &quot;cabledoc BEFEHL --help&quot; sagt mehr. Außerdem: cabledoc --help, cabledoc --version.
 
 Rückgabewerte:
@@ -1005,31 +1048,20 @@ Rückgabewerte:
   1  &quot;check&quot; hat etwas gefunden
   2  falscher Aufruf
   3  eine Datei konnte nicht geladen werden
-  4  eine Datei konnte nicht gespeichert oder die Ausgabe nicht geschrieben werden
+  4  eine Datei konnte nicht gespeichert werden
+  5  alles ist getan, aber die Standardausgabe konnte nicht geschrieben werden
 </translation>
-    </message>
-    <message>
-        <source>a command is needed</source>
-        <translation>ein Befehl ist nötig</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; zeigt die Befehle</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>einen Befehl &quot;%1&quot; gibt es nicht</translation>
     </message>
 </context>
 <context>
     <name>runCheck</name>
     <message>
-        <source>Reports what is wrong with a job or template file, one line for each finding. The file is not changed.</source>
-        <translation>Berichtet, was an einer Auftrags- oder Vorlagendatei nicht stimmt, eine Zeile für jeden Befund. Die Datei wird nicht geändert.</translation>
+        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
+        <translation>Meldet, was an einer Auftrags- oder Vorlagendatei nicht stimmt, eine Zeile für jeden der ersten 50 Befunde. Die Datei wird nicht geändert.</translation>
     </message>
     <message>
-        <source>Print JSON instead of lines.</source>
-        <translation>JSON statt Zeilen ausgeben.</translation>
+        <source>Print JSON instead of lines, with all findings.</source>
+        <translation>JSON statt Zeilen ausgeben, mit allen Befunden.</translation>
     </message>
 </context>
 <context>

@@ -138,6 +138,26 @@
         <source>standard output: %1</source>
         <translation>salida estándar: %1</translation>
     </message>
+    <message>
+        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
+        <translation>El tamaño por encima del cual no se lee un archivo, por ejemplo 500M u 8G; 4G si no se indica.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; no es un tamaño como 500M</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Otro programa está cambiando el archivo: %1, proceso %2 en %3. Si no es así, borre %4</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: its folder does not let a file be created</source>
+        <translation>No se puede bloquear el archivo: su carpeta no permite crear archivos</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
 </context>
 <context>
     <name>DeviceType</name>
@@ -279,6 +299,10 @@
     <message>
         <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
         <translation>&quot;%1&quot; contiene &quot;%2&quot;, que se pierde al guardar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <translation>&quot;%1&quot;: &quot;%2&quot; no es un número que se pueda usar</translation>
     </message>
 </context>
 <context>
@@ -746,6 +770,10 @@
         <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
         <translation>Muestra el plan de cableado de un archivo de trabajo como CSV. El archivo no se modifica.</translation>
     </message>
+    <message>
+        <source>Print JSON instead of lines, with all problems.</source>
+        <translation>Mostrar JSON en lugar de líneas, con todos los problemas.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
@@ -959,6 +987,18 @@ de más de 330 ft (100 m).</translation>
 <context>
     <name>main</name>
     <message>
+        <source>a command is needed</source>
+        <translation>hace falta una orden</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc --help&quot; lists the commands</source>
+        <translation>&quot;cabledoc --help&quot; muestra las órdenes</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>no hay ninguna orden &quot;%1&quot;</translation>
+    </message>
+    <message>
         <source>Usage: cabledoc COMMAND ...
 
 Commands:
@@ -970,10 +1010,11 @@ Commands:
   import FILE.job --template FILE.bkt [--missing-only]
                                         let a job take over what a template holds
   export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run]
+  schedule import FILE.job FILE.csv [--dry-run] [--json]
                                         bring a job up to a cable schedule
   schedule export FILE.job              print the cable schedule of a job
 
+Commands that read files take --max-size SIZE.
 &quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
 
 Exit codes:
@@ -981,7 +1022,8 @@ Exit codes:
   1  &quot;check&quot; found something wrong
   2  wrong command line
   3  a file could not be loaded
-  4  a file could not be saved, or the output not be written
+  4  a file could not be saved
+  5  all was done, but standard output could not be written
 </source>
         <translation>Uso: cabledoc ORDEN ...
 
@@ -995,10 +1037,11 @@ Exit codes:
   import ARCHIVO.job --template ARCHIVO.bkt [--missing-only]
                                         hacer que un trabajo tome lo que contiene una plantilla
   export ARCHIVO.job -o NUEVO.bkt       hacer una plantilla de un trabajo
-  schedule import ARCHIVO.job ARCHIVO.csv [--dry-run]
+  schedule import ARCHIVO.job ARCHIVO.csv [--dry-run] [--json]
                                         poner un trabajo al día con un plan de cableado
   schedule export ARCHIVO.job           mostrar el plan de cableado de un trabajo
 
+Las órdenes que leen archivos aceptan --max-size TAMAÑO.
 &quot;cabledoc ORDEN --help&quot; dice más. También: cabledoc --help, cabledoc --version.
 
 Códigos de salida:
@@ -1006,31 +1049,20 @@ Códigos de salida:
   1  &quot;check&quot; ha encontrado algo
   2  línea de órdenes incorrecta
   3  no se pudo cargar un archivo
-  4  no se pudo guardar un archivo o escribir la salida
+  4  no se pudo guardar un archivo
+  5  hecho, pero no se pudo escribir la salida estándar
 </translation>
-    </message>
-    <message>
-        <source>a command is needed</source>
-        <translation>hace falta una orden</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; muestra las órdenes</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>no hay ninguna orden &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
     <name>runCheck</name>
     <message>
-        <source>Reports what is wrong with a job or template file, one line for each finding. The file is not changed.</source>
-        <translation>Señala lo que está mal en un archivo de trabajo o de plantilla, una línea por hallazgo. El archivo no se modifica.</translation>
+        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
+        <translation>Informa de lo que está mal en un archivo de trabajo o de plantilla, una línea por cada uno de los primeros 50 hallazgos. El archivo no se cambia.</translation>
     </message>
     <message>
-        <source>Print JSON instead of lines.</source>
-        <translation>Mostrar JSON en lugar de líneas.</translation>
+        <source>Print JSON instead of lines, with all findings.</source>
+        <translation>Mostrar JSON en lugar de líneas, con todos los hallazgos.</translation>
     </message>
 </context>
 <context>

@@ -138,6 +138,26 @@
         <source>standard output: %1</source>
         <translation>sortie standard : %1</translation>
     </message>
+    <message>
+        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
+        <translation>La taille au-delà de laquelle un fichier n&apos;est pas lu, par exemple 500M ou 8G ; 4G par défaut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; n&apos;est pas une taille comme 500M</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Un autre programme modifie le fichier : %1, processus %2 sur %3. Si ce n&apos;est pas le cas, supprimez %4</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: its folder does not let a file be created</source>
+        <translation>Le fichier ne peut pas être verrouillé : son dossier ne permet pas de créer un fichier</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 autres</translation>
+    </message>
 </context>
 <context>
     <name>DeviceType</name>
@@ -279,6 +299,10 @@
     <message>
         <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
         <translation>&quot;%1&quot; contient &quot;%2&quot;, perdu à l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <translation>&quot;%1&quot; : &quot;%2&quot; n&apos;est pas un nombre utilisable</translation>
     </message>
 </context>
 <context>
@@ -456,7 +480,7 @@
     </message>
     <message>
         <source>This is the file of the job itself. A template needs another name.</source>
-        <translation>C&apos;est le fichier du travail lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
+        <translation>C&apos;est le fichier du projet lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -746,6 +770,10 @@
         <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
         <translation>Affiche le plan de câblage d&apos;un fichier de projet en CSV. Le fichier n&apos;est pas modifié.</translation>
     </message>
+    <message>
+        <source>Print JSON instead of lines, with all problems.</source>
+        <translation>Afficher du JSON au lieu de lignes, avec tous les problèmes.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
@@ -959,6 +987,18 @@ de plus de 330 ft (100 m).</translation>
 <context>
     <name>main</name>
     <message>
+        <source>a command is needed</source>
+        <translation>une commande est nécessaire</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc --help&quot; lists the commands</source>
+        <translation>&quot;cabledoc --help&quot; donne la liste des commandes</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de commande &quot;%1&quot;</translation>
+    </message>
+    <message>
         <source>Usage: cabledoc COMMAND ...
 
 Commands:
@@ -970,10 +1010,11 @@ Commands:
   import FILE.job --template FILE.bkt [--missing-only]
                                         let a job take over what a template holds
   export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run]
+  schedule import FILE.job FILE.csv [--dry-run] [--json]
                                         bring a job up to a cable schedule
   schedule export FILE.job              print the cable schedule of a job
 
+Commands that read files take --max-size SIZE.
 &quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
 
 Exit codes:
@@ -981,7 +1022,8 @@ Exit codes:
   1  &quot;check&quot; found something wrong
   2  wrong command line
   3  a file could not be loaded
-  4  a file could not be saved, or the output not be written
+  4  a file could not be saved
+  5  all was done, but standard output could not be written
 </source>
         <translation>Usage : cabledoc COMMANDE ...
 
@@ -995,10 +1037,11 @@ Commandes :
   import FICHIER.job --template FICHIER.bkt [--missing-only]
                                         faire reprendre à un projet le contenu d&apos;un modèle
   export FICHIER.job -o NOUVEAU.bkt     faire un modèle d&apos;un projet
-  schedule import FICHIER.job FICHIER.csv [--dry-run]
+  schedule import FICHIER.job FICHIER.csv [--dry-run] [--json]
                                         mettre un projet au niveau d&apos;un plan de câblage
   schedule export FICHIER.job           afficher le plan de câblage d&apos;un projet
 
+Les commandes qui lisent des fichiers acceptent --max-size TAILLE.
 &quot;cabledoc COMMANDE --help&quot; en dit plus. Et aussi : cabledoc --help, cabledoc --version.
 
 Codes de sortie :
@@ -1006,31 +1049,20 @@ Codes de sortie :
   1  &quot;check&quot; a trouvé quelque chose
   2  ligne de commande incorrecte
   3  un fichier n&apos;a pas pu être chargé
-  4  un fichier n&apos;a pas pu être enregistré, ou la sortie pas écrite
+  4  un fichier n&apos;a pas pu être enregistré
+  5  tout est fait, mais la sortie standard n&apos;a pas pu être écrite
 </translation>
-    </message>
-    <message>
-        <source>a command is needed</source>
-        <translation>une commande est nécessaire</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; donne la liste des commandes</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de commande &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
     <name>runCheck</name>
     <message>
-        <source>Reports what is wrong with a job or template file, one line for each finding. The file is not changed.</source>
-        <translation>Signale ce qui ne va pas dans un fichier de projet ou un modèle, une ligne par constat. Le fichier n&apos;est pas modifié.</translation>
+        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
+        <translation>Signale ce qui ne va pas dans un fichier de projet ou un modèle, une ligne pour chacun des 50 premiers constats. Le fichier n&apos;est pas modifié.</translation>
     </message>
     <message>
-        <source>Print JSON instead of lines.</source>
-        <translation>Afficher du JSON au lieu de lignes.</translation>
+        <source>Print JSON instead of lines, with all findings.</source>
+        <translation>Afficher du JSON au lieu de lignes, avec tous les constats.</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,10 @@
 #include "attributetext.h"
 #include "bkxmleditor.h"
 #include "childelements.h"
+#include "jobattributes.h"
 #include "jobwords.h"
+#include "messagetext.h"
+#include "settingsattributes.h"
 #include "sharedattributes.h"
 #include "xmlnames.h"
 
@@ -18,11 +21,41 @@ using namespace cabledoc;
 
 namespace {
 
+/// The attributes of an element whose fields cannot hold the numbers that they say.
+using InvalidNumbers = QStringList (*)(const QDomElement &);
+
+template <auto table> QStringList invalidNumbers(const QDomElement &element)
+{
+    return table().invalidNumbers(element);
+}
+
+/// By the name of the list that the element is in, or by its own.
+const QMap<QString, InvalidNumbers> &numberChecks()
+{
+    static const QMap<QString, InvalidNumbers> checks{
+        {words::FloorList, invalidNumbers<floorAttributes>},
+        {words::RoomList, invalidNumbers<roomAttributes>},
+        {words::PortList, invalidNumbers<portAttributes>},
+        {words::VerticalRunList, invalidNumbers<portAttributes>},
+        {words::PointList, invalidNumbers<pointAttributes>},
+        {words::VerticeList, invalidNumbers<pointAttributes>},
+        {words::FreeTextList, invalidNumbers<freeTextAttributes>},
+        {words::DeviceList, invalidNumbers<deviceAttributes>},
+        {words::TestResults, invalidNumbers<testResultsAttributes>},
+        {words::ActiveTestResult, invalidNumbers<activeTestResultAttributes>},
+        {words::TestDefList, invalidNumbers<testDefAttributes>},
+        {words::PrintSettingsList, invalidNumbers<printSettingsAttributes>},
+        {words::PageSettingsList, invalidNumbers<pageSettingsAttributes>},
+        {words::ScaleSettingsList, invalidNumbers<scaleSettingsAttributes>},
+    };
+    return checks;
+}
+
 QString pathOf(const QDomElement &element)
 {
     QStringList path;
     for (QDomNode node = element; node.parentNode().isElement(); node = node.parentNode())
-        path.prepend(node.nodeName());
+        path.prepend(excerpt(node.nodeName()));
     return path.join(QLatin1Char('/'));
 }
 
@@ -32,9 +65,11 @@ class CheckedDocument : public BKXMLEditor
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
 
 public:
-    CheckedDocument()
+    explicit CheckedDocument(const CheckOptions &options)
         : BKXMLEditor(QString())
     {
+        setCharacterReferences(options.characterReferences);
+        setMaximumFileSize(options.maximumFileSize);
     }
 
     CheckReport check(const QString &filename)
@@ -49,7 +84,7 @@ public:
             checkShared();
             if (m_document.firstChild().nodeName() == words::Job)
                 checkJob();
-            checkCharacters();
+            checkContents();
         }
         std::stable_sort(m_report.findings.begin(), m_report.findings.end(),
                          [](const Finding &a, const Finding &b) { return a.line < b.line; });
@@ -76,7 +111,7 @@ private:
         const QDomElement element = getElement(words::Version);
         if (!convertToCurrentVersion([] { return true; })) {
             report("unknown-version", element.isNull() ? root : element,
-                   tr("\"%1\" is no version that is known").arg(found));
+                   tr("\"%1\" is no version that is known").arg(excerpt(found)));
             return false;
         }
         if (found != words::CurrentVersion)
@@ -107,7 +142,8 @@ private:
             if (id.isEmpty())
                 continue;
             if (lines.contains(id))
-                report("duplicate-id", element, tr("its id \"%1\" is that of line %2").arg(id).arg(lines.value(id)));
+                report("duplicate-id", element,
+                       tr("its id \"%1\" is that of line %2").arg(excerpt(id)).arg(lines.value(id)));
             else
                 lines.insert(id, element.lineNumber());
         }
@@ -158,13 +194,13 @@ private:
         definition.setMaxLength(TestDefFields().maxLength);
         const QString verdict = definition.validDef();
         if (verdict != QLatin1String("GOOD"))
-            report("invalid-definition", element, tr("\"%1\": %2").arg(definition.id(), verdict.simplified()));
+            report("invalid-definition", element, tr("\"%1\": %2").arg(excerpt(definition.id()), verdict.simplified()));
     }
 
     void checkType(const QDomElement &element, const QString &type)
     {
         if (!type.isEmpty() && m_types.count(type) == 0)
-            reportMissing(element, tr("there is no test definition \"%1\"").arg(type));
+            reportMissing(element, tr("there is no test definition \"%1\"").arg(excerpt(type)));
     }
 
     // What jobs hold
@@ -185,7 +221,7 @@ private:
         for (const QDomElement &activePort : ChildElements(activePorts)) {
             const QString port = activePort.attribute(words::Port);
             if (!port.isEmpty() && !hasTag(words::PortList, port))
-                reportMissing(activePort, tr("\"%1\": there is no port \"%2\"").arg(words::Port, port));
+                reportMissing(activePort, tr("\"%1\": there is no port \"%2\"").arg(words::Port, excerpt(port)));
         }
         checkVertRuns();
     }
@@ -228,20 +264,22 @@ private:
         for (const QString &attribute : {words::From, words::To}) {
             const QString end = cable.attribute(attribute);
             if (!end.isEmpty() && !isPortOrVertRun(end))
-                reportMissing(cable, tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, end));
+                reportMissing(cable,
+                              tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, excerpt(end)));
         }
         QStringList path;
         fromText(cable.attribute(words::Path), &path);
         for (const QString &passed : std::as_const(path)) {
             if (!hasTag(words::PointList, passed) && !isPortOrVertRun(passed)) {
-                reportMissing(cable,
-                              tr("\"%1\": there is no point, port or vertical run \"%2\"").arg(words::Path, passed));
+                reportMissing(
+                    cable,
+                    tr("\"%1\": there is no point, port or vertical run \"%2\"").arg(words::Path, excerpt(passed)));
             }
         }
         checkType(cable, cable.attribute(words::Type));
         const QString bundle = cable.attribute(words::BundleName);
         if (!bundle.isEmpty() && m_bundles.count(bundle) == 0)
-            reportMissing(cable, tr("there is no bundle \"%1\"").arg(bundle));
+            reportMissing(cable, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
     }
 
     void checkVertRuns()
@@ -261,7 +299,7 @@ private:
             fromText(vertRun.attribute(attribute), &cables);
             for (const QString &cable : std::as_const(cables)) {
                 if (!hasTag(words::CableList, cable))
-                    reportMissing(vertRun, tr("\"%1\": there is no cable \"%2\"").arg(attribute, cable));
+                    reportMissing(vertRun, tr("\"%1\": there is no cable \"%2\"").arg(attribute, excerpt(cable)));
             }
         }
     }
@@ -271,17 +309,18 @@ private:
         for (const QString &attribute : {words::From, words::To}) {
             const QString end = connection.attribute(attribute);
             if (!end.isEmpty() && !hasTag(words::DeviceList, end) && !hasTag(words::VerticeList, end))
-                reportMissing(connection, tr("\"%1\": there is no device or point \"%2\"").arg(attribute, end));
+                reportMissing(connection,
+                              tr("\"%1\": there is no device or point \"%2\"").arg(attribute, excerpt(end)));
         }
     }
 
-    // Characters
+    // Characters and numbers
 
-    void checkCharacters()
+    void checkContents()
     {
         QDomNode node = m_document.documentElement();
         while (!node.isNull()) {
-            checkCharactersOf(node);
+            checkContentsOf(node);
             if (node.hasChildNodes()) {
                 node = node.firstChild();
                 continue;
@@ -292,7 +331,7 @@ private:
         }
     }
 
-    void checkCharactersOf(const QDomNode &node)
+    void checkContentsOf(const QDomNode &node)
     {
         const QDomElement element = node.toElement();
         if (element.isNull()) {
@@ -304,13 +343,25 @@ private:
             const QDomAttr attribute = attributes.item(i).toAttr();
             checkText(element, attribute.name(), attribute.value());
         }
+        for (const QString &name : {node.parentNode().nodeName(), node.nodeName()})
+            checkNumbers(element, numberChecks().value(name));
+    }
+
+    void checkNumbers(const QDomElement &element, InvalidNumbers invalidNumbers)
+    {
+        const QStringList names = invalidNumbers == nullptr ? QStringList() : invalidNumbers(element);
+        for (const QString &name : names) {
+            report("invalid-number", element,
+                   tr("\"%1\": \"%2\" is not a number that can be used").arg(name, excerpt(element.attribute(name))));
+        }
     }
 
     void checkText(const QDomElement &element, const QString &name, const QString &text)
     {
-        const QString lost = firstLostCharacter(text);
+        const QString lost = firstLostCharacter(text, characterReferences());
         if (!lost.isEmpty())
-            report("lost-character", element, tr("\"%1\" holds \"%2\", which a save cannot keep").arg(name, lost));
+            report("lost-character", element,
+                   tr("\"%1\" holds \"%2\", which a save cannot keep").arg(excerpt(name), lost));
     }
 
     CheckReport m_report;
@@ -321,7 +372,7 @@ private:
 
 } // namespace
 
-CheckReport cabledoc::checkFile(const QString &filename)
+CheckReport cabledoc::checkFile(const QString &filename, const CheckOptions &options)
 {
-    return CheckedDocument().check(filename);
+    return CheckedDocument(options).check(filename);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bkxmleditor.h"
 #include "cabledoc_export.h"
 
 #include <QtCore/QString>
@@ -23,6 +24,14 @@ struct CheckReport
     QVector<Finding> findings; ///< in the order of their lines
 };
 
+/// How checkFile() looks at a file.
+struct CheckOptions
+{
+    /// Whether the file will be saved with character references, see BKXMLEditor::setCharacterReferences().
+    bool characterReferences = false;
+    qint64 maximumFileSize = BKXMLEditor::defaultMaximumFileSize; ///< bytes; a larger file is not read
+};
+
 /// Looks for what is wrong with a job or template file, and changes nothing. An older file is checked as it
 /// will be when it has been brought to the current version.
 ///
@@ -35,7 +44,8 @@ struct CheckReport
 ///                          the same name
 ///     missing-reference    an element names another one that is not there
 ///     invalid-definition   a test definition that cannot be used, as TestDef::validDef() says
-///     lost-character       a character that the file's encoding cannot hold: a save will write "?"
-CABLEDOC_EXPORT CheckReport checkFile(const QString &filename);
+///     invalid-number       a number that is not finite, or that its field cannot hold
+///     lost-character       a character that a save will write as "?"
+CABLEDOC_EXPORT CheckReport checkFile(const QString &filename, const CheckOptions &options = {});
 
 } // namespace cabledoc

@@ -25,35 +25,53 @@ template <typename Fields> struct Attribute
     WhenMissing whenMissing;
     QString (*text)(const Fields &);          ///< null when writing a record leaves the attribute alone
     void (*parse)(const QString &, Fields *); ///< null when reading a record does
+    bool (*isValid)(const QString &);         ///< whether the field can hold the number that the text says
 };
 
 template <typename Fields, typename Value> Fields fieldsOf(Value Fields::*);
+
+template <typename Fields, typename Value> const Value *pointerTo(Value Fields::*);
+
+/// Whether the field of the record can hold the number that the text says.
+template <auto Field> bool holdsNumber(const QString &text)
+{
+    return holdsNumber(text, decltype(pointerTo(Field))(nullptr));
+}
 
 /// The attribute that holds a field of the record; its default is the field's.
 template <auto Field> auto attribute(const QString &name, WhenMissing whenMissing = WhenMissing::UseDefault)
 {
     using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name, toText(Fields().*Field), whenMissing,
+    return Attribute<Fields>{name,
+                             toText(Fields().*Field),
+                             whenMissing,
                              [](const Fields &fields) { return toText(fields.*Field); },
-                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); }};
+                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); },
+                             holdsNumber<Field>};
 }
 
 /// The same for a number that loses its fraction when it is written.
 template <auto Field> auto truncatedNumber(const QString &name)
 {
     using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name, toText(truncated(double(Fields().*Field))), WhenMissing::UseDefault,
+    return Attribute<Fields>{name,
+                             toText(truncated(double(Fields().*Field))),
+                             WhenMissing::UseDefault,
                              [](const Fields &fields) { return toText(truncated(double(fields.*Field))); },
-                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); }};
+                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); },
+                             holdsNumber<Field>};
 }
 
 /// The same for a field that is a double in the record and a whole number in the file.
 template <auto Field> auto wholeNumber(const QString &name)
 {
     using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name, toText(truncated(Fields().*Field)), WhenMissing::UseDefault,
+    return Attribute<Fields>{name,
+                             toText(truncated(Fields().*Field)),
+                             WhenMissing::UseDefault,
                              [](const Fields &fields) { return toText(truncated(fields.*Field)); },
-                             [](const QString &text, Fields *fields) { fields->*Field = text.toInt(); }};
+                             [](const QString &text, Fields *fields) { fields->*Field = text.toInt(); },
+                             [](const QString &text) { return holdsNumber(text, static_cast<const int *>(nullptr)); }};
 }
 
 /// An attribute whose field is read with the record, but which new elements lack.
@@ -68,7 +86,7 @@ template <auto Field> auto readOnly(const QString &name)
 /// needs it.
 template <typename Fields> Attribute<Fields> onDemand(const QString &name, const QString &defaultText)
 {
-    return {name, defaultText, WhenMissing::UseDefault, nullptr, nullptr};
+    return {name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }};
 }
 
 /// The attributes of one kind of element, in the order in which the file has them. All that creates,
@@ -133,6 +151,17 @@ public:
                 attribute.parse(element.attribute(attribute.name), &fields);
         }
         return fields;
+    }
+
+    /// The attributes of the element whose fields cannot hold the numbers that they say.
+    QStringList invalidNumbers(const QDomElement &element) const
+    {
+        QStringList names;
+        for (const Attribute<Fields> &attribute : m_attributes) {
+            if (!attribute.isValid(element.attribute(attribute.name)))
+                names.append(attribute.name);
+        }
+        return names;
     }
 
     /// Gives the element what it lacks of the attributes marked WhenMissing::AddDefault. True when it

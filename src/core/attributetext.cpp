@@ -52,6 +52,26 @@ void fromText(const QString &text, double *value)
     *value = text.toDouble();
 }
 
+bool holdsNumber(const QString &text, const int *)
+{
+    bool isNumber = true;
+    if (!text.isEmpty())
+        text.toInt(&isNumber);
+    return isNumber;
+}
+
+bool holdsNumber(const QString &text, const float *)
+{
+    bool isNumber = true;
+    return text.isEmpty() || (std::isfinite(text.toFloat(&isNumber)) && isNumber);
+}
+
+bool holdsNumber(const QString &text, const double *)
+{
+    bool isNumber = true;
+    return text.isEmpty() || (std::isfinite(text.toDouble(&isNumber)) && isNumber);
+}
+
 QString toText(const QStringList &entries)
 {
     return entries.join(QLatin1Char(','));

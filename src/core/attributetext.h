@@ -29,6 +29,15 @@ void fromText(const QString &text, double *value);
 /// True for "1" and nothing else.
 void fromText(const QString &text, bool *value);
 
+/// Whether the text is empty, or a value of that kind can hold the number that it says. Texts and lists hold anything.
+bool holdsNumber(const QString &text, const int *);
+bool holdsNumber(const QString &text, const float *);
+bool holdsNumber(const QString &text, const double *);
+inline bool holdsNumber(const QString &, const void *)
+{
+    return true;
+}
+
 /// An empty text has no entries.
 void fromText(const QString &text, QStringList *entries);
 

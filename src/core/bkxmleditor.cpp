@@ -19,7 +19,6 @@ BKXMLEditor::BKXMLEditor(const QString &documentTypeName)
     , m_filename(QLatin1String(""))
     , m_error(QLatin1String(""))
     , m_files(std::make_unique<KnownFiles>())
-    , m_maximumFileSize(xmlfile::defaultMaximumSize)
 {
 }
 

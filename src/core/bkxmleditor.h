@@ -62,8 +62,10 @@ public:
     bool characterReferences() const { return m_writesReferences; }
     /// Returns how many characters the last save or saveAs() wrote as "?".
     qint64 replacedCharacters() const { return m_replacedCharacters; }
-    /// Sets the size in bytes above which a file is not read; 4 GiB by default. A document needs some forty times the
-    /// size of its file in memory.
+    /// The size in bytes above which a file is not read if nothing else is set.
+    static constexpr qint64 defaultMaximumFileSize = qint64(4) << 30;
+    /// Sets the size in bytes above which a file is not read. A document needs some forty times the size of its file in
+    /// memory.
     void setMaximumFileSize(qint64 bytes) { m_maximumFileSize = bytes; }
     qint64 maximumFileSize() const { return m_maximumFileSize; }
     /// Whether a save or saveAs() may replace a file that the document was neither read from nor written to. True by
@@ -313,7 +315,7 @@ private:
     void addEntries(const QDomElement &settings, const Kind &kind, Initial initial);
 
     std::unique_ptr<cabledoc::KnownFiles> m_files;
-    qint64 m_maximumFileSize;
+    qint64 m_maximumFileSize = defaultMaximumFileSize;
     qint64 m_replacedCharacters = 0;
     bool m_isLoadFailed = false;
     bool m_writesReferences = false;

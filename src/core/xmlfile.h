@@ -30,11 +30,8 @@ struct ReadResult
     FileState state; ///< of the file that was read
 };
 
-/// Files above this size are not read if nobody asks for it.
-constexpr qint64 defaultMaximumSize = qint64(4) << 30;
-
-/// Reads a file into a new document of that type name.
-ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize = defaultMaximumSize);
+/// Reads a file of at most maximumSize bytes into a new document of that type name.
+ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize);
 
 /// In which order the attributes of an element are written. Those not named follow by name.
 struct AttributeOrder

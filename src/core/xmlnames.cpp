@@ -15,6 +15,16 @@ bool continuesName(char16_t c)
     return startsName(c) || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.' || c == 0xB7;
 }
 
+/// Goes behind the character at a position, which may be a pair. Whether a file can hold it.
+bool takeCharacter(const QString &text, int *position, bool withReferences)
+{
+    const QChar first = text.at((*position)++);
+    char32_t character = first.unicode();
+    if (first.isHighSurrogate() && *position < text.size() && text.at(*position).isLowSurrogate())
+        character = QChar::surrogateToUcs4(first, text.at((*position)++));
+    return cabledoc::isStorable(first.unicode()) || (withReferences && cabledoc::isReferable(character));
+}
+
 } // namespace
 
 bool cabledoc::isXmlName(const QString &text)
@@ -23,12 +33,25 @@ bool cabledoc::isXmlName(const QString &text)
            && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return continuesName(c.unicode()); });
 }
 
-QString cabledoc::firstLostCharacter(const QString &text)
+QString cabledoc::firstLostCharacter(const QString &text, bool withReferences)
 {
-    const auto *lost =
-        std::find_if(text.begin(), text.end(), [](QChar character) { return !isStorable(character.unicode()); });
-    if (lost == text.end())
-        return QString();
-    const bool isPair = lost->isHighSurrogate() && lost + 1 != text.end() && (lost + 1)->isLowSurrogate();
-    return QString(lost, isPair ? 2 : 1);
+    for (int end = 0; end < text.size();) {
+        const int begin = end;
+        if (!takeCharacter(text, &end, withReferences))
+            return text.mid(begin, end - begin);
+    }
+    return QString();
+}
+
+QString cabledoc::savedText(const QString &text, bool withReferences)
+{
+    QString saved;
+    for (int end = 0; end < text.size();) {
+        const int begin = end;
+        if (takeCharacter(text, &end, withReferences))
+            saved.append(text.constData() + begin, end - begin);
+        else
+            saved.append(QLatin1Char('?'));
+    }
+    return saved;
 }

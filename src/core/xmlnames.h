@@ -23,7 +23,11 @@ constexpr bool isReferable(char32_t character)
     return character > 0xFF && (character < 0xD800 || character > 0xDFFF) && character != 0xFFFE && character != 0xFFFF;
 }
 
-/// The first character of the text that a file cannot hold; empty when it can hold all of it.
-QString firstLostCharacter(const QString &text);
+/// The first character of the text that a file cannot hold, with numeric references or without; empty when it can hold
+/// all of it.
+QString firstLostCharacter(const QString &text, bool withReferences);
+
+/// The text as it is after a save and a load: "?" stands for what a file cannot hold.
+QString savedText(const QString &text, bool withReferences);
 
 } // namespace cabledoc

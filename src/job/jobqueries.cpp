@@ -3,6 +3,7 @@
 #include "childelements.h"
 #include "jobindex.h"
 #include "jobwords.h"
+#include "messagetext.h"
 #include "xmlnames.h"
 
 using namespace cabledoc;
@@ -280,6 +281,6 @@ bool JobEditor::mayBeName(const QString &tag)
 {
     if (isXmlName(tag))
         return true;
-    m_error = tr("\"%1\" cannot be the name of an XML element").arg(tag);
+    m_error = tr("\"%1\" cannot be the name of an XML element").arg(excerpt(tag));
     return false;
 }

@@ -1,5 +1,6 @@
 #include "bkteditor.h"
 
+#include "messagetext.h"
 #include "words.h"
 
 using namespace cabledoc;
@@ -29,6 +30,6 @@ bool BktEditor::checkVersion(const std::function<bool()> &stepDone)
     if (convertToCurrentVersion([&] { return isSaved = stepDone(); }))
         return true;
     if (isSaved)
-        m_error = tr("%1 is a bad version number in BktEditor::checkVersion.").arg(found);
+        m_error = tr("%1 is a bad version number in BktEditor::checkVersion.").arg(excerpt(found));
     return false;
 }

@@ -16,27 +16,9 @@ namespace {
 /// Beyond that, rooms of a damaged file would push new ones out of all numbers.
 constexpr double maximumBottom = 1e6;
 
-/// The attribute as a save would write it.
-QString storedText(const QDomElement &element, const QString &attribute)
-{
-    QString stored;
-    const QString text = element.attribute(attribute);
-    for (const QChar character : text) {
-        if (!character.isLowSurrogate()) // a pair becomes one "?"
-            stored += isStorable(character.unicode()) ? character : QLatin1Char('?');
-    }
-    return stored;
-}
-
 QDomElement floorList(const JobEditor &job)
 {
     return job.getToCableList().parentNode().firstChildElement(words::FloorList);
-}
-
-QString roomName(const QDomElement &room)
-{
-    const QString id = storedText(room, words::Id);
-    return room.tagName() == words::Undefined || id == words::Undefined ? QString() : id;
 }
 
 QRectF areaOf(const QDomElement &room)
@@ -120,6 +102,18 @@ void JobSchedule::findCables()
         cableOfId.insert(id, cable);
         cables.append(cable);
     }
+}
+
+/// The attribute as a save would write it.
+QString JobSchedule::storedText(const QDomElement &element, const QString &attribute) const
+{
+    return savedText(element.attribute(attribute), m_job.characterReferences());
+}
+
+QString JobSchedule::roomName(const QDomElement &room) const
+{
+    const QString id = storedText(room, words::Id);
+    return room.tagName() == words::Undefined || id == words::Undefined ? QString() : id;
 }
 
 ScheduleRow JobSchedule::row(const QDomElement &cable) const

@@ -57,6 +57,9 @@ private:
         CableEnd name; ///< without a port
     };
 
+    QString storedText(const QDomElement &element, const QString &attribute) const;
+    /// The room's id; empty for "Undefined".
+    QString roomName(const QDomElement &room) const;
     void findRooms();
     void findRoomsOf(const QDomElement &floor);
     void findEnds(const QString &listName);

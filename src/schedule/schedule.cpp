@@ -240,7 +240,7 @@ private:
 
 ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
 {
-    const ScheduleFile file = readSchedule(fileName);
+    const ScheduleFile file = readSchedule(fileName, job.characterReferences());
     ScheduleReport report;
     report.error = file.error;
     report.problems = file.problems;

@@ -62,7 +62,7 @@ CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fil
 
 /// The schedule of a job: all columns, and the cables in document order. An end that does not exist, or has no name
 /// or no floor's name, is empty. Cables without an id, and those whose id another one before them has, are left out.
-/// Characters that a job file cannot hold are "?", as on saving, and colours that are none are those of the test
+/// Characters that a save of the job would write as "?" are "?", and colours that are none are those of the test
 /// definitions. So the schedule can be imported; that into a job without cables, exported again, gives the same bytes.
 CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job);
 

@@ -2,6 +2,7 @@
 
 #include "csvtext.h"
 #include "jobwords.h"
+#include "messagetext.h"
 #include "qtcompat.h"
 #include "xmlnames.h"
 
@@ -25,6 +26,11 @@ class ScheduleReader
     Q_DECLARE_TR_FUNCTIONS(Schedule)
 
 public:
+    explicit ScheduleReader(bool canHoldAll)
+        : m_canHoldAll(canHoldAll)
+    {
+    }
+
     ScheduleFile read(const QString &fileName)
     {
         QFile file(fileName);
@@ -85,9 +91,9 @@ private:
                                                [&name](const ColumnName &column) { return name == column.name; });
         const auto column = std::size_t(found - columnNames.begin());
         if (column == column::Count)
-            report(heading, field + 1, tr("there is no column \"%1\"").arg(QString::fromUtf8(name)));
+            report(heading, field + 1, tr("there is no column \"%1\"").arg(excerpt(QString::fromUtf8(name))));
         else if (m_file.has[column])
-            report(heading, field + 1, tr("the column \"%1\" is there twice").arg(QString::fromUtf8(name)));
+            report(heading, field + 1, tr("the column \"%1\" is there twice").arg(excerpt(QString::fromUtf8(name))));
         else {
             m_file.has.set(column);
             m_fieldOf[column] = field;
@@ -108,12 +114,15 @@ private:
         checkEnd(row, texts, column::ToFloor);
         const QString &color = texts[column::Color];
         if (!color.isEmpty() && !qtcompat::isColorName(color))
-            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is no colour").arg(color));
+            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is no colour").arg(excerpt(color)));
         for (const std::size_t room : {column::FromRoom, column::ToRoom}) {
             if (texts[room] == words::Undefined)
                 texts[room].clear();
         }
-        m_file.rows.append(texts);
+        if (m_file.problems.isEmpty())
+            m_file.rows.append(texts);
+        else
+            m_file.rows.clear(); // nobody will need them
     }
 
     QString readField(const CsvRow &row, int field)
@@ -122,8 +131,8 @@ private:
         const QString text = QString::fromUtf8(bytes);
         if (text.toUtf8() != bytes)
             report(row, field + 1, tr("the text is not UTF-8"));
-        else if (!firstLostCharacter(text).isEmpty())
-            report(row, field + 1, tr("\"%1\" has a character that a job file cannot hold").arg(text));
+        else if (!firstLostCharacter(text, m_canHoldAll).isEmpty())
+            report(row, field + 1, tr("\"%1\" has a character that a job file cannot hold").arg(excerpt(text)));
         return text;
     }
 
@@ -133,7 +142,7 @@ private:
         if (id.isEmpty())
             report(row, column, tr("the cable has no id"));
         else if (m_rowOfId.contains(id))
-            report(row, column, tr("the id \"%1\" is that of row %2").arg(id).arg(m_rowOfId.value(id)));
+            report(row, column, tr("the id \"%1\" is that of row %2").arg(excerpt(id)).arg(m_rowOfId.value(id)));
         else
             m_rowOfId.insert(id, row.number);
     }
@@ -149,6 +158,7 @@ private:
             report(row, m_fieldOf[floorColumn] + 1, tr("the end has a port, but no floor"));
     }
 
+    bool m_canHoldAll; ///< whether the job can hold characters beyond Latin-1
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
     std::array<int, column::Count> m_fieldOf{}; ///< the place of a column that the file has
@@ -157,9 +167,9 @@ private:
 
 } // namespace
 
-ScheduleFile readSchedule(const QString &fileName)
+ScheduleFile readSchedule(const QString &fileName, bool canHoldAll)
 {
-    return ScheduleReader().read(fileName);
+    return ScheduleReader(canHoldAll).read(fileName);
 }
 
 } // namespace cabledoc

@@ -15,7 +15,8 @@ struct ScheduleFile
     std::bitset<column::Count> has;    ///< which columns the file has
 };
 
-/// Reads a schedule and checks all that can be said without the job.
-ScheduleFile readSchedule(const QString &fileName);
+/// Reads a schedule and checks all that can be said without the job, but whether that can hold characters beyond
+/// Latin-1.
+ScheduleFile readSchedule(const QString &fileName, bool canHoldAll);
 
 } // namespace cabledoc

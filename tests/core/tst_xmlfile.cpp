@@ -40,7 +40,7 @@ private:
         return QByteArray("<a>").repeated(levels) + text + QByteArray("</a>").repeated(levels);
     }
 
-    xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test"); }
+    xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test", 1 << 30); }
 
 private Q_SLOTS:
     void roundTrip_data() { addCases({"cases/xml.txt"}); }
@@ -178,7 +178,7 @@ private Q_SLOTS:
     {
         QVERIFY(!xmlfile::save(fileWith("kept"), QDomDocument(), NoOrder).error.isEmpty());
         QCOMPARE(readFile(m_directory.filePath("file.xml")), QByteArray("kept"));
-        QCOMPARE(int(xmlfile::read(m_directory.path(), "Test").status), int(xmlfile::ReadResult::NotOpened));
+        QCOMPARE(int(xmlfile::read(m_directory.path(), "Test", 1 << 30).status), int(xmlfile::ReadResult::NotOpened));
     }
 };
 

@@ -51,6 +51,7 @@ ExitCode runCables(const QStringList &arguments)
                                                          "of their tests and their measured lengths."));
     command.addOption({jsonOption, Cables::tr("Print JSON instead of a table.")});
     command.addOption({metricOption, Cables::tr("Lengths in metres instead of feet.")});
+    command.addMaximumSizeOption();
     if (!command.parse(arguments) || !command.loadJob())
         return command.exitCode();
 

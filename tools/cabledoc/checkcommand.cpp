@@ -23,17 +23,18 @@ QByteArray asJson(const QString &fileName, const QVector<Finding> &findings)
     return QJsonDocument(QJsonObject{{QStringLiteral("file"), fileName}, {QStringLiteral("findings"), array}}).toJson();
 }
 
-/// One line for each, in the form that editors know from compilers.
+/// One line for each of the first ones, in the form that editors know from compilers.
 QByteArray asText(const QString &fileName, const QVector<Finding> &findings)
 {
     QString text;
-    for (const Finding &finding : findings) {
+    for (const Finding &finding : findings.mid(0, maximumShown)) {
         QStringList parts{fileName + QLatin1Char(':') + QString::number(finding.line), finding.rule, finding.element,
                           finding.message};
         parts.removeAll(QString());
         text += parts.join(QLatin1String(": ")) + QLatin1Char('\n');
     }
-    return text.toLocal8Bit();
+    const QString more = moreThanShown(int(findings.size()));
+    return (more.isEmpty() ? text : text + fileName + QLatin1String(": ") + more + QLatin1Char('\n')).toLocal8Bit();
 }
 
 } // namespace
@@ -43,12 +44,18 @@ ExitCode runCheck(const QStringList &arguments)
     const QString jsonOption = QStringLiteral("json");
     Command command(QStringLiteral("check"),
                     QCoreApplication::translate("runCheck", "Reports what is wrong with a job or template file, one "
-                                                            "line for each finding. The file is not changed."));
-    command.addOption({jsonOption, QCoreApplication::translate("runCheck", "Print JSON instead of lines.")});
+                                                            "line for each of the first 50 findings. The file is "
+                                                            "not changed."));
+    command.addOption(
+        {jsonOption, QCoreApplication::translate("runCheck", "Print JSON instead of lines, with all findings.")});
+    command.addMaximumSizeOption();
     if (!command.parse(arguments))
         return command.exitCode();
 
-    const CheckReport report = checkFile(command.fileName());
+    CheckOptions options;
+    options.characterReferences = true; // as all commands save
+    options.maximumFileSize = command.maximumSize();
+    const CheckReport report = checkFile(command.fileName(), options);
     if (!report.error.isEmpty()) {
         printMessage(command.fileName(), report.error);
         return CannotLoad;

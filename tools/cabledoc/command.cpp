@@ -4,14 +4,38 @@
 #include <cabledoc/jobeditor.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QTemporaryDir>
+#include <QtCore/QLockFile>
 
 #include <cstdio>
 
+namespace {
+
+constexpr int lockTimeout = 5000; // milliseconds
+
+/// The text without characters that would do something to a terminal.
+QString printable(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\n'))
+            character = QLatin1Char('?');
+    }
+    return text;
+}
+
+/// Sets a document up as the program uses it: names of all scripts are kept, and no file is replaced that was not read.
+void setUp(BKXMLEditor *document, qint64 maximumSize)
+{
+    document->setCharacterReferences(true);
+    document->setReplacesUnknownFiles(false);
+    document->setMaximumFileSize(maximumSize);
+}
+
+} // namespace
+
 Command::Command(const QString &name, const QString &description)
     : m_name(name)
+    , m_maximumSize(BKXMLEditor::defaultMaximumFileSize)
 {
     m_parser.setApplicationDescription(description);
     const QStringList words = name.split(QLatin1Char(' '));
@@ -22,6 +46,8 @@ Command::Command(const QString &name, const QString &description)
     m_parser.addOption(
         {{QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("Command", "Show this help.")});
 }
+
+Command::~Command() = default;
 
 void Command::addFile(const QString &valueName, const QString &description)
 {
@@ -40,6 +66,24 @@ void Command::addOutputOption()
     addFileOption({QStringLiteral("o"), QStringLiteral("output")},
                   QCoreApplication::translate("Command", "The file to write. An existing one is not replaced."),
                   QStringLiteral("NEW"));
+}
+
+void Command::addMaximumSizeOption()
+{
+    m_parser.addOption({QStringLiteral("max-size"),
+                        QCoreApplication::translate("Command", "The size above which a file is not read, such as 500M "
+                                                               "or 8G; 4G by default."),
+                        QStringLiteral("SIZE"), QStringLiteral("4G")});
+}
+
+bool Command::readMaximumSize()
+{
+    const QString text = value(QStringLiteral("max-size"));
+    const auto power = QStringLiteral("KMG").indexOf(text.right(1)) + 1;
+    bool isNumber = false;
+    const qint64 number = (power > 0 ? text.chopped(1) : text).toUInt(&isNumber);
+    m_maximumSize = number << (10 * power);
+    return isNumber;
 }
 
 bool Command::parse(const QStringList &arguments)
@@ -63,7 +107,47 @@ bool Command::parse(const QStringList &arguments)
             return false;
         }
     }
+    if (m_parser.optionNames().contains(QStringLiteral("max-size")) && !readMaximumSize()) {
+        m_exitCode = usageError(QCoreApplication::translate("Command", "\"%1\" is not a size such as 500M")
+                                    .arg(value(QStringLiteral("max-size"))));
+        return false;
+    }
+    setUp(&JobEditor::Instance(), m_maximumSize);
+    setUp(&BktEditor::Instance(), m_maximumSize);
     return true;
+}
+
+bool Command::lockAndLoadJob()
+{
+    return lock() && loadJob();
+}
+
+bool Command::lock()
+{
+    const QFileInfo file(fileName());
+    // Without a file there is nothing to lock; loading it says so.
+    if (!file.exists())
+        return true;
+    m_lock = std::make_unique<QLockFile>(file.canonicalFilePath() + QStringLiteral(".lock"));
+    // However long a command takes, its lock stays its own while it lives.
+    m_lock->setStaleLockTime(0);
+    if (m_lock->tryLock(lockTimeout))
+        return true;
+    qint64 process = 0;
+    QString host;
+    QString application;
+    if (m_lock->error() == QLockFile::LockFailedError && m_lock->getLockInfo(&process, &host, &application)) {
+        saveError(
+            fileName(),
+            QCoreApplication::translate("Command", "Another program is changing the file: %1, process "
+                                                   "%2 on %3. If it is not, delete %4")
+                .arg(application, QString::number(process), host, file.canonicalFilePath() + QStringLiteral(".lock")));
+    } else {
+        saveError(fileName(),
+                  QCoreApplication::translate("Command", "The file cannot be locked: its folder does not let "
+                                                         "a file be created"));
+    }
+    return false;
 }
 
 bool Command::loadJob()
@@ -77,18 +161,10 @@ bool Command::loadJob()
 
 bool Command::loadTemplate(const QString &fileName)
 {
-    const QTemporaryDir directory;
-    const QString copyName = directory.filePath(QFileInfo(fileName).fileName());
-    QFile file(fileName);
-    if (!file.copy(copyName)) {
-        loadError(fileName, file.errorString());
-        return false;
-    }
-    QFile::setPermissions(copyName, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     BktEditor &bkt = BktEditor::Instance();
-    if (bkt.Load(copyName))
+    if (bkt.LoadWithoutSaving(fileName))
         return true;
-    loadError(fileName, bkt.error().replace(copyName, fileName));
+    loadError(fileName, bkt.error());
     return false;
 }
 
@@ -122,7 +198,7 @@ ExitCode Command::usageError(const QString &message) const
 
 void printMessage(const QString &message)
 {
-    std::fprintf(stderr, "cabledoc: %s\n", qPrintable(message));
+    std::fprintf(stderr, "cabledoc: %s\n", qPrintable(printable(message)));
 }
 
 void printMessage(const QString &fileName, const QString &message)
@@ -136,5 +212,11 @@ ExitCode printData(const QByteArray &data)
         && std::fflush(stdout) == 0)
         return Done;
     printMessage(QCoreApplication::translate("Command", "standard output: %1").arg(qt_error_string()));
-    return CannotSave;
+    return CannotPrint;
+}
+
+QString moreThanShown(int count)
+{
+    return count > maximumShown ? QCoreApplication::translate("Command", "and %1 more").arg(count - maximumShown)
+                                : QString();
 }

@@ -12,6 +12,7 @@ ExitCode runConvert(const QStringList &arguments)
                                                               "one of the current version. The file itself is not "
                                                               "changed."));
     command.addOutputOption();
+    command.addMaximumSizeOption();
     if (!command.parse(arguments))
         return command.exitCode();
     const bool isTemplate = BktEditor::checkBktExtension(command.fileName());

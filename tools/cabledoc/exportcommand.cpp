@@ -11,6 +11,7 @@ ExitCode runExport(const QStringList &arguments)
                     QCoreApplication::translate("runExport", "Makes a template of the contractor, the settings, the "
                                                              "test definitions and the bundles of a job file."));
     command.addOutputOption();
+    command.addMaximumSizeOption();
     if (!command.parse(arguments))
         return command.exitCode();
     if (!BktEditor::checkBktExtension(command.output()))

@@ -19,7 +19,8 @@ ExitCode runImport(const QStringList &arguments)
     command.addOption({missingOnlyOption,
                        QCoreApplication::translate("runImport", "Only add the default test definitions and the bundles "
                                                                 "that the job lacks.")});
-    if (!command.parse(arguments) || !command.loadJob() || !command.loadTemplate(command.value(templateOption)))
+    command.addMaximumSizeOption();
+    if (!command.parse(arguments) || !command.lockAndLoadJob() || !command.loadTemplate(command.value(templateOption)))
         return command.exitCode();
 
     JobEditor &job = JobEditor::Instance();

@@ -112,6 +112,7 @@ ExitCode runInfo(const QStringList &arguments)
                     Info::tr("Shows what a job file holds: its floors and sheets in the order of their tags, and how "
                              "many cables, connections and active ports it has."));
     command.addOption({jsonOption, Info::tr("Print JSON instead of tables.")});
+    command.addMaximumSizeOption();
     if (!command.parse(arguments) || !command.loadJob())
         return command.exitCode();
 

@@ -24,10 +24,11 @@ QString usage()
                 "  import FILE.job --template FILE.bkt [--missing-only]\n"
                 "                                        let a job take over what a template holds\n"
                 "  export FILE.job -o NEW.bkt            make a template of a job\n"
-                "  schedule import FILE.job FILE.csv [--dry-run]\n"
+                "  schedule import FILE.job FILE.csv [--dry-run] [--json]\n"
                 "                                        bring a job up to a cable schedule\n"
                 "  schedule export FILE.job              print the cable schedule of a job\n"
                 "\n"
+                "Commands that read files take --max-size SIZE.\n"
                 "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
                 "\n"
                 "Exit codes:\n"
@@ -35,7 +36,8 @@ QString usage()
                 "  1  \"check\" found something wrong\n"
                 "  2  wrong command line\n"
                 "  3  a file could not be loaded\n"
-                "  4  a file could not be saved, or the output not be written\n");
+                "  4  a file could not be saved\n"
+                "  5  all was done, but standard output could not be written\n");
 }
 
 ExitCode run(QStringList arguments)

@@ -4,6 +4,9 @@
 #include <cabledoc/schedule.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
 #include <cstdio>
 
@@ -16,13 +19,36 @@ struct Schedule
     Q_DECLARE_TR_FUNCTIONS(Schedule)
 };
 
-/// One line for each, in the form that editors know from compilers.
+/// One line for each of the first ones, in the form that editors know from compilers.
 void printProblems(const QString &fileName, const QVector<ScheduleProblem> &problems)
 {
-    for (const ScheduleProblem &problem : problems) {
+    for (const ScheduleProblem &problem : problems.mid(0, maximumShown)) {
         std::fprintf(stderr, "%s:%d:%d: %s\n", qPrintable(fileName), problem.row, problem.column,
                      qPrintable(problem.message));
     }
+    const QString more = moreThanShown(int(problems.size()));
+    if (!more.isEmpty())
+        std::fprintf(stderr, "%s: %s\n", qPrintable(fileName), qPrintable(more));
+}
+
+QByteArray asJson(const QString &job, const QString &schedule, const ScheduleReport &report, bool isDryRun)
+{
+    QJsonArray problems;
+    for (const ScheduleProblem &problem : report.problems) {
+        problems.append(QJsonObject{{QStringLiteral("row"), problem.row},
+                                    {QStringLiteral("column"), problem.column},
+                                    {QStringLiteral("message"), problem.message}});
+    }
+    const QJsonObject object{{QStringLiteral("file"), job},
+                             {QStringLiteral("schedule"), schedule},
+                             {QStringLiteral("dryRun"), isDryRun},
+                             {QStringLiteral("problems"), problems},
+                             {QStringLiteral("floors"), report.floors},
+                             {QStringLiteral("rooms"), report.rooms},
+                             {QStringLiteral("ports"), report.ports},
+                             {QStringLiteral("cables"), report.cables},
+                             {QStringLiteral("changed"), report.changed}};
+    return QJsonDocument(object).toJson();
 }
 
 QByteArray countsOf(const ScheduleReport &report, bool isDryRun)
@@ -43,6 +69,7 @@ QByteArray countsOf(const ScheduleReport &report, bool isDryRun)
 ExitCode runScheduleImport(const QStringList &arguments)
 {
     const QString dryRunOption = QStringLiteral("dry-run");
+    const QString jsonOption = QStringLiteral("json");
     Command command(
         QStringLiteral("schedule import"),
         Schedule::tr("Brings a job file up to a cable schedule: adds the floors, rooms, ports and cables that "
@@ -50,28 +77,39 @@ ExitCode runScheduleImport(const QStringList &arguments)
                      "stays as it is."));
     command.addFile(QStringLiteral("SCHEDULE"), Schedule::tr("The schedule, a CSV file. It is not changed."));
     command.addOption({dryRunOption, Schedule::tr("Only tell what would be done.")});
-    if (!command.parse(arguments) || !command.loadJob())
+    command.addOption({jsonOption, Schedule::tr("Print JSON instead of lines, with all problems.")});
+    command.addMaximumSizeOption();
+    if (!command.parse(arguments))
+        return command.exitCode();
+    const bool isDryRun = command.isSet(dryRunOption);
+    if (!(isDryRun ? command.loadJob() : command.lockAndLoadJob()))
         return command.exitCode();
 
     JobEditor &job = JobEditor::Instance();
     const QString schedule = command.fileName(1);
-    const bool isDryRun = command.isSet(dryRunOption);
     const ScheduleReport report = importSchedule(job, schedule, isDryRun);
     if (!report.error.isEmpty())
         return command.loadError(schedule, report.error);
+    const bool printsJson = command.isSet(jsonOption);
     if (!report.problems.isEmpty()) {
-        printProblems(schedule, report.problems);
-        return CannotLoad;
-    }
-    if (job.fileChanged() && !job.save())
+        if (!printsJson)
+            printProblems(schedule, report.problems);
+    } else if (job.fileChanged() && !job.save()) {
         return command.saveError(job.filename(), job.error());
-    return printData(countsOf(report, isDryRun));
+    }
+    ExitCode printed = Done;
+    if (printsJson)
+        printed = printData(asJson(job.filename(), schedule, report, isDryRun));
+    else if (report.problems.isEmpty())
+        printed = printData(countsOf(report, isDryRun));
+    return report.problems.isEmpty() ? printed : CannotLoad;
 }
 
 ExitCode runScheduleExport(const QStringList &arguments)
 {
     Command command(QStringLiteral("schedule export"),
                     Schedule::tr("Prints the cable schedule of a job file as CSV. The file is not changed."));
+    command.addMaximumSizeOption();
     if (!command.parse(arguments) || !command.loadJob())
         return command.exitCode();
     return printData(exportSchedule(JobEditor::Instance()));
