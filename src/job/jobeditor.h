@@ -50,7 +50,7 @@ struct JobIndex;
 /// generated id is the given id followed by a number.
 ///
 /// Every editing operation marks the document as changed. Text may hold any character, but files are
-/// Latin-1: what they cannot hold becomes "?" on saving.
+/// Latin-1: what they cannot hold becomes "?" on saving, or a reference, see setCharacterReferences().
 class CABLEDOC_EXPORT JobEditor : public BKXMLEditor
 {
     Q_OBJECT

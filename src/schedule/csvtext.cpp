@@ -8,31 +8,36 @@ namespace cabledoc {
 
 namespace {
 
-/// Gathers what the parser finds.
-class Gatherer
+/// Makes rows of what the parser finds.
+class RowReader
 {
 public:
-    CsvText read(const QByteArray &text)
+    explicit RowReader(const std::function<void(const CsvRow &)> &takeRow)
+        : m_takeRow(takeRow)
     {
+    }
+
+    CsvFault read(const QByteArray &text)
+    {
+        CsvFault fault;
         csv_parser parser;
         csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL);
         const auto size = std::size_t(text.size());
         if (csv_parse(&parser, text.constData(), size, takeField, endRow, this) != size
             || csv_fini(&parser, takeField, endRow, this) != 0) {
-            m_text.badRow = m_row.number;
-            m_text.badColumn = int(m_row.fields.size()) + 1;
+            fault = {m_row.number, int(m_row.fields.size()) + 1};
         }
         csv_free(&parser);
-        return m_text;
+        return fault;
     }
 
 private:
-    static void takeField(void *text, std::size_t size, void *gatherer)
+    static void takeField(void *text, std::size_t size, void *reader)
     {
-        static_cast<Gatherer *>(gatherer)->m_row.fields.append(QByteArray(static_cast<const char *>(text), int(size)));
+        static_cast<RowReader *>(reader)->m_row.fields.append(QByteArray(static_cast<const char *>(text), int(size)));
     }
 
-    static void endRow(int terminator, void *gatherer) { static_cast<Gatherer *>(gatherer)->endRow(terminator); }
+    static void endRow(int terminator, void *reader) { static_cast<RowReader *>(reader)->endRow(terminator); }
 
     void endRow(int terminator)
     {
@@ -42,11 +47,11 @@ private:
         if (isSecondHalf)
             return;
         if (!m_row.fields.isEmpty())
-            m_text.rows.append(m_row);
+            m_takeRow(m_row);
         m_row = {m_row.number + 1, {}};
     }
 
-    CsvText m_text;
+    const std::function<void(const CsvRow &)> &m_takeRow;
     CsvRow m_row;
     int m_lastTerminator = 0;
 };
@@ -76,9 +81,9 @@ QByteArray csvField(const QByteArray &field)
 
 } // namespace
 
-CsvText readCsv(const QByteArray &text)
+CsvFault readCsv(const QByteArray &text, const std::function<void(const CsvRow &)> &takeRow)
 {
-    return Gatherer().read(text);
+    return RowReader(takeRow).read(text);
 }
 
 QByteArray csvLine(const QVector<QByteArray> &fields)

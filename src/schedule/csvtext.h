@@ -3,6 +3,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QVector>
 
+#include <functional>
+
 namespace cabledoc {
 
 struct CsvRow
@@ -11,16 +13,15 @@ struct CsvRow
     QVector<QByteArray> fields;
 };
 
-struct CsvText
+/// Where a text is not CSV, as number of the row and of the field from 1; 0 if all of it is.
+struct CsvFault
 {
-    QVector<CsvRow> rows; ///< those that have fields
-    /// Where the text is no CSV, as number of the row and of the field from 1; 0 when all of it is.
-    int badRow = 0;
-    int badColumn = 0;
+    int row = 0;
+    int column = 0;
 };
 
-/// Takes CSV text apart, up to where it is malformed.
-CsvText readCsv(const QByteArray &text);
+/// Takes CSV text apart, up to where it is malformed, and hands on each row that has fields.
+CsvFault readCsv(const QByteArray &text, const std::function<void(const CsvRow &row)> &takeRow);
 
 /// One line of CSV, with its end.
 QByteArray csvLine(const QVector<QByteArray> &fields);

@@ -35,6 +35,9 @@ struct ScheduleReport
 /// hold commas, quotation marks, line breaks or blanks at their ends stand in quotation marks. The first row
 /// names the columns, in any order:
 ///
+/// It may hold any character if the job writes references (BKXMLEditor::setCharacterReferences()), and otherwise those
+/// of Latin-1.
+///
 ///     column                         holds
 ///     id                             the cable's id; needed, and only once in a file
 ///     type                           the name of its test definition

@@ -42,7 +42,7 @@ public:
             return m_file;
         }
         const QByteArray byteOrderMark("\xEF\xBB\xBF");
-        readText(readCsv(bytes.startsWith(byteOrderMark) ? bytes.mid(byteOrderMark.size()) : bytes));
+        readText(bytes.startsWith(byteOrderMark) ? bytes.mid(byteOrderMark.size()) : bytes);
         std::stable_sort(m_file.problems.begin(), m_file.problems.end(),
                          [](const ScheduleProblem &a, const ScheduleProblem &b) {
                              return std::tie(a.row, a.column) < std::tie(b.row, b.column);
@@ -56,17 +56,22 @@ private:
         m_file.problems.append({row.number, column, message});
     }
 
-    void readText(const CsvText &text)
+    void readText(const QByteArray &text)
     {
-        if (text.badRow > 0)
-            m_file.problems.append(
-                {text.badRow, text.badColumn, tr("a quotation mark is missing or stands in the wrong place")});
-        if (text.badRow == 1 || !readHeading(text.rows.isEmpty() ? CsvRow() : text.rows.constFirst()))
-            return;
-        for (const CsvRow &row : text.rows.mid(1)) {
-            if (!isEmptyRow(row))
+        bool isHeading = true;
+        bool isReadable = false;
+        const CsvFault fault = readCsv(text, [&](const CsvRow &row) {
+            if (isHeading)
+                isReadable = readHeading(row);
+            else if (isReadable && !isEmptyRow(row))
                 readRow(row);
-        }
+            isHeading = false;
+        });
+        if (fault.row > 0)
+            m_file.problems.append(
+                {fault.row, fault.column, tr("a quotation mark is missing or stands in the wrong place")});
+        else if (isHeading)
+            readHeading(CsvRow());
     }
 
     /// False for a heading under which every row would be wrong.
@@ -103,7 +108,7 @@ private:
     void readRow(const CsvRow &row)
     {
         if (row.fields.size() > m_fieldsInHeading)
-            report(row, m_fieldsInHeading + 1, tr("the row has more fields than the heading"));
+            report(row, m_fieldsInHeading + 1, m_tooManyFields);
         ScheduleRow texts;
         for (std::size_t column = 0; column < column::Count; ++column) {
             if (m_file.has[column] && m_fieldOf[column] < row.fields.size())
@@ -140,7 +145,7 @@ private:
     {
         const int column = m_fieldOf[column::Id] + 1;
         if (id.isEmpty())
-            report(row, column, tr("the cable has no id"));
+            report(row, column, m_noId);
         else if (m_rowOfId.contains(id))
             report(row, column, tr("the id \"%1\" is that of row %2").arg(excerpt(id)).arg(m_rowOfId.value(id)));
         else
@@ -153,11 +158,16 @@ private:
         if (end == CableEnd())
             return;
         if (end.port.isEmpty())
-            report(row, m_fieldOf[floorColumn + 2] + 1, tr("the end has a floor or room, but no port"));
+            report(row, m_fieldOf[floorColumn + 2] + 1, m_noPort);
         else if (end.floor.isEmpty())
-            report(row, m_fieldOf[floorColumn] + 1, tr("the end has a port, but no floor"));
+            report(row, m_fieldOf[floorColumn] + 1, m_noFloor);
     }
 
+    // One text for a million rows
+    const QString m_noPort = tr("the end has a floor or room, but no port");
+    const QString m_noFloor = tr("the end has a port, but no floor");
+    const QString m_noId = tr("the cable has no id");
+    const QString m_tooManyFields = tr("the row has more fields than the heading");
     bool m_canHoldAll; ///< whether the job can hold characters beyond Latin-1
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;

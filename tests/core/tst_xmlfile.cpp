@@ -40,7 +40,10 @@ private:
         return QByteArray("<a>").repeated(levels) + text + QByteArray("</a>").repeated(levels);
     }
 
-    xmlfile::ReadResult read(const QByteArray &content) const { return xmlfile::read(fileWith(content), "Test", 1 << 30); }
+    xmlfile::ReadResult read(const QByteArray &content) const
+    {
+        return xmlfile::read(fileWith(content), "Test", 1 << 30);
+    }
 
 private Q_SLOTS:
     void roundTrip_data() { addCases({"cases/xml.txt"}); }
@@ -74,6 +77,16 @@ private Q_SLOTS:
         QCOMPARE(text.bytes, QByteArray("<a b=\"??|???\xff\"/>\n"));
         QCOMPARE(text.replacedCharacters, 5);
         QCOMPARE(int(read(text.bytes).status), int(xmlfile::ReadResult::Read));
+
+        // Comments and CDATA sections cannot hold references.
+        root.appendChild(document.createTextNode("\u0161"));
+        root.appendChild(document.createComment("\u0161"));
+        root.appendChild(document.createCDATASection("\u0161"));
+        const xmlfile::Text kept = xmlfile::toText(document, NoOrder, xmlfile::BeyondLatin1::AsReferences);
+        QCOMPARE(kept.bytes, QByteArray("<a b=\"&#353;&#128512;|???\xff\">&#353;<!--?--><![CDATA[?]]></a>\n"));
+        QCOMPARE(kept.replacedCharacters, 5);
+        const QString read = this->read(kept.bytes).document.documentElement().attribute("b");
+        QCOMPARE(read, QString("\u0161\U0001F600|???\u00FF"));
     }
 
     void refusedTexts_data()

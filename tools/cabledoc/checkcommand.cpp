@@ -3,24 +3,21 @@
 #include <cabledoc/documentcheck.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 
 using namespace cabledoc;
 
 namespace {
 
-QByteArray asJson(const QString &fileName, const QVector<Finding> &findings)
+ExitCode printAsJson(const QString &fileName, const QVector<Finding> &findings)
 {
-    QJsonArray array;
-    for (const Finding &finding : findings) {
-        array.append(QJsonObject{{QStringLiteral("rule"), finding.rule},
-                                 {QStringLiteral("line"), finding.line},
-                                 {QStringLiteral("element"), finding.element},
-                                 {QStringLiteral("message"), finding.message}});
-    }
-    return QJsonDocument(QJsonObject{{QStringLiteral("file"), fileName}, {QStringLiteral("findings"), array}}).toJson();
+    return printJson({{QStringLiteral("file"), fileName}}, QStringLiteral("findings"), int(findings.size()),
+                     [&findings](int number) {
+                         const Finding &finding = findings.at(number);
+                         return QJsonObject{{QStringLiteral("rule"), finding.rule},
+                                            {QStringLiteral("line"), finding.line},
+                                            {QStringLiteral("element"), finding.element},
+                                            {QStringLiteral("message"), finding.message}};
+                     });
 }
 
 /// One line for each of the first ones, in the form that editors know from compilers.
@@ -60,7 +57,7 @@ ExitCode runCheck(const QStringList &arguments)
         printMessage(command.fileName(), report.error);
         return CannotLoad;
     }
-    const ExitCode printed = printData(command.isSet(jsonOption) ? asJson(command.fileName(), report.findings)
-                                                                 : asText(command.fileName(), report.findings));
+    const ExitCode printed = command.isSet(jsonOption) ? printAsJson(command.fileName(), report.findings)
+                                                       : printData(asText(command.fileName(), report.findings));
     return printed == Done && !report.findings.isEmpty() ? FoundSomething : printed;
 }

@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
+#include <QtCore/QJsonDocument>
 #include <QtCore/QLockFile>
 
 #include <cstdio>
@@ -213,6 +214,26 @@ ExitCode printData(const QByteArray &data)
         return Done;
     printMessage(QCoreApplication::translate("Command", "standard output: %1").arg(qt_error_string()));
     return CannotPrint;
+}
+
+ExitCode printJson(const QJsonObject &object, const QString &arrayName, int count,
+                   const std::function<QJsonObject(int)> &element)
+{
+    constexpr int pieceSize = 1 << 16;
+    QByteArray text = QJsonDocument(object).toJson();
+    text.chop(int(qstrlen("\n}\n")));
+    text += ",\n    \"" + arrayName.toUtf8() + "\": [";
+    for (int i = 0; i < count; ++i) {
+        const QByteArray lines = QJsonDocument(element(i)).toJson().trimmed().replace("\n", "\n        ");
+        text += (i == 0 ? "\n        " : ",\n        ") + lines;
+        if (text.size() < pieceSize)
+            continue;
+        const ExitCode printed = printData(text);
+        if (printed != Done)
+            return printed;
+        text.clear();
+    }
+    return printData(text + "\n    ]\n}\n");
 }
 
 QString moreThanShown(int count)

@@ -2,9 +2,11 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QJsonObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <memory>
 
 QT_BEGIN_NAMESPACE
@@ -86,6 +88,10 @@ void printMessage(const QString &message);
 void printMessage(const QString &fileName, const QString &message);
 /// Writes data to standard output. When that fails, says so and returns CannotPrint.
 ExitCode printData(const QByteArray &data);
+/// Prints the object as JSON with an array of that name behind its other members. The objects of the array are made one
+/// after the other: a million of them take no more memory than one.
+ExitCode printJson(const QJsonObject &object, const QString &arrayName, int count,
+                   const std::function<QJsonObject(int)> &element);
 /// How many of many findings or problems are shown.
 constexpr int maximumShown = 50;
 /// What stands for those that are not shown; empty if all are.

@@ -4,9 +4,6 @@
 #include <cabledoc/schedule.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 
 #include <cstdio>
 
@@ -31,24 +28,22 @@ void printProblems(const QString &fileName, const QVector<ScheduleProblem> &prob
         std::fprintf(stderr, "%s: %s\n", qPrintable(fileName), qPrintable(more));
 }
 
-QByteArray asJson(const QString &job, const QString &schedule, const ScheduleReport &report, bool isDryRun)
+ExitCode printAsJson(const QString &job, const QString &schedule, const ScheduleReport &report, bool isDryRun)
 {
-    QJsonArray problems;
-    for (const ScheduleProblem &problem : report.problems) {
-        problems.append(QJsonObject{{QStringLiteral("row"), problem.row},
-                                    {QStringLiteral("column"), problem.column},
-                                    {QStringLiteral("message"), problem.message}});
-    }
-    const QJsonObject object{{QStringLiteral("file"), job},
+    const QJsonObject counts{{QStringLiteral("file"), job},
                              {QStringLiteral("schedule"), schedule},
                              {QStringLiteral("dryRun"), isDryRun},
-                             {QStringLiteral("problems"), problems},
                              {QStringLiteral("floors"), report.floors},
                              {QStringLiteral("rooms"), report.rooms},
                              {QStringLiteral("ports"), report.ports},
                              {QStringLiteral("cables"), report.cables},
                              {QStringLiteral("changed"), report.changed}};
-    return QJsonDocument(object).toJson();
+    return printJson(counts, QStringLiteral("problems"), int(report.problems.size()), [&report](int number) {
+        const ScheduleProblem &problem = report.problems.at(number);
+        return QJsonObject{{QStringLiteral("row"), problem.row},
+                           {QStringLiteral("column"), problem.column},
+                           {QStringLiteral("message"), problem.message}};
+    });
 }
 
 QByteArray countsOf(const ScheduleReport &report, bool isDryRun)
@@ -99,7 +94,7 @@ ExitCode runScheduleImport(const QStringList &arguments)
     }
     ExitCode printed = Done;
     if (printsJson)
-        printed = printData(asJson(job.filename(), schedule, report, isDryRun));
+        printed = printAsJson(job.filename(), schedule, report, isDryRun);
     else if (report.problems.isEmpty())
         printed = printData(countsOf(report, isDryRun));
     return report.problems.isEmpty() ? printed : CannotLoad;
