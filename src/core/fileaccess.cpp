@@ -20,6 +20,7 @@ const char capabilities[] = "security.capability";
 constexpr mode_t ownerBits = S_IRWXU;
 constexpr mode_t groupBits = S_IRWXG;
 constexpr mode_t otherBits = S_IRWXO;
+constexpr mode_t allBits = ownerBits | groupBits | otherBits;
 
 /// Asks the system twice, for the size and for the data; empty if there are none.
 template <typename Ask> QByteArray answerTo(Ask ask)
@@ -62,7 +63,7 @@ bool copyAccess(const QByteArray &from, int to)
     };
     if (::stat(from.constData(), &status) != 0)
         return false;
-    mode_t mode = status.st_mode & (ownerBits | groupBits | otherBits);
+    mode_t mode = status.st_mode & allBits;
     const bool isOwnerKept = ::geteuid() == status.st_uid || ::fchown(to, status.st_uid, gid_t(-1)) == 0;
     const bool isGroupKept = ::fchown(to, uid_t(-1), status.st_gid) == 0;
 
@@ -82,7 +83,13 @@ bool copyAccess(const QByteArray &from, int to)
         mode &= ownerBits | (mode >> 3 & otherBits);
     if (!isOwnerKept)
         mode &= ownerBits | (mode >> 3 & groupBits) | (mode >> 6 & otherBits);
-    return ::fchmod(to, mode) == 0;
+    if (::fchmod(to, mode) == 0)
+        return true;
+    // Some file systems give all files the same permissions.
+    struct stat given
+    {
+    };
+    return ::fstat(to, &given) == 0 && (given.st_mode & allBits & ~mode) == 0;
 }
 
 } // namespace cabledoc
