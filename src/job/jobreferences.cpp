@@ -5,6 +5,8 @@
 #include "jobindex.h"
 #include "jobwords.h"
 
+#include <algorithm>
+
 using namespace cabledoc;
 
 QDomElement JobEditor::elementOf(ElementKind kind, const QString &tag) const
@@ -94,8 +96,14 @@ void JobEditor::dropReferences(ElementKind kind, const QString &tag)
 {
     const auto removeThoseNaming = [&](ElementKind naming, const QString &listName, const QStringList &attributes) {
         const QVector<QDomElement> elements = elementsNaming(tag, listName, attributes);
-        for (const QDomElement &element : elements)
-            removeElementOf(naming, element);
+        for (const QDomElement &element : elements) {
+            // These attributes hold one tag each: a text with commas names nothing.
+            const bool isNamed = std::any_of(attributes.begin(), attributes.end(), [&](const QString &attribute) {
+                return element.attribute(attribute) == tag;
+            });
+            if (isNamed)
+                removeElementOf(naming, element);
+        }
     };
     const bool isEndGone = !portOrVertRunExists(tag, true);
     const bool isPassedGone = isEndGone && !pointExists(tag, true);
