@@ -125,6 +125,12 @@ void compareContents(const JobEditor &job, PlainJob *file)
                  {"company", &J::getSiteCompany},
                  {"phone", &J::getSitePhone},
                  {"email", &J::getSiteEmail}});
+    const ContractorData contractor(job.getContractorTester(), job.getContractorCompany(), job.getContractorEmail(),
+                                    job.getContractorPhone(), job.getContractorLogo(), job.getContractorAddress());
+    expectAnswer(job.getContractorData() == contractor, true, "all of the contractor");
+    const SiteData site(job.getSiteContact(), job.getSiteJobID(), job.getSiteCompany(), job.getSitePhone(),
+                        job.getSiteEmail(), job.getSiteAddress());
+    expectAnswer(job.getSiteData() == site, true, "all of the site");
     const PlainElement *notes = file->at({"JobNotes_Text"});
     expectAnswer(job.getJobNotesText(), notes == nullptr ? QString() : notes->text("text"), "the notes");
     const PlainElement *releases = file->at({"Release"});

@@ -3,7 +3,6 @@
 #include "randomjob.h"
 
 #include <cmath>
-#include <limits>
 
 Fields testDefOf(PlainJob *file, const QString &type)
 {
@@ -217,16 +216,6 @@ void expectLength(double answer, double expected, const char *what)
     expectAnswer(isSame ? textOf(expected) : textOf(answer), textOf(expected), what);
 }
 
-/// A length constant without its fraction.
-int wholeConstant(const QString &text)
-{
-    const double constant = double(text.toFloat());
-    if (std::isnan(constant))
-        return 0;
-    using Limits = std::numeric_limits<int>;
-    return int(std::min(std::max(constant, double(Limits::min())), double(Limits::max())));
-}
-
 float rounded(float feet, bool metric)
 {
     return metric ? std::round(float(feet / feetInAMeter) * 2.0F) / 2.0F : std::round(feet * 10.0F) / 10.0F;
@@ -246,7 +235,7 @@ void readLengths(Session *session)
     const cable_struct results =
         element == nullptr ? cable_struct::untested() : JobEditor::stringToData(element->text("data"));
     const QString type = cable == nullptr ? QString() : cable->text("type");
-    const double constant = wholeConstant(testDefOf(&session->file, type).at("length_constant")) / 100.0;
+    const double constant = wholePart(testDefOf(&session->file, type).at("length_constant")) / 100.0;
     int shortest = -1;
     for (const qint32 length : results.pair_length) {
         if (length > 0 && length < 60000 && (shortest < 0 || length < shortest))

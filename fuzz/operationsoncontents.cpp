@@ -1,7 +1,9 @@
 #include "operations.h"
 
-#include "bkteditor.h"
 #include "randomjob.h"
+
+#include "bkteditor.h"
+#include "testfiles.h"
 
 #include <array>
 
@@ -232,37 +234,38 @@ void addTestDef(PlainJob *file, const Fields &fields)
         list->add(freeTag(list, "TestDef")).attributes = fields;
 }
 
-/// A bundle's name, colour and flag; its types in "types".
-Fields randomBundle(Session *session)
+struct Bundle
+{
+    Fields attributes;
+    QStringList types;
+
+    BundledCable record() const
+    {
+        return {"ignored", attributes.at("id"), types, attributes.at("color"), attributes.at("default_type") == "1"};
+    }
+};
+
+Bundle randomBundle(Session *session)
 {
     Choices &choices = session->choices;
-    QStringList types;
+    Bundle bundle{{{"id", someName(session, "BundledCable_List")}, {"color", choices.id()}}, {}};
+    bundle.attributes["default_type"] = textOf(choices.oneIn(2));
     for (int i = choices.number(11); i > 0; --i)
-        types.append(choices.oneOf({"CAT5E", "CAT6", "Hall"}));
-    return {{"id", someName(session, "BundledCable_List")},
-            {"color", choices.id()},
-            {"default_type", textOf(choices.oneIn(2))},
-            {"types", types.join(',')}};
+        bundle.types.append(choices.oneOf({"CAT5E", "CAT6", "Hall"}));
+    return bundle;
 }
 
-void addBundle(PlainJob *file, const Fields &fields)
+void addBundle(PlainJob *file, const Bundle &added)
 {
     PlainElement *list = file->at({"BundledCable_List"});
-    if (list == nullptr || hasChildOfName(list, fields.at("id")))
+    if (list == nullptr || hasChildOfName(list, added.attributes.at("id")))
         return;
     PlainElement &bundle = list->add(freeTag(list, "BundledCable"));
-    bundle.attributes = fields;
-    bundle.attributes.erase("types");
+    bundle.attributes = added.attributes;
     PlainElement &types = bundle.add("BundledCableType_List");
     int number = 0;
-    for (const QString &type : entriesOf(fields.at("types")).mid(0, 8))
+    for (const QString &type : added.types.mid(0, 8))
         types.add("BundledCableType" + QString::number(++number)).attributes["id"] = type;
-}
-
-BundledCable bundleOf(const Fields &fields)
-{
-    return {"ignored", fields.at("id"), entriesOf(fields.at("types")), fields.at("color"),
-            fields.at("default_type") == "1"};
 }
 
 void changeTestDefs(Session *session)
@@ -300,9 +303,9 @@ void changeBundles(Session *session)
     const QString newName = session->choices.id();
     switch (session->choices.number(3)) {
     case 0: {
-        const Fields fields = randomBundle(session);
-        session->job.addBundledCableType(bundleOf(fields));
-        addBundle(&session->file, fields);
+        const Bundle added = randomBundle(session);
+        session->job.addBundledCableType(added.record());
+        addBundle(&session->file, added);
         break;
     }
     case 1:
@@ -334,9 +337,9 @@ void importTemplate(Session *session)
     }
     // The template starts empty: it takes the first definition, and the first bundle, of each name.
     const Fields testDef = randomTestDef(session);
-    const Fields bundle = randomBundle(session);
+    const Bundle bundle = randomBundle(session);
     bkt.addTestDef(recordOf<TestDef>(testDef));
-    bkt.addBundledCableType(bundleOf(bundle));
+    bkt.addBundledCableType(bundle.record());
     if (choices.oneIn(2)) {
         session->job.ImportMissingDefaultCableTypes(&bkt);
         if (testDef.at("default_type") == "1")
@@ -352,6 +355,50 @@ void importTemplate(Session *session)
     }
     addTestDef(&session->file, testDef);
     addBundle(&session->file, bundle);
+}
+
+/// What a template holds of a list after the definitions and bundles of a job were added.
+PlainElement exportedList(PlainJob *file, const char *name)
+{
+    PlainJob exported(PlainElement{"Bkt", {}, {}});
+    exported.root().add(name);
+    for (PlainElement &child : childrenOf(file->at({name}))) {
+        if (!child.has("id"))
+            continue;
+        if (exported.at({"TestDef_List"}) != nullptr) {
+            Fields fields = fieldsOf(testDefAttributes(), &child);
+            for (const char *length : {"length_constant", "max_length"})
+                fields[length] = QString::number(wholePart(fields[length]));
+            addTestDef(&exported, fields);
+        } else {
+            const Fields attributes{{"id", child.text("id")},
+                                    {"color", child.text("color")},
+                                    {"default_type", canonical(Value::Flag, child.text("default_type"))}};
+            addBundle(&exported, {attributes, namesIn(childOf(&child, "BundledCableType_List"), false)});
+        }
+    }
+    return *exported.at({name});
+}
+
+void exportTemplate(Session *session)
+{
+    PlainJob &file = session->file;
+    const QString name = inputFile("exported.bkt", nullptr, 0);
+    expect(session->job.Export(name), "a job can be exported");
+    PlainJob exported(parsePlain(readFile(name)));
+    for (const char *list : {"TestDef_List", "BundledCable_List"})
+        expect(*exported.at({list}) == exportedList(&file, list), "definitions and bundles are exported");
+    for (const PlainSettings &settings : plainSettings()) {
+        for (const QString &entry : settings.entries)
+            expectAnswer(exported.at({"Settings_List", settings.list, entry})->attributes,
+                         readSettings(&file, settings, entry), "settings are exported");
+    }
+    PlainElement *contractor = file.at({"Contractor_Info"});
+    for (const QString &attribute : contractorAttributes())
+        expectAnswer(exported.at({"Contractor_Info"})->text(attribute),
+                     contractor == nullptr ? QString() : contractor->text(attribute), "the contractor is exported");
+    expectAnswer(exported.at({"Contractor_Info", "Address"})->attributes,
+                 fieldsOf(addressAttributes(), childOf(contractor, "Address")), "the address is exported");
 }
 
 // Files
@@ -377,7 +424,24 @@ void saveAndLoad(Session *session)
 
 void rebuildLists(Session *session)
 {
-    session->job.updateAllInternalLists();
+    using J = JobEditor;
+    using Rebuild = void (J::*)();
+    static const QVector<Rebuild> rebuilds{&J::updateAllInternalLists, &J::populateCurrentCablesLists,
+                                           &J::populateCableMap,       &J::populateCableTypeMap,
+                                           &J::populateConnectionMap,  &J::populateSheetMap,
+                                           &J::populateDeviceMap,      &J::populateVerticeMap,
+                                           &J::populateFreeTextMap,    &J::populateFloorMap,
+                                           &J::populateRoomMap,        &J::populatePortMap,
+                                           &J::populateActivePortMap,  &J::populateVerticalRunMap,
+                                           &J::populatePointMap,       &J::populateFloorFreeTextMap};
+    (session->job.*rebuilds.at(session->choices.number(int(rebuilds.size()))))();
+}
+
+void makeNew(Session *session)
+{
+    expectAnswer(session->job.New(), QString(), "no new job while one is open");
+    expect(!session->job.New("other.job"), "no new job while one is open");
+    expect(!session->job.error().isEmpty(), "a new job is refused with a reason");
 }
 
 void findConnections(Session *session)
@@ -390,8 +454,8 @@ void findConnections(Session *session)
 
 const Operations &contentOperations()
 {
-    static const Operations operations{setInfo,        setInfoField,   setAddress,     setNotes,
-                                       changeReleases, changeSettings, changeTestDefs, changeBundles,
-                                       importTemplate, saveAndLoad,    rebuildLists,   findConnections};
+    static const Operations operations{setInfo,        setInfoField,   setAddress,      setNotes,       changeReleases,
+                                       changeSettings, changeTestDefs, changeBundles,   importTemplate, exportTemplate,
+                                       saveAndLoad,    rebuildLists,   findConnections, makeNew};
     return operations;
 }

@@ -2,7 +2,10 @@
 
 #include "bkxmleditor.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <limits>
 
 const std::vector<PlainKind> &plainKinds()
 {
@@ -178,6 +181,15 @@ QString plainNumber(double number)
             break;
     }
     return QString::fromLatin1(text);
+}
+
+int wholePart(const QString &text)
+{
+    using Limits = std::numeric_limits<int>;
+    const double number = double(text.toFloat());
+    if (std::isnan(number))
+        return 0;
+    return int(std::min(std::max(number, double(Limits::min())), double(Limits::max())));
 }
 
 QString canonical(Value value, const QString &text)

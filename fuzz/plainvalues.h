@@ -75,6 +75,8 @@ using Fields = std::map<QString, QString>;
 
 /// The number in the form of C's "%g" that reads back as the same value, with at least six digits.
 QString plainNumber(double number);
+/// The number of a text without its fraction; the nearest int, and 0 for no number.
+int wholePart(const QString &text);
 /// The value that the text stands for, as the library writes it.
 QString canonical(Value value, const QString &text);
 /// What the element holds; the defaults for a null element.
