@@ -3,6 +3,7 @@
 #include "randomjob.h"
 
 #include <algorithm>
+#include <iterator>
 
 bool isTag(const QString &text)
 {
@@ -367,19 +368,46 @@ PlainAttribute attributeOf(Kind kind, const char *name)
     return {name, Value::Text, QString()};
 }
 
-void setField(Session *session)
+void setField(Session *session, const FieldSetter &setter, const QString &text)
 {
-    Choices &choices = session->choices;
-    const FieldSetter &setter = fieldSetters().at(std::size_t(choices.number(int(fieldSetters().size()))));
-    const QString tag = choices.tag(session->file.tags(setter.kind));
-    const PlainAttribute attribute = attributeOf(setter.kind, setter.attribute);
-    const QString text = canonical(attribute.value, randomValue(choices, setter.kind, attribute));
+    const QString tag = session->choices.tag(session->file.tags(setter.kind));
     setter.set(session->job, tag, text);
     PlainElement *element = session->file.element(setter.kind, tag);
     // Those of cables and connections create no attribute.
     const bool creates = setter.kind != Kind::Cables && setter.kind != Kind::Connections;
     if (element != nullptr && (creates || element->has(setter.attribute)))
         element->attributes[setter.attribute] = text;
+}
+
+void setSomeField(Session *session)
+{
+    Choices &choices = session->choices;
+    const FieldSetter &setter = fieldSetters().at(std::size_t(choices.number(int(fieldSetters().size()))));
+    const PlainAttribute attribute = attributeOf(setter.kind, setter.attribute);
+    setField(session, setter, canonical(attribute.value, randomValue(choices, setter.kind, attribute)));
+}
+
+/// Lets an element name another one that is there.
+void nameOther(Session *session)
+{
+    static const std::pair<const char *, std::vector<Kind>> named[] = {
+        {"to", {Kind::Ports, Kind::VertRuns, Kind::Devices, Kind::Vertices}},
+        {"from", {Kind::Ports, Kind::VertRuns, Kind::Devices, Kind::Vertices}},
+        {"path", {Kind::Points, Kind::Ports, Kind::VertRuns}},
+        {"connected", {Kind::Cables}},
+        {"disconnected", {Kind::Cables}},
+        {"port", {Kind::Ports}},
+    };
+    const auto &[attribute, kinds] = named[session->choices.number(int(std::size(named)))];
+    const QString name = attribute;
+    std::vector<FieldSetter> setters;
+    std::copy_if(fieldSetters().begin(), fieldSetters().end(), std::back_inserter(setters),
+                 [&name](const FieldSetter &setter) { return name == setter.attribute; });
+    const FieldSetter &setter = setters.at(std::size_t(session->choices.number(int(setters.size()))));
+    QStringList tags;
+    for (const Kind kind : kinds)
+        tags += session->file.tags(kind);
+    setField(session, setter, session->choices.oneOf(tags));
 }
 
 void setPosition(Session *session)
@@ -458,6 +486,7 @@ void moveToRoom(Session *session)
 
 const Operations &elementOperations()
 {
-    static const Operations operations{addOne, addOne, addOne, setField, setField, setPosition, removeOne, moveToRoom};
+    static const Operations operations{addOne,    addOne,    addOne,      setSomeField, setSomeField, nameOther,
+                                       nameOther, nameOther, setPosition, removeOne,    removeOne,    moveToRoom};
     return operations;
 }
