@@ -1,6 +1,8 @@
 #include "fileaccess.h"
+#include "filereplacement.h"
 #include "testfiles.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
@@ -202,8 +204,23 @@ private Q_SLOTS:
     void rightsOfProgramsAreDropped()
     {
         make(saver, saver.group, 07755);
+        const char capabilities[] = "security.capability";
+        setAttribute(m_from, capabilities, QByteArray::fromHex("0000000201000000000000000000000000000000"));
         QVERIFY(copyToNewFile());
         QCOMPARE(modeOf(m_to), mode_t(0755));
+        QCOMPARE(attributeOf(m_to, capabilities), QByteArray());
+    }
+
+    void whatIsBeingWrittenIsPrivate()
+    {
+        const mode_t before = umask(0);
+        make(saver, saver.group, 0644);
+        cabledoc::FileReplacement replacement(QFile::decodeName(m_from));
+        QCOMPARE(replacement.open(), QString());
+        const QStringList copies = QDir(m_directory.path()).entryList({"from.*"}, QDir::Files);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(modeOf(QFile::encodeName(m_directory.filePath(copies.first()))), mode_t(0600));
+        umask(before);
     }
 
     void whatAFolderGivesToNewFilesIsTakenAway()
