@@ -406,8 +406,9 @@ void exportTemplate(Session *session)
 void saveAndLoad(Session *session)
 {
     JobEditor &job = session->job;
-    const QString name = inputFile("saved.job", nullptr, 0);
-    expect(session->choices.oneIn(2) ? job.saveAs(name) : job.save(), "a job can be saved");
+    // Only saveAs() replaces a file that somebody else has written to.
+    expect(session->choices.oneIn(2) ? job.saveAs(inputFile("saved.job", nullptr, 0)) : job.save(),
+           "a job can be saved");
     expect(!job.fileChanged(), "a saved job is unchanged");
     if (session->choices.oneIn(2)) {
         const QString saved = job.filename();
