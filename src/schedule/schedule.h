@@ -31,12 +31,10 @@ struct ScheduleReport
 
 /// Cable schedules: CSV with one row for each cable.
 ///
-/// A schedule is UTF-8 text, with or without a byte order mark. Fields are separated by commas; those that
+/// A schedule is UTF-8 text, with or without a byte order mark. It may hold any character if the job writes references
+/// (BKXMLEditor::setCharacterReferences()), and otherwise those of Latin-1. Fields are separated by commas; those that
 /// hold commas, quotation marks, line breaks or blanks at their ends stand in quotation marks. The first row
 /// names the columns, in any order:
-///
-/// It may hold any character if the job writes references (BKXMLEditor::setCharacterReferences()), and otherwise those
-/// of Latin-1.
 ///
 ///     column                         holds
 ///     id                             the cable's id; needed, and only once in a file
