@@ -1,5 +1,6 @@
 // Operations on jobs: whatever is done in which order to whatever job, the job as it is saved is what the manual says,
-// and every answer is what a walk through the saved text gives, which shares no code with the library.
+// and every answer is what a walk through the saved text gives, which shares no code with the document and its indexes.
+// What the library does with the text of a test's data and with the name of a scale is taken from it.
 
 #include "answers.h"
 #include "operations.h"

@@ -8,10 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-void expect(bool holds, const char *what)
+void fail(const char *what)
 {
-    if (holds)
-        return;
     std::fprintf(stderr, "does not hold: %s\n", what);
     std::abort();
 }

@@ -49,7 +49,7 @@ const Operations &contentOperations();
 bool isTag(const QString &text);
 /// Appends the element that the job has appended to this list. Checks the names that the job has generated: a tag is
 /// the prefix and a number, an id the given text and one, and none of them is used.
-PlainElement &appendNew(Session *session, PlainElement *list, Kind kind, const Fields &fields, int mode);
+PlainElement &appendNew(Session *session, PlainElement &list, Kind kind, const Fields &fields, int mode);
 /// Gives a new element the lists that belong into it.
 void addLists(PlainElement *element, Kind kind);
 /// Sets attributes.

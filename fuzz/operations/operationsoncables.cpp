@@ -21,7 +21,7 @@ PlainElement &addCable(Session *session, const Fields &fields, const Fields &res
         stored["color"] = testDefOf(&session->file, stored["type"]).at("color");
     if (stored["use"] == "cable_box")
         stored["use"] = "TV";
-    PlainElement &cable = appendNew(session, session->file.at({"Cable_List"}), Kind::Cables, stored, mode);
+    PlainElement &cable = appendNew(session, *session->file.at({"Cable_List"}), Kind::Cables, stored, mode);
     cable.add("Test_Results").attributes = results;
     return cable;
 }

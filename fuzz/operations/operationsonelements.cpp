@@ -39,9 +39,9 @@ QString newId(Session *session, const PlainElement &list, Kind kind, const QStri
 
 } // namespace
 
-PlainElement &appendNew(Session *session, PlainElement *list, Kind kind, const Fields &fields, int mode)
+PlainElement &appendNew(Session *session, PlainElement &list, Kind kind, const Fields &fields, int mode)
 {
-    const PlainElement *added = nextChildIn(session->saved(), session->file.root(), *list);
+    const PlainElement *added = nextChildIn(session->saved(), session->file.root(), list);
     expect(added != nullptr, "an element was added behind the others");
     const bool keepsTag = mode == 2 || mode == 3;
     const bool keepsId = mode == 1 || mode == 2;
@@ -50,8 +50,8 @@ PlainElement &appendNew(Session *session, PlainElement *list, Kind kind, const F
         expect(!session->file.exists(kind, added->name, true), "a generated tag was not used");
         expect(isGenerated(added->name, known.tagPrefix), "a generated tag is a prefix and a number");
     }
-    const QString id = keepsId ? fields.at("id") : newId(session, *list, kind, fields.at("id"), added->text("id"));
-    PlainElement &element = list->add(keepsTag ? fields.at("tag") : added->name);
+    const QString id = keepsId ? fields.at("id") : newId(session, list, kind, fields.at("id"), added->text("id"));
+    PlainElement &element = list.add(keepsTag ? fields.at("tag") : added->name);
     element.attributes = newFields(known.attributes, fields);
     element.attributes["id"] = id;
     addLists(&element, kind);
@@ -246,9 +246,9 @@ void addOne(Session *session)
         expect(holder == nullptr || !session->job.error().isEmpty(), "a bad tag is refused with a reason");
         return;
     }
-    PlainElement *list = &holder->ensure(plainKind(adder.kind).list);
+    PlainElement &list = holder->ensure(plainKind(adder.kind).list);
     const bool isThere =
-        adder.kind == Kind::Rooms && (mode == 2 || mode == 3) && childOf(list, fields["tag"]) != nullptr;
+        adder.kind == Kind::Rooms && (mode == 2 || mode == 3) && childOf(&list, fields["tag"]) != nullptr;
     if (isThere) {
         expectAnswer(answer, fields["tag"], "the room that was there");
         return;

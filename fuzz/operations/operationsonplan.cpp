@@ -235,7 +235,7 @@ QMap<QString, QString> copyList(Session *session, PlainElement *from, PlainEleme
     for (const PlainElement &source : sources) {
         Fields fields = fieldsOf(known.attributes, &source);
         fields["id"] = withoutNumber(fields["id"]);
-        copies[source.name] = appendNew(session, &to->ensure(known.list), kind, fields, generatedNames).name;
+        copies[source.name] = appendNew(session, to->ensure(known.list), kind, fields, generatedNames).name;
     }
     return copies;
 }
@@ -274,11 +274,10 @@ public:
         copyList(m_session, source, target, Kind::FloorTexts);
 
         std::vector<std::pair<PlainElement *, QString>> rooms;
-        std::vector<PlainElement *> sources;
         for (PlainElement &room : childrenOf(childOf(source, "Room_List")))
-            sources.push_back(&room);
-        for (PlainElement *room : sources)
-            rooms.push_back({room, copyOfRoom(room, &roomList)});
+            rooms.emplace_back(&room, QString());
+        for (auto &[room, copy] : rooms)
+            copy = copyOfRoom(room, &roomList);
         copyRooms(rooms, Kind::Ports, &m_ports);
         copyRooms(rooms, Kind::VertRuns, &m_vertRuns);
         copyCables(cables);
@@ -294,7 +293,7 @@ private:
             return there->name;
         const PlainKind &rooms = plainKind(Kind::Rooms);
         complete(rooms.attributes, source);
-        return appendNew(m_session, roomList, Kind::Rooms, fieldsOf(rooms.attributes, source), givenId).name;
+        return appendNew(m_session, *roomList, Kind::Rooms, fieldsOf(rooms.attributes, source), givenId).name;
     }
 
     void copyRooms(const std::vector<std::pair<PlainElement *, QString>> &rooms, Kind kind,
@@ -309,7 +308,7 @@ private:
                 if (kind == Kind::VertRuns)
                     fields["connected"] = fields["disconnected"] = QString();
                 PlainElement &list = m_file.room(m_to, copyOfRoom).element->ensure(known.list);
-                (*copies)[source.name] = appendNew(m_session, &list, kind, fields, givenId).name;
+                (*copies)[source.name] = appendNew(m_session, list, kind, fields, givenId).name;
             }
         }
     }
@@ -400,22 +399,27 @@ void copySheet(Session *session, const QString &from, const QString &to)
 
 namespace {
 
-constexpr std::size_t manyElements = 60;
+/// Elements beyond which nothing is copied: each copy may double what it copies.
+constexpr int manyElements = 300;
 
-void copyOne(Session *session)
+int countOf(const PlainElement &element)
 {
-    PlainJob &file = session->file;
-    if (session->choices.oneIn(3)) {
-        const QString from = someSheet(session);
-        const QString to = someSheet(session);
-        // Each copy doubles what it copies.
-        if (file.all(Kind::Devices).size() + file.all(Kind::Texts).size() + file.all(Kind::Vertices).size()
-            > manyElements)
-            return;
-        session->job.copySheet(from, to);
-        copySheet(session, from, to);
-        return;
-    }
+    int count = 1;
+    for (const PlainElement &child : element.children)
+        count += countOf(child);
+    return count;
+}
+
+void copyOneSheet(Session *session)
+{
+    const QString from = someSheet(session);
+    const QString to = someSheet(session);
+    session->job.copySheet(from, to);
+    copySheet(session, from, to);
+}
+
+void copyOneFloor(Session *session)
+{
     const QString from = someFloor(session);
     const QString to = someFloor(session);
     QMap<QString, QString> ids;
@@ -424,10 +428,18 @@ void copyOne(Session *session)
         ids.insert(id, session->choices.id());
     }
     const bool usesIds = session->choices.oneIn(2);
-    if (file.all(Kind::Cables).size() + file.all(Kind::Ports).size() + file.all(Kind::VertRuns).size() > manyElements)
-        return;
     session->job.copyFloor(from, to, ids, usesIds);
     copyFloor(session, from, to, usesIds ? ids : QMap<QString, QString>());
+}
+
+void copyOne(Session *session)
+{
+    if (countOf(session->file.root()) > manyElements)
+        return;
+    if (session->choices.oneIn(3))
+        copyOneSheet(session);
+    else
+        copyOneFloor(session);
 }
 
 } // namespace

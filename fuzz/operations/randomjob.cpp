@@ -24,6 +24,8 @@ QStringList usualTexts(Kind kind, const QString &attribute)
         {"bundleGroupNum", {"1", "", "2", "4", "x"}},
         {"status", {"PASS", "UNTESTED", "", "FAIL"}},
         {"time", {"noon", "", "night"}},
+        {"style", {"1", "2", "0", "x"}},
+        {"height_units", {"0", "1", "2", "7"}},
         {"color", {"#112233", "red", "", "no color"}},
         {"predefined_style", {"English", "Metric", ""}},
         {"predefined_scale", {"1\" = 10'0\"", "1 : 5", "", "1\" = 50'0\""}},
@@ -40,6 +42,14 @@ QString randomText(Choices &choices, Kind kind, const QString &attribute)
 {
     const QStringList texts = usualTexts(kind, attribute);
     return texts.isEmpty() ? choices.id() : choices.oneOf(texts);
+}
+
+QString randomWhole(Choices &choices, Kind kind, const QString &attribute)
+{
+    const QStringList texts = usualTexts(kind, attribute);
+    if (!texts.isEmpty())
+        return choices.oneOf(texts);
+    return choices.oneIn(8) ? choices.oneOf({"x", "", "1.5", "99999999999"}) : QString::number(choices.whole());
 }
 
 QString randomBlock(Choices &choices)
@@ -66,7 +76,7 @@ QString randomValue(Choices &choices, Kind kind, const PlainAttribute &attribute
     case Value::Text:
         return randomText(choices, kind, attribute.name);
     case Value::Whole:
-        return choices.oneIn(8) ? choices.oneOf({"x", "", "1.5", "99999999999"}) : QString::number(choices.whole());
+        return randomWhole(choices, kind, attribute.name);
     case Value::Real:
     case Value::Float:
         return choices.oneIn(8) ? choices.oneOf({"x", "", "1e3", "nan", "-inf"}) : plainNumber(choices.real());
