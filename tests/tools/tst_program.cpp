@@ -19,7 +19,8 @@ private:
         environment.insert("LANGUAGE", "en"); // whatever language the rest of the test has
         shell.setProcessEnvironment(environment);
         shell.start("sh", {"-c", command});
-        if (!shell.waitForFinished() || shell.exitStatus() != QProcess::NormalExit)
+        constexpr int patience = 120000; // milliseconds, for a busy machine and sanitizers
+        if (!shell.waitForFinished(patience) || shell.exitStatus() != QProcess::NormalExit)
             return "no end";
         QString printed = shell.readAllStandardOutput();
         const QStringList messages = QString(shell.readAllStandardError()).split('\n');
