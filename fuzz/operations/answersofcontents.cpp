@@ -134,9 +134,8 @@ void compareContents(const JobEditor &job, PlainJob *file)
     const PlainElement *notes = file->at({"JobNotes_Text"});
     expectAnswer(job.getJobNotesText(), notes == nullptr ? QString() : notes->text("text"), "the notes");
     const PlainElement *releases = file->at({"Release"});
-    Fields values{{"none", QString()}};
-    if (releases != nullptr)
-        values.insert(releases->attributes.begin(), releases->attributes.end());
+    Fields values = releases == nullptr ? Fields() : releases->attributes;
+    values.insert({"none", QString()}); // unless a release has this name
     for (const auto &[name, value] : values)
         expectAnswer(job.getRelease(name), value, "a release");
     compareTestDefs(job, file->at({"TestDef_List"}));
