@@ -71,9 +71,9 @@ const char listName[] = "system.posix_acl_access";
 
 QByteArray attributeOf(const QByteArray &file, const char *name)
 {
-    QByteArray value(1000, '\0');
-    value.resize(int(std::max<ssize_t>(0, getxattr(file.constData(), name, value.data(), 1000))));
-    return value;
+    char value[1000];
+    const ssize_t size = getxattr(file.constData(), name, value, sizeof value);
+    return QByteArray(value, int(std::max<ssize_t>(0, size)));
 }
 
 bool setAttribute(const QByteArray &file, const char *name, const QByteArray &value)
