@@ -41,7 +41,4 @@ inline bool holdsNumber(const QString &, const void *)
 /// An empty text has no entries.
 void fromText(const QString &text, QStringList *entries);
 
-/// value without its fraction; the nearest int for a value beyond them, 0 for one that is no number.
-int truncated(double value);
-
 } // namespace cabledoc

@@ -1,11 +1,10 @@
-#include "settingstables.h"
+#include "papersizes.h"
 
-#include "settingsstrings.h"
-
-#include <QtCore/QCoreApplication>
 #include <QtCore/QVector>
 
 #include <algorithm>
+
+using namespace cabledoc;
 
 namespace {
 
@@ -63,103 +62,28 @@ const QVector<PaperSize> &paperSizeTable()
     return table;
 }
 
-struct Scale
-{
-    QString name;
-    int factor;
-};
-
-const QVector<Scale> &scaleTable()
-{
-    static const QVector<Scale> table{
-        {QStringLiteral("1\" = 5'0\""), 5},   {QStringLiteral("1\" = 10'0\""), 10},
-        {QStringLiteral("1\" = 20'0\""), 20}, {QStringLiteral("1\" = 30'0\""), 30},
-        {QStringLiteral("1\" = 40'0\""), 40}, {QStringLiteral("1\" = 50'0\""), 50},
-        {QStringLiteral("1 : 2"), 2},         {QStringLiteral("1 : 5"), 5},
-        {QStringLiteral("1 : 10"), 10},
-    };
-    return table;
-}
-
-template <typename Entry> const Entry *find(const QVector<Entry> &table, const QString &name)
-{
-    const auto found =
-        std::find_if(table.cbegin(), table.cend(), [&name](const Entry &entry) { return entry.name == name; });
-    return found == table.cend() ? nullptr : &*found;
-}
-
-template <typename Entry> QStringList names(const QVector<Entry> &table)
-{
-    QStringList names;
-    for (const Entry &entry : table)
-        names.append(entry.name);
-    return names;
-}
-
 } // namespace
 
-QSizeF cabledoc::noDimensions()
+QStringList cabledoc::paperSizeNames()
 {
-    return {-1.0, -1.0};
+    QStringList names;
+    for (const PaperSize &paper : paperSizeTable())
+        names.append(paper.name);
+    return names;
 }
 
 QSizeF cabledoc::paperDimensions(const QString &name, int orientation)
 {
-    const PaperSize *paper = find(paperSizeTable(), name);
-    if (paper == nullptr || orientation < 0 || orientation > 1)
+    const QVector<PaperSize> &table = paperSizeTable();
+    const auto paper =
+        std::find_if(table.cbegin(), table.cend(), [&name](const PaperSize &size) { return size.name == name; });
+    if (paper == table.cend() || orientation < 0 || orientation > 1)
         return noDimensions();
     const QSizeF portrait(paper->width, paper->height);
     return orientation == 0 ? portrait : portrait.transposed();
 }
 
-int cabledoc::scaleFactor(const QString &name)
+QSizeF cabledoc::noDimensions()
 {
-    const Scale *scale = find(scaleTable(), name);
-    return scale == nullptr ? 10 : scale->factor;
-}
-
-QStringList cabledoc::SettingsStrings::paperSizes()
-{
-    return names(paperSizeTable());
-}
-
-QStringList cabledoc::SettingsStrings::pageStandards()
-{
-    return {standard(), QStringLiteral("Metric (ISO)"), QStringLiteral("ANSI Engineering"),
-            QStringLiteral("ANSI Architectural")};
-}
-
-QStringList cabledoc::SettingsStrings::scaleStyles()
-{
-    return {english(), QStringLiteral("Metric")};
-}
-
-QStringList cabledoc::SettingsStrings::predefinedScales()
-{
-    return names(scaleTable());
-}
-
-QString cabledoc::SettingsStrings::network()
-{
-    return QCoreApplication::translate("SettingsStrings", "Network");
-}
-
-QString cabledoc::SettingsStrings::letter()
-{
-    return QStringLiteral("Letter: 8.5 in. x 11 in.");
-}
-
-QString cabledoc::SettingsStrings::standard()
-{
-    return QStringLiteral("Standard");
-}
-
-QString cabledoc::SettingsStrings::english()
-{
-    return QStringLiteral("English");
-}
-
-QString cabledoc::SettingsStrings::twentyFeetToTheInch()
-{
-    return QStringLiteral("1\" = 20'0\"");
+    return {-1.0, -1.0};
 }

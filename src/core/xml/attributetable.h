@@ -1,6 +1,7 @@
 #pragma once
 
 #include "attributetext.h"
+#include "numbers.h"
 #include "testencoding.h"
 
 #include <QtCore/QStringList>

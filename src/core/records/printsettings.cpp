@@ -1,6 +1,6 @@
 #include "printsettings.h"
 
-#include "settingstables.h"
+#include "papersizes.h"
 
 PrintSettings::PrintSettings(const Fields &fields)
     : Record(fields)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xmlscan.h"
+#include "xmlproblem.h"
 
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QXmlStreamReader>

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "xmlproblem.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QString>
 
 /// Limits that a file must keep, so that neither the parser nor the tree can be made to fail.
 namespace cabledoc {
@@ -10,14 +11,6 @@ namespace cabledoc {
 constexpr int maximumDepth = 256;
 /// The parser's time grows with the square of the attributes of one element.
 constexpr int maximumAttributes = 4096;
-
-/// Where and why a text cannot be taken as it is. A null message: nothing was found.
-struct XmlProblem
-{
-    QString message;
-    int line = 0;   ///< counted from 1
-    int column = 0; ///< counted from 1
-};
 
 /// Looks through an undecoded XML text for what the parser must not see: the mark of another encoding, control
 /// characters, too many levels or attributes, and document types that say more than a name (they could hold entities

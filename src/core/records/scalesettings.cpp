@@ -1,7 +1,7 @@
 #include "scalesettings.h"
 
-#include "attributetext.h"
-#include "settingstables.h"
+#include "numbers.h"
+#include "predefinedscales.h"
 
 namespace {
 

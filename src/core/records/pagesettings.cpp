@@ -1,6 +1,6 @@
 #include "pagesettings.h"
 
-#include "settingstables.h"
+#include "papersizes.h"
 
 namespace {
 

@@ -82,15 +82,4 @@ void fromText(const QString &text, QStringList *entries)
     *entries = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
 }
 
-int truncated(double value)
-{
-    if (std::isnan(value))
-        return 0;
-    if (value <= std::numeric_limits<int>::min())
-        return std::numeric_limits<int>::min();
-    if (value >= std::numeric_limits<int>::max())
-        return std::numeric_limits<int>::max();
-    return int(value);
-}
-
 } // namespace cabledoc

@@ -1,8 +1,9 @@
 #include "jobattributes.h"
 
-#include "jobeditor.h"
 #include "jobwords.h"
 #include "sharedattributes.h"
+
+#include <QtCore/QCoreApplication>
 
 namespace cabledoc {
 
@@ -193,9 +194,9 @@ QString storedCableUse(const QString &use)
 {
     // Intended: what is planned as a cable box is stored as television.
     //: A word of the file format: it stays as it is.
-    const QString cableBox = JobEditor::tr("cable_box", "use name for Cable Box (Cblbx)");
+    const QString cableBox = QCoreApplication::translate("JobEditor", "cable_box", "use name for Cable Box (Cblbx)");
     //: A word of the file format: it stays as it is.
-    const QString television = JobEditor::tr("TV", "short for television");
+    const QString television = QCoreApplication::translate("JobEditor", "TV", "short for television");
     return use == cableBox ? television : use;
 }
 

@@ -1,6 +1,6 @@
 #include "testdef.h"
 
-#include "attributetext.h"
+#include "numbers.h"
 #include "qtcompat.h"
 
 #include <algorithm>

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+namespace cabledoc {
+
+/// Returns the value without its fraction: the nearest int for a value beyond them, 0 for one that is not a number.
+inline int truncated(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    if (value <= std::numeric_limits<int>::min())
+        return std::numeric_limits<int>::min();
+    if (value >= std::numeric_limits<int>::max())
+        return std::numeric_limits<int>::max();
+    return int(value);
+}
+
+} // namespace cabledoc
