@@ -3,11 +3,11 @@
 #include "attributetext.h"
 #include "bkxmleditor.h"
 #include "childelements.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "jobattributes.h"
 #include "jobwords.h"
 #include "messagetext.h"
-#include "settingsattributes.h"
-#include "sharedattributes.h"
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
@@ -74,15 +74,15 @@ public:
 
     CheckReport check(const QString &filename)
     {
-        if (!readFile(filename, QString(),
-                      {tr("No file is named"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
-                       tr("%1 is no XML file")})) {
-            m_report.error = m_error;
+        if (!inside().read(filename, QString(),
+                           {tr("No file is named"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
+                            tr("%1 is no XML file")})) {
+            m_report.error = inside().error;
             return m_report;
         }
         if (mayBeChecked()) {
             checkShared();
-            if (m_document.firstChild().nodeName() == words::Job)
+            if (document().firstChild().nodeName() == words::Job)
                 checkJob();
             checkContents();
         }
@@ -101,9 +101,9 @@ private:
 
     bool mayBeChecked()
     {
-        const QDomElement root = m_document.firstChild().toElement();
+        const QDomElement root = document().firstChild().toElement();
         if (root.tagName() != words::Job && root.tagName() != words::Bkt) {
-            report("unknown-root", m_document.documentElement(),
+            report("unknown-root", document().documentElement(),
                    tr("the file does not begin with the element \"%1\" or \"%2\"").arg(words::Job, words::Bkt));
             return false;
         }
@@ -169,7 +169,7 @@ private:
 
     void checkShared()
     {
-        checkTags(m_document.documentElement(), QString());
+        checkTags(document().documentElement(), QString());
         for (const QDomElement &list : {getToPrintSettingsList(), getToPageSettingsList(), getToScaleSettingsList()})
             checkTags(list, list.tagName());
 
@@ -318,7 +318,7 @@ private:
 
     void checkContents()
     {
-        QDomNode node = m_document.documentElement();
+        QDomNode node = document().documentElement();
         while (!node.isNull()) {
             checkContentsOf(node);
             if (node.hasChildNodes()) {

@@ -18,10 +18,7 @@
 #include <memory>
 
 namespace cabledoc {
-class KnownFiles;
-namespace xmlfile {
-struct AttributeOrder;
-}
+class Document;
 } // namespace cabledoc
 
 /// What the job document and the template document have in common: one XML tree in memory, the name of
@@ -46,33 +43,33 @@ public:
     ~BKXMLEditor() override;
 
     /// Full path of the document's file; empty when there is none. May be assigned through.
-    QString &filename() { return m_filename; }
+    QString &filename();
     /// Sets the path without any check. Does not change the document.
-    void setFilename(const QString &filename) { m_filename = filename; }
+    void setFilename(const QString &filename);
     /// The last failure in words for the user, or a status word; empty when there was none. May be
     /// assigned through.
-    QString &error() { return m_error; }
+    QString &error();
 
     // Reading and writing files. These settings belong to the document object, not to its content.
 
     /// Lets a save write characters beyond Latin-1 in texts and values as numeric references, which every XML reader
     /// understands. Off by default: they become "?" then. In comments and CDATA sections, which cannot hold references,
     /// they always do.
-    void setCharacterReferences(bool on) { m_writesReferences = on; }
-    bool characterReferences() const { return m_writesReferences; }
+    void setCharacterReferences(bool on);
+    bool characterReferences() const;
     /// Returns how many characters the last save or saveAs() wrote as "?".
-    qint64 replacedCharacters() const { return m_replacedCharacters; }
+    qint64 replacedCharacters() const;
     /// The size in bytes above which a file is not read if nothing else is set.
     static constexpr qint64 defaultMaximumFileSize = qint64(4) << 30;
     /// Sets the size in bytes above which a file is not read. A document needs some forty times the size of its file in
     /// memory.
-    void setMaximumFileSize(qint64 bytes) { m_maximumFileSize = bytes; }
-    qint64 maximumFileSize() const { return m_maximumFileSize; }
+    void setMaximumFileSize(qint64 bytes);
+    qint64 maximumFileSize() const;
     /// Whether a save or saveAs() may replace a file that the document was neither read from nor written to. True by
     /// default. If not, such a file is only ever created, and of two programs that create it at the same time one
     /// fails.
-    void setReplacesUnknownFiles(bool on) { m_replacesUnknownFiles = on; }
-    bool replacesUnknownFiles() const { return m_replacesUnknownFiles; }
+    void setReplacesUnknownFiles(bool on);
+    bool replacesUnknownFiles() const;
 
     // Print, page and scale settings, one entry for each report or view: "JobInfo_Settings",
     // "NetView_Settings", "Inventory_Settings", "FloorPlan_Settings", "TestSched_Settings",
@@ -182,9 +179,16 @@ public:
     static TRUEPHY_PLOT_DATA responseStringToData(const QString &text);
 
 protected:
+    /// Creates a document around what it is made of. For the classes of this library.
+    explicit BKXMLEditor(std::unique_ptr<cabledoc::Document> inside);
+    /// Returns what the document is made of. For the classes of this library.
+    cabledoc::Document &inside() const { return *m_inside; }
+    /// Returns a handle to the tree. A change that is made through it does not mark the document as changed.
+    QDomDocument document() const;
+
     /// Whether the tree was changed since it was last created, loaded or saved.
-    bool fileChanged() const { return m_dirty; }
-    void setDirty(bool dirty) { m_dirty = dirty; }
+    bool fileChanged() const;
+    void setDirty(bool dirty);
 
     // Finding elements. Elements are handles into the tree and live as long as it does.
 
@@ -204,10 +208,10 @@ protected:
     static QString getChildAttr(const QString &attribute, const QDomElement &element);
     /// Sets an attribute that the element has. A missing attribute is deliberately not created: elements
     /// get all their attributes when they are added.
-    static void setChildAttr(const QString &attribute, const QString &value, QDomElement &element);
+    void setChildAttr(const QString &attribute, const QString &value, QDomElement &element);
     /// The same for the attribute "id".
     static QString getElementId(const QDomElement &element);
-    static void setElementId(const QString &id, QDomElement &element);
+    void setElementId(const QString &id, QDomElement &element);
 
     // The containers that both documents have; null when the path to them does not exist.
     QDomElement getToTestDefList() const;
@@ -216,34 +220,11 @@ protected:
     QDomElement getToPageSettingsList() const;
     QDomElement getToScaleSettingsList() const;
 
-    // What a new document holds. What parent has of it already stays as it is, so that these bring an older
-    // document up to date too.
-
-    /// Adds an element with empty attributes of these names and an empty "Address" in it.
-    void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
-
-    /// Writes an attribute of a child of the root, or of the "Address" in it, creating it when it is
-    /// missing, and marks the document as changed. Nothing without the child.
-    void writeInfo(const QString &elementName, const QString &attribute, const QString &value);
-    void writeInfoAddress(const QString &elementName, const Address &address);
-    Address readInfoAddress(const QString &elementName) const;
-
     /// Four flags as "0" and "1", in their order.
     static QString boolArrayToString(const bool *flags);
     /// Reads four flags. False at the first character that is neither "0" nor "1", or missing: the flags
     /// before it are written, the others are not.
     static bool stringToBoolArray(const QString &text, bool *flags);
-
-    // Changing lists of elements. These mark the document as changed, but for appendElement().
-
-    /// Appends a new element to parent.
-    QDomElement appendElement(const QString &tagName, QDomNode parent);
-    /// The first child element of parent with that name, which is appended when there is none.
-    QDomElement ensureElement(const QString &tagName, const QDomNode &parent);
-    /// Gives the element another "id"; nothing for a null element.
-    void renameElement(QDomElement element, const QString &id);
-    /// Takes the element out of the tree; nothing for a null element.
-    void removeElement(const QDomElement &element);
 
     // Bringing an older file up to date. Each step brings the tree of one version to the next: it sets the
     // version, adds what the newer one brought where the file lacks it, and returns true. Both arguments
@@ -262,62 +243,6 @@ protected:
     /// The version that the tree says it has; empty when it says none.
     QString version() const;
 
-    // Files
-
-    /// Whether the file name has that extension, in any case.
-    static bool hasExtension(const QString &filename, const QString &extension);
-    /// Whether the file name says where to save; the extension alone does not.
-    static bool namesAFile(const QString &filename, const QString &extension);
-
-    /// What a load that fails tells the user. "%1" stands for the file name, "%2", "%3" and "%4" for the
-    /// line, the column and the parser's message.
-    struct LoadTexts
-    {
-        QString noName;
-        QString missing;
-        QString badAtPosition;
-        QString bad; ///< when the parser gave no position
-    };
-    /// Gives a new document its name. False, with a text in error(), if no file can have it.
-    bool takeName(const QString &filename);
-    /// Makes filename the document's and replaces the tree by the content of the file; by nothing when it
-    /// is no XML. False, with a text in error(), when it cannot be read; the version is not looked at. An empty name
-    /// changes nothing.
-    bool readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts);
-    /// To be called when what readFile() read cannot be used after all.
-    void rejectFile();
-    /// Whether a save must fail since the file was not loaded; sets error() then.
-    bool refuseUnloaded();
-
-    enum class Replace {
-        ExpectedFile, ///< a file that is as the document knows it
-        AnyFile,      ///< whatever another program made of it
-    };
-    /// Writes the tree to a file. On a failure the file is as it was, the dirty flag too, and error()
-    /// says why.
-    bool writeFile(const QString &filename, const cabledoc::xmlfile::AttributeOrder &order, Replace replace);
-    /// Makes filename the document's after it was written to it.
-    void changeName(const QString &filename);
-    /// Whether the name leads to the document's own file, in whatever spelling and through whatever link.
-    bool isOwnFile(const QString &filename) const;
-
-    QDomDocument m_document;
-    QString m_filename;
-    QString m_error;
-    bool m_dirty = false;
-
 private:
-    bool mayBeFileName(const QString &filename);
-    QDomElement settingsList(const QString &tagName) const;
-    template <typename Settings, typename Kind> void store(const Settings &settings, const QString &name, const Kind &);
-    template <typename Settings, typename Kind> Settings fetch(const QString &name, const Kind &);
-    template <typename Kind, typename Initial>
-    void addEntries(const QDomElement &settings, const Kind &kind, Initial initial);
-
-    std::unique_ptr<cabledoc::KnownFiles> m_files;
-    qint64 m_maximumFileSize = defaultMaximumFileSize;
-    qint64 m_replacedCharacters = 0;
-    bool m_isLoadFailed = false;
-    bool m_writesReferences = false;
-    bool m_replacesUnknownFiles = true;
+    const std::unique_ptr<cabledoc::Document> m_inside;
 };

@@ -1,9 +1,7 @@
 #include "schedule.h"
 
-#include "addmode.h"
 #include "csvtext.h"
-#include "jobattributes.h"
-#include "jobeditor.h"
+#include "jobeditor_p.h"
 #include "jobschedule.h"
 #include "jobwords.h"
 #include "schedulereader.h"
@@ -140,14 +138,13 @@ private:
             set(cable, words::To, endTag(row, column::ToFloor), &JobEditor::setCableTo);
     }
 
-    void set(QDomElement cable, const QString &attribute, const QString &text,
+    void set(const QDomElement &cable, const QString &attribute, const QString &text,
              void (JobEditor::*setter)(const QString &, const QString &))
     {
         if (m_isDry)
             return;
-        // The setters create none that an older file lacks.
-        if (!cable.hasAttribute(attribute))
-            cable.setAttribute(attribute, QString());
+        // The setters do not add an attribute that an older file lacks.
+        JobEditorPrivate::of(m_job).tree.addAttribute(cable, attribute, QString());
         (m_job.*setter)(cable.tagName(), text);
     }
 
@@ -211,9 +208,8 @@ private:
     /// A floor that was not made here may lack its list.
     void ensureRoomList(const FloorPlace &floor)
     {
-        QDomElement element = floor.element;
         if (m_job.getToRoomList(floor.tag).isNull())
-            element.appendChild(element.ownerDocument().createElement(words::RoomList));
+            JobEditorPrivate::of(m_job).tree.append(words::RoomList, floor.element);
     }
 
     FloorPlace &floorPlace(const QString &id)

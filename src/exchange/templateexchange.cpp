@@ -1,7 +1,6 @@
 #include "bkteditor.h"
-#include "jobeditor.h"
-
-#include "settingsattributes.h"
+#include "documentattributes.h"
+#include "jobeditor_p.h"
 #include "words.h"
 
 #include <algorithm>
@@ -55,15 +54,15 @@ void JobEditor::ImportMissingDefaultCableTypes(BktEditor *bkt)
 
 bool JobEditor::Export(const QString &filename)
 {
-    if (!mayBeFile(filename, words::BktExtension))
+    if (!d->mayBeFile(filename, words::BktExtension))
         return false;
-    if (isOwnFile(filename)) {
-        m_error = tr("This is the file of the job itself. A template needs another name.");
+    if (inside().isOwnFile(filename)) {
+        error() = tr("This is the file of the job itself. A template needs another name.");
         return false;
     }
     BktEditor &bkt = BktEditor::Instance();
     if (!bkt.New(filename)) {
-        m_error = tr("Unable to open file.");
+        error() = tr("Unable to open file.");
         return false;
     }
     bkt.setContractorData(getContractorData());
@@ -72,7 +71,7 @@ bool JobEditor::Export(const QString &filename)
     bkt.addBundledCableTypes(getBundledCableTypes());
     if (bkt.save())
         return true;
-    m_error = bkt.error();
+    error() = bkt.error();
     return false;
 }
 

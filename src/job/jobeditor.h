@@ -20,15 +20,11 @@
 #include <QtCore/QStringList>
 
 #include <memory>
-#include <set>
 
 class BktEditor;
 
 namespace cabledoc {
-class ElementIndex;
-enum class ElementKind;
-struct CableLists;
-struct JobIndex;
+class JobEditorPrivate;
 } // namespace cabledoc
 
 /// The job document: the one open job file of the process.
@@ -124,10 +120,10 @@ public:
     bool Export(const QString &filename);
     /// The file of the default template. Setting an empty path changes nothing. Not part of the document.
     void setDefaultBktFile(const QString &filename);
-    const QString &defaultBktFile() const { return m_defaultBktFile; }
+    const QString &defaultBktFile() const;
     /// A number for the application's use; initially 0. Not part of the document.
-    int getRelease() const { return m_release; }
-    void setRelease(int release) { m_release = release; }
+    int getRelease() const;
+    void setRelease(int release);
 
     // Index: rebuilding
 
@@ -704,93 +700,9 @@ public:
     QDomElement getToJobNotesList();
 
 private:
-    friend class JobEditorProbe; // what tests may see
+    friend class cabledoc::JobEditorPrivate;
 
     ~JobEditor() override;
 
-    void populate(cabledoc::ElementKind kind);
-    void rebuildIndex(cabledoc::ElementKind kind);
-    bool refuseWhenOpen();
-    void create(double ceilingHeight);
-    void addSkeleton(QDomElement root);
-    bool checkVersion();
-    bool mayBeName(const QString &name);
-    bool mayBeFile(const QString &filename, const QString &extension);
-    bool save(Replace replace);
-
-    // All kinds of elements that have tags and ids
-    template <typename Kind>
-    QDomElement addElement(const Kind &kind, const QDomElement &parent, typename Kind::Fields fields, int mode);
-    template <typename Kind> typename Kind::Fields readElement(const Kind &kind, const QDomElement &element) const;
-    QDomElement elementOf(cabledoc::ElementKind kind, const QString &tag) const;
-    void renameElementOf(cabledoc::ElementKind kind, const QString &tag, const QString &id);
-    void removeElementOf(cabledoc::ElementKind kind, const QDomElement &element);
-    void writeAttribute(QDomElement element, const QString &attribute, const QString &value);
-    void changeAttribute(const QDomElement &element, const QString &attribute, const QString &value);
-
-    // What names an element that goes
-    QVector<QDomElement> elementsNaming(const QString &tag, const QString &listName,
-                                        const QStringList &attributes) const;
-    void forgetTag(const QString &tag, const QString &listName, const QStringList &attributes);
-    void dropReferences(cabledoc::ElementKind kind, const QString &tag);
-    void dropReferencesToAll(cabledoc::ElementKind kind, const QDomElement &list);
-
-    QDomElement portElement(const QString &tag) const;
-    QDomElement vertRunElement(const QString &tag) const;
-    QDomElement deviceElement(const QString &tag) const;
-    QDomElement activePortElement(const QString &tag) const;
-    cabledoc::PortFields readPort(const QDomElement &element) const;
-    cabledoc::PointFields readPoint(const QDomElement &element) const;
-    cabledoc::FreeTextFields readText(const QDomElement &element) const;
-    cabledoc::DeviceFields readDevice(const QDomElement &element) const;
-    void moveToRoom(cabledoc::ElementKind kind, const QDomElement &element, const QString &listName,
-                    const QString &floorTag, const QString &roomTag);
-    void putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list);
-    void appendResult(const QDomElement &activePort, const ActiveTestResult &result);
-
-    struct Copies;
-    void copyPoints(const QDomElement &list, const QString &floorTag, Copies *copies);
-    void copyTexts(const QDomElement &list, const QString &parentTag, QString (JobEditor::*add)(const FreeText &, int));
-    QString copyOfRoom(const QDomElement &source, const QString &floorTag);
-    void copyRooms(const QDomElement &roomList, const QString &floorTag, Copies *copies);
-    void copyCables(const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies);
-
-    double estimatedLength(const QDomElement &cable, double feetPerPixel, bool metric) const;
-    Port placeOf(const QString &tag) const;
-    Port placeOfPoint(const QString &tag) const;
-    double heightBetween(const QString &tagA, const QString &tagB) const;
-
-    QDomElement floorElement(const QString &tag) const;
-    QDomElement sheetElement(const QString &tag) const;
-    QDomElement roomElement(const QString &floorTag, const QString &tag) const;
-    QDomElement roomElementById(const QString &floorTag, const QString &id) const;
-
-    QStringList getFloorsInBetween(const QString &tagA, const QString &tagB) const;
-    QString completedFloorAttribute(const QString &tag, const QString &attribute);
-    void writeFloorAttribute(const QString &tag, const QString &attribute, const QString &value);
-    QDomElement undefinedRoomElement(const QDomElement &roomList);
-    void completeNewRoom(const QDomElement &room);
-    void addMissingContainers(const QDomElement &root);
-    void addRoomContainers(const QDomElement &room);
-    void addSheetContainers(const QDomElement &sheet);
-    QDomElement cableElement(const QString &tag) const;
-    QString newCableTag() const;
-    QString newCableId() const;
-    QStringList cablesEndingAt(const std::set<QString> &ends) const;
-    const cabledoc::CableLists &cableLists() const;
-    void forgetCableLists();
-    QDomElement cableOfTagOrId(const QString &text) const;
-    TestResults readTestResults(const QDomElement &cable);
-    float correctedLength(int reading, const QDomElement &cable) const;
-
-    QString newRoomTag() const;
-    QString newRoomId(const QString &floorTag, const QString &prefix) const;
-    Room readRoom(const QDomElement &element);
-    void writeRoomAttributes(const QString &floorTag, const QString &id, const QMap<QString, int> &values);
-
-    static JobEditor *s_instance;
-
-    std::unique_ptr<cabledoc::JobIndex> m_index;
-    QString m_defaultBktFile;
-    int m_release = 0;
+    const std::unique_ptr<cabledoc::JobEditorPrivate> d;
 };

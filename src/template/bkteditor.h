@@ -75,7 +75,6 @@ protected:
 private:
     bool load(const QString &filename, const std::function<bool()> &stepDone);
     bool checkVersion(const std::function<bool()> &stepDone);
-    bool save(Replace replace);
 
     static BktEditor *s_instance;
 };

@@ -38,7 +38,11 @@ inline bool holdsNumber(const QString &, const void *)
     return true;
 }
 
-/// An empty text has no entries.
-void fromText(const QString &text, QStringList *entries);
+/// Returns the entries of a list, which are separated by commas. An empty text has none.
+QStringList entriesIn(const QString &text);
+inline void fromText(const QString &text, QStringList *entries)
+{
+    *entries = entriesIn(text);
+}
 
 } // namespace cabledoc

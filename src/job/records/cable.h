@@ -10,8 +10,8 @@ namespace cabledoc {
 
 struct CableFields
 {
-    QString tag;
-    QString id; ///< name that the user sees
+    QString element; ///< tag
+    QString id;      ///< name that the user sees
     QString use;
     QString to;   ///< tag of a port or vertical run
     QString from; ///< likewise
@@ -26,9 +26,9 @@ struct CableFields
 
     auto members() const
     {
-        const auto &[element, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
+        const auto &[ownTag, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
                      isDefault] = *this;
-        return std::tie(element, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
+        return std::tie(ownTag, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
                         isDefault);
     }
 };
@@ -55,8 +55,8 @@ public:
     {
     }
 
-    const QString &tag() const { return m_fields.tag; }
-    void setTag(const QString &tag) { m_fields.tag = tag; }
+    const QString &tag() const { return m_fields.element; }
+    void setTag(const QString &tag) { m_fields.element = tag; }
     const QString &id() const { return m_fields.id; }
     void setID(const QString &id) { m_fields.id = id; }
     const QString &use() const { return m_fields.use; }
