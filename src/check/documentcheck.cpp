@@ -1,11 +1,9 @@
 #include "documentcheck.h"
 
-#include "attributetext.h"
 #include "bkxmleditor.h"
 #include "childelements.h"
 #include "document.h"
-#include "documentattributes.h"
-#include "jobattributes.h"
+#include "jobschema.h"
 #include "jobwords.h"
 #include "messagetext.h"
 #include "xmlnames.h"
@@ -20,36 +18,6 @@
 using namespace cabledoc;
 
 namespace {
-
-/// The attributes of an element whose fields cannot hold the numbers that they say.
-using InvalidNumbers = QStringList (*)(const QDomElement &);
-
-template <auto table> QStringList invalidNumbers(const QDomElement &element)
-{
-    return table().invalidNumbers(element);
-}
-
-/// By the name of the list that the element is in, or by its own.
-const QMap<QString, InvalidNumbers> &numberChecks()
-{
-    static const QMap<QString, InvalidNumbers> checks{
-        {words::FloorList, invalidNumbers<floorAttributes>},
-        {words::RoomList, invalidNumbers<roomAttributes>},
-        {words::PortList, invalidNumbers<portAttributes>},
-        {words::VerticalRunList, invalidNumbers<portAttributes>},
-        {words::PointList, invalidNumbers<pointAttributes>},
-        {words::VerticeList, invalidNumbers<pointAttributes>},
-        {words::FreeTextList, invalidNumbers<freeTextAttributes>},
-        {words::DeviceList, invalidNumbers<deviceAttributes>},
-        {words::TestResults, invalidNumbers<testResultsAttributes>},
-        {words::ActiveTestResult, invalidNumbers<activeTestResultAttributes>},
-        {words::TestDefList, invalidNumbers<testDefAttributes>},
-        {words::PrintSettingsList, invalidNumbers<printSettingsAttributes>},
-        {words::PageSettingsList, invalidNumbers<pageSettingsAttributes>},
-        {words::ScaleSettingsList, invalidNumbers<scaleSettingsAttributes>},
-    };
-    return checks;
-}
 
 QString pathOf(const QDomElement &element)
 {
@@ -155,11 +123,6 @@ private:
         checkIds(list);
     }
 
-    bool hasTag(const QString &listName, const QString &tag) const
-    {
-        return m_linesOfTags.value(listName).contains(tag);
-    }
-
     void reportMissing(const QDomElement &element, const QString &message)
     {
         report("missing-reference", element, message);
@@ -207,111 +170,68 @@ private:
 
     void checkJob()
     {
-        checkFloors();
-        checkSheets();
-        checkNames(getElement(words::CableList));
-        for (const QDomElement &cable : ChildElements(getElement(words::CableList)))
-            checkCable(cable);
-        checkNames(getElement(words::ConnectionList));
-        for (const QDomElement &connection : ChildElements(getElement(words::ConnectionList)))
-            checkConnection(connection);
-        const QDomElement activePorts =
-            getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList);
-        checkNames(activePorts);
-        for (const QDomElement &activePort : ChildElements(activePorts)) {
-            const QString port = activePort.attribute(words::Port);
-            if (!port.isEmpty() && !hasTag(words::PortList, port))
-                reportMissing(activePort, tr("\"%1\": there is no port \"%2\"").arg(words::Port, excerpt(port)));
+        const QDomElement root = document().documentElement();
+        for (const ElementSchema *kind : jobSchema()) {
+            for (const QDomElement &list : listsOf(*kind, root, allChildren))
+                checkNamesOf(*kind, list);
         }
-        checkVertRuns();
-    }
-
-    void checkFloors()
-    {
-        checkNames(getElement(words::FloorList));
-        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
-            const QDomElement rooms = floor.firstChildElement(words::RoomList);
-            // Every floor has a room "Undefined" of its own.
-            m_linesOfTags[rooms.tagName()].remove(words::Undefined);
-            checkNames(rooms);
-            for (const QDomElement &room : ChildElements(rooms)) {
-                checkNames(room.firstChildElement(words::PortList));
-                checkNames(room.firstChildElement(words::VerticalRunList));
-            }
-            checkNames(floor.firstChildElement(words::PointList));
-            const QDomElement texts = floor.firstChildElement(words::FreeTextList);
-            checkTags(texts, words::FloorList + texts.tagName());
-            checkIds(texts);
-        }
-    }
-
-    void checkSheets()
-    {
-        checkNames(getElement(words::SheetList));
-        for (const QDomElement &sheet : ChildElements(getElement(words::SheetList))) {
-            for (const QString &list : {words::DeviceList, words::VerticeList, words::FreeTextList})
-                checkNames(sheet.firstChildElement(list));
-        }
-    }
-
-    bool isPortOrVertRun(const QString &tag) const
-    {
-        return hasTag(words::PortList, tag) || hasTag(words::VerticalRunList, tag);
-    }
-
-    void checkCable(const QDomElement &cable)
-    {
-        for (const QString &attribute : {words::From, words::To}) {
-            const QString end = cable.attribute(attribute);
-            if (!end.isEmpty() && !isPortOrVertRun(end))
-                reportMissing(cable,
-                              tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, excerpt(end)));
-        }
-        QStringList path;
-        fromText(cable.attribute(words::Path), &path);
-        for (const QString &passed : std::as_const(path)) {
-            if (!hasTag(words::PointList, passed) && !isPortOrVertRun(passed)) {
-                reportMissing(
-                    cable,
-                    tr("\"%1\": there is no point, port or vertical run \"%2\"").arg(words::Path, excerpt(passed)));
+        for (const ElementSchema *kind : jobSchema()) {
+            for (const QDomElement &list : listsOf(*kind, root, allChildren)) {
+                for (const QDomElement &element : ChildElements(list))
+                    checkReferences(*kind, element);
             }
         }
-        checkType(cable, cable.attribute(words::Type));
-        const QString bundle = cable.attribute(words::BundleName);
+    }
+
+    /// Returns the name of the scope in which the tags of a kind must differ.
+    static QString scopeOf(const ElementSchema &kind)
+    {
+        return kind.holder == ElementKind::None ? kind.listName() : schemaOf(kind.holder).listName() + kind.listName();
+    }
+
+    void checkNamesOf(const ElementSchema &kind, const QDomElement &list)
+    {
+        // Every floor has a room "Undefined" of its own.
+        if (kind.kind == ElementKind::Rooms)
+            m_linesOfTags[scopeOf(kind)].remove(words::Undefined);
+        checkTags(list, scopeOf(kind));
+        checkIds(list);
+    }
+
+    /// Returns what is said of a tag that leads nowhere.
+    static QString missingText(const Reference &reference)
+    {
+        if (reference.targets.contains(ElementKind::Points))
+            return tr("\"%1\": there is no point, port or vertical run \"%2\"");
+        if (reference.targets.contains(ElementKind::VerticalRuns))
+            return tr("\"%1\": there is no port or vertical run \"%2\"");
+        if (reference.targets.contains(ElementKind::Ports))
+            return tr("\"%1\": there is no port \"%2\"");
+        if (reference.targets.contains(ElementKind::Devices))
+            return tr("\"%1\": there is no device or point \"%2\"");
+        return tr("\"%1\": there is no cable \"%2\"");
+    }
+
+    void checkReferences(const ElementSchema &kind, const QDomElement &element)
+    {
+        for (const Reference &reference : kind.references) {
+            for (const QString &attribute : reference.attributes) {
+                for (const QString &tag : reference.tagsIn(element.attribute(attribute))) {
+                    const bool isThere =
+                        std::any_of(reference.targets.begin(), reference.targets.end(), [&](ElementKind target) {
+                            return m_linesOfTags.value(scopeOf(schemaOf(target))).contains(tag);
+                        });
+                    if (!isThere)
+                        reportMissing(element, missingText(reference).arg(attribute, excerpt(tag)));
+                }
+            }
+        }
+        if (kind.kind != ElementKind::Cables)
+            return;
+        checkType(element, element.attribute(words::Type));
+        const QString bundle = element.attribute(words::BundleName);
         if (!bundle.isEmpty() && m_bundles.count(bundle) == 0)
-            reportMissing(cable, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
-    }
-
-    void checkVertRuns()
-    {
-        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
-            for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
-                for (const QDomElement &vertRun : ChildElements(room.firstChildElement(words::VerticalRunList)))
-                    checkVertRun(vertRun);
-            }
-        }
-    }
-
-    void checkVertRun(const QDomElement &vertRun)
-    {
-        for (const QString &attribute : {words::Connected, words::Disconnected}) {
-            QStringList cables;
-            fromText(vertRun.attribute(attribute), &cables);
-            for (const QString &cable : std::as_const(cables)) {
-                if (!hasTag(words::CableList, cable))
-                    reportMissing(vertRun, tr("\"%1\": there is no cable \"%2\"").arg(attribute, excerpt(cable)));
-            }
-        }
-    }
-
-    void checkConnection(const QDomElement &connection)
-    {
-        for (const QString &attribute : {words::From, words::To}) {
-            const QString end = connection.attribute(attribute);
-            if (!end.isEmpty() && !hasTag(words::DeviceList, end) && !hasTag(words::VerticeList, end))
-                reportMissing(connection,
-                              tr("\"%1\": there is no device or point \"%2\"").arg(attribute, excerpt(end)));
-        }
+            reportMissing(element, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
     }
 
     // Characters and numbers
@@ -343,13 +263,13 @@ private:
             const QDomAttr attribute = attributes.item(i).toAttr();
             checkText(element, attribute.name(), attribute.value());
         }
-        for (const QString &name : {node.parentNode().nodeName(), node.nodeName()})
-            checkNumbers(element, numberChecks().value(name));
+        checkNumbers(element, jobFileAttributes().inList.value(node.parentNode().nodeName()));
+        checkNumbers(element, jobFileAttributes().ofElement.value(node.nodeName()));
     }
 
-    void checkNumbers(const QDomElement &element, InvalidNumbers invalidNumbers)
+    void checkNumbers(const QDomElement &element, const AttributeList *attributes)
     {
-        const QStringList names = invalidNumbers == nullptr ? QStringList() : invalidNumbers(element);
+        const QStringList names = attributes == nullptr ? QStringList() : attributes->invalidNumbers(element);
         for (const QString &name : names) {
             report("invalid-number", element,
                    tr("\"%1\": \"%2\" is not a number that can be used").arg(name, excerpt(element.attribute(name))));

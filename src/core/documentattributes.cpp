@@ -122,16 +122,27 @@ const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes()
     return table;
 }
 
-xmlfile::AttributeOrder documentAttributeOrder()
+const FileAttributes &documentFileAttributes()
+{
+    static const FileAttributes attributes{
+        {{words::TestDefList, &testDefAttributes()},
+         {words::BundledCableList, &bundledCableAttributes()},
+         {words::PrintSettingsList, &printSettingsAttributes()},
+         {words::PageSettingsList, &pageSettingsAttributes()},
+         {words::ScaleSettingsList, &scaleSettingsAttributes()}},
+        {{words::Address, &addressAttributes()}},
+    };
+    return attributes;
+}
+
+xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes)
 {
     xmlfile::AttributeOrder order;
-    order.ofElement = {{words::ContractorInfo, contractorInfoAttributes()},
-                       {words::Address, addressAttributes().names()}};
-    order.inContainer = {{words::TestDefList, testDefAttributes().names()},
-                         {words::BundledCableList, bundledCableAttributes().names()},
-                         {words::PrintSettingsList, printSettingsAttributes().names()},
-                         {words::PageSettingsList, pageSettingsAttributes().names()},
-                         {words::ScaleSettingsList, scaleSettingsAttributes().names()}};
+    for (auto list = attributes.inList.cbegin(); list != attributes.inList.cend(); ++list)
+        order.inContainer.insert(list.key(), list.value()->names());
+    for (auto element = attributes.ofElement.cbegin(); element != attributes.ofElement.cend(); ++element)
+        order.ofElement.insert(element.key(), element.value()->names());
+    order.ofElement.insert(words::ContractorInfo, contractorInfoAttributes());
     return order;
 }
 

@@ -9,6 +9,8 @@
 #include "testdef.h"
 #include "xmlfile.h"
 
+#include <QtCore/QMap>
+
 namespace cabledoc {
 
 /// Returns the attributes of the contractor in the order in which the file has them.
@@ -29,7 +31,15 @@ const AttributeTable<PrintSettingsFields> &printSettingsAttributes();
 const AttributeTable<PageSettingsFields> &pageSettingsAttributes();
 const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes();
 
-/// Returns the order of the attributes of all elements that both documents have.
-xmlfile::AttributeOrder documentAttributeOrder();
+/// The attributes of the elements in a file.
+struct FileAttributes
+{
+    QMap<QString, const AttributeList *> inList;    ///< of the elements in the list of that name
+    QMap<QString, const AttributeList *> ofElement; ///< of the elements of that name
+};
+/// Returns the attributes of all elements that both documents have.
+const FileAttributes &documentFileAttributes();
+/// Returns the order of these attributes, and of those of the contractor.
+xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes);
 
 } // namespace cabledoc

@@ -18,7 +18,7 @@ bool saveToItsFile(Document *document, Document::Replace replace)
         document->error = BktEditor::tr("Filename is empty.");
         return false;
     }
-    if (!document->isLoaded() || !document->write(document->filename, documentAttributeOrder(), replace))
+    if (!document->isLoaded() || !document->write(document->filename, attributeOrder(documentFileAttributes()), replace))
         return false;
     document->tree().setChanged(false);
     return true;
@@ -122,7 +122,7 @@ bool BktEditor::saveAs(const QString &filename)
         inside().error = tr("Unable to Save file (NULL)");
         return false;
     }
-    return inside().write(filename, documentAttributeOrder(), Document::Replace::AnyFile);
+    return inside().write(filename, attributeOrder(documentFileAttributes()), Document::Replace::AnyFile);
 }
 
 bool BktEditor::checkBktExtension(const QString &filename)

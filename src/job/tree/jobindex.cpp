@@ -12,21 +12,6 @@ namespace cabledoc {
 namespace {
 
 using Elements = QVector<QDomElement>;
-using ChildrenOf = Elements (*)(const QDomElement &list);
-
-/// Returns the lists of a kind in document order. Which of the elements in a list are looked into depends on the
-/// function: allChildren() or reachableChildren().
-Elements listsOf(const ElementSchema &kind, const QDomElement &root, ChildrenOf childrenOf)
-{
-    if (kind.holder == ElementKind::None)
-        return {kind.listIn(root)};
-    Elements lists;
-    for (const QDomElement &holderList : listsOf(schemaOf(kind.holder), root, childrenOf)) {
-        for (const QDomElement &holder : childrenOf(holderList))
-            lists.append(kind.listIn(holder));
-    }
-    return lists;
-}
 
 QDomElement holderOf(const QDomElement &element)
 {

@@ -1,6 +1,5 @@
 #include "jobschema.h"
 
-#include "documentattributes.h"
 #include "jobwords.h"
 
 namespace cabledoc {
@@ -12,7 +11,7 @@ const Kind<CableFields> &cableKind()
     static const Kind<CableFields> row(
         Element::Cables, Element::None, {words::CableList}, ListCreation::WithHolder, words::CableTagPrefix,
         cableAttributes(), {},
-        {{{words::To, words::From}, {Element::Ports, Element::VerticalRuns}, Reference::RemoveElement},
+        {{{words::From, words::To}, {Element::Ports, Element::VerticalRuns}, Reference::RemoveElement},
          {{words::Path}, {Element::Points, Element::Ports, Element::VerticalRuns}, Reference::ForgetTag}},
         Setters::ChangeAttributes);
     return row;
@@ -23,7 +22,7 @@ const Kind<DeviceConnectionFields> &connectionKind()
     static const Kind<DeviceConnectionFields> row(
         Element::Connections, Element::None, {words::ConnectionList}, ListCreation::WithHolder,
         words::ConnectionTagPrefix, connectionAttributes(), {},
-        {{{words::To, words::From}, {Element::Devices, Element::Vertices}, Reference::RemoveElement}},
+        {{{words::From, words::To}, {Element::Devices, Element::Vertices}, Reference::RemoveElement}},
         Setters::ChangeAttributes);
     return row;
 }
@@ -130,6 +129,13 @@ const ElementSchema &schemaOf(ElementKind kind)
     return *jobSchema()[std::size_t(kind)];
 }
 
+QStringList Reference::tagsIn(const QString &text) const
+{
+    if (whenGone == ForgetTag)
+        return entriesIn(text);
+    return text.isEmpty() ? QStringList() : QStringList(text);
+}
+
 QDomElement ElementSchema::listIn(const QDomElement &parent) const
 {
     QDomElement element = parent;
@@ -156,6 +162,19 @@ ElementKind kindOf(const QDomElement &element)
     return ElementKind::None;
 }
 
+QVector<QDomElement> listsOf(const ElementSchema &kind, const QDomElement &root,
+                             QVector<QDomElement> (*childrenOf)(const QDomElement &list))
+{
+    if (kind.holder == ElementKind::None)
+        return {kind.listIn(root)};
+    QVector<QDomElement> lists;
+    for (const QDomElement &holderList : listsOf(schemaOf(kind.holder), root, childrenOf)) {
+        for (const QDomElement &holder : childrenOf(holderList))
+            lists.append(kind.listIn(holder));
+    }
+    return lists;
+}
+
 const QStringList &namingAttributes()
 {
     static const QStringList names = [] {
@@ -170,14 +189,23 @@ const QStringList &namingAttributes()
     return names;
 }
 
+const FileAttributes &jobFileAttributes()
+{
+    static const FileAttributes attributes = [] {
+        FileAttributes all = documentFileAttributes();
+        for (const ElementSchema *row : jobSchema())
+            all.inList.insert(row->listName(), &row->attributes);
+        all.ofElement.insert(words::ActiveTestResult, &activeTestResultAttributes());
+        all.ofElement.insert(words::TestResults, &testResultsAttributes());
+        return all;
+    }();
+    return attributes;
+}
+
 const xmlfile::AttributeOrder &jobAttributeOrder()
 {
     static const xmlfile::AttributeOrder order = [] {
-        xmlfile::AttributeOrder all = documentAttributeOrder();
-        for (const ElementSchema *row : jobSchema())
-            all.inContainer.insert(row->listName(), row->attributes.names());
-        all.ofElement.insert(words::ActiveTestResult, activeTestResultAttributes().names());
-        all.ofElement.insert(words::TestResults, testResultsAttributes().names());
+        xmlfile::AttributeOrder all = attributeOrder(jobFileAttributes());
         all.ofElement.insert(words::SiteInfo, siteInfoAttributes());
         return all;
     }();

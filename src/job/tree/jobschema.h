@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documentattributes.h"
 #include "jobattributes.h"
 
 #include <array>
@@ -44,6 +45,9 @@ struct Reference
     QStringList attributes;
     QVector<ElementKind> targets;
     WhenGone whenGone;
+
+    /// Returns the tags in the text of an attribute. A text with commas that stands for one tag leads nowhere.
+    QStringList tagsIn(const QString &text) const;
 };
 
 /// What writing a single attribute does if the element lacks it.
@@ -111,10 +115,16 @@ const ElementSchema &schemaOf(ElementKind kind);
 
 /// Returns the kind of an element by its place in the tree, or None if it has none.
 ElementKind kindOf(const QDomElement &element);
+/// Returns the lists of a kind in document order. Which of the elements in a list are looked into depends on the
+/// function: allChildren() or reachableChildren().
+QVector<QDomElement> listsOf(const ElementSchema &kind, const QDomElement &root,
+                             QVector<QDomElement> (*childrenOf)(const QDomElement &list));
 /// Returns the names of the attributes that hold tags.
 const QStringList &namingAttributes();
 
-/// Returns the order of the attributes of all elements in a job file.
+/// Returns the attributes of all elements in a job file.
+const FileAttributes &jobFileAttributes();
+/// Returns the order of the attributes in a job file.
 const xmlfile::AttributeOrder &jobAttributeOrder();
 
 } // namespace cabledoc

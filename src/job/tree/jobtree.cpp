@@ -186,9 +186,7 @@ QVector<QDomElement> JobTree::elementsNaming(const QString &tag, const ElementSc
     const QVector<QDomElement> all = m_index.references().elementsNaming(tag);
     for (const QDomElement &element : all) {
         const auto isNaming = [&](const QString &attribute) {
-            const QString text = element.attribute(attribute);
-            // An attribute that holds one tag names nothing if it has commas.
-            return reference.whenGone == Reference::RemoveElement ? text == tag : entriesIn(text).contains(tag);
+            return reference.tagsIn(element.attribute(attribute)).contains(tag);
         };
         if (element.parentNode().nodeName() == kind.listName()
             && std::any_of(reference.attributes.begin(), reference.attributes.end(), isNaming))
