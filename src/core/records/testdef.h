@@ -147,6 +147,6 @@ public:
     ///
     /// A maximum length above 330 feet, or none, gives a warning if nothing else is wrong. A data rate of 1000 or 100,
     /// a signal-to-noise ratio or a skew requires a length constant from 1000 to 6500. Both data rates require a
-    /// signal-to-noise ratio of at least 200, and 1000 also requires a skew from 1 to 500.
+    /// signal-to-noise ratio of at least 200, and 1000 also requires a skew, which must be at most 500.
     QString validDef() const;
 };
