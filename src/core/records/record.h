@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+/// Everything in the library that is not a document, a record of one, a validator or a date.
 namespace cabledoc {
 
 /// Holds the fields of a record, and copies and compares them as one. All records derive from this class.
