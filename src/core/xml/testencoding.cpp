@@ -10,8 +10,7 @@ namespace {
 
 constexpr int blockBytes = 48;
 
-/// Calls the two functions with each one-byte and each 32-bit field of a results block, in the order of
-/// its text form.
+/// Calls the two functions with each one-byte and each 32-bit field of a results block, in the order of its text form.
 template <typename Block, typename ByteUse, typename WordUse>
 void forEachField(Block *block, ByteUse useByte, WordUse useWord)
 {
@@ -34,7 +33,7 @@ void forEachField(Block *block, ByteUse useByte, WordUse useWord)
     words(block->word_group_d);
 }
 
-/// Only upper-case digits have their values. Files hold no others, and what others give must not change.
+/// Only upper-case digits give their values. Files hold no others, and the values of others must not change.
 int nibble(QChar character)
 {
     const int code = character.unicode();
@@ -124,7 +123,7 @@ void fromText(const QString &text, cable_struct *block)
         const int high = nibble(*next++);
         return quint8(high * 16 + nibble(*next++));
     };
-    // What the text is too short for keeps its untested value.
+    // Fields that are missing at the end of the text keep their untested values.
     forEachField(
         block,
         [&](quint8 &field) {
@@ -139,7 +138,7 @@ void fromText(const QString &text, cable_struct *block)
                 next = end;
             }
         });
-    // The lengths and the first group keep 65535, deliberately.
+    // The lengths and the first group deliberately keep 65535.
     for (auto *group : {&block->word_group_c, &block->word_group_d}) {
         for (qint32 &value : *group)
             value = value > 65534 ? -1 : value;
