@@ -20,7 +20,7 @@ namespace {
 const QString connector = QStringLiteral("connector");
 const QString networkDevicesSettings = QStringLiteral("NetworkDevices_Settings");
 
-/// The colour of a cable type that the system brings; black for another.
+/// Returns the colour of a built-in cable type, or black for any other type.
 QString colorOfType(const QString &type)
 {
     static const QMap<QString, QString> colors{
@@ -49,8 +49,8 @@ void setVersion(const QDomElement &root, const QString &number)
     root.firstChildElement(words::Version).setAttribute(words::Number, number);
 }
 
-/// Adds to the expected blocks what 1.4 brought. Up to 1.3 the element of a definition was named "T" and its
-/// type; it is removed and added under a tag of today, with all that it holds.
+/// Completes the expected blocks with what version 1.4 added. Up to version 1.3 the tag of a definition was "T" and its
+/// type. Each definition is removed and added again under a tag of the current form, with its whole content.
 void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
 {
     QVector<QDomElement> definitions;
@@ -82,7 +82,7 @@ void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
     }
 }
 
-/// Every definition keeps its tag when that holds a number and is its own.
+/// Gives a new tag to each definition whose tag has no number or belongs to an earlier definition.
 void giveDefinitionsTheirOwnTags(const QDomElement &list)
 {
     static const QRegularExpression number(QStringLiteral("[1-9][0-9]{0,}"));
@@ -102,14 +102,14 @@ void addColor(QDomElement definition)
 {
     if (definition.hasAttribute(words::Color))
         return;
-    // Only what a file says is no default type is left black; the earliest files say nothing.
+    // A type stays black only if the file says that it is not a built-in one. The earliest files do not say anything.
     const bool isOwnType =
         definition.hasAttribute(words::DefaultType) && definition.attribute(words::DefaultType).toInt() == 0;
     definition.setAttribute(words::Color,
                             isOwnType ? TestDefFields().color : colorOfType(definition.attribute(words::Id)));
 }
 
-/// The connector was a text of its own. Beside a comment that is there already it follows that.
+/// The connector was an attribute of its own. It is appended to a comment that already exists.
 void turnConnectorIntoComment(QDomElement definition)
 {
     QStringList remarks{definition.attribute(words::Comment), definition.attribute(connector)};
@@ -164,7 +164,7 @@ bool BKXMLEditor::convert11To14(QDomElement *root, QDomNode *rootNode)
 bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
 {
     setVersion(*root, QStringLiteral("1.4"));
-    // The unit became ten times as large.
+    // The unit became ten times larger.
     replaceDefinitions(root->firstChildElement(words::TestDefList), 10.0);
     return true;
 }
@@ -172,7 +172,7 @@ bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
 bool BKXMLEditor::convert13To14(QDomElement *root, QDomNode *)
 {
     setVersion(*root, QStringLiteral("1.4"));
-    // Deliberately without the division: 1.3 has the later unit already.
+    // Deliberately without the division, because version 1.3 already has the newer unit.
     replaceDefinitions(root->firstChildElement(words::TestDefList), 1.0);
     return true;
 }

@@ -42,8 +42,10 @@ private:
     Vocabulary(const char *context, const QString &pictures, const QVector<Entry> &entries);
     const Entry *find(const QString &word) const;
 
-    const char *m_context; // of the names' translations
-    QString m_pictures;    // what the names of the picture files begin with
+    // Context of the translations of the names.
+    const char *m_context;
+    // First part of the names of the picture files.
+    QString m_pictures;
     QVector<Entry> m_entries;
 };
 
