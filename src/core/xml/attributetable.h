@@ -12,34 +12,40 @@
 
 namespace cabledoc {
 
-/// What reading a whole record does about an attribute that the element lacks.
+/// What the reader of a whole record does if the element lacks an attribute.
 enum class WhenMissing {
-    UseDefault, ///< the record has the default, the element stays as it is
-    AddDefault, ///< the element gets the default too: this brings older files up to date
+    /// The record gets the default. The element stays as it is.
+    UseDefault,
+    /// The element gets the default too. This brings older files up to date.
+    AddDefault,
 };
 
-/// One attribute of a kind of element.
+/// One attribute of a kind of elements.
 template <typename Fields> struct Attribute
 {
     QString name;
-    QString defaultText; ///< what stands for a missing attribute
+    /// Text that counts if the attribute is missing.
+    QString defaultText;
     WhenMissing whenMissing;
-    QString (*text)(const Fields &);          ///< null when writing a record leaves the attribute alone
-    void (*parse)(const QString &, Fields *); ///< null when reading a record does
-    bool (*isValid)(const QString &);         ///< whether the field can hold the number that the text says
+    /// Makes the text of the attribute. Null if writing a record does not touch the attribute.
+    QString (*text)(const Fields &);
+    /// Reads the text of the attribute. Null if reading a record does not touch the attribute.
+    void (*parse)(const QString &, Fields *);
+    /// Returns whether the field can hold the number in a text.
+    bool (*isValid)(const QString &);
 };
 
 template <typename Fields, typename Value> Fields fieldsOf(Value Fields::*);
 
 template <typename Fields, typename Value> const Value *pointerTo(Value Fields::*);
 
-/// Whether the field of the record can hold the number that the text says.
+/// Returns whether the field of the record can hold the number in the text.
 template <auto Field> bool holdsNumber(const QString &text)
 {
     return holdsNumber(text, decltype(pointerTo(Field))(nullptr));
 }
 
-/// The attribute that holds a field of the record; its default is the field's.
+/// Returns the attribute that holds a field of the record. Its default is that of the field.
 template <auto Field> auto attribute(const QString &name, WhenMissing whenMissing = WhenMissing::UseDefault)
 {
     using Fields = decltype(fieldsOf(Field));
@@ -51,7 +57,7 @@ template <auto Field> auto attribute(const QString &name, WhenMissing whenMissin
                              holdsNumber<Field>};
 }
 
-/// The same for a number that loses its fraction when it is written.
+/// Returns the attribute of a number that is written without its fraction.
 template <auto Field> auto truncatedNumber(const QString &name)
 {
     using Fields = decltype(fieldsOf(Field));
@@ -63,7 +69,7 @@ template <auto Field> auto truncatedNumber(const QString &name)
                              holdsNumber<Field>};
 }
 
-/// The same for a field that is a double in the record and a whole number in the file.
+/// Returns the attribute of a field that is a double in the record and a whole number in the file.
 template <auto Field> auto wholeNumber(const QString &name)
 {
     using Fields = decltype(fieldsOf(Field));
@@ -75,7 +81,7 @@ template <auto Field> auto wholeNumber(const QString &name)
                              [](const QString &text) { return holdsNumber(text, static_cast<const int *>(nullptr)); }};
 }
 
-/// An attribute whose field is read with the record, but which new elements lack.
+/// Returns an attribute whose field is read with the record, but which new elements do not have.
 template <auto Field> auto readOnly(const QString &name)
 {
     auto row = attribute<Field>(name);
@@ -83,15 +89,15 @@ template <auto Field> auto readOnly(const QString &name)
     return row;
 }
 
-/// An attribute that no record holds and new elements lack: it comes with the first operation that
-/// needs it.
+/// Returns an attribute that no record holds and that new elements do not have. The first operation that needs it adds
+/// it.
 template <typename Fields> Attribute<Fields> onDemand(const QString &name, const QString &defaultText)
 {
     return {name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }};
 }
 
-/// The attributes of one kind of element, in the order in which the file has them. All that creates,
-/// reads or completes such an element goes by this table; a new field is one more row.
+/// The attributes of one kind of elements, in the order of the file. Everything that creates, reads or completes such
+/// an element uses this table, so a new field takes one more row.
 template <typename Fields> class AttributeTable
 {
 public:
@@ -108,7 +114,7 @@ public:
         return names;
     }
 
-    /// The default of the attribute of that name; empty for a name that the table lacks.
+    /// Returns the default of the attribute with the given name, or an empty string if the table has none.
     QString defaultText(const QString &name) const
     {
         for (const Attribute<Fields> &attribute : m_attributes) {
@@ -118,7 +124,7 @@ public:
         return QString();
     }
 
-    /// Writes the fields into the element, each attribute only where it differs. True when one did.
+    /// Writes the fields into the element. Writes an attribute only if it differs. Returns whether any did.
     bool write(QDomElement element, const Fields &fields) const
     {
         bool changed = false;
@@ -143,7 +149,7 @@ public:
         }
     }
 
-    /// The fields that the element holds, defaults where it lacks them.
+    /// Returns the fields in the element, with defaults for missing ones.
     Fields read(const QDomElement &element) const
     {
         Fields fields;
@@ -154,7 +160,7 @@ public:
         return fields;
     }
 
-    /// The attributes of the element whose fields cannot hold the numbers that they say.
+    /// Returns the attributes of the element whose numbers their fields cannot hold.
     QStringList invalidNumbers(const QDomElement &element) const
     {
         QStringList names;
@@ -165,8 +171,7 @@ public:
         return names;
     }
 
-    /// Gives the element what it lacks of the attributes marked WhenMissing::AddDefault. True when it
-    /// lacked one.
+    /// Adds those missing attributes that are marked WhenMissing::AddDefault. Returns whether any was missing.
     bool complete(QDomElement element) const
     {
         bool changed = false;

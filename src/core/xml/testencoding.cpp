@@ -40,7 +40,7 @@ int nibble(QChar character)
     return code < ':' ? code - '0' : code - '7';
 }
 
-/// Reads the numbers of a curve one after the other, without a list of them.
+/// Reads the numbers of a curve one after the other, without making a list of them.
 class NumberReader
 {
 public:
@@ -52,7 +52,7 @@ public:
 
     bool atEnd() const { return m_isBehind; }
 
-    /// The number up to the next comma; 0 when it is none.
+    /// Returns the number up to the next comma, or 0 if it is not a number.
     qint32 next()
     {
         const QChar *start = m_position;
@@ -73,7 +73,8 @@ public:
 private:
     static bool isDigit(QChar character) { return unsigned(character.unicode()) - u'0' <= 9U; }
 
-    /// Anything but up to nine digits with or without a minus: more digits, blanks, other signs, or nothing.
+    /// Reads a number that is not up to nine digits with or without a minus: one with more digits, blanks or other
+    /// signs, or no number.
     qint32 oddNumber(const QChar *start)
     {
         while (m_position != m_end && *m_position != QLatin1Char(','))
