@@ -27,7 +27,7 @@ QString pathOf(const QDomElement &element)
     return path.join(QLatin1Char('/'));
 }
 
-/// A document that is only looked at.
+/// A document that is checked and not changed.
 class CheckedDocument : public BKXMLEditor
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
@@ -62,7 +62,7 @@ public:
 private:
     void report(const char *rule, const QDomElement &element, const QString &message)
     {
-        // What an older file lacks and was just added has no line. It is nothing to complain of.
+        // An element that was just added because an older file lacks it has no line. This is not a finding.
         if (element.lineNumber() > 0)
             m_report.findings.append({QLatin1String(rule), element.lineNumber(), pathOf(element), message});
     }
@@ -89,8 +89,8 @@ private:
 
     // Names
 
-    /// Looks at the names of the children. Their tags must differ within the scope, which is a kind of
-    /// element in the whole document.
+    /// Checks the names of the children. Their tags must differ within the scope, which is a kind of element in the
+    /// whole document.
     void checkTags(const QDomElement &list, const QString &scope)
     {
         QMap<QString, int> &lines = m_linesOfTags[scope];
@@ -128,7 +128,7 @@ private:
         report("missing-reference", element, message);
     }
 
-    // What both documents hold
+    // Elements of both documents
 
     void checkShared()
     {
@@ -153,7 +153,7 @@ private:
     {
         TestDef definition(testDefAttributes().read(element));
         m_types.insert(definition.id());
-        // A length that calls for a warning only.
+        // A maximum length that gives only a warning does not count.
         definition.setMaxLength(TestDefFields().maxLength);
         const QString verdict = definition.validDef();
         if (verdict != QLatin1String("GOOD"))
@@ -166,7 +166,7 @@ private:
             reportMissing(element, tr("there is no test definition \"%1\"").arg(excerpt(type)));
     }
 
-    // What jobs hold
+    // Elements of jobs
 
     void checkJob()
     {
@@ -285,8 +285,10 @@ private:
     }
 
     CheckReport m_report;
-    QMap<QString, QMap<QString, int>> m_linesOfTags; ///< by scope
-    std::set<QString> m_types;                       ///< with a test definition
+    /// Lines of the elements by their tags, by scope.
+    QMap<QString, QMap<QString, int>> m_linesOfTags;
+    /// Cable types that have a test definition.
+    std::set<QString> m_types;
     std::set<QString> m_bundles;
 };
 

@@ -14,12 +14,12 @@ using namespace cabledoc;
 
 namespace {
 
-// The grid of new rooms, in plan pixels
+// The grid of new rooms, in plan pixels.
 constexpr int roomsInRow = 6;
 constexpr int roomWidth = 240;
 constexpr int roomHeight = 160;
 constexpr int gap = 40;
-// Ports
+// The places of new ports.
 constexpr int portsInRow = 16;
 constexpr int undefinedPortDistance = 24;
 constexpr int undefinedPortTop = 12;
@@ -37,8 +37,8 @@ RoomFields placeOfRoom(int number, double top)
     return fields;
 }
 
-/// Any number of ports is spread over the room: the golden ratio puts each row into the widest space that those
-/// before it leave.
+/// Returns the place of a port in a room. Any number of ports is spread over the room: the golden ratio puts each row
+/// into the widest space that the rows before it leave.
 QPointF placeOfPort(int number, const QRectF &area)
 {
     if (area.isEmpty())
@@ -51,7 +51,7 @@ QPointF placeOfPort(int number, const QRectF &area)
     return {rounded(area.left() + across * area.width()), rounded(area.top() + down * area.height())};
 }
 
-/// Fields of a cable but its ends, which take more than a text.
+/// A field of a cable that is a single text, unlike its ends.
 struct TextField
 {
     column::Column column;
@@ -72,7 +72,7 @@ const std::array<TextField, 6> &textFields()
     return fields;
 }
 
-/// Brings a job up to a schedule, or only counts what that takes.
+/// Brings a job up to date with a schedule, or only counts the changes.
 class ScheduleImport
 {
 public:
@@ -148,7 +148,7 @@ private:
         (m_job.*setter)(cable.tagName(), text);
     }
 
-    // What the job lacks of an end is added. In a dry run it is there from then on, but without a tag.
+    // An end that the job lacks is added. In a dry run it counts as added from then on, but has no tag.
 
     QString endTag(const ScheduleRow &row, std::size_t floorColumn)
     {
@@ -205,7 +205,7 @@ private:
         return m_there.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
     }
 
-    /// A floor that was not made here may lack its list.
+    /// Floors that the import has not added may lack a list of rooms.
     void ensureRoomList(const FloorPlace &floor)
     {
         if (m_job.getToRoomList(floor.tag).isNull())

@@ -74,7 +74,7 @@ private:
             readHeading(CsvRow());
     }
 
-    /// False for a heading under which every row would be wrong.
+    /// Returns false if every row under this heading would be wrong.
     bool readHeading(const CsvRow &heading)
     {
         const auto problemsBefore = m_file.problems.size();
@@ -127,7 +127,7 @@ private:
         if (m_file.problems.isEmpty())
             m_file.rows.append(texts);
         else
-            m_file.rows.clear(); // nobody will need them
+            m_file.rows.clear(); // no longer needed
     }
 
     QString readField(const CsvRow &row, int field)
@@ -163,15 +163,17 @@ private:
             report(row, m_fieldOf[floorColumn] + 1, m_noFloor);
     }
 
-    // One text for a million rows
+    // Translated once, even if a million rows need them.
     const QString m_noPort = tr("the end has a floor or room, but no port");
     const QString m_noFloor = tr("the end has a port, but no floor");
     const QString m_noId = tr("the cable has no id");
     const QString m_tooManyFields = tr("the row has more fields than the heading");
-    bool m_canHoldAll; ///< whether the job can hold characters beyond Latin-1
+    /// Whether the job can hold characters beyond Latin-1.
+    bool m_canHoldAll;
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
-    std::array<int, column::Count> m_fieldOf{}; ///< the place of a column that the file has
+    /// Field of each column that the file has.
+    std::array<int, column::Count> m_fieldOf{};
     QMap<QString, int> m_rowOfId;
 };
 

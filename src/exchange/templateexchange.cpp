@@ -7,11 +7,11 @@
 
 using namespace cabledoc;
 
-// What moves between a job and a template, through the operations that both documents have.
+// Copies between a job and a template, through the operations that both documents have.
 
 namespace {
 
-/// Stores print, page and scale settings of the source in the target.
+/// Copies the print, page and scale settings of the source to the target.
 void copySettings(BKXMLEditor &source, BKXMLEditor *target)
 {
     for (const QString &name : printSettingsEntries())
@@ -22,7 +22,7 @@ void copySettings(BKXMLEditor &source, BKXMLEditor *target)
         target->setPageSettings(source.getPageSettings(name), name);
 }
 
-/// The definitions of the built-in types.
+/// Returns the definitions of the built-in types.
 QVector<TestDef> defaultDefinitions(const BKXMLEditor &source)
 {
     QVector<TestDef> definitions = source.getTestDefs();

@@ -18,7 +18,8 @@ bool saveToItsFile(Document *document, Document::Replace replace)
         document->error = BktEditor::tr("Filename is empty.");
         return false;
     }
-    if (!document->isLoaded() || !document->write(document->filename, attributeOrder(documentFileAttributes()), replace))
+    if (!document->isLoaded()
+        || !document->write(document->filename, attributeOrder(documentFileAttributes()), replace))
         return false;
     document->tree().setChanged(false);
     return true;

@@ -12,17 +12,20 @@
 
 namespace cabledoc {
 
-/// What reading a whole record does about an attribute that the element lacks.
+/// What the reader of a whole record does if the element lacks an attribute.
 enum class WhenMissing {
-    UseDefault, ///< the record has the default, the element stays as it is
-    AddDefault, ///< the element gets the default too: this brings older files up to date
+    /// The record gets the default. The element stays as it is.
+    UseDefault,
+    /// The element gets the default too. This brings older files up to date.
+    AddDefault,
 };
 
 /// One attribute of a kind of element. The functions take a pointer to the fields of the record.
 struct AttributeRow
 {
     QString name;
-    QString defaultText; ///< what stands for a missing attribute
+    /// Text that counts if the attribute is missing.
+    QString defaultText;
     WhenMissing whenMissing;
     QString (*text)(const void *fields);              ///< null if writing a record leaves the attribute alone
     void (*parse)(const QString &text, void *fields); ///< null if reading a record leaves the field alone

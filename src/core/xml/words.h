@@ -2,20 +2,20 @@
 
 #include <QtCore/QString>
 
-/// The fixed words of both file kinds. Every element or attribute name stands here once.
+/// The fixed words of both kinds of files. Each element name and attribute name is here once.
 namespace cabledoc::words {
 
 // The template file
 inline const QString Bkt = QStringLiteral("Bkt");
 inline const QString BktExtension = QStringLiteral("bkt");
 
-// Version
+// The version
 inline const QString Version = QStringLiteral("Version");
 inline const QString Number = QStringLiteral("number");
 inline const QString CurrentVersion = QStringLiteral("3.0");
 inline const QString Release = QStringLiteral("Release");
 
-// Contractor, site and notes
+// The contractor, the site and the notes
 inline const QString ContractorInfo = QStringLiteral("Contractor_Info");
 inline const QString SiteInfo = QStringLiteral("Site_Info");
 inline const QString Address = QStringLiteral("Address");
@@ -29,7 +29,7 @@ inline const QString Email = QStringLiteral("email");
 inline const QString Phone = QStringLiteral("phone");
 inline const QString Logo = QStringLiteral("logo");
 
-// Containers that both documents hold
+// Containers in both documents
 inline const QString TestDefList = QStringLiteral("TestDef_List");
 inline const QString BundledCableList = QStringLiteral("BundledCable_List");
 inline const QString BundledCableTypeList = QStringLiteral("BundledCableType_List");
@@ -50,7 +50,7 @@ inline const QString ActiveNetworkTestResultsSettings = QStringLiteral("ActiveNe
 /// What the settings of the inventory were named up to version 2.3.
 inline const QString NetworkDevicesSettings = QStringLiteral("NetworkDevices_Settings");
 
-// Generated tags are one of these and a number
+// Generated tags: one of these and a number
 inline const QString TestDefTagPrefix = QStringLiteral("TestDef");
 inline const QString BundledCableTagPrefix = QStringLiteral("BundledCable");
 inline const QString BundledCableTypeTagPrefix = QStringLiteral("BundledCableType");
@@ -99,11 +99,11 @@ inline const QString WidthUnits = QStringLiteral("width_units");
 inline const QString HeightUnits = QStringLiteral("height_units");
 inline const QString ScaleStyle = QStringLiteral("style");
 
-// Attributes that several kinds of element have
+// Attributes of several kinds of elements
 inline const QString Color = QStringLiteral("color");
 inline const QString DefaultType = QStringLiteral("default_type");
 
-// The name that every element of a kind of its own shows to the user
+// Attribute with the name that the user sees
 inline const QString Id = QStringLiteral("id");
 
 } // namespace cabledoc::words

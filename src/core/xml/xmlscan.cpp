@@ -10,14 +10,14 @@
 
 namespace {
 
-/// What files of other encodings begin with.
+/// The first bytes of files in other encodings.
 constexpr std::pair<const char *, const char *> marks[] = {
     {"\xEF\xBB\xBF", "UTF-8"},
     {"\xFE\xFF", "UTF-16"},
     {"\xFF\xFE", "UTF-16"},
 };
 
-/// Walks the markup of a text. Where the text is not well-formed the walk may go astray, but not before
+/// Walks through the markup of a text. If the text is not well-formed, the walk may take a wrong way, but not before
 /// the place at which the parser stops.
 class Scanner
 {
@@ -41,7 +41,7 @@ public:
                 return m_problem;
             }
         }
-        // The parser lets control characters pass in names.
+        // The parser does not notice control characters in names.
         m_position = firstForbidden();
         if (m_position != m_end)
             report(QCoreApplication::translate("XmlFile", "There is a control character that XML does not allow."));
@@ -69,7 +69,7 @@ private:
 
     const char *firstForbidden() const
     {
-        // In blocks without a way out, which the compiler turns into a few instructions.
+        // In blocks without an early exit, which the compiler turns into a few instructions.
         constexpr std::ptrdiff_t blockSize = 4096;
         const char *block = m_begin;
         for (; m_end - block >= blockSize; block += blockSize) {
