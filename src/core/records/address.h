@@ -22,13 +22,14 @@ struct AddressFields
     QString zipcode;
     /// Country.
     QString country;
-
-    auto members() const
-    {
-        const auto &[line1, line2, town, region, code, land] = *this;
-        return std::tie(line1, line2, town, region, code, land);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const AddressFields &fields)
+{
+    const auto &[address1, address2, city, state, zipcode, country] = fields;
+    return std::tie(address1, address2, city, state, zipcode, country);
+}
 
 } // namespace cabledoc
 

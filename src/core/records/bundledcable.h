@@ -20,13 +20,14 @@ struct BundledCableFields
     QString color;
     /// Whether this is one of the built-in bundles.
     bool defaultType = false;
-
-    auto members() const
-    {
-        const auto &[element, name, cables, colorName, isDefault] = *this;
-        return std::tie(element, name, cables, colorName, isDefault);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const BundledCableFields &fields)
+{
+    const auto &[tag, id, types, color, defaultType] = fields;
+    return std::tie(tag, id, types, color, defaultType);
+}
 
 } // namespace cabledoc
 

@@ -21,13 +21,14 @@ struct ContractorDataFields
     QString logo;
     /// Postal address.
     Address address;
-
-    auto members() const
-    {
-        const auto &[person, firm, mail, telephone, picture, place] = *this;
-        return std::tie(person, firm, mail, telephone, picture, place);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const ContractorDataFields &fields)
+{
+    const auto &[tester, company, email, phone, logo, address] = fields;
+    return std::tie(tester, company, email, phone, logo, address);
+}
 
 } // namespace cabledoc
 

@@ -25,13 +25,14 @@ struct PageSettingsFields
     double customHeight = 8.5;
     /// Width of the custom size, in inches.
     double customWidth = 11.0;
-
-    auto members() const
-    {
-        const auto &[size, standard, direction, style, units, height, width] = *this;
-        return std::tie(size, standard, direction, style, units, height, width);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const PageSettingsFields &fields)
+{
+    const auto &[pageSize, pageStandard, orientation, pageSizeStyle, pageUnits, customHeight, customWidth] = fields;
+    return std::tie(pageSize, pageStandard, orientation, pageSizeStyle, pageUnits, customHeight, customWidth);
+}
 
 } // namespace cabledoc
 

@@ -23,13 +23,14 @@ struct PrintSettingsFields
     int fitToDown = 1;
     /// Whether the zoom or the number of pages counts. The application assigns the meaning.
     int printZoomStyle = 0;
-
-    auto members() const
-    {
-        const auto &[size, direction, zoom, across, down, style] = *this;
-        return std::tie(size, direction, zoom, across, down, style);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const PrintSettingsFields &fields)
+{
+    const auto &[paperSize, orientation, printZoom, fitToAcross, fitToDown, printZoomStyle] = fields;
+    return std::tie(paperSize, orientation, printZoom, fitToAcross, fitToDown, printZoomStyle);
+}
 
 } // namespace cabledoc
 

@@ -48,7 +48,7 @@ public:
     const Fields &fields() const { return m_fields; }
 
     /// Returns true if all fields of both records are equal.
-    friend bool operator==(const Record &a, const Record &b) { return a.m_fields.members() == b.m_fields.members(); }
+    friend bool operator==(const Record &a, const Record &b) { return members(a.m_fields) == members(b.m_fields); }
     /// Returns true if at least one field of the records differs.
     friend bool operator!=(const Record &a, const Record &b) { return !(a == b); }
 

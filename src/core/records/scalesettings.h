@@ -25,13 +25,14 @@ struct ScaleSettingsFields
     double customHeight = 1.0;
     /// Which scale counts: 1 is the predefined scale, 2 is the custom scale, 0 stands for no scale.
     int style = 0;
-
-    auto members() const
-    {
-        const auto &[scaleStyle, scale, unitsAcross, unitsDown, width, height, kind] = *this;
-        return std::tie(scaleStyle, scale, unitsAcross, unitsDown, width, height, kind);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const ScaleSettingsFields &fields)
+{
+    const auto &[predefinedStyle, predefinedScale, widthUnits, heightUnits, customWidth, customHeight, style] = fields;
+    return std::tie(predefinedStyle, predefinedScale, widthUnits, heightUnits, customWidth, customHeight, style);
+}
 
 } // namespace cabledoc
 

@@ -38,16 +38,17 @@ struct TestDefFields
     bool defaultType = false;
     /// Name of the colour of cables of this type.
     QString color = QStringLiteral("#000000");
-
-    auto members() const
-    {
-        const auto &[name, block, pairs, rate, noise, delay, shielded, constant, length, remark, category, isDefault,
-                     colorName] = *this;
-        // An array of its own would be compared by its address.
-        return std::tie(name, block, pairs[0], pairs[1], pairs[2], pairs[3], rate, noise, delay, shielded, constant,
-                        length, remark, category, isDefault, colorName);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const TestDefFields &fields)
+{
+    const auto &[id, expected, pairInUse, dataRate, snr, skew, shield, lengthConstant, maxLength, comment,
+                 cableCategory, defaultType, color] = fields;
+    // An array of its own would be compared by its address.
+    return std::tie(id, expected, pairInUse[0], pairInUse[1], pairInUse[2], pairInUse[3], dataRate, snr, skew, shield,
+                    lengthConstant, maxLength, comment, cableCategory, defaultType, color);
+}
 
 } // namespace cabledoc
 

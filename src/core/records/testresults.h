@@ -29,13 +29,14 @@ struct TestResultsFields
     TRUEPHY_PLOT_DATA echo = {};
     /// Curve of the channel.
     TRUEPHY_PLOT_DATA channel = {};
-
-    auto members() const
-    {
-        const auto &[when, version, serial, verdict, errors, block, nextCurve, echoCurve, channelCurve] = *this;
-        return std::tie(when, version, serial, verdict, errors, block, nextCurve, echoCurve, channelCurve);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const TestResultsFields &fields)
+{
+    const auto &[time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel] = fields;
+    return std::tie(time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel);
+}
 
 } // namespace cabledoc
 

@@ -24,13 +24,14 @@ struct ActiveTestResultFields
     QString address;
     /// Names and values of what else was tested, in the order of the test.
     QVector<QPair<QString, QString>> values;
-
-    auto members() const
-    {
-        const auto &[when, verdict, speed, mode, peer, others] = *this;
-        return std::tie(when, verdict, speed, mode, peer, others);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const ActiveTestResultFields &fields)
+{
+    const auto &[time, status, linkSpeed, duplex, address, values] = fields;
+    return std::tie(time, status, linkSpeed, duplex, address, values);
+}
 
 } // namespace cabledoc
 
@@ -94,13 +95,14 @@ struct ActivePortFields
     QString port;
     /// Results of the tests, in the order in which they were added.
     QVector<ActiveTestResult> results;
-
-    auto members() const
-    {
-        const auto &[tag, name, portTag, tests] = *this;
-        return std::tie(tag, name, portTag, tests);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const ActivePortFields &fields)
+{
+    const auto &[element, id, port, results] = fields;
+    return std::tie(element, id, port, results);
+}
 
 } // namespace cabledoc
 

@@ -37,15 +37,16 @@ struct CableFields
     QString color;
     /// Whether the type is one of the built-in types.
     bool defaultType = false;
-
-    auto members() const
-    {
-        const auto &[ownTag, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
-                     isDefault] = *this;
-        return std::tie(ownTag, name, purpose, end, start, kind, results, way, bundle, number, group, colorName,
-                        isDefault);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const CableFields &fields)
+{
+    const auto &[element, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color,
+                 defaultType] = fields;
+    return std::tie(element, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color,
+                    defaultType);
+}
 
 } // namespace cabledoc
 

@@ -26,13 +26,14 @@ struct DeviceFields
     QString info;
     /// Tag of the sheet.
     QString sheet;
-
-    auto members() const
-    {
-        const auto &[tag, name, kind, left, top, scale, note, sheetTag] = *this;
-        return std::tie(tag, name, kind, left, top, scale, note, sheetTag);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const DeviceFields &fields)
+{
+    const auto &[element, id, type, x, y, iconScale, info, sheet] = fields;
+    return std::tie(element, id, type, x, y, iconScale, info, sheet);
+}
 
 } // namespace cabledoc
 

@@ -20,13 +20,14 @@ struct DeviceConnectionFields
     QString from;
     /// Type of the connection: a number whose meaning the application assigns.
     QString type;
-
-    auto members() const
-    {
-        const auto &[ownTag, name, end, start, kind] = *this;
-        return std::tie(ownTag, name, end, start, kind);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const DeviceConnectionFields &fields)
+{
+    const auto &[element, id, to, from, type] = fields;
+    return std::tie(element, id, to, from, type);
+}
 
 } // namespace cabledoc
 

@@ -18,13 +18,14 @@ struct FloorFields
     QString pic;
     /// Ceiling height in the job's length unit.
     double ceilingHeight = 8.0;
-
-    auto members() const
-    {
-        const auto &[name, tag, picture, height] = *this;
-        return std::tie(name, tag, picture, height);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const FloorFields &fields)
+{
+    const auto &[id, element, pic, ceilingHeight] = fields;
+    return std::tie(id, element, pic, ceilingHeight);
+}
 
 } // namespace cabledoc
 

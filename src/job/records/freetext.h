@@ -32,13 +32,14 @@ struct FreeTextFields
     QString color = QStringLiteral("#000000");
     /// Tag of the floor or sheet.
     QString parent;
-
-    auto members() const
-    {
-        const auto &[tag, name, words, left, top, family, size, isBold, isItalic, colorName, parentTag] = *this;
-        return std::tie(tag, name, words, left, top, family, size, isBold, isItalic, colorName, parentTag);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const FreeTextFields &fields)
+{
+    const auto &[element, id, text, x, y, fontFamily, fontSize, bold, italic, color, parent] = fields;
+    return std::tie(element, id, text, x, y, fontFamily, fontSize, bold, italic, color, parent);
+}
 
 } // namespace cabledoc
 

@@ -20,13 +20,14 @@ struct PointFields
     double y = -1.0;
     /// Tag of the floor or sheet.
     QString parent;
-
-    auto members() const
-    {
-        const auto &[tag, name, left, top, parentTag] = *this;
-        return std::tie(tag, name, left, top, parentTag);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const PointFields &fields)
+{
+    const auto &[element, id, x, y, parent] = fields;
+    return std::tie(element, id, x, y, parent);
+}
 
 } // namespace cabledoc
 

@@ -28,13 +28,14 @@ struct PortFields
     QString room;
     /// Tag of the floor.
     QString floor;
-
-    auto members() const
-    {
-        const auto &[tag, name, left, top, purpose, scale, drop, roomTag, floorTag] = *this;
-        return std::tie(tag, name, left, top, purpose, scale, drop, roomTag, floorTag);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const PortFields &fields)
+{
+    const auto &[element, id, x, y, use, iconScale, dropHeight, room, floor] = fields;
+    return std::tie(element, id, x, y, use, iconScale, dropHeight, room, floor);
+}
 
 } // namespace cabledoc
 
@@ -107,13 +108,14 @@ struct VertRunFields
     QStringList connected;
     /// Tags of the cables that pass the vertical run and are not connected.
     QStringList disconnected;
-
-    auto members() const
-    {
-        const auto &[on, off] = *this;
-        return std::tie(on, off);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const VertRunFields &fields)
+{
+    const auto &[connected, disconnected] = fields;
+    return std::tie(connected, disconnected);
+}
 
 } // namespace cabledoc
 
@@ -156,7 +158,7 @@ public:
     /// Returns true if all fields of both vertical runs are equal, including their lists of cables.
     friend bool operator==(const VertRun &a, const VertRun &b)
     {
-        return a.fields().members() == b.fields().members() && a.m_cables.members() == b.m_cables.members();
+        return members(a.fields()) == members(b.fields()) && members(a.m_cables) == members(b.m_cables);
     }
     /// Returns true if at least one field of the vertical runs differs.
     friend bool operator!=(const VertRun &a, const VertRun &b) { return !(a == b); }

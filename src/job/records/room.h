@@ -34,14 +34,15 @@ struct RoomFields
     QString floor;
     /// Drawing layer.
     int layer = 3;
-
-    auto members() const
-    {
-        const auto &[tag, left, top, across, down, labelX, labelY, dimensionsMode, nameMode, name, floorTag, level] =
-            *this;
-        return std::tie(tag, left, top, across, down, labelX, labelY, dimensionsMode, nameMode, name, floorTag, level);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const RoomFields &fields)
+{
+    const auto &[element, x, y, width, height, roomNameX, roomNameY, showDimensions, showRoomName, id, floor, layer] =
+        fields;
+    return std::tie(element, x, y, width, height, roomNameX, roomNameY, showDimensions, showRoomName, id, floor, layer);
+}
 
 } // namespace cabledoc
 

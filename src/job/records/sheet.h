@@ -14,13 +14,14 @@ struct SheetFields
     QString id;
     /// Tag of the sheet.
     QString element;
-
-    auto members() const
-    {
-        const auto &[name, tag] = *this;
-        return std::tie(name, tag);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const SheetFields &fields)
+{
+    const auto &[id, element] = fields;
+    return std::tie(id, element);
+}
 
 } // namespace cabledoc
 

@@ -21,13 +21,14 @@ struct SiteDataFields
     QString email;
     /// Postal address.
     Address address;
-
-    auto members() const
-    {
-        const auto &[person, number, firm, telephone, mail, place] = *this;
-        return std::tie(person, number, firm, telephone, mail, place);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const SiteDataFields &fields)
+{
+    const auto &[contact, jobID, company, phone, email, address] = fields;
+    return std::tie(contact, jobID, company, phone, email, address);
+}
 
 } // namespace cabledoc
 
