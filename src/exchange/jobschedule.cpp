@@ -30,7 +30,7 @@ QRectF areaOf(const QDomElement &room)
 
 } // namespace
 
-bool JobSchedule::isPossible(const JobEditor &job)
+bool JobSchedule::hasLists(const JobEditor &job)
 {
     return !floorList(job).isNull();
 }

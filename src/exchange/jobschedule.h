@@ -42,7 +42,7 @@ class JobSchedule
 {
 public:
     /// Returns whether the job has lists of floors and of cables.
-    static bool isPossible(const JobEditor &job);
+    static bool hasLists(const JobEditor &job);
 
     explicit JobSchedule(const JobEditor &job);
 

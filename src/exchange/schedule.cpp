@@ -79,7 +79,7 @@ public:
     ScheduleImport(JobEditor &job, bool dryRun)
         : m_job(job)
         , m_isDry(dryRun)
-        , m_there(job)
+        , m_known(job)
         , m_firstFloor(job.getFloorTags().value(0))
     {
     }
@@ -94,14 +94,14 @@ public:
 private:
     void import(ScheduleRow row, const std::bitset<column::Count> &has)
     {
-        const QDomElement cable = m_there.cableOfId.value(row[column::Id]);
-        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_there.row(cable);
+        const QDomElement cable = m_known.cableOfId.value(row[column::Id]);
+        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_known.row(cable);
         for (std::size_t column = 0; column < column::Count; ++column) {
             if (!has[column])
                 row[column] = before[column];
         }
         row[column::Use] = storedCableUse(row[column::Use]);
-        row[column::Color] = m_there.color(row[column::Color], row[column::Type]);
+        row[column::Color] = m_known.color(row[column::Color], row[column::Type]);
         if (cable.isNull())
             addCable(row);
         else if (row != before)
@@ -155,11 +155,11 @@ private:
         const CableEnd end = endIn(row, floorColumn);
         if (end == CableEnd())
             return QString();
-        const auto found = m_there.tagOfEnd.find(end);
-        if (found != m_there.tagOfEnd.end())
+        const auto found = m_known.tagOfEnd.find(end);
+        if (found != m_known.tagOfEnd.end())
             return found->second;
         const QString tag = addPort(end, row[column::Use]);
-        m_there.tagOfEnd.insert({end, tag});
+        m_known.tagOfEnd.insert({end, tag});
         return tag;
     }
 
@@ -181,8 +181,8 @@ private:
     RoomPlace &roomPlace(const CableEnd &end)
     {
         FloorPlace &floor = floorPlace(end.floor);
-        const auto found = m_there.rooms.find({end.floor, end.room});
-        return found != m_there.rooms.end() ? found->second : addRoom(end, floor);
+        const auto found = m_known.rooms.find({end.floor, end.room});
+        return found != m_known.rooms.end() ? found->second : addRoom(end, floor);
     }
 
     RoomPlace &addRoom(const CableEnd &end, FloorPlace &floor)
@@ -202,7 +202,7 @@ private:
             tag = m_job.addRoom(Room(fields), isUndefined ? addmode::GivenNames : addmode::GivenId);
         }
         const QRectF area(fields.x, fields.y, fields.width, fields.height);
-        return m_there.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
+        return m_known.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
     }
 
     /// Floors that the import has not added may lack a list of rooms.
@@ -214,20 +214,20 @@ private:
 
     FloorPlace &floorPlace(const QString &id)
     {
-        const auto found = m_there.floors.find(id);
-        if (found != m_there.floors.end())
+        const auto found = m_known.floors.find(id);
+        if (found != m_known.floors.end())
             return *found;
         ++m_report.floors;
         const QString tag = m_isDry ? QString()
                                     : m_job.addFloor(QString(), id, m_job.getFloorCeilingHeight(m_firstFloor),
                                                      QString(), addmode::GivenId);
-        m_there.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
-        return *m_there.floors.insert(id, {tag, QDomElement(), 0.0, 0});
+        m_known.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
+        return *m_known.floors.insert(id, {tag, QDomElement(), 0.0, 0});
     }
 
     JobEditor &m_job;
     bool m_isDry;
-    JobSchedule m_there;
+    JobSchedule m_known;
     QString m_firstFloor;
     ScheduleReport m_report;
 };
@@ -240,7 +240,7 @@ ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName,
     ScheduleReport report;
     report.error = file.error;
     report.problems = file.problems;
-    if (report.error.isEmpty() && !JobSchedule::isPossible(job))
+    if (report.error.isEmpty() && !JobSchedule::hasLists(job))
         report.error = QCoreApplication::translate("Schedule", "%1 has no list of cables or no list of floors")
                            .arg(job.filename());
     if (!report.error.isEmpty() || !report.problems.isEmpty())

@@ -50,7 +50,7 @@ public:
     {
     }
 
-    bool atEnd() const { return m_isBehind; }
+    bool atEnd() const { return m_isAtEnd; }
 
     /// Returns the number up to the next comma, or 0 if it is not a number.
     qint32 next()
@@ -66,7 +66,7 @@ public:
         if (!isPlain)
             return oddNumber(start);
         m_position = position;
-        goBehindComma();
+        skipComma();
         return digits == start ? qint32(number) : -qint32(number);
     }
 
@@ -80,21 +80,21 @@ private:
         while (m_position != m_end && *m_position != QLatin1Char(','))
             ++m_position;
         const qint64 number = QString(start, int(m_position - start)).toLongLong();
-        goBehindComma();
+        skipComma();
         return qint32(number);
     }
 
-    void goBehindComma()
+    void skipComma()
     {
         if (m_position == m_end)
-            m_isBehind = true;
+            m_isAtEnd = true;
         else
             ++m_position;
     }
 
     const QChar *m_position;
     const QChar *m_end;
-    bool m_isBehind = false;
+    bool m_isAtEnd = false;
 };
 
 } // namespace

@@ -49,11 +49,11 @@ public:
             m_position = m_begin;
         while (m_problem.message.isNull() && goTo('<')) {
             if (skip("<!--"))
-                goBehind("-->");
+                skipPast("-->");
             else if (skip("<![CDATA["))
-                goBehind("]]>");
+                skipPast("]]>");
             else if (skip("<?"))
-                goBehind("?>");
+                skipPast("?>");
             else if (skip("</"))
                 --m_depth;
             else if (skip("<!"))
@@ -139,7 +139,7 @@ private:
         return m_position != m_end;
     }
 
-    void goBehind(const char *mark)
+    void skipPast(const char *mark)
     {
         if (goTo(mark))
             m_position += std::strlen(mark);
