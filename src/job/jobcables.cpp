@@ -22,8 +22,9 @@ QString newId(const JobTree &tree)
     //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
     const QString prefix = JobEditor::tr("Cable");
     // The last in the order of the tags, deliberately, not the highest number.
-    const QString lastId = cables.id(cables.lastTagWithNumberedId(prefix));
-    return cables.numberedId(prefix, cables.firstFreeIdNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));
+    const QString lastId = cables.id(cables.ids().lastTagWithNumber(prefix));
+    return cables.ids().numberedId(prefix,
+                                   cables.ids().firstFreeNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));
 }
 
 } // namespace

@@ -24,7 +24,7 @@ QString freeId(const ElementIndex &index, const QString &id)
     QString base = id;
     QString candidate = id;
     char letter = 'A';
-    while (index.containsId(candidate)) {
+    while (index.ids().contains(candidate)) {
         candidate = base + QLatin1Char(letter);
         if (++letter > '[') {
             letter = 'A';

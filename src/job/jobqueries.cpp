@@ -107,12 +107,12 @@ QStringList JobEditor::getSheetTags() const
 
 QStringList JobEditor::getFloorIds() const
 {
-    return d->tree.index().of(ElementKind::Floors).ids();
+    return d->tree.index().of(ElementKind::Floors).idsByTag();
 }
 
 QStringList JobEditor::getSheetIds() const
 {
-    return d->tree.index().of(ElementKind::Sheets).ids();
+    return d->tree.index().of(ElementKind::Sheets).idsByTag();
 }
 
 QString JobEditor::getFloorIdByTag(const QString &tag) const
@@ -244,7 +244,7 @@ QDomElement JobEditor::getToVerticeList(const QString &sheetTag) const
 
 bool JobEditorPrivate::exists(ElementKind kind, const QString &text, bool byTag) const
 {
-    return byTag ? tree.contains(kind, text) : tree.index().of(kind).containsId(text);
+    return byTag ? tree.contains(kind, text) : tree.index().of(kind).ids().contains(text);
 }
 
 bool JobEditorPrivate::mayBeName(const QString &name)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "numberednames.h"
+#include "tagsbyid.h"
 #include "texthash.h"
 
 #include <QtCore/QStringList>
@@ -25,7 +26,7 @@ public:
     /// Creates an empty index. Numbers in generated ids have at least the given count of digits.
     explicit ElementIndex(int idDigits = 1)
         : m_idDigits(idDigits)
-        , m_idNames(idDigits)
+        , m_ids(idDigits)
     {
     }
 
@@ -40,33 +41,25 @@ public:
     /// Releases the elements, whose tree is about to be destroyed. Tags and ids stay.
     void forgetElements();
 
-    bool isEmpty() const { return m_entries.empty(); }
     bool containsTag(const QString &tag) const { return m_entries.count(tag) != 0; }
-    bool containsId(const QString &id) const { return m_tagOfId.count(id) != 0; }
+    /// Finds tags by ids.
+    TagsById &ids() { return m_ids; }
+    const TagsById &ids() const { return m_ids; }
     /// Returns the element with the given tag, or a null element if there is none.
     QDomElement element(const QString &tag) const;
     /// Returns whether several elements have the given tag.
     bool isRepeated(const QString &tag) const { return m_waiting.count(tag) != 0; }
     /// Returns the id of the element with the given tag, or an empty string if there is none.
     QString id(const QString &tag) const;
-    /// Returns the first tag, in string order, whose element has the given id, or an empty string if there is none.
-    QString tagOfId(const QString &id) const;
     /// Returns all tags in string order. They are sorted again with each call.
     QStringList tags() const;
     /// Returns the ids of all tags, in the order of the tags.
-    QStringList ids() const;
+    QStringList idsByTag() const;
     /// Returns the last tag in string order except for the ignored one, or an empty string if there is none.
     QString lastTag(const QString &ignored = QString());
 
     /// Returns the smallest number, at least from, that makes an unused tag with the prefix.
     qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
-    /// Returns the smallest number, at least from, that makes an unused id with the prefix.
-    qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
-    /// Returns the id with the given prefix and number.
-    QString numberedId(const QString &prefix, qint64 number) const { return m_idNames.name(prefix, number); }
-    /// Returns the last tag, in string order, whose id consists of the prefix and the minimum number of digits, or an
-    /// empty string if there is none.
-    QString lastTagWithNumberedId(const QString &prefix);
 
     bool operator==(const ElementIndex &other) const;
 
@@ -79,29 +72,14 @@ private:
         bool operator==(const Entry &other) const { return id == other.id && element == other.element; }
     };
 
-    /// Makes the tag lead to the element, and the element's id to the tag. entry is the entry of the tag.
-    void show(const QString &tag, const QDomElement &element, Entry *entry);
-    /// Makes the id no longer lead to the tag.
-    void hide(const QString &tag, const QString &id);
-    /// Returns whether the id consists of m_idPrefix and the minimum number of digits.
-    bool isNumberedId(const QString &id) const;
-
     /// First element of each tag.
     TextMap<Entry> m_entries;
     /// Other elements of each tag, in document order.
     TextMap<std::list<QDomElement>> m_waiting;
-    /// First tag of each id, in string order.
-    TextMap<QString> m_tagOfId;
-    /// Other tags of each id.
-    TextMap<std::set<QString>> m_waitingTagsOfId;
     int m_idDigits;
     NumberedNames m_tagNames;
-    NumberedNames m_idNames;
     LastName m_lastTag;
-    /// Prefix of the last call of lastTagWithNumberedId(), or null if there was none.
-    QString m_idPrefix;
-    /// Tags whose ids have this prefix and a number, and some whose ids had them before.
-    std::set<QString> m_tagsWithNumberedId;
+    TagsById m_ids;
 };
 
 /// Finds the elements of one container by id. Elements with the same id are in document order.

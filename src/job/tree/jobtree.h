@@ -23,7 +23,7 @@ public:
     QDomElement element(ElementKind kind, const QString &tag) const { return m_index.of(kind).element(tag); }
     QString id(ElementKind kind, const QString &tag) const { return m_index.of(kind).id(tag); }
     /// Returns the first tag, in string order, that has the id.
-    QString tagOfId(ElementKind kind, const QString &id) const { return m_index.of(kind).tagOfId(id); }
+    QString tagOfId(ElementKind kind, const QString &id) const { return m_index.of(kind).ids().firstTag(id); }
     bool contains(ElementKind kind, const QString &tag) const { return m_index.of(kind).containsTag(tag); }
     /// Returns an attribute of the element with the given tag.
     QString attribute(ElementKind kind, const QString &tag, const QString &name) const
@@ -106,7 +106,7 @@ template <typename Fields> QDomElement JobTree::add(const Kind<Fields> &kind, Fi
     if (!addmode::keepsTag(mode))
         fields.element = kind.tagPrefix + QString::number(index.firstFreeTagNumber(kind.tagPrefix, 1));
     if (!addmode::keepsId(mode))
-        fields.id += QString::number(index.firstFreeIdNumber(fields.id, 1));
+        fields.id += QString::number(index.ids().firstFreeNumber(fields.id, 1));
     const QDomElement element = create(fields.element, kind.table, &fields);
     addLists(element, kind.kind);
     insert(element, list);
