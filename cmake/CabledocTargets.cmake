@@ -1,4 +1,5 @@
-# What the targets of the project are compiled with, and how the folders of src/ become targets.
+# What the targets of the project are compiled with, how the folders of src/ become targets, and how libraries are
+# installed.
 
 add_library(cabledoc_warnings INTERFACE)
 target_compile_options(cabledoc_warnings INTERFACE
@@ -33,10 +34,22 @@ function(cabledoc_public_headers)
       string(REGEX REPLACE ".*(class|struct) (CABLEDOC_EXPORT )?([A-Za-z_]+).*" "\\3" class ${definition})
       file(CONFIGURE OUTPUT ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class} CONTENT "#include \"${name}\"\n")
       install(FILES ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class}
-              DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+              DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
     endforeach()
   endforeach()
-  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
+endfunction()
+
+# cabledoc_install_library(TARGET NAME)
+# Installs a shared library as libNAME.so.ABI.
+function(cabledoc_install_library target name)
+  set_target_properties(${target} PROPERTIES
+    OUTPUT_NAME ${name}
+    SOVERSION ${CABLEDOC_ABI})
+  target_include_directories(${target} INTERFACE
+    $<BUILD_INTERFACE:${CABLEDOC_PUBLIC_INCLUDE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}>)
+  install(TARGETS ${target} EXPORT cabledocTargets)
 endfunction()
 
 # cabledoc_layer(NAME SOURCES ... HEADERS ... USES ...)

@@ -17,7 +17,8 @@ function(build client flags)
     string(APPEND flags " -fsanitize=${SANITIZERS}")
   endif()
   run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/${client} -B ${WORK_DIR}/${client} -G Ninja
-      -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=-Werror -Wall -Wextra ${flags}")
+      -DCMAKE_CXX_COMPILER=${COMPILER} -DCABLEDOC_QT_MAJOR=${QT_MAJOR} -DCMAKE_PREFIX_PATH=${prefix}
+      "-DCMAKE_CXX_FLAGS=-Werror -Wall -Wextra ${flags}")
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/${client})
 endfunction()
 
