@@ -35,15 +35,32 @@ function(cabledoc_public_headers)
       file(CONFIGURE OUTPUT ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class} CONTENT "#include \"${name}\"\n")
       install(FILES ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class}
               DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
+      if(definition MATCHES CABLEDOC_EXPORT)
+        set_property(GLOBAL APPEND PROPERTY CABLEDOC_EXPORTED_CLASSES ${class})
+      endif()
     endforeach()
   endforeach()
   install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
 endfunction()
 
-# cabledoc_install_library(TARGET NAME)
-# Installs a shared library as libNAME.so.ABI.
+# cabledoc_install_library(TARGET NAME PATTERN...)
+# Installs a shared library as libNAME.so.ABI. It exports the C++ names that match a pattern and no others.
 function(cabledoc_install_library target name)
+  list(JOIN ARGN ";\n      " patterns)
+  set(version_script ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+  file(CONFIGURE OUTPUT ${version_script} CONTENT
+"CABLEDOC_QT${CABLEDOC_QT_MAJOR}_${CABLEDOC_ABI} {
+  global:
+    extern \"C++\" {
+      ${patterns};
+    };
+  local:
+    *;
+};
+")
+  target_link_options(${target} PRIVATE LINKER:--version-script=${version_script})
   set_target_properties(${target} PROPERTIES
+    LINK_DEPENDS ${version_script}
     OUTPUT_NAME ${name}
     SOVERSION ${CABLEDOC_ABI})
   target_include_directories(${target} INTERFACE
