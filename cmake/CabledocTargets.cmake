@@ -71,9 +71,14 @@ endfunction()
 
 # cabledoc_layer(NAME SOURCES ... HEADERS ... USES ...)
 # One folder of src/ as a set of objects. It finds the headers of the folders it uses and of no
-# others, so the compiler keeps the order of the folders. HEADERS are the public ones.
+# others, so the compiler keeps the order of the folders. The test "layers" keeps it for symbols.
+# HEADERS are the public ones.
 function(cabledoc_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;HEADERS;USES")
+  foreach(used IN LISTS layer_USES)
+    get_property(further GLOBAL PROPERTY ${used}_uses)
+    set_property(GLOBAL APPEND PROPERTY cabledoc_${name}_uses ${used} ${further})
+  endforeach()
   add_library(cabledoc_${name} OBJECT ${layer_SOURCES} ${layer_HEADERS})
   target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/export)
   target_compile_definitions(cabledoc_${name} PRIVATE cabledoc_EXPORTS)
