@@ -8,6 +8,8 @@
 
 #include <csignal>
 
+static_assert(sizeof(CABLEDOC_VERSION) > 1, "The build must set the version of the program.");
+
 namespace {
 
 QString usage()
