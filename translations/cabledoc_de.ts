@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>Der Dateiname enthält ein NUL-Zeichen.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>Die Datei konnte nicht geladen werden. Sie wird nicht ersetzt; speichern Sie unter einem anderen Namen.</translation>
     </message>
 </context>
@@ -119,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>Es ist keine Datei angegeben</translation>
     </message>
     <message>
@@ -131,7 +131,7 @@
         <translation>%1, Zeile %2, Spalte %3: %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 ist keine XML-Datei</translation>
     </message>
     <message>
@@ -139,7 +139,7 @@
         <translation>die Datei beginnt weder mit dem Element &quot;%1&quot; noch mit &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; ist keine bekannte Version</translation>
     </message>
     <message>
@@ -147,11 +147,11 @@
         <translation>Version %1 ist älter als %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>das Tag ist das von Zeile %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@
         <translation>&quot;%1&quot;: es gibt kein Kabel &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot;: es gibt kein Gerät und keinen Punkt &quot;%2&quot;</translation>
     </message>
     <message>
@@ -191,11 +191,11 @@
         <translation>Text</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; enthält &quot;%2&quot;, das beim Speichern verloren geht</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; ist keine brauchbare Zahl</translation>
     </message>
 </context>
@@ -298,7 +298,7 @@
         <translation>&quot;%1&quot; kann nicht der Name eines XML-Elements sein</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Ein Auftrag enthält höchstens %1 Ausgaben</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Das ist die Datei des Auftrags selbst. Eine Vorlage braucht einen anderen Namen.</translation>
     </message>
 </context>
@@ -861,7 +861,7 @@
         <translation>%1 hat keine Kabelliste oder keine Etagenliste</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>ein Anführungszeichen fehlt oder steht an falscher Stelle</translation>
     </message>
     <message>
@@ -869,11 +869,11 @@
         <translation>die Spalte &quot;%1&quot; fehlt</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
     </message>
     <message>
@@ -881,7 +881,7 @@
         <translation>die Zeile hat mehr Felder als die Überschrift</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; ist keine Farbe</translation>
     </message>
     <message>
@@ -889,7 +889,7 @@
         <translation>der Text ist nicht in UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; hat ein Zeichen, das in einer Auftragsdatei nicht stehen kann</translation>
     </message>
     <message>
@@ -897,7 +897,7 @@
         <translation>das Kabel hat keine ID</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
     </message>
     <message>
@@ -1066,7 +1066,7 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Ein Steuerzeichen, das XML nicht erlaubt, steht im Text.</translation>
     </message>
     <message>
@@ -1094,28 +1094,28 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <translation>Die Datei beginnt mit der Bytereihenfolge-Markierung von %1. Speichern Sie sie in der Kodierung ISO-8859-1 (Latin-1), ohne Markierung.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Ein Ordner hat diesen Namen.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Etwas, das keine Datei ist, hat diesen Namen.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie bleibt, wie sie ist.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Es gibt eine Datei dieses Namens. Sie bleibt, wie sie ist.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Es gibt schon eine Datei dieses Namens. Sie wird nicht ersetzt.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>Die Datei hat %1, erlaubt sind %2. Ein Dokument dieser Größe braucht etwa %3 Speicher.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie wird nicht ersetzt.</translation>
     </message>
 </context>
 </TS>

@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>El nombre del archivo contiene un carácter NUL.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>No se pudo cargar el archivo. No se reemplaza; guarde con otro nombre.</translation>
     </message>
 </context>
@@ -119,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>No se ha indicado ningún archivo</translation>
     </message>
     <message>
@@ -131,7 +131,7 @@
         <translation>%1, línea %2, columna %3: %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 no es un archivo XML</translation>
     </message>
     <message>
@@ -139,7 +139,7 @@
         <translation>el archivo no empieza ni con el elemento &quot;%1&quot; ni con &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; no es una versión conocida</translation>
     </message>
     <message>
@@ -147,11 +147,11 @@
         <translation>la versión %1 es anterior a %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>su etiqueta es la de la línea %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>su identificador &quot;%1&quot; es el de la línea %2</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@
         <translation>&quot;%1&quot;: no hay ningún cable &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot;: no hay ningún dispositivo ni punto &quot;%2&quot;</translation>
     </message>
     <message>
@@ -191,11 +191,11 @@
         <translation>texto</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; contiene &quot;%2&quot;, que se pierde al guardar</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; no es un número que se pueda usar</translation>
     </message>
 </context>
@@ -298,7 +298,7 @@
         <translation>&quot;%1&quot; no puede ser el nombre de un elemento XML</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Un trabajo no contiene más de %1 revisiones</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>No se puede abrir el archivo.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Este es el archivo del propio trabajo. Una plantilla necesita otro nombre.</translation>
     </message>
 </context>
@@ -861,7 +861,7 @@
         <translation>%1 no tiene lista de cables o no tiene lista de plantas</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>una comilla falta o está en un lugar equivocado</translation>
     </message>
     <message>
@@ -869,11 +869,11 @@
         <translation>falta la columna &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>no hay ninguna columna &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>la columna &quot;%1&quot; está repetida</translation>
     </message>
     <message>
@@ -881,7 +881,7 @@
         <translation>la fila tiene más campos que el encabezado</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; no es un color</translation>
     </message>
     <message>
@@ -889,7 +889,7 @@
         <translation>el texto no está en UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; tiene un carácter que un archivo de trabajo no puede contener</translation>
     </message>
     <message>
@@ -897,7 +897,7 @@
         <translation>el cable no tiene identificador</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>el identificador &quot;%1&quot; es el de la fila %2</translation>
     </message>
     <message>
@@ -1066,7 +1066,7 @@ de más de 330 ft (100 m).</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Hay un carácter de control que XML no permite.</translation>
     </message>
     <message>
@@ -1094,28 +1094,28 @@ de más de 330 ft (100 m).</translation>
         <translation>El archivo empieza con la marca de orden de bytes de %1. Guárdelo en la codificación ISO-8859-1 (Latin-1), sin marca.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Una carpeta tiene este nombre.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Algo que no es un archivo tiene este nombre.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Otro programa ha cambiado el archivo desde que se leyó. Se deja como está.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Ya hay un archivo con este nombre. Se deja como está.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Ya hay un archivo con este nombre. No se reemplaza.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>No es un archivo normal.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>El archivo tiene %1 y el límite es %2. Un documento de este tamaño necesita unos %3 de memoria.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Otro programa ha cambiado el archivo desde que se leyó. No se reemplaza.</translation>
     </message>
 </context>
 </TS>

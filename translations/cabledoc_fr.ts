@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>Le nom du fichier contient un caractère NUL.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>Le fichier n&apos;a pas pu être chargé. Il n&apos;est pas remplacé ; enregistrez sous un autre nom.</translation>
     </message>
 </context>
@@ -119,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>Aucun fichier indiqué</translation>
     </message>
     <message>
@@ -131,7 +131,7 @@
         <translation>%1, ligne %2, colonne %3 : %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 n&apos;est pas un fichier XML</translation>
     </message>
     <message>
@@ -139,7 +139,7 @@
         <translation>le fichier ne commence ni par l&apos;élément &quot;%1&quot; ni par &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; n&apos;est pas une version connue</translation>
     </message>
     <message>
@@ -147,11 +147,11 @@
         <translation>la version %1 est antérieure à %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>sa balise est celle de la ligne %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>son identifiant &quot;%1&quot; est celui de la ligne %2</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@
         <translation>&quot;%1&quot; : il n&apos;y a pas de câble &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot; : il n&apos;y a pas d&apos;appareil ni de point &quot;%2&quot;</translation>
     </message>
     <message>
@@ -191,11 +191,11 @@
         <translation>texte</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; contient &quot;%2&quot;, perdu à l&apos;enregistrement</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot; : &quot;%2&quot; n&apos;est pas un nombre utilisable</translation>
     </message>
 </context>
@@ -298,7 +298,7 @@
         <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un élément XML</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Un projet ne contient pas plus de %1 révisions</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Impossible d&apos;ouvrir le fichier.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>C&apos;est le fichier du projet lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
     </message>
 </context>
@@ -861,7 +861,7 @@
         <translation>%1 n&apos;a pas de liste de câbles ou pas de liste d&apos;étages</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>un guillemet manque ou se trouve au mauvais endroit</translation>
     </message>
     <message>
@@ -869,11 +869,11 @@
         <translation>la colonne &quot;%1&quot; manque</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>il n&apos;y a pas de colonne &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>la colonne &quot;%1&quot; est en double</translation>
     </message>
     <message>
@@ -881,7 +881,7 @@
         <translation>la ligne a plus de champs que l&apos;en-tête</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
     </message>
     <message>
@@ -889,7 +889,7 @@
         <translation>le texte n&apos;est pas en UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; a un caractère qu&apos;un fichier de projet ne peut pas contenir</translation>
     </message>
     <message>
@@ -897,7 +897,7 @@
         <translation>le câble n&apos;a pas d&apos;identifiant</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>l&apos;identifiant &quot;%1&quot; est celui de la ligne %2</translation>
     </message>
     <message>
@@ -1066,7 +1066,7 @@ de plus de 330 ft (100 m).</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Un caractère de commande que XML n&apos;admet pas se trouve dans le texte.</translation>
     </message>
     <message>
@@ -1094,28 +1094,28 @@ de plus de 330 ft (100 m).</translation>
         <translation>Le fichier commence par la marque d&apos;ordre des octets de %1. Enregistrez-le dans le codage ISO-8859-1 (Latin-1), sans marque.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Un dossier porte ce nom.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Quelque chose qui n&apos;est pas un fichier porte ce nom.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Un autre programme a modifié le fichier depuis sa lecture. Il est laissé tel quel.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Il existe un fichier de ce nom. Il est laissé tel quel.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Il existe un fichier de ce nom. Il n&apos;est pas remplacé.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>Ce n&apos;est pas un fichier ordinaire.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>Le fichier fait %1, et la limite est de %2. Un document de cette taille demande environ %3 de mémoire.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Un autre programme a modifié le fichier depuis sa lecture. Il n&apos;est pas remplacé.</translation>
     </message>
 </context>
 </TS>

@@ -43,8 +43,8 @@ public:
     CheckReport check(const QString &filename)
     {
         if (!inside().read(filename, QString(),
-                           {tr("No file is named"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
-                            tr("%1 is no XML file")})) {
+                           {tr("A file name is needed"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
+                            tr("%1 is not an XML file")})) {
             m_report.error = inside().error;
             return m_report;
         }
@@ -79,7 +79,7 @@ private:
         const QDomElement element = getElement(words::Version);
         if (!convertToCurrentVersion([] { return true; })) {
             report("unknown-version", element.isNull() ? root : element,
-                   tr("\"%1\" is no version that is known").arg(excerpt(found)));
+                   tr("\"%1\" is not a known version").arg(excerpt(found)));
             return false;
         }
         if (found != words::CurrentVersion)
@@ -96,7 +96,8 @@ private:
         QMap<QString, int> &lines = m_linesOfTags[scope];
         for (const QDomElement &element : ChildElements(list)) {
             if (lines.contains(element.tagName()))
-                report("duplicate-tag", element, tr("its tag is that of line %1").arg(lines.value(element.tagName())));
+                report("duplicate-tag", element,
+                       tr("it has the same tag as the element in line %1").arg(lines.value(element.tagName())));
             else
                 lines.insert(element.tagName(), element.lineNumber());
         }
@@ -111,7 +112,7 @@ private:
                 continue;
             if (lines.contains(id))
                 report("duplicate-id", element,
-                       tr("its id \"%1\" is that of line %2").arg(excerpt(id)).arg(lines.value(id)));
+                       tr("it has the same id \"%1\" as the element in line %2").arg(excerpt(id)).arg(lines.value(id)));
             else
                 lines.insert(id, element.lineNumber());
         }
@@ -208,7 +209,7 @@ private:
         if (reference.targets.contains(ElementKind::Ports))
             return tr("\"%1\": there is no port \"%2\"");
         if (reference.targets.contains(ElementKind::Devices))
-            return tr("\"%1\": there is no device or point \"%2\"");
+            return tr("\"%1\": there is no device or bend \"%2\"");
         return tr("\"%1\": there is no cable \"%2\"");
     }
 
@@ -272,7 +273,7 @@ private:
         const QStringList names = attributes == nullptr ? QStringList() : attributes->invalidNumbers(element);
         for (const QString &name : names) {
             report("invalid-number", element,
-                   tr("\"%1\": \"%2\" is not a number that can be used").arg(name, excerpt(element.attribute(name))));
+                   tr("\"%1\": \"%2\" is not a usable number").arg(name, excerpt(element.attribute(name))));
         }
     }
 
@@ -281,7 +282,7 @@ private:
         const QString lost = firstLostCharacter(text, characterReferences());
         if (!lost.isEmpty())
             report("lost-character", element,
-                   tr("\"%1\" holds \"%2\", which a save cannot keep").arg(excerpt(name), lost));
+                   tr("\"%1\" contains \"%2\", which a save cannot write").arg(excerpt(name), lost));
     }
 
     CheckReport m_report;

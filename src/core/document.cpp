@@ -92,7 +92,7 @@ bool Document::mayBeFileName(const QString &name)
     if (!name.contains(QChar(0)))
         return true;
     // The system would take the name to end there.
-    error = tr("The file name holds a NUL character.");
+    error = tr("The file name contains a NUL character.");
     return false;
 }
 
@@ -168,7 +168,7 @@ void Document::rejectFile()
 bool Document::isLoaded()
 {
     if (m_isLoadFailed)
-        error = tr("The file could not be loaded. It is not replaced; save under another name.");
+        error = tr("The file could not be loaded, so it is not replaced. Save under another name.");
     return !m_isLoadFailed;
 }
 

@@ -57,7 +57,7 @@ bool JobEditor::Export(const QString &filename)
     if (!d->mayBeFile(filename, words::BktExtension))
         return false;
     if (inside().isOwnFile(filename)) {
-        error() = tr("This is the file of the job itself. A template needs another name.");
+        error() = tr("This is the job's own file. Choose another name for the template.");
         return false;
     }
     BktEditor &bkt = BktEditor::Instance();

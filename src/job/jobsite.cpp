@@ -97,7 +97,7 @@ void JobEditor::addRelease(const QString &name, const QString &value)
         return;
     const QDomElement release = getElement(words::Release);
     if (!release.hasAttribute(name) && release.attributes().count() >= maximumAttributes) {
-        error() = tr("A job holds no more than %1 releases").arg(maximumAttributes);
+        error() = tr("A job can hold at most %1 releases").arg(maximumAttributes);
         return;
     }
     d->document.writeInfo(words::Release, name, value);

@@ -86,9 +86,9 @@ QString FileReplacement::open()
     if (m_isNew && errno != ENOENT)
         return systemError();
     if (!m_isNew && S_ISDIR(status.st_mode))
-        return QCoreApplication::translate("XmlFile", "A folder has this name.");
+        return QCoreApplication::translate("XmlFile", "This is the name of a folder.");
     if (!m_isNew && !S_ISREG(status.st_mode))
-        return QCoreApplication::translate("XmlFile", "Something that is not a file has this name.");
+        return QCoreApplication::translate("XmlFile", "This name belongs to something that is not a file.");
     // The permissions of the folder alone would allow the save to replace a file that nobody may write to.
     if (!m_isNew && ::faccessat(AT_FDCWD, m_target.constData(), W_OK, AT_EACCESS) != 0)
         return systemError();
@@ -158,14 +158,13 @@ QString FileReplacement::moveIntoPlace(const Expectation &expected)
     const bool isThere = ::access(m_target.constData(), F_OK) == 0 || errno != ENOENT;
     if (isThere && expected.kind == Expectation::KnownContent
         && !hasContent(QFile::decodeName(m_target), expected.known))
-        return QCoreApplication::translate("XmlFile",
-                                           "Another program has changed the file since it was read. It is left "
-                                           "as it is.");
+        return QCoreApplication::translate(
+            "XmlFile", "Another program has changed the file since it was read. It is not replaced.");
     const bool mayReplace = expected.kind == Expectation::Anything || (isThere && expected.kind != Expectation::NoFile);
     if (mayReplace ? ::rename(m_copy.constData(), m_target.constData()) == 0 : renameToNewName(m_copy, m_target))
         return QString();
     if (errno == EEXIST)
-        return QCoreApplication::translate("XmlFile", "There is a file of this name. It is left as it is.");
+        return QCoreApplication::translate("XmlFile", "A file with this name already exists. It is not replaced.");
     return systemError();
 }
 

@@ -124,7 +124,7 @@ FileContent readContent(const QString &fileName, qint64 maximumSize)
     maximumSize = std::min(maximumSize, qtcompat::largestText);
     if (status.st_size > maximumSize) {
         content.error =
-            QCoreApplication::translate("XmlFile", "The file has %1, and the limit is %2. A document of this "
+            QCoreApplication::translate("XmlFile", "The file is %1 in size, and the limit is %2. A document of this "
                                                    "size needs about %3 of memory.")
                 .arg(sizeText(double(status.st_size)), sizeText(double(maximumSize)),
                      sizeText(double(status.st_size) * qtcompat::memoryOfAByte));

@@ -44,7 +44,8 @@ public:
         // The parser does not notice control characters in names.
         m_position = firstForbidden();
         if (m_position != m_end)
-            report(QCoreApplication::translate("XmlFile", "There is a control character that XML does not allow."));
+            report(QCoreApplication::translate("XmlFile",
+                                               "The file contains a control character that XML does not allow."));
         else
             m_position = m_begin;
         while (m_problem.message.isNull() && goTo('<')) {
