@@ -165,13 +165,6 @@ void Document::rejectFile()
     m_isLoadFailed = true;
 }
 
-bool Document::isLoaded()
-{
-    if (m_isLoadFailed)
-        error = tr("The file could not be loaded, so it is not replaced. Save under another name.");
-    return !m_isLoadFailed;
-}
-
 bool Document::write(const QString &name, const xmlfile::AttributeOrder &order, Replace replace)
 {
     if (!mayBeFileName(name))
@@ -195,6 +188,23 @@ bool Document::write(const QString &name, const xmlfile::AttributeOrder &order, 
     replacedCharacters = outcome.replacedCharacters;
     if (replacedCharacters > 0)
         qDebug("%lld characters that the file cannot hold were written as \"?\"", replacedCharacters);
+    return true;
+}
+
+bool Document::save(const QString &extension, const xmlfile::AttributeOrder &order, Replace replace,
+                    const QString &noNameText)
+{
+    if (!isSaveName(filename, extension)) {
+        error = noNameText;
+        return false;
+    }
+    if (m_isLoadFailed) {
+        error = tr("The file could not be loaded, so it is not replaced. Save under another name.");
+        return false;
+    }
+    if (!write(filename, order, replace))
+        return false;
+    m_tree->setChanged(false);
     return true;
 }
 

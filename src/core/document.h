@@ -56,15 +56,16 @@ public:
     bool read(const QString &name, const QString &documentTypeName, const LoadTexts &texts);
     /// Is called if what read() read cannot be used after all.
     void rejectFile();
-    /// Fails if the last file could not be loaded. A save must not replace it then.
-    bool isLoaded();
-
     enum class Replace {
         ExpectedFile, ///< a file that is as the document knows it
         AnyFile,      ///< whatever another program made of it
     };
     /// Writes the tree to a file. If it fails, the file and the mark of a change are as they were.
     bool write(const QString &name, const xmlfile::AttributeOrder &order, Replace replace);
+    /// Writes the tree to the document's own file and clears the mark of a change. Fails, with the given text, if the
+    /// document has no name that can be saved to. Fails if the last file could not be loaded.
+    bool save(const QString &extension, const xmlfile::AttributeOrder &order, Replace replace,
+              const QString &noNameText);
     /// Takes the name of the file that the document was written to.
     void changeName(const QString &name);
     /// Returns whether the name leads to the document's own file, in whatever spelling and through whatever link.

@@ -76,18 +76,6 @@ bool isClosed(Document *document)
     return false;
 }
 
-bool saveToItsFile(Document *document, Document::Replace replace)
-{
-    if (!Document::isSaveName(document->filename, words::JobExtension)) {
-        document->error = JobEditor::tr("Filename is Empty");
-        return false;
-    }
-    if (!document->isLoaded() || !document->write(document->filename, jobAttributeOrder(), replace))
-        return false;
-    document->tree().setChanged(false);
-    return true;
-}
-
 JobEditor *instance = nullptr;
 
 } // namespace
@@ -196,12 +184,13 @@ void JobEditor::Unload()
 
 bool JobEditor::save()
 {
-    return saveToItsFile(&inside(), Document::Replace::ExpectedFile);
+    return inside().save(words::JobExtension, jobAttributeOrder(), Document::Replace::ExpectedFile,
+                         tr("Filename is Empty"));
 }
 
 bool JobEditor::saveAnyway()
 {
-    return saveToItsFile(&inside(), Document::Replace::AnyFile);
+    return inside().save(words::JobExtension, jobAttributeOrder(), Document::Replace::AnyFile, tr("Filename is Empty"));
 }
 
 bool JobEditorPrivate::mayBeFile(const QString &filename, const QString &extension)

@@ -10,23 +10,6 @@
 
 using namespace cabledoc;
 
-namespace {
-
-bool saveToItsFile(Document *document, Document::Replace replace)
-{
-    if (!Document::isSaveName(document->filename, words::BktExtension)) {
-        document->error = BktEditor::tr("Filename is empty.");
-        return false;
-    }
-    if (!document->isLoaded()
-        || !document->write(document->filename, attributeOrder(documentFileAttributes()), replace))
-        return false;
-    document->tree().setChanged(false);
-    return true;
-}
-
-} // namespace
-
 BktEditor *BktEditor::s_instance = nullptr;
 
 BktEditor &BktEditor::Instance()
@@ -109,12 +92,14 @@ bool BktEditor::load(const QString &filename, const std::function<bool()> &stepD
 
 bool BktEditor::save()
 {
-    return saveToItsFile(&inside(), Document::Replace::ExpectedFile);
+    return inside().save(words::BktExtension, attributeOrder(documentFileAttributes()), Document::Replace::ExpectedFile,
+                         tr("Filename is empty."));
 }
 
 bool BktEditor::saveAnyway()
 {
-    return saveToItsFile(&inside(), Document::Replace::AnyFile);
+    return inside().save(words::BktExtension, attributeOrder(documentFileAttributes()), Document::Replace::AnyFile,
+                         tr("Filename is empty."));
 }
 
 bool BktEditor::saveAs(const QString &filename)
