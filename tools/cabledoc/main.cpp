@@ -4,14 +4,13 @@
 #include "output.h"
 
 #include <cabledoc/translations.h>
+#include <cabledoc/version.h>
 
 #include <QtCore/QLoggingCategory>
 
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
-
-static_assert(sizeof(CABLEDOC_VERSION) > 1, "The build must set the version of the program.");
 
 namespace {
 
@@ -33,7 +32,7 @@ ExitCode runWithoutCommand(const QStringList &words)
     if (isHelp(first))
         return printText(programHelp());
     if (first == QLatin1String("--version"))
-        return printData("cabledoc " CABLEDOC_VERSION "\n");
+        return printData("cabledoc " CABLEDOC_VERSION_STR "\n");
 
     // "schedule" is the first word of several commands.
     const QString group = first.isEmpty() ? QString() : commandList(first);
