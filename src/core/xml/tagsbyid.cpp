@@ -8,7 +8,7 @@ void TagsById::insert(const QString &id, const QString &tag)
 {
     m_names.insert(id);
     if (isNumbered(id))
-        m_numbered.insert(tag);
+        m_numbered[tag] = id;
     const auto [first, isNew] = m_first.try_emplace(id, tag);
     if (isNew)
         return;
@@ -18,8 +18,6 @@ void TagsById::insert(const QString &id, const QString &tag)
 
 void TagsById::remove(const QString &id, const QString &tag)
 {
-    if (isNumbered(id))
-        m_numbered.erase(tag);
     const auto first = m_first.find(id);
     const auto others = m_others.find(id);
     if (others == m_others.end()) {
@@ -33,6 +31,12 @@ void TagsById::remove(const QString &id, const QString &tag)
         others->second.erase(tag);
     if (others->second.empty())
         m_others.erase(others);
+}
+
+bool TagsById::contains(const QString &id, const QString &tag) const
+{
+    const auto others = m_others.find(id);
+    return firstTag(id) == tag || (others != m_others.end() && others->second.count(tag) != 0);
 }
 
 QString TagsById::firstTag(const QString &id) const
@@ -60,14 +64,22 @@ QString TagsById::lastTagWithNumber(const QString &prefix)
         m_numbered.clear();
         for (const auto &[id, tag] : m_first) {
             if (isNumbered(id))
-                m_numbered.insert(tag);
+                m_numbered[tag] = id;
         }
         for (const auto &[id, tags] : m_others) {
-            if (isNumbered(id))
-                m_numbered.insert(tags.begin(), tags.end());
+            for (const QString &tag : tags) {
+                if (isNumbered(id))
+                    m_numbered[tag] = id;
+            }
         }
     }
-    return m_numbered.empty() ? QString() : *m_numbered.rbegin();
+    while (!m_numbered.empty()) {
+        const auto last = std::prev(m_numbered.end());
+        if (contains(last->second, last->first))
+            return last->first;
+        m_numbered.erase(last);
+    }
+    return QString();
 }
 
 } // namespace cabledoc

@@ -5,6 +5,7 @@
 
 #include <QtCore/QString>
 
+#include <map>
 #include <set>
 
 namespace cabledoc {
@@ -39,6 +40,7 @@ public:
     bool operator==(const TagsById &other) const { return m_first == other.m_first && m_others == other.m_others; }
 
 private:
+    bool contains(const QString &id, const QString &tag) const;
     bool isNumbered(const QString &id) const;
 
     /// First tag of each id, in string order.
@@ -49,8 +51,8 @@ private:
     NumberedNames m_names;
     /// Prefix of the last call of lastTagWithNumber(), or null if there was none.
     QString m_prefix;
-    /// Tags whose ids have this prefix and a number.
-    std::set<QString> m_numbered;
+    /// Ids that have this prefix and a number, by tag. A tag that lost its id stays until it is the last one.
+    std::map<QString, QString> m_numbered;
 };
 
 } // namespace cabledoc

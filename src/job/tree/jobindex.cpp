@@ -217,24 +217,26 @@ void JobIndex::setStaleBelow(ElementKind holder)
     }
 }
 
-void JobIndex::aboutToSet(const QDomElement &element, const QString &attribute)
+bool JobIndex::dependsOn(const QString &attribute)
+{
+    return attribute == words::Id || attribute == words::Type || namingAttributes().contains(attribute);
+}
+
+void JobIndex::aboutToSet(const QDomElement &element, ElementKind kind, const QString &attribute)
 {
     if (m_references && namingAttributes().contains(attribute))
         m_references->remove(element);
-    if (attribute == words::Id && kindOf(element) == ElementKind::Rooms && !isStale(ElementKind::Rooms))
+    if (attribute == words::Id && kind == ElementKind::Rooms && !isStale(kind))
         m_roomsOfFloor[holderOf(element).tagName()].remove(element);
 }
 
-void JobIndex::wasSet(const QDomElement &element, const QString &attribute)
+void JobIndex::wasSet(const QDomElement &element, ElementKind kind, const QString &attribute)
 {
     if (m_references && namingAttributes().contains(attribute))
         m_references->insert(element);
-    if (attribute != words::Id && attribute != words::Type)
-        return;
-    const ElementKind kind = kindOf(element);
-    if (kind == ElementKind::Cables)
+    if (kind == ElementKind::Cables && (attribute == words::Id || attribute == words::Type))
         m_cables.reset();
-    if (kind == ElementKind::None || attribute != words::Id || isStale(kind))
+    if (attribute != words::Id || isStale(kind))
         return;
     if (kind == ElementKind::Rooms) {
         ContainerIndex &rooms = m_roomsOfFloor[holderOf(element).tagName()];

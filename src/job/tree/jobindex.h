@@ -65,9 +65,11 @@ public:
     void moved(const QDomElement &element, ElementKind kind);
     /// To be called before an element is removed with all that it holds.
     void aboutToRemove(const QDomElement &element, ElementKind kind);
-    /// To be called before and after an attribute is written.
-    void aboutToSet(const QDomElement &element, const QString &attribute);
-    void wasSet(const QDomElement &element, const QString &attribute);
+    /// Returns whether the index depends on an attribute of that name.
+    static bool dependsOn(const QString &attribute);
+    /// To be called before and after an attribute that the index depends on is written.
+    void aboutToSet(const QDomElement &element, ElementKind kind, const QString &attribute);
+    void wasSet(const QDomElement &element, ElementKind kind, const QString &attribute);
 
     /// Returns whether this is what a rebuild makes of the tree.
     bool matchesTree() const;

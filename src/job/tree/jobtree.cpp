@@ -96,10 +96,8 @@ QDomElement JobTree::undefinedRoom(const QDomElement &floor)
 void JobTree::set(ElementKind kind, const QString &tag, const QString &name, const QString &value)
 {
     const QDomElement changed = element(kind, tag);
-    if (schemaOf(kind).setters == Setters::AddAttributes)
-        setAttribute(changed, name, value);
-    else
-        changeAttribute(changed, name, value);
+    if (schemaOf(kind).setters == Setters::AddAttributes || changed.hasAttribute(name))
+        setAttribute(changed, kind, name, value);
 }
 
 void JobTree::moveTo(const QDomElement &holder, const ElementSchema &kind, const QString &tag)
@@ -111,11 +109,17 @@ void JobTree::moveTo(const QDomElement &holder, const ElementSchema &kind, const
 
 void JobTree::setAttribute(QDomElement element, const QString &name, const QString &value)
 {
-    if (element.isNull())
-        return;
-    m_index.aboutToSet(element, name);
+    setAttribute(element, JobIndex::dependsOn(name) ? kindOf(element) : ElementKind::None, name, value);
+}
+
+void JobTree::setAttribute(const QDomElement &element, ElementKind kind, const QString &name, const QString &value)
+{
+    const bool isIndexed = kind != ElementKind::None && !element.isNull() && JobIndex::dependsOn(name);
+    if (isIndexed)
+        m_index.aboutToSet(element, kind, name);
     DocumentTree::setAttribute(element, name, value);
-    m_index.wasSet(element, name);
+    if (isIndexed)
+        m_index.wasSet(element, kind, name);
 }
 
 void JobTree::insert(const QDomElement &element, QDomNode parent)
@@ -124,6 +128,12 @@ void JobTree::insert(const QDomElement &element, QDomNode parent)
     const ElementKind kind = kindOf(element);
     if (kind != ElementKind::None)
         m_index.inserted(element, kind);
+}
+
+void JobTree::insert(const QDomElement &element, ElementKind kind, const QDomNode &parent)
+{
+    DocumentTree::insert(element, parent);
+    m_index.inserted(element, kind);
 }
 
 void JobTree::move(const QDomNode &node, QDomNode parent)

@@ -70,6 +70,8 @@ public:
     void remove(const QDomElement &element) override;
 
 private:
+    void insert(const QDomElement &element, ElementKind kind, const QDomNode &parent);
+    void setAttribute(const QDomElement &element, ElementKind kind, const QString &name, const QString &value);
     QDomElement holder(const ElementSchema &kind, const QStringList &tags) const;
     QDomElement listForNew(const ElementSchema &kind, const QDomElement &holder);
     void dropReferences(const QDomElement &element, ElementKind kind);
@@ -109,7 +111,7 @@ template <typename Fields> QDomElement JobTree::add(const Kind<Fields> &kind, Fi
         fields.id += QString::number(index.ids().firstFreeNumber(fields.id, 1));
     const QDomElement element = create(fields.element, kind.table, &fields);
     addLists(element, kind.kind);
-    insert(element, list);
+    insert(element, kind.kind, list);
     return element;
 }
 
