@@ -1,11 +1,11 @@
 // Job files: whatever a file holds, it is refused with a reason or becomes a job that answers every query, saves, and
 // is the same after loading.
 
-#include "everyquery.h"
 #include "fuzzing.h"
 
 #include "documentcheck.h"
 #include "jobeditorprobe.h"
+#include "operations.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -1,103 +1,118 @@
 #include "jobeditorprobe.h"
+#include "operations.h"
 #include "testcases.h"
 #include "testlanguage.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 
-/// What operations on a job's plan make of a job: of the elements themselves and of those that name them.
+/// What the operations of a job answer and change. tests/data/README.md describes the form of the cases.
 class JobOperationsTest : public QObject
 {
     Q_OBJECT
 
 private:
+    const QVector<const char *> m_files{"cases/cables.txt",  "cases/copies.txt",   "cases/fields.txt",
+                                        "cases/floors.txt",  "cases/lengths.txt",  "cases/lifecycle.txt",
+                                        "cases/queries.txt", "cases/removals.txt", "cases/rooms.txt"};
     QTemporaryDir m_directory;
 
-    JobEditor &load(const QByteArray &content)
+    /// Opens the job of that content.
+    static JobEditor &load(const QByteArray &content)
     {
-        writeFile(m_directory.filePath("site.job"), content);
-        if (!JobEditor::Instance().Load(m_directory.filePath("site.job")))
-            qFatal("%s", qPrintable(JobEditor::Instance().error()));
-        return JobEditor::Instance();
+        writeFile("site.job", content);
+        JobEditor &job = JobEditor::Instance();
+        if (!job.Load("site.job"))
+            qFatal("%s", qPrintable(job.error()));
+        return job;
     }
 
-    /// Does what a line tells: the name of an operation of JobEditor and its arguments, "-" for an empty one.
-    static void apply(JobEditor &job, const QString &line)
+    /// The lines with messages as the test's language has them.
+    static QString translatedErrors(const QString &lines)
     {
-        QStringList words = line.split(' ');
-        words.replaceInStrings(QRegularExpression("^-$"), "");
-        const auto word = [&words](int position) { return words.value(position); };
-        const auto number = [&words](int position) { return words.value(position).toInt(); };
-        const QMap<QString, QString> cableIds{{withGeneratedNames("Cable001"), words.value(3, "unasked")}};
-        const TestResults results("now", word(2), "2", "S", cable_struct::untested(), 1);
-        const QHash<QString, std::function<void()>> operations{
-            {"addCable", [&] { job.addCable(word(2), word(3), number(1)); }},
-            {"addFloor", [&] { job.addFloor(word(2), word(3), 8, QString(), number(1)); }},
-            {"addRoom", [&] { job.addRoom(Room(word(3), 1.9, 2, 3, 4, word(4), word(1), 5, 6, 0, 1, 2), number(2)); }},
-            {"copyFloor", [&] { job.copyFloor(word(1), word(2), cableIds, words.size() > 3); }},
-            {"copySheet", [&] { job.copySheet(word(1), word(2)); }},
-            {"getBackgroundOption", [&] { job.getBackgroundOption(word(1)); }},
-            {"getCable", [&] { job.getCable(word(1)); }},
-            {"getFloor", [&] { job.getFloor(word(1)); }},
-            {"getFloorBackgroundOrigin", [&] { job.getFloorBackgroundOrigin(word(1)); }},
-            {"getFloorCeilingHeight", [&] { job.getFloorCeilingHeight(word(1)); }},
-            {"getRoomById", [&] { job.getRoomById(word(1), word(2)); }},
-            {"getRoomByTag", [&] { job.getRoomByTag(word(1), word(2)); }},
-            {"removeCable", [&] { job.removeCable(word(1)); }},
-            {"removeDevice", [&] { job.removeDevice(word(1)); }},
-            {"removeFloor", [&] { job.removeFloor(word(1)); }},
-            {"removePoint", [&] { job.removePoint(word(1)); }},
-            {"removePort", [&] { job.removePort(word(1)); }},
-            {"removeRoom", [&] { job.removeRoom(word(1), word(2)); }},
-            {"removeSheet", [&] { job.removeSheet(word(1)); }},
-            {"removeVertRun", [&] { job.removeVertRun(word(1)); }},
-            {"removeVertice", [&] { job.removeVertice(word(1)); }},
-            {"setBackgroundOption", [&] { job.setBackgroundOption(word(1), word(2)); }},
-            {"setCableID", [&] { job.setCableID(word(1), word(2)); }},
-            {"setCableTestResults", [&] { job.setCableTestResults(word(1), results); }},
-            {"setFloorBackgroundPic", [&] { job.setFloorBackgroundPic(word(1), word(2), number(3), number(4)); }},
-            {"setFloorCeilingHeight", [&] { job.setFloorCeilingHeight(word(1), word(2).toDouble()); }},
-            {"setFloorId", [&] { job.setFloorId(word(1), word(2)); }},
-            {"setPortRoom", [&] { job.setPortRoom(word(1), word(2), word(3)); }},
-            {"setRoomLayer", [&] { job.setRoomLayer(word(1), word(2), number(3)); }},
-            {"setRoomName", [&] { job.setRoomName(word(1), word(2), word(3)); }},
-            {"setRoomNamePos", [&] { job.setRoomNamePos(word(1), word(2), QPoint(number(3), number(4))); }},
-            {"setRoomPos", [&] { job.setRoomPos(word(1), word(2), number(3), number(4), number(5), number(6)); }},
-            {"setSheetID", [&] { job.setSheetID(word(1), word(2)); }},
-            {"setShowRoomDimensions", [&] { job.setShowRoomDimensions(word(1), word(2), number(3)); }},
-            {"setShowRoomName", [&] { job.setShowRoomName(word(1), word(2), number(3)); }},
-            {"setVertRunRoom", [&] { job.setVertRunRoom(word(1), word(2), word(3)); }},
-        };
-        if (!operations.contains(words.first()))
-            qFatal("unknown: %s", qPrintable(line));
-        operations.value(words.first())();
+        QStringList all = lines.split('\n');
+        for (QString &line : all) {
+            if (line.startsWith("error = "))
+                line = "error = " + JobEditor::tr(line.mid(8).toLatin1());
+        }
+        return all.join('\n');
     }
 
 private Q_SLOTS:
-    void cleanupTestCase() { JobEditor::Destroy(); }
-
-    void operations_data()
+    void initTestCase()
     {
-        addCases({"cases/cables.txt", "cases/copies.txt", "cases/floors.txt", "cases/removals.txt", "cases/rooms.txt"});
+        QVERIFY(QDir::setCurrent(m_directory.path()) && QDir().mkdir("data"));
+        for (const char *file : {"lengths.job", "site.job"})
+            writeFile(QString("data/") + file, withGeneratedNames(testData(file)));
     }
+
+    void cleanup() { JobEditor::Destroy(); }
+
+    void operations_data() { addCases(m_files); }
 
     void operations()
     {
         QFETCH(TestCase, testCase);
-        testCase.given = withGeneratedNames(testCase.given);
-        testCase.expected = withGeneratedNames(testCase.expected);
-        const QByteArray expected = JobEditorProbe(load(testCase.expected)).text();
-        const QByteArray content = testCase.given.mid(testCase.given.indexOf('<'));
-        JobEditor &job = load(content);
+        const QString given = QString::fromLatin1(withGeneratedNames(testCase.given));
+        const QString lines = translatedErrors(given.section("<Job>", 0, 0).trimmed());
+        const QByteArray content = given.mid(given.indexOf("<Job>")).toLatin1();
+        QByteArray expected = withGeneratedNames(testCase.expected);
+        QVERIFY2(!expected.isEmpty() || !lines.contains("-> elements"), "the case does not show the job");
+        if (!expected.isEmpty())
+            expected = JobEditorProbe(load(expected)).text();
+        JobEditor::Destroy();
+        JobEditor &job = content.startsWith('<') ? load(content) : JobEditor::Instance();
         const JobEditorProbe probe(job);
-        QVERIFY(probe.indexesMatchTheTree());
-        const QByteArray before = probe.text();
-        const QStringList lines = QString(testCase.given).section('<', 0, 0).trimmed().split('\n');
-        for (const QString &line : lines) {
-            apply(job, line);
-            QVERIFY(probe.indexesMatchTheTree());
+        QStringList transcript;
+        for (const QString &line : lines.split('\n')) {
+            transcript.append(transcriptOf(job, line.section(QRegularExpression(" (=|->|!)( |$)"), 0, 0)));
+            QVERIFY2(probe.root().isNull() || probe.indexesMatchTheTree(), qPrintable(line));
         }
-        QCOMPARE(QString(probe.text()), QString(expected));
-        QCOMPARE(job.fileChanged(), probe.text() != before);
+        COMPARE_TEXTS(transcript.join('\n'), lines, testCase.place());
+        if (!expected.isEmpty())
+            COMPARE_TEXTS(QString::fromLatin1(probe.text()), QString::fromLatin1(expected), testCase.place());
+    }
+
+    void everyOperationHasACase()
+    {
+        QString cases;
+        for (const char *file : m_files)
+            cases += testData(file);
+        for (const QString &name : operationNames())
+            QVERIFY2(cases.contains(QRegularExpression('\n' + name + "[ \n]")), qPrintable(name));
+    }
+
+    /// What a caller did to the tree counts after each of the rebuilds.
+    void rebuildsSeeTheChangesOfCallers()
+    {
+        using Rebuild = void (JobEditor::*)();
+        for (const Rebuild rebuild :
+             {&JobEditor::updateAllInternalLists, &JobEditor::populateCurrentCablesLists, &JobEditor::populateCableMap,
+              &JobEditor::populateCableTypeMap, &JobEditor::populateConnectionMap, &JobEditor::populateSheetMap,
+              &JobEditor::populateDeviceMap, &JobEditor::populateVerticeMap, &JobEditor::populateFreeTextMap,
+              &JobEditor::populateFloorMap, &JobEditor::populateRoomMap, &JobEditor::populatePortMap,
+              &JobEditor::populateActivePortMap, &JobEditor::populateVerticalRunMap, &JobEditor::populatePointMap,
+              &JobEditor::populateFloorFreeTextMap}) {
+            JobEditor &job =
+                load("<Job><Version number='3.0'/><Cable_List><C1/></Cable_List><Floor_List><F1><Room_List>"
+                     "<R1><Port_List><P1/><P2/></Port_List></R1></Room_List></F1></Floor_List></Job>");
+            job.removePort("P2");
+            job.getToCableList().firstChildElement().setAttribute("to", "P1");
+            (job.*rebuild)();
+            job.removePort("P1");
+            QCOMPARE(job.getCables(true), QStringList());
+        }
+    }
+
+    void floorsInBetween()
+    {
+        const JobEditorProbe probe(load("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"
+                                        "<FFloor_11/><FFloor_12/></Floor_List></Job>"));
+        // In the order of the tags, not of the numbers.
+        QCOMPARE(probe.floorsInBetween("FFloor_12", "FFloor_8").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
+        QCOMPARE(probe.floorsInBetween("FFloor_8", "FFloor_12").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
+        QVERIFY(probe.floorsInBetween("FFloor_9", "FFloor_10").isEmpty());
+        QVERIFY(probe.floorsInBetween("FFloor_9", "FFloor_9").isEmpty());
     }
 };
 
