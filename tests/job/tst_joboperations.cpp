@@ -1,3 +1,4 @@
+#include "bkteditor.h"
 #include "jobeditorprobe.h"
 #include "operations.h"
 #include "testcases.h"
@@ -6,25 +7,40 @@
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 
-/// What the operations of a job answer and change. tests/data/README.md describes the form of the cases.
+/// What the operations of a job, and those of a template, answer and change. tests/data/README.md describes the form of
+/// the cases.
 class JobOperationsTest : public QObject
 {
     Q_OBJECT
 
 private:
-    const QVector<const char *> m_files{"cases/cables.txt",  "cases/copies.txt",   "cases/fields.txt",
-                                        "cases/floors.txt",  "cases/lengths.txt",  "cases/lifecycle.txt",
-                                        "cases/queries.txt", "cases/removals.txt", "cases/rooms.txt"};
+    const QVector<const char *> m_files{"cases/cables.txt",    "cases/copies.txt",   "cases/exchange.txt",
+                                        "cases/fields.txt",    "cases/floors.txt",   "cases/lengths.txt",
+                                        "cases/lifecycle.txt", "cases/queries.txt",  "cases/removals.txt",
+                                        "cases/rooms.txt",     "cases/templates.txt"};
     QTemporaryDir m_directory;
 
-    /// Opens the job of that content.
-    static JobEditor &load(const QByteArray &content)
+    /// Opens the job and the template of a case, or one of them.
+    static void open(const QString &documents)
     {
-        writeFile("site.job", content);
-        JobEditor &job = JobEditor::Instance();
-        if (!job.Load("site.job"))
-            qFatal("%s", qPrintable(job.error()));
-        return job;
+        for (const QString &document : documents.split(QRegularExpression("(?=<Job>|<Bkt>)"))) {
+            const bool isJob = document.startsWith("<Job>");
+            const QString name = isJob ? "site.job" : "shop.bkt";
+            writeFile(name, document.toLatin1());
+            if (!document.isEmpty() && !(isJob ? JobEditor::Instance().Load(name) : BktEditor::Instance().Load(name)))
+                qFatal("%s: %s", qPrintable(JobEditor::Instance().error()), qPrintable(document));
+        }
+    }
+
+    /// The texts of the documents that a case expects, as they would be saved now.
+    static QString savedTexts(const QString &expected)
+    {
+        QByteArray texts;
+        if (expected.contains("<Job>"))
+            texts += JobEditorProbe(JobEditor::Instance()).text();
+        if (expected.contains("<Bkt>") && BktEditor::Instance().saveAs("saved.bkt"))
+            texts += readFile("saved.bkt");
+        return QString::fromLatin1(texts);
     }
 
     /// The lines with messages as the test's language has them.
@@ -32,8 +48,9 @@ private:
     {
         QStringList all = lines.split('\n');
         for (QString &line : all) {
-            if (line.startsWith("error = "))
-                line = "error = " + JobEditor::tr(line.mid(8).toLatin1());
+            const QString call = callIn(line);
+            if (call.endsWith("error"))
+                line = call + " = " + translated(call == "error" ? "JobEditor" : "BktEditor", line.section(" = ", 1));
         }
         return all.join('\n');
     }
@@ -46,31 +63,33 @@ private Q_SLOTS:
             writeFile(QString("data/") + file, withGeneratedNames(testData(file)));
     }
 
-    void cleanup() { JobEditor::Destroy(); }
+    void cleanup()
+    {
+        JobEditor::Destroy();
+        BktEditor::Destroy();
+    }
 
-    void operations_data() { addCases(m_files); }
+    void cases_data() { addCases(m_files); }
 
-    void operations()
+    void cases()
     {
         QFETCH(TestCase, testCase);
         const QString given = QString::fromLatin1(withGeneratedNames(testCase.given));
-        const QString lines = translatedErrors(given.section("<Job>", 0, 0).trimmed());
-        const QByteArray content = given.mid(given.indexOf("<Job>")).toLatin1();
-        QByteArray expected = withGeneratedNames(testCase.expected);
-        QVERIFY2(!expected.isEmpty() || !lines.contains("-> elements"), "the case does not show the job");
-        if (!expected.isEmpty())
-            expected = JobEditorProbe(load(expected)).text();
-        JobEditor::Destroy();
-        JobEditor &job = content.startsWith('<') ? load(content) : JobEditor::Instance();
-        const JobEditorProbe probe(job);
+        const QString lines = translatedErrors(given.section(QRegularExpression("<(Job|Bkt)>"), 0, 0).trimmed());
+        QString expected = QString::fromLatin1(withGeneratedNames(testCase.expected));
+        QVERIFY2(expected.contains("<Job>") || !lines.contains("-> elements"), "the case does not show the job");
+        open(expected);
+        expected = savedTexts(expected);
+        cleanup();
+        open(given.section(QRegularExpression("(?=<(Job|Bkt)>)"), 1));
+        const JobEditorProbe probe(JobEditor::Instance());
         QStringList transcript;
         for (const QString &line : lines.split('\n')) {
-            transcript.append(transcriptOf(job, line.section(QRegularExpression(" (=|->|!)( |$)"), 0, 0)));
+            transcript.append(transcriptOf(callIn(line)));
             QVERIFY2(probe.root().isNull() || probe.indexesMatchTheTree(), qPrintable(line));
         }
         COMPARE_TEXTS(transcript.join('\n'), lines, testCase.place());
-        if (!expected.isEmpty())
-            COMPARE_TEXTS(QString::fromLatin1(probe.text()), QString::fromLatin1(expected), testCase.place());
+        COMPARE_TEXTS(savedTexts(expected), expected, testCase.place());
     }
 
     void everyOperationHasACase()
@@ -78,8 +97,8 @@ private Q_SLOTS:
         QString cases;
         for (const char *file : m_files)
             cases += testData(file);
-        for (const QString &name : operationNames())
-            QVERIFY2(cases.contains(QRegularExpression('\n' + name + "[ \n]")), qPrintable(name));
+        for (const Callable &operation : operations())
+            QVERIFY2(cases.contains(QRegularExpression('\n' + operation.name + "[ \n]")), qPrintable(operation.name));
     }
 
     /// What a caller did to the tree counts after each of the rebuilds.
@@ -93,9 +112,9 @@ private Q_SLOTS:
               &JobEditor::populateFloorMap, &JobEditor::populateRoomMap, &JobEditor::populatePortMap,
               &JobEditor::populateActivePortMap, &JobEditor::populateVerticalRunMap, &JobEditor::populatePointMap,
               &JobEditor::populateFloorFreeTextMap}) {
-            JobEditor &job =
-                load("<Job><Version number='3.0'/><Cable_List><C1/></Cable_List><Floor_List><F1><Room_List>"
-                     "<R1><Port_List><P1/><P2/></Port_List></R1></Room_List></F1></Floor_List></Job>");
+            open("<Job><Version number='3.0'/><Cable_List><C1/></Cable_List><Floor_List><F1><Room_List>"
+                 "<R1><Port_List><P1/><P2/></Port_List></R1></Room_List></F1></Floor_List></Job>");
+            JobEditor &job = JobEditor::Instance();
             job.removePort("P2");
             job.getToCableList().firstChildElement().setAttribute("to", "P1");
             (job.*rebuild)();
@@ -106,8 +125,9 @@ private Q_SLOTS:
 
     void floorsInBetween()
     {
-        const JobEditorProbe probe(load("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"
-                                        "<FFloor_11/><FFloor_12/></Floor_List></Job>"));
+        open("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"
+             "<FFloor_11/><FFloor_12/></Floor_List></Job>");
+        const JobEditorProbe probe(JobEditor::Instance());
         // In the order of the tags, not of the numbers.
         QCOMPARE(probe.floorsInBetween("FFloor_12", "FFloor_8").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
         QCOMPARE(probe.floorsInBetween("FFloor_8", "FFloor_12").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));

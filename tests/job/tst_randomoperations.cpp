@@ -149,7 +149,7 @@ private:
         }
         const QRegularExpressionMatch kindName = QRegularExpression(" tag=([A-Z]+)").match(form);
         if (!kindName.hasMatch()) {
-            answerTo(job, words);
+            answerTo(operations(), words);
             return;
         }
         const Kind kind = *std::find_if(kinds.begin(), kinds.end(), [&kindName](const Kind &candidate) {
@@ -158,7 +158,7 @@ private:
         const Names before(elementsAt(root, kind.path));
         const Names inScope(elementsAt(root, pathOf(kind)));
         const QVector<QDomElement> elements = elementsAt(root, kind.path);
-        const QString answer = answerTo(job, words);
+        const QString answer = answerTo(operations(), words);
         for (const QDomElement &element : elementsAt(root, kind.path)) {
             if (!elements.contains(element))
                 checkNames(kind, element, before.tags, inScope.ids, tag, id, words.constLast().toInt(), answer);

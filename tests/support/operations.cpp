@@ -2,81 +2,44 @@
 
 #include "bkteditor.h"
 #include "jobeditorprobe.h"
-#include "valuetexts.h"
 
 namespace {
 
-enum class Kind { Text, Flag, Number, Other };
-
-struct Operation
-{
-    QString name;
-    QVector<Kind> arguments;
-    std::function<QString(JobEditor &, const QStringList &)> call; ///< returns the answer
-};
-
-template <typename Argument> constexpr Kind kindOf()
-{
-    if (std::is_same_v<Argument, QString>)
-        return Kind::Text;
-    if (std::is_same_v<Argument, bool>)
-        return Kind::Flag;
-    return std::is_same_v<Argument, int> ? Kind::Number : Kind::Other;
-}
-
-template <typename Result, typename... Arguments, typename Function>
-Operation makeOperation(const char *name, Function function)
-{
-    return {name, {kindOf<Arguments>()...}, [function](JobEditor &job, const QStringList &words) {
-                [[maybe_unused]] auto word = words.cbegin();
-                const std::tuple<Arguments...> arguments{valueOf<Arguments>(*word++)...};
-                const auto call = [&](const auto &...values) { return std::invoke(function, job, values...); };
-                if constexpr (!std::is_void_v<Result>) {
-                    const QString answer = textOf(std::decay_t<Result>(std::apply(call, arguments)));
-                    return answer.isEmpty() ? QString("-") : answer;
-                } else {
-                    std::apply(call, arguments);
-                    return QString();
-                }
-            }};
-}
-
-template <typename Class, typename Result, typename... Arguments>
-Operation operation(const char *name, Result (Class::*function)(Arguments...))
-{
-    return makeOperation<Result, std::decay_t<Arguments>...>(name, function);
-}
-
-template <typename Class, typename Result, typename... Arguments>
-Operation operation(const char *name, Result (Class::*function)(Arguments...) const)
-{
-    return makeOperation<Result, std::decay_t<Arguments>...>(name, function);
-}
-
-template <typename Result> Operation operation(const char *name, Result (*function)(const QString &))
-{
-    return makeOperation<Result, QString>(name,
-                                          [function](JobEditor &, const QString &text) { return function(text); });
-}
-
-// One row each, or several of names that are alike.
-
 /// The one of several functions that has this result and this first argument.
 template <typename Class, typename Result, typename First, typename... Rest>
-Operation overload(const char *name, Result (Class::*function)(First, Rest...))
+Callable byFirst(const char *name, Result (Class::*function)(First, Rest...))
 {
-    return operation(name, function);
+    return callable<JobEditor>(name, function);
 }
 
 /// The one of several functions that has exactly this type.
-template <typename Function> Operation exact(const char *name, Function JobEditor::*function)
+template <typename Function, typename Document = JobEditor>
+Callable exact(const char *name, Function Document::*function)
 {
-    return operation(name, function);
+    return callable<Document>(name, function);
 }
 
-#define OP(name) operation(#name, &JobEditor::name)
+void importTemplate()
+{
+    JobEditor::Instance().Import(&BktEditor::Instance());
+}
+
+void importMissing()
+{
+    JobEditor::Instance().ImportMissingDefaultCableTypes(&BktEditor::Instance());
+}
+
+void importJob()
+{
+    BktEditor::Instance().Import(&JobEditor::Instance());
+}
+
+} // namespace
+
+#define OP(name) callable<JobEditor>(#name, &JobEditor::name)
+#define TEMPLATE(name) callable<BktEditor>("template." #name, &BktEditor::name)
 #define ACCESS(name) OP(get##name), OP(set##name)
-#define BY_FIRST(Class, name, Result, First) overload<Class, Result, First>(#name, &Class::name)
+#define BY_FIRST(Class, name, Result, First) byFirst<Class, Result, First>(#name, &Class::name)
 #define EXACT(name, ...) exact<__VA_ARGS__>(#name, &JobEditor::name)
 #define ADD_AND_REMOVE(Kind, Record)                                                                                   \
     BY_FIRST(JobEditor, add##Kind, QString, Text), BY_FIRST(JobEditor, add##Kind, QString, const Record &),            \
@@ -86,104 +49,84 @@ template <typename Function> Operation exact(const char *name, Function JobEdito
         OP(get##Kind##TagById), OP(set##Kind##ID)
 
 #define OPERATIONS(...)                                                                                                \
-    const QVector<Operation> &operations()                                                                             \
+    const QVector<Callable> &operations()                                                                              \
     {                                                                                                                  \
         using Text = const QString &;                                                                                  \
-        static const QVector<Operation> all{__VA_ARGS__};                                                              \
+        static const QVector<Callable> all{__VA_ARGS__};                                                               \
         return all;                                                                                                    \
     }
 
-OPERATIONS(EXACT(New, QString()), EXACT(New, bool(Text)), EXACT(save, bool()), OP(Load), OP(Unload), OP(saveAnyway),
-           OP(saveAs), OP(filename), OP(error), OP(fileChanged), OP(checkJobExtension), OP(checkUntitledJob),
-           OP(defaultBktFile), OP(setDefaultBktFile), OP(setRelease), EXACT(getRelease, int() const),
-           EXACT(getRelease, QString(Text) const), OP(addRelease), OP(removeRelease), ACCESS(JobNotesText),
-           OP(cableExists), OP(connectionExists), OP(floorExists), OP(sheetExists), OP(roomExists), OP(portExists),
-           OP(vertRunExists), OP(portOrVertRunExists), OP(deviceExists), OP(verticeExists), OP(pointExists),
-           OP(freeTextExists), OP(floorFreeTextExists), OP(activePortExists), OP(roomExistsOnFloor), OP(getCables),
-           OP(getConnections), OP(getActivePorts), OP(getRooms), OP(getPorts), OP(getVertRuns), OP(getPoints),
-           OP(getFloorFreeTexts), OP(getDevices), OP(getVertices), OP(getFreeTexts), OP(getToCableList),
-           OP(getToConnectionList), OP(getToActivePortList), OP(getToRoomList), OP(getToPortList), OP(getToVertRunList),
-           OP(getToPointList), OP(getToFloorFreeTextList), OP(getToDeviceList), OP(getToFreeTextList),
-           OP(getToVerticeList), OP(getToJobNotesList), ADD_AND_REMOVE(Floor, Floor), OP(getFloorTags), OP(getFloorIds),
-           OP(getFloorIdByTag), OP(getFloorTagById), OP(getFloor), OP(setFloorId), OP(setAllFloorIds),
-           ACCESS(FloorCeilingHeight), ACCESS(FloorBackgroundPic), OP(getFloorBackgroundOrigin),
-           ACCESS(BackgroundOption), OP(getFloorNumber), OP(copyFloor), BY_FIRST(JobEditor, addSheet, QString, Text),
-           BY_FIRST(JobEditor, addSheet, QString, const Sheet &), OP(removeSheet), OP(getSheetTags), OP(getSheetIds),
-           OP(getSheetIdByTag), OP(getSheetTagById), OP(getSheet), OP(setSheetID), OP(setAllSheetIDs),
-           OP(getSheetNumber), OP(copySheet), ADD_AND_REMOVE(Room, Room), EXACT(getRoomByTag, Room(Text)),
-           EXACT(getRoomByTag, Room(Text, Text)), OP(getRoomById), OP(setRoomPos), OP(setRoomName), OP(setRoomNamePos),
-           OP(setRoomLayer), OP(setShowRoomName), OP(setShowRoomDimensions), DRAWN(Port, Port), ACCESS(PortPos),
-           ACCESS(PortUse), ACCESS(PortIconScale), ACCESS(PortDropHeight), ACCESS(PortRoom), OP(getPortFloor),
-           DRAWN(VertRun, VertRun), ACCESS(VertRunPos), ACCESS(VertRunUse), ACCESS(VertRunIconScale),
-           ACCESS(VertRunDropHeight), ACCESS(VertRunRoom), OP(getVertRunFloor), ACCESS(VertRunConnected),
-           ACCESS(VertRunDisconnected), OP(isCableInVertRun), OP(connectCableToVertRun), OP(disconnectCableFromVertRun),
-           OP(removeCableFromVertRun), DRAWN(Point, Point), ACCESS(PointPos), OP(getPointFloor),
-           DRAWN(Vertice, Vertice), ACCESS(VerticePos), OP(getVerticeSheet), DRAWN(Device, Device), ACCESS(DeviceType),
-           ACCESS(DevicePos), ACCESS(DeviceIconScale), ACCESS(DeviceInfo), OP(getDeviceSheet),
-           DRAWN(FreeText, FreeText), ACCESS(FreeTextText), ACCESS(FreeTextPos), ACCESS(FreeTextFontFamily),
-           ACCESS(FreeTextFontSize), ACCESS(FreeTextBold), ACCESS(FreeTextItalic), ACCESS(FreeTextColor),
-           OP(getFreeTextSheet), DRAWN(FloorFreeText, FreeText), ACCESS(FloorFreeTextText), ACCESS(FloorFreeTextPos),
-           ACCESS(FloorFreeTextFontFamily), ACCESS(FloorFreeTextFontSize), ACCESS(FloorFreeTextBold),
-           ACCESS(FloorFreeTextItalic), ACCESS(FloorFreeTextColor), OP(getFloorFreeTextFloor),
-           DRAWN(ActivePort, ActivePort), ACCESS(ActivePortPort), OP(getActiveTestResults), OP(addActiveTestResult),
-           OP(removeActiveTestResult), OP(activePortTestResultExists),
-           BY_FIRST(JobEditor, addCable, QString, const Cable &), EXACT(addCable, QString(Text, Text, int)),
-           EXACT(addCable, QString(Text, Text, Text, int)), EXACT(addCable, QString(Text, Text, Text, Text, int)),
-           EXACT(addCable, QString(Text, Text, Text, Text, Text, int)),
-           EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, int)),
-           EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, const TestResults &, int)),
-           EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, Text, Text, Text, Text, const QStringList &,
-                                   const TestResults &, int)),
-           BY_FIRST(JobEditor, removeCable, void, Text), BY_FIRST(JobEditor, removeCable, void, const Cable &),
-           OP(getCable), OP(getCableById), OP(getCableElement), ACCESS(CableID), ACCESS(CableUse), ACCESS(CableTo),
-           ACCESS(CableFrom), ACCESS(CableType), ACCESS(CablePath), ACCESS(CableBundleName), ACCESS(CableBundleNum),
-           ACCESS(CableBundleGroupNum), ACCESS(CableColor), ACCESS(CableDefaultType), ACCESS(CableTestResults),
-           OP(getCableStatus), OP(cableIsInBundle), OP(bundleGroupNumExists), OP(getCablesByType), OP(getCablesByUse),
-           OP(getCablesByBundle), OP(getCablesByBundleGroup), OP(getCablesByPort), OP(getCablesByFloor),
-           OP(getCablesByStatus), OP(getRoundedCableLength), OP(getMaxRoundedCableLength), OP(estimateCableLength),
-           OP(estimateCableLengths), EXACT(addConnection, QString(Text, Text, Text, Text, Text, int)),
-           BY_FIRST(JobEditor, addConnection, QString, const DeviceConnection &),
-           BY_FIRST(JobEditor, removeConnection, void, Text),
-           BY_FIRST(JobEditor, removeConnection, void, const DeviceConnection &), OP(getConnection),
-           OP(getConnectionTagById), ACCESS(ConnectionTo), ACCESS(ConnectionFrom), OP(getConnectionType),
-           EXACT(setConnectionType, void(Text, Text)), ACCESS(SiteContact), ACCESS(SiteJobID), ACCESS(SiteCompany),
-           ACCESS(SitePhone), ACCESS(SiteEmail), ACCESS(SiteAddress), OP(getSiteData),
-           BY_FIRST(JobEditor, setSiteData, void, const SiteData &), BY_FIRST(JobEditor, setSiteData, void, Text),
-           ACCESS(ContractorTester), ACCESS(ContractorCompany), ACCESS(ContractorEmail), ACCESS(ContractorPhone),
-           ACCESS(ContractorLogo), ACCESS(ContractorAddress), OP(getContractorData),
-           BY_FIRST(BKXMLEditor, setContractorData, void, const ContractorData &),
-           BY_FIRST(BKXMLEditor, setContractorData, void, Text), ACCESS(PrintSettings), ACCESS(PageSettings),
-           ACCESS(ScaleSettings), OP(addTestDef), OP(renameTestDef), OP(removeTestDef), OP(getTestDef),
-           OP(testDefExists), OP(testDefElementExists), OP(getTestDefElements), OP(getTestDefNames),
-           BY_FIRST(BKXMLEditor, addBundledCableType, void, Text),
-           BY_FIRST(BKXMLEditor, addBundledCableType, void, const BundledCable &), OP(renameBundledCableType),
-           OP(removeBundledCableTypeByTag), OP(getBundledCableType), OP(getBundledCableTypeIdByTag),
-           OP(getBundledCableTypeTagById), OP(getBundledCableTypeTags), OP(getBundledCableTypeIds),
-           OP(bundledCableTypeTagExists), OP(bundledCableTypeIdExists))
+OPERATIONS(
+    EXACT(New, QString()), EXACT(New, bool(Text)), EXACT(save, bool()), OP(Load), OP(Unload), OP(saveAnyway),
+    OP(saveAs), OP(filename), OP(error), OP(fileChanged), OP(checkJobExtension), OP(checkUntitledJob),
+    OP(defaultBktFile), OP(setDefaultBktFile), OP(setRelease), EXACT(getRelease, int() const),
+    EXACT(getRelease, QString(Text) const), OP(addRelease), OP(removeRelease), ACCESS(JobNotesText), OP(cableExists),
+    OP(connectionExists), OP(floorExists), OP(sheetExists), OP(roomExists), OP(portExists), OP(vertRunExists),
+    OP(portOrVertRunExists), OP(deviceExists), OP(verticeExists), OP(pointExists), OP(freeTextExists),
+    OP(floorFreeTextExists), OP(activePortExists), OP(roomExistsOnFloor), OP(getCables), OP(getConnections),
+    OP(getActivePorts), OP(getRooms), OP(getPorts), OP(getVertRuns), OP(getPoints), OP(getFloorFreeTexts),
+    OP(getDevices), OP(getVertices), OP(getFreeTexts), OP(getToCableList), OP(getToConnectionList),
+    OP(getToActivePortList), OP(getToRoomList), OP(getToPortList), OP(getToVertRunList), OP(getToPointList),
+    OP(getToFloorFreeTextList), OP(getToDeviceList), OP(getToFreeTextList), OP(getToVerticeList), OP(getToJobNotesList),
+    ADD_AND_REMOVE(Floor, Floor), OP(getFloorTags), OP(getFloorIds), OP(getFloorIdByTag), OP(getFloorTagById),
+    OP(getFloor), OP(setFloorId), OP(setAllFloorIds), ACCESS(FloorCeilingHeight), ACCESS(FloorBackgroundPic),
+    OP(getFloorBackgroundOrigin), ACCESS(BackgroundOption), OP(getFloorNumber), OP(copyFloor),
+    BY_FIRST(JobEditor, addSheet, QString, Text), BY_FIRST(JobEditor, addSheet, QString, const Sheet &),
+    OP(removeSheet), OP(getSheetTags), OP(getSheetIds), OP(getSheetIdByTag), OP(getSheetTagById), OP(getSheet),
+    OP(setSheetID), OP(setAllSheetIDs), OP(getSheetNumber), OP(copySheet), ADD_AND_REMOVE(Room, Room),
+    EXACT(getRoomByTag, Room(Text)), EXACT(getRoomByTag, Room(Text, Text)), OP(getRoomById), OP(setRoomPos),
+    OP(setRoomName), OP(setRoomNamePos), OP(setRoomLayer), OP(setShowRoomName), OP(setShowRoomDimensions),
+    DRAWN(Port, Port), ACCESS(PortPos), ACCESS(PortUse), ACCESS(PortIconScale), ACCESS(PortDropHeight),
+    ACCESS(PortRoom), OP(getPortFloor), DRAWN(VertRun, VertRun), ACCESS(VertRunPos), ACCESS(VertRunUse),
+    ACCESS(VertRunIconScale), ACCESS(VertRunDropHeight), ACCESS(VertRunRoom), OP(getVertRunFloor),
+    ACCESS(VertRunConnected), ACCESS(VertRunDisconnected), OP(isCableInVertRun), OP(connectCableToVertRun),
+    OP(disconnectCableFromVertRun), OP(removeCableFromVertRun), DRAWN(Point, Point), ACCESS(PointPos),
+    OP(getPointFloor), DRAWN(Vertice, Vertice), ACCESS(VerticePos), OP(getVerticeSheet), DRAWN(Device, Device),
+    ACCESS(DeviceType), ACCESS(DevicePos), ACCESS(DeviceIconScale), ACCESS(DeviceInfo), OP(getDeviceSheet),
+    DRAWN(FreeText, FreeText), ACCESS(FreeTextText), ACCESS(FreeTextPos), ACCESS(FreeTextFontFamily),
+    ACCESS(FreeTextFontSize), ACCESS(FreeTextBold), ACCESS(FreeTextItalic), ACCESS(FreeTextColor), OP(getFreeTextSheet),
+    DRAWN(FloorFreeText, FreeText), ACCESS(FloorFreeTextText), ACCESS(FloorFreeTextPos),
+    ACCESS(FloorFreeTextFontFamily), ACCESS(FloorFreeTextFontSize), ACCESS(FloorFreeTextBold),
+    ACCESS(FloorFreeTextItalic), ACCESS(FloorFreeTextColor), OP(getFloorFreeTextFloor), DRAWN(ActivePort, ActivePort),
+    ACCESS(ActivePortPort), OP(getActiveTestResults), OP(addActiveTestResult), OP(removeActiveTestResult),
+    OP(activePortTestResultExists), BY_FIRST(JobEditor, addCable, QString, const Cable &),
+    EXACT(addCable, QString(Text, Text, int)), EXACT(addCable, QString(Text, Text, Text, int)),
+    EXACT(addCable, QString(Text, Text, Text, Text, int)), EXACT(addCable, QString(Text, Text, Text, Text, Text, int)),
+    EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, int)),
+    EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, const TestResults &, int)),
+    EXACT(addCable, QString(Text, Text, Text, Text, Text, Text, Text, Text, Text, Text, const QStringList &,
+                            const TestResults &, int)),
+    BY_FIRST(JobEditor, removeCable, void, Text), BY_FIRST(JobEditor, removeCable, void, const Cable &), OP(getCable),
+    OP(getCableById), OP(getCableElement), ACCESS(CableID), ACCESS(CableUse), ACCESS(CableTo), ACCESS(CableFrom),
+    ACCESS(CableType), ACCESS(CablePath), ACCESS(CableBundleName), ACCESS(CableBundleNum), ACCESS(CableBundleGroupNum),
+    ACCESS(CableColor), ACCESS(CableDefaultType), ACCESS(CableTestResults), OP(getCableStatus), OP(cableIsInBundle),
+    OP(bundleGroupNumExists), OP(getCablesByType), OP(getCablesByUse), OP(getCablesByBundle),
+    OP(getCablesByBundleGroup), OP(getCablesByPort), OP(getCablesByFloor), OP(getCablesByStatus),
+    OP(getRoundedCableLength), OP(getMaxRoundedCableLength), OP(estimateCableLength), OP(estimateCableLengths),
+    EXACT(addConnection, QString(Text, Text, Text, Text, Text, int)),
+    BY_FIRST(JobEditor, addConnection, QString, const DeviceConnection &),
+    BY_FIRST(JobEditor, removeConnection, void, Text),
+    BY_FIRST(JobEditor, removeConnection, void, const DeviceConnection &), OP(getConnection), OP(getConnectionTagById),
+    ACCESS(ConnectionTo), ACCESS(ConnectionFrom), OP(getConnectionType), EXACT(setConnectionType, void(Text, Text)),
+    ACCESS(SiteContact), ACCESS(SiteJobID), ACCESS(SiteCompany), ACCESS(SitePhone), ACCESS(SiteEmail),
+    ACCESS(SiteAddress), OP(getSiteData), BY_FIRST(JobEditor, setSiteData, void, const SiteData &),
+    BY_FIRST(JobEditor, setSiteData, void, Text), ACCESS(ContractorTester), ACCESS(ContractorCompany),
+    ACCESS(ContractorEmail), ACCESS(ContractorPhone), ACCESS(ContractorLogo), ACCESS(ContractorAddress),
+    OP(getContractorData), BY_FIRST(BKXMLEditor, setContractorData, void, const ContractorData &),
+    BY_FIRST(BKXMLEditor, setContractorData, void, Text), ACCESS(PrintSettings), ACCESS(PageSettings),
+    ACCESS(ScaleSettings), OP(addTestDef), OP(renameTestDef), OP(removeTestDef), OP(getTestDef), OP(testDefExists),
+    OP(testDefElementExists), OP(getTestDefElements), OP(getTestDefNames),
+    BY_FIRST(BKXMLEditor, addBundledCableType, void, Text),
+    BY_FIRST(BKXMLEditor, addBundledCableType, void, const BundledCable &), OP(renameBundledCableType),
+    OP(removeBundledCableTypeByTag), OP(getBundledCableType), OP(getBundledCableTypeIdByTag),
+    OP(getBundledCableTypeTagById), OP(getBundledCableTypeTags), OP(getBundledCableTypeIds),
+    OP(bundledCableTypeTagExists), OP(bundledCableTypeIdExists), OP(Export), callable("Import", importTemplate),
+    callable("ImportMissingDefaultCableTypes", importMissing), callable("template.Import", importJob), TEMPLATE(New),
+    TEMPLATE(Load), TEMPLATE(LoadWithoutSaving), exact<bool(), BktEditor>("template.save", &BktEditor::save),
+    TEMPLATE(saveAnyway), TEMPLATE(saveAs), TEMPLATE(filename), TEMPLATE(setFilename), TEMPLATE(error),
+    TEMPLATE(fileChanged), TEMPLATE(checkBktExtension), TEMPLATE(getTestDefNames), TEMPLATE(setContractorTester))
 
-/// The words of a line: those in quotation marks as they stand, "-" as an empty one.
-QStringList wordsOf(const QString &line)
-{
-    static const QRegularExpression word("\"([^\"]*)\"|(\\S+)");
-    QStringList words;
-    for (auto found = word.globalMatch(line); found.hasNext();) {
-        const QRegularExpressionMatch match = found.next();
-        const bool isQuoted = match.capturedStart(1) >= 0;
-        words.append(isQuoted ? QLatin1String("") + match.captured(1) : match.captured(2));
-        if (words.constLast() == "-")
-            words.last() = QString();
-    }
-    return words;
-}
-
-/// Whether the operation takes these arguments. Records are told from other texts by their "=".
-bool takes(const Operation &operation, const QString &name, const QStringList &arguments)
-{
-    bool isTaken = operation.name == name && operation.arguments.size() == arguments.size();
-    for (int i = 0; isTaken && i < arguments.size(); ++i)
-        isTaken = operation.arguments.at(i) != Kind::Text || !arguments.at(i).contains('=');
-    return isTaken;
-}
+namespace {
 
 /// The attributes of the element that begins in a line, with their values.
 QStringList attributesIn(const QString &line)
@@ -238,31 +181,15 @@ QStringList someNames(const JobEditorProbe &probe)
 
 } // namespace
 
-QString answerTo(JobEditor &job, const QStringList &words)
+QString transcriptOf(const QString &line)
 {
-    for (const Operation &operation : operations()) {
-        if (takes(operation, words.constFirst(), words.mid(1)))
-            return operation.call(job, words.mid(1));
-    }
-    qFatal("no such operation: %s", qPrintable(words.join(' ')));
-}
-
-QStringList operationNames()
-{
-    QStringList names;
-    for (const Operation &operation : operations())
-        names.append(operation.name);
-    return names;
-}
-
-QString transcriptOf(JobEditor &job, const QString &line)
-{
+    JobEditor &job = JobEditor::Instance();
     const JobEditorProbe probe(job);
     const QByteArray before = probe.text();
     job.setDirty(false);
     if (line != "error")
         job.error().clear();
-    const QString answer = answerTo(job, wordsOf(line));
+    const QString answer = answerTo(operations(), wordsOf(line));
     QString transcript = answer.isEmpty() ? line : line + " = " + answer;
     const QByteArray after = probe.text();
     if (job.fileChanged())
@@ -274,21 +201,21 @@ QString transcriptOf(JobEditor &job, const QString &line)
 
 void callEveryQuery(JobEditor &job)
 {
-    static const QVector<Operation> queries = [] {
-        QVector<Operation> found;
-        for (const Operation &operation : operations()) {
+    static const QVector<Callable> queries = [] {
+        QVector<Callable> found;
+        for (const Callable &operation : operations()) {
             if (operation.name.contains(QRegularExpression("^(get|is|estimate)|Exists|IsIn"))
-                && !operation.arguments.contains(Kind::Other))
+                && !operation.arguments.contains(ArgumentKind::Other))
                 found.append(operation);
         }
         return found;
     }();
-    const QMap<Kind, QStringList> choices{{Kind::Text, someNames(JobEditorProbe(job))},
-                                          {Kind::Flag, {"false", "true"}},
-                                          {Kind::Number, {"-1", "0", "3", "4"}}};
-    for (const Operation &query : queries) {
+    const QMap<ArgumentKind, QStringList> choices{{ArgumentKind::Text, someNames(JobEditorProbe(job))},
+                                                  {ArgumentKind::Flag, {"false", "true"}},
+                                                  {ArgumentKind::Number, {"-1", "0", "3", "4"}}};
+    for (const Callable &query : queries) {
         QVector<QStringList> calls{QStringList()};
-        for (const Kind kind : query.arguments) {
+        for (const ArgumentKind kind : query.arguments) {
             QVector<QStringList> longerCalls;
             for (const QStringList &call : std::as_const(calls)) {
                 for (const QString &choice : choices.value(kind))
@@ -297,6 +224,6 @@ void callEveryQuery(JobEditor &job)
             calls = longerCalls;
         }
         for (const QStringList &call : std::as_const(calls))
-            query.call(job, call);
+            query.call(call);
     }
 }
