@@ -1,5 +1,5 @@
-// What one operation on one cable costs in jobs of 1,000 to 100,000 cables, and what it costs to walk to the cable from
-// sibling to sibling; and what it costs to read all fields of all of 10,000 cables in both ways.
+// Measures what one operation on one cable costs in jobs of 1,000 to 100,000 cables, and what a walk to the cable from
+// sibling to sibling costs. Also measures what it costs to read all fields of 10,000 cables in both ways.
 
 #include "ratios.h"
 
@@ -15,7 +15,7 @@ constexpr int smallJob = 1000;
 constexpr int middleJob = 10000;
 constexpr int bigJob = 100000;
 
-/// Makes the one job hold that many cables; the ids run past three digits in both.
+/// Fills the job with the given number of cables. In each size, some ids have more than three digits.
 void prepare(int cables)
 {
     static int prepared = 0;
@@ -29,7 +29,7 @@ void prepare(int cables)
         job.addCable(QString(), QString(), QStringLiteral("data"), QStringLiteral("P1"), QStringLiteral("P2"), 0);
 }
 
-/// Tags and ids of cables all over the job, the same number for each size.
+/// Returns tags and ids of cables from the whole job, the same number for each size.
 QVector<QString> someCables(bool byTag)
 {
     const QStringList names = JobEditor::Instance().getCables(byTag);
@@ -121,7 +121,7 @@ void siblingWalk(benchmark::State &state)
     });
 }
 
-/// Reads all fields of all cables, those of one tag with each call.
+/// Reads all fields of all cables. Each call reads those of one tag.
 template <typename ReadFields> void readAll(benchmark::State &state, ReadFields readFields)
 {
     prepare(middleJob);
@@ -133,7 +133,7 @@ template <typename ReadFields> void readAll(benchmark::State &state, ReadFields 
     }
 }
 
-/// One getter a field.
+/// With one getter for each field.
 void readAllFields(benchmark::State &state)
 {
     readAll(state, [](JobEditor &job, const QString &tag) {
@@ -170,7 +170,7 @@ int main(int argc, char *argv[])
         {"siblingWalk", siblingWalk},
     };
     std::vector<Ratio> ratios;
-    // One size after the other: preparing a job takes longer than measuring in it.
+    // One size after the other, because preparing a job takes longer than measuring in it.
     for (const int cables : {smallJob, middleJob, bigJob}) {
         for (const auto &[name, operation] : operations)
             benchmark::RegisterBenchmark(name.c_str(), operation)->Arg(cables);

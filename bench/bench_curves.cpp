@@ -1,4 +1,4 @@
-// Encoding and decoding of a response curve beside the obvious way in Qt, and beside the bare conversion of
+// Compares the encoding and decoding of a response curve with the obvious way in Qt, and with the bare conversion of
 // the same numbers.
 
 #include "ratios.h"

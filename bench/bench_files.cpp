@@ -1,7 +1,7 @@
-// Whole job files of 1,000, 10,000 and 100,000 cables: load, save, memory and the rebuild of the indexes, beside a bare
-// QDomDocument, and beside pugixml, which sets the limit for what a lean tree can do.
+// Measures whole job files of 1,000, 10,000 and 100,000 cables: load, save, memory and the rebuild of the indexes. They
+// are compared with a bare QDomDocument, and with pugixml, which shows the limit of a lean tree.
 //
-//     bench_files FOLDER [options of Google Benchmark]      the files are made in FOLDER, unless they are there
+//     bench_files FOLDER [options of Google Benchmark]      makes the files in FOLDER unless they exist
 //     bench_files memory job|bare|pugixml FILE              loads the file and prints the process's memory in MB
 
 #include "ratios.h"
@@ -54,7 +54,7 @@ QString text(const char *latin1, int number)
     return QString::fromLatin1(latin1).arg(number);
 }
 
-/// Floors of rooms of ports, two ports for each cable, and all cables tested.
+/// Makes floors with rooms and ports, two ports for each cable. All cables are tested.
 void make(int cables)
 {
     JobEditor::Destroy();
@@ -115,7 +115,7 @@ LeanDocument loadLean(const QString &fileName)
     return document;
 }
 
-/// Measures the work alone; what it returns is destroyed afterwards.
+/// Measures only the work. What it returns is destroyed afterwards.
 template <typename Work> void measure(benchmark::State &state, Work work)
 {
     using Clock = std::chrono::steady_clock;
@@ -133,7 +133,7 @@ void load(benchmark::State &state)
     JobEditor::Destroy();
     measure(state, [&fileName] {
         loadJob(fileName);
-        // Destroyed outside of the measured time, as the others are.
+        // Destroyed outside of the measured time, like the others.
         return std::shared_ptr<void>(nullptr, [](void *) { JobEditor::Destroy(); });
     });
 }
@@ -190,7 +190,7 @@ void rebuild(benchmark::State &state)
     JobEditor::Destroy();
 }
 
-/// What the process holds in memory at this moment, in MB.
+/// Returns the memory that the process has now, in MB.
 double residentMegabytes()
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -215,7 +215,7 @@ int printMemory(const QByteArray &what, const QString &fileName)
     return 0;
 }
 
-/// Of a process of its own.
+/// Returns the memory that a separate process needs.
 double memoryOf(const char *what, int cables)
 {
     QProcess process;
@@ -280,7 +280,7 @@ int main(int argc, char *argv[])
                                      {"load" + size, "pugixmlLoad" + size},
                                      {"save" + size, "pugixmlSave" + size}});
     }
-    // All in turn, so that none has the memory or the disk at its best.
+    // All in turn, so that none has an advantage from the state of the memory or the disk.
     std::vector<char *> arguments(argv + 1, argv + argc);
     char mixed[] = "--benchmark_enable_random_interleaving=true";
     arguments.insert(arguments.begin() + 1, mixed);

@@ -1,5 +1,5 @@
-// What it costs to copy a floor, beside adding the same ports and cables one by one, and to remove a port from
-// jobs of 1,000 and of 100,000 ports.
+// Measures what it costs to copy a floor, compared with adding the same ports and cables one by one, and to remove a
+// port from jobs of 1,000 and of 100,000 ports.
 
 #include "ratios.h"
 
@@ -13,7 +13,7 @@ constexpr int portsOfFloor = 2000;
 constexpr int smallJob = 1000;
 constexpr int bigJob = 100000;
 
-/// Adds that many ports to a floor, with a cable from each to the next, and returns their tags.
+/// Adds the given number of ports to a floor, with a cable from each to the next. Returns the tags of the ports.
 QVector<QString> fillFloor(JobEditor &job, const QString &floor, int ports)
 {
     QVector<QString> tags;
@@ -66,12 +66,12 @@ void copyFloor(benchmark::State &state)
 }
 BENCHMARK(copyFloor)->Unit(benchmark::kMillisecond);
 
-/// With each port go the cables to its neighbours.
+/// The cables to the neighbours of a port are removed with it.
 void removePort(benchmark::State &state)
 {
     JobEditor &job = newJob();
     const QVector<QString> ports = fillFloor(job, job.getFloorTags().constFirst(), int(state.range(0)));
-    job.removePort(ports.constLast()); // the first removal reads what names what
+    job.removePort(ports.constLast()); // the first removal reads all references
     int next = 0;
     for (auto _ : state)
         job.removePort(ports.at(next++));

@@ -9,12 +9,13 @@
 #include <string>
 #include <vector>
 
-/// What is compared with what: the time of the first divided by the time of the second.
+/// A comparison: the time of the first benchmark divided by the time of the second.
 struct Ratio
 {
     std::string name;
     std::string reference;
-    double aim = 0; ///< what the ratio shall not exceed; 0 when nothing was promised
+    /// Value that the ratio must not exceed, or 0 if there is none.
+    double aim = 0;
 };
 
 inline void printRatio(const Ratio &ratio, double value, const char *what = "takes")
@@ -25,7 +26,7 @@ inline void printRatio(const Ratio &ratio, double value, const char *what = "tak
     std::printf("\n");
 }
 
-/// Reports times as usual and keeps the shortest of each benchmark for the ratios.
+/// Reports times as usual, and keeps the shortest time of each benchmark for the ratios.
 class KeepingReporter : public benchmark::ConsoleReporter
 {
 public:
@@ -40,7 +41,7 @@ public:
         for (const Run &run : runs) {
             if (run.run_type != Run::RT_Iteration)
                 continue;
-            // Manual times are real ones: what waits for a disk uses no processor.
+            // Manual times are real times, because waiting for a disk takes no processor time.
             const std::string name =
                 run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
             const bool isReal = !run.run_name.time_type.empty();
@@ -62,7 +63,7 @@ public:
         }
     }
 
-    /// Adds a line for each benchmark to a file: its name and its seconds.
+    /// Appends a line for each benchmark to a file, with its name and its seconds.
     void appendTimes(const char *fileName) const
     {
         std::FILE *file = std::fopen(fileName, "a");
@@ -77,8 +78,8 @@ private:
     std::map<std::string, double> m_seconds;
 };
 
-/// The main function of a benchmark: all of them in one run, then the ratios. The times are also added to the file that
-/// CABLEDOC_BENCH_TIMES names.
+/// The main function of a benchmark. Runs all benchmarks, and then prints the ratios. Appends the times to the file
+/// named by CABLEDOC_BENCH_TIMES.
 inline int runBenchmarks(int argc, char *argv[], const std::vector<Ratio> &ratios)
 {
     benchmark::Initialize(&argc, argv);

@@ -1,4 +1,5 @@
-# What the targets of the project are compiled with, and how the folders of src/ become targets.
+# What the targets of the project are compiled with, how the folders of src/ become targets, and how libraries are
+# installed.
 
 add_library(cabledoc_warnings INTERFACE)
 target_compile_options(cabledoc_warnings INTERFACE
@@ -33,17 +34,51 @@ function(cabledoc_public_headers)
       string(REGEX REPLACE ".*(class|struct) (CABLEDOC_EXPORT )?([A-Za-z_]+).*" "\\3" class ${definition})
       file(CONFIGURE OUTPUT ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class} CONTENT "#include \"${name}\"\n")
       install(FILES ${CABLEDOC_PUBLIC_INCLUDE_DIR}/cabledoc/${class}
-              DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+              DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
+      if(definition MATCHES CABLEDOC_EXPORT)
+        set_property(GLOBAL APPEND PROPERTY CABLEDOC_EXPORTED_CLASSES ${class})
+      endif()
     endforeach()
   endforeach()
-  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabledoc)
+  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}/cabledoc)
+endfunction()
+
+# cabledoc_install_library(TARGET NAME PATTERN...)
+# Installs a shared library as libNAME.so.ABI. It exports the C++ names that match a pattern and no others.
+function(cabledoc_install_library target name)
+  list(JOIN ARGN ";\n      " patterns)
+  set(version_script ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+  file(CONFIGURE OUTPUT ${version_script} CONTENT
+"CABLEDOC_QT${CABLEDOC_QT_MAJOR}_${CABLEDOC_ABI} {
+  global:
+    extern \"C++\" {
+      ${patterns};
+    };
+  local:
+    *;
+};
+")
+  target_link_options(${target} PRIVATE LINKER:--version-script=${version_script})
+  set_target_properties(${target} PROPERTIES
+    LINK_DEPENDS ${version_script}
+    OUTPUT_NAME ${name}
+    SOVERSION ${CABLEDOC_ABI})
+  target_include_directories(${target} INTERFACE
+    $<BUILD_INTERFACE:${CABLEDOC_PUBLIC_INCLUDE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${CABLEDOC_PACKAGE}>)
+  install(TARGETS ${target} EXPORT cabledocTargets)
 endfunction()
 
 # cabledoc_layer(NAME SOURCES ... HEADERS ... USES ...)
 # One folder of src/ as a set of objects. It finds the headers of the folders it uses and of no
-# others, so the compiler keeps the order of the folders. HEADERS are the public ones.
+# others, so the compiler keeps the order of the folders. The test "layers" keeps it for symbols.
+# HEADERS are the public ones.
 function(cabledoc_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;HEADERS;USES")
+  foreach(used IN LISTS layer_USES)
+    get_property(further GLOBAL PROPERTY ${used}_uses)
+    set_property(GLOBAL APPEND PROPERTY cabledoc_${name}_uses ${used} ${further})
+  endforeach()
   add_library(cabledoc_${name} OBJECT ${layer_SOURCES} ${layer_HEADERS})
   target_include_directories(cabledoc_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/export)
   target_compile_definitions(cabledoc_${name} PRIVATE cabledoc_EXPORTS)

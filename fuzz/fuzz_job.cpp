@@ -1,5 +1,5 @@
-// Job files: whatever a file holds, it is refused with a reason or becomes a job that answers every query, saves, and
-// is the same after loading.
+// Fuzzes job files. A file is either refused with a reason, or becomes a job that answers every query, and that is the
+// same after it has been saved and loaded.
 
 #include "fuzzing.h"
 

@@ -1,6 +1,6 @@
-// Operations on jobs: whatever is done in which order to whatever job, the job as it is saved is what the manual says,
-// and every answer is what a walk through the saved text gives, which shares no code with the document and its indexes.
-// What the library does with the text of a test's data and with the name of a scale is taken from it.
+// Fuzzes operations on jobs. After any operations on any job, the saved job is as the manual describes it. Every answer
+// equals that of a walk through the saved text, which shares no code with the document and its indexes. Only the
+// conversion of test data and the factors of scales are taken from the library.
 
 #include "answers.h"
 #include "operations.h"
@@ -55,7 +55,7 @@ namespace {
 
 constexpr int maximumSteps = 60;
 
-/// The first step: nothing is done yet.
+/// The first step, which does nothing.
 void nothing(Session *) {}
 
 void compareAll(Session *session)
@@ -69,7 +69,7 @@ void compareAll(Session *session)
 
 Operation someOperation(Choices *choices)
 {
-    // With how many chances of sixteen
+    // With their chances out of sixteen.
     static const std::pair<int, const Operations &(*)()> groups[] = {
         {6, elementOperations}, {4, planOperations}, {4, cableOperations}, {2, contentOperations}};
     int chance = choices->number(16);

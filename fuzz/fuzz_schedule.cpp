@@ -1,4 +1,5 @@
-// Cable schedules: whatever a file holds, it is refused and changes nothing, or is imported, once and for all.
+// Fuzzes cable schedules. A schedule is either refused and changes nothing, or is imported, and a second import changes
+// nothing.
 
 #include "fuzzing.h"
 
@@ -14,7 +15,7 @@ bool isImported(const ScheduleReport &report)
     return report.error.isEmpty() && report.problems.isEmpty();
 }
 
-/// Whether an import finds nothing to add or to change.
+/// Returns whether an import finds nothing to add or to change.
 bool isUpToDate(JobEditor &job, const QString &schedule)
 {
     const ScheduleReport report = importSchedule(job, schedule);

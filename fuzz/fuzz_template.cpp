@@ -1,5 +1,5 @@
-// Template files of all versions: whatever a file holds, it is refused with a reason or becomes a template of the
-// current version that is the same after saving and loading, and that jobs can take over.
+// Fuzzes template files of all versions. A file is either refused with a reason, or becomes a template of the current
+// version that is the same after it has been saved and loaded, and that jobs can import.
 
 #include "fuzzing.h"
 

@@ -1,4 +1,5 @@
-// The text forms of test data: what any text becomes has a text of its own, which is read as what has the same text.
+// Fuzzes the text forms of test data. If any text is read and written, the result is a text that is read as the same
+// data.
 
 #include "fuzzing.h"
 

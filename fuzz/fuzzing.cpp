@@ -32,7 +32,7 @@ bool isText(const QDomNode &node)
     return node.nodeType() == QDomNode::TextNode;
 }
 
-/// The value of the node; of a text with those that follow it, which are one in a file.
+/// Returns the value of a node. The value of a text includes those of the texts after it, which are one text in a file.
 QString valueOf(const QDomNode &node)
 {
     QString value = node.nodeValue();

@@ -9,20 +9,20 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What the fuzzers share. Each of them runs one input; libFuzzer invents the inputs.
+/// Shared by all fuzzers. Each of them runs one input. libFuzzer makes the inputs.
 
-/// Says what does not hold and ends the process.
+/// Reports what is wrong, and ends the process.
 [[noreturn]] void fail(const char *what);
 
-/// Ends the process when something does not hold that must.
+/// Ends the process if the condition does not hold.
 inline void expect(bool holds, const char *what)
 {
     if (!holds)
         fail(what);
 }
 
-/// Writes the input to a file of that name in a folder of the fuzzer's own, and returns its path.
+/// Writes the input to a file with the given name in a folder of the fuzzer's own. Returns the path of the file.
 QString inputFile(const char *name, const std::uint8_t *data, std::size_t size);
 
-/// Whether two trees hold the same, in the same order; attributes have none.
+/// Returns whether two trees have the same content in the same order. The order of attributes does not count.
 bool equalTrees(const QDomNode &a, const QDomNode &b);

@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>Der Dateiname enthält ein NUL-Zeichen.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>Die Datei konnte nicht geladen werden. Sie wird nicht ersetzt; speichern Sie unter einem anderen Namen.</translation>
     </message>
 </context>
@@ -51,112 +51,6 @@
     <message>
         <source>Unable to Save file (NULL)</source>
         <translation>Ohne Dateinamen kann nicht gespeichert werden</translation>
-    </message>
-</context>
-<context>
-    <name>Cables</name>
-    <message>
-        <source>Lists the cables of a job file with their ends, the status of their tests and their measured lengths.</source>
-        <translation>Listet die Kabel einer Auftragsdatei mit ihren Enden, dem Stand ihrer Prüfung und ihren gemessenen Längen auf.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of a table.</source>
-        <translation>JSON statt einer Tabelle ausgeben.</translation>
-    </message>
-    <message>
-        <source>Lengths in metres instead of feet.</source>
-        <translation>Längen in Metern statt in Fuß.</translation>
-    </message>
-    <message>
-        <source>Cable</source>
-        <translation>Kabel</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
-        <source>Use</source>
-        <translation>Nutzung</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>Von</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>Nach</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stand</translation>
-    </message>
-    <message>
-        <source>Length (m)</source>
-        <translation>Länge (m)</translation>
-    </message>
-    <message>
-        <source>Length (ft)</source>
-        <translation>Länge (ft)</translation>
-    </message>
-</context>
-<context>
-    <name>Command</name>
-    <message>
-        <source>The file.</source>
-        <translation>Die Datei.</translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation>Diese Hilfe anzeigen.</translation>
-    </message>
-    <message>
-        <source>The file to write. An existing one is not replaced.</source>
-        <translation>Die Datei, die geschrieben wird. Eine vorhandene wird nicht ersetzt.</translation>
-    </message>
-    <message>
-        <source>one file name is needed</source>
-        <translation>ein Dateiname ist nötig</translation>
-    </message>
-    <message>
-        <source>two file names are needed</source>
-        <translation>zwei Dateinamen sind nötig</translation>
-    </message>
-    <message>
-        <source>--%1 is needed</source>
-        <translation>--%1 ist nötig</translation>
-    </message>
-    <message>
-        <source>%1 exists and is left as it is</source>
-        <translation>%1 gibt es schon und bleibt, wie es ist</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc %1 --help&quot; tells how it is used</source>
-        <translation>&quot;cabledoc %1 --help&quot; zeigt, wie es geht</translation>
-    </message>
-    <message>
-        <source>standard output: %1</source>
-        <translation>Standardausgabe: %1</translation>
-    </message>
-    <message>
-        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
-        <translation>Die Größe, über der eine Datei nicht gelesen wird, etwa 500M oder 8G; 4G, wenn nichts angegeben ist.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a size such as 500M</source>
-        <translation>&quot;%1&quot; ist keine Größe wie 500M</translation>
-    </message>
-    <message>
-        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
-        <translation>Ein anderes Programm ändert die Datei gerade: %1, Prozess %2 auf %3. Wenn nicht, löschen Sie %4</translation>
-    </message>
-    <message>
-        <source>The file cannot be locked: its folder does not let a file be created</source>
-        <translation>Die Datei kann nicht gesperrt werden: Ihr Ordner lässt keine neue Datei zu</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>
@@ -225,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>Es ist keine Datei angegeben</translation>
     </message>
     <message>
@@ -237,7 +131,7 @@
         <translation>%1, Zeile %2, Spalte %3: %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 ist keine XML-Datei</translation>
     </message>
     <message>
@@ -245,7 +139,7 @@
         <translation>die Datei beginnt weder mit dem Element &quot;%1&quot; noch mit &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; ist keine bekannte Version</translation>
     </message>
     <message>
@@ -253,11 +147,11 @@
         <translation>Version %1 ist älter als %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>das Tag ist das von Zeile %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
     </message>
     <message>
@@ -289,7 +183,7 @@
         <translation>&quot;%1&quot;: es gibt kein Kabel &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot;: es gibt kein Gerät und keinen Punkt &quot;%2&quot;</translation>
     </message>
     <message>
@@ -297,11 +191,11 @@
         <translation>Text</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; enthält &quot;%2&quot;, das beim Speichern verloren geht</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; ist keine brauchbare Zahl</translation>
     </message>
 </context>
@@ -312,73 +206,6 @@
         <comment>forbidden characters in field</comment>
         <extracomment>Further characters may be added behind these.</extracomment>
         <translation>;&lt;&gt;|&amp;?$*&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>Info</name>
-    <message>
-        <source>Test status</source>
-        <translation>Prüfstand</translation>
-    </message>
-    <message>
-        <source>Cables</source>
-        <translation>Kabel</translation>
-    </message>
-    <message>
-        <source>Floor</source>
-        <translation>Etage</translation>
-    </message>
-    <message>
-        <source>Tag</source>
-        <translation>Tag</translation>
-    </message>
-    <message>
-        <source>Ceiling</source>
-        <translation>Deckenhöhe</translation>
-    </message>
-    <message>
-        <source>Rooms</source>
-        <translation>Räume</translation>
-    </message>
-    <message>
-        <source>Ports</source>
-        <translation>Anschlüsse</translation>
-    </message>
-    <message>
-        <source>Vertical runs</source>
-        <translation>Steigleitungen</translation>
-    </message>
-    <message>
-        <source>Points</source>
-        <translation>Punkte</translation>
-    </message>
-    <message>
-        <source>Texts</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Blatt</translation>
-    </message>
-    <message>
-        <source>Devices</source>
-        <translation>Geräte</translation>
-    </message>
-    <message>
-        <source>Connections</source>
-        <translation>Verbindungen</translation>
-    </message>
-    <message>
-        <source>Active ports</source>
-        <translation>Aktive Anschlüsse</translation>
-    </message>
-    <message>
-        <source>Shows what a job file holds: its floors and sheets in the order of their tags, and how many cables, connections and active ports it has.</source>
-        <translation>Zeigt, was eine Auftragsdatei enthält: ihre Etagen und Blätter in der Reihenfolge ihrer Tags, und wie viele Kabel, Verbindungen und aktive Anschlüsse sie hat.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of tables.</source>
-        <translation>JSON statt Tabellen ausgeben.</translation>
     </message>
 </context>
 <context>
@@ -471,7 +298,7 @@
         <translation>&quot;%1&quot; kann nicht der Name eines XML-Elements sein</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Ein Auftrag enthält höchstens %1 Ausgaben</translation>
     </message>
     <message>
@@ -479,7 +306,7 @@
         <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Das ist die Datei des Auftrags selbst. Eine Vorlage braucht einen anderen Namen.</translation>
     </message>
 </context>
@@ -540,6 +367,345 @@
     <message>
         <source>Other</source>
         <translation>Anderes</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; ist keine Größe wie 500M</translation>
+    </message>
+    <message>
+        <source>%1 is needed</source>
+        <translation>%1 ist nötig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>&quot;%1&quot; ist ein Argument zu viel</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc %1 --help&quot; shows how to use it</source>
+        <translation>&quot;cabledoc %1 --help&quot; zeigt, wie es geht</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Nutzung</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Length (m)</source>
+        <translation>Länge (m)</translation>
+    </message>
+    <message>
+        <source>Length (ft)</source>
+        <translation>Länge (ft)</translation>
+    </message>
+    <message>
+        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
+        <translation>beide Namen müssen auf &quot;.job&quot; oder beide auf &quot;.bkt&quot; enden</translation>
+    </message>
+    <message>
+        <source>the name of a template must end in &quot;.bkt&quot;</source>
+        <translation>der Name einer Vorlage muss auf &quot;.bkt&quot; enden</translation>
+    </message>
+    <message>
+        <source>Test status</source>
+        <translation>Prüfstand</translation>
+    </message>
+    <message>
+        <source>Cables</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Ceiling</source>
+        <translation>Deckenhöhe</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Räume</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Anschlüsse</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Steigleitungen</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Active ports</source>
+        <translation>Aktive Anschlüsse</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from 1 to %2</source>
+        <translation>&quot;%1&quot; ist keine Zahl von 1 bis %2</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
+</source>
+        <translation>neu wären: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
+</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
+</source>
+        <translation>neu: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
+</translation>
+    </message>
+    <message>
+        <source>The job or template file.</source>
+        <translation>Die Auftrags- oder Vorlagendatei.</translation>
+    </message>
+    <message>
+        <source>The job file.</source>
+        <translation>Die Auftragsdatei.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of text.</source>
+        <translation>JSON statt Text ausgeben.</translation>
+    </message>
+    <message>
+        <source>The largest file to read, such as 500M; 4G by default.</source>
+        <translation>Die größte Datei, die gelesen wird, etwa 500M; sonst 4G.</translation>
+    </message>
+    <message>
+        <source>The file to write. An existing file is not replaced.</source>
+        <translation>Die neue Datei. Eine vorhandene wird nicht ersetzt.</translation>
+    </message>
+    <message>
+        <source>The number of floors, from 1 (the default) to 1000.</source>
+        <translation>Die Zahl der Etagen, von 1 (die Vorgabe) bis 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job file.</source>
+        <translation>Eine neue Auftragsdatei anlegen.</translation>
+    </message>
+    <message>
+        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Sie hat ein Blatt. Eine vorhandene Datei wird nicht ersetzt. Einem Namen ohne &quot;.job&quot; wird es angehängt.</translation>
+    </message>
+    <message>
+        <source>Show what a job file holds.</source>
+        <translation>Zeigen, was eine Auftragsdatei enthält.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
+        <translation>Die Etagen und Blätter werden in der Reihenfolge ihrer Tags aufgelistet. Kabel, Verbindungen und aktive Anschlüsse werden gezählt.</translation>
+    </message>
+    <message>
+        <source>Print lengths in metres instead of feet.</source>
+        <translation>Längen in Metern statt in Fuß ausgeben.</translation>
+    </message>
+    <message>
+        <source>List the cables of a job.</source>
+        <translation>Die Kabel eines Auftrags auflisten.</translation>
+    </message>
+    <message>
+        <source>The list shows their ends, the status of their tests and their measured lengths.</source>
+        <translation>Die Liste zeigt ihre Enden, den Stand ihrer Prüfung und ihre gemessenen Längen.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with a file.</source>
+        <translation>Melden, was an einer Datei nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
+        <translation>Jeder der ersten 50 Befunde ist eine Zeile; --json gibt alle aus. Die Datei wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Convert a file of an earlier version.</source>
+        <translation>Eine Datei früherer Version umwandeln.</translation>
+    </message>
+    <message>
+        <source>The new file has the current version. FILE is not changed.</source>
+        <translation>Die neue Datei hat die heutige Version. FILE wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The template. It is not changed.</source>
+        <translation>Die Vorlage. Sie wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Only add the default test definitions and the bundles that the job lacks.</source>
+        <translation>Nur die vorgegebenen Prüfdefinitionen und die Bündel ergänzen, die dem Auftrag fehlen.</translation>
+    </message>
+    <message>
+        <source>Apply a template to a job.</source>
+        <translation>Eine Vorlage auf einen Auftrag anwenden.</translation>
+    </message>
+    <message>
+        <source>The contractor and the settings of the job are replaced. Test definitions and bundles that the job lacks are added.</source>
+        <translation>Der Auftragnehmer und die Einstellungen des Auftrags werden ersetzt. Prüfdefinitionen und Bündel, die dem Auftrag fehlen, werden ergänzt.</translation>
+    </message>
+    <message>
+        <source>Make a template of a job.</source>
+        <translation>Aus einem Auftrag eine Vorlage machen.</translation>
+    </message>
+    <message>
+        <source>The template gets the contractor, the settings, the test definitions and the bundles of the job.</source>
+        <translation>Die Vorlage bekommt den Auftragnehmer, die Einstellungen, die Prüfdefinitionen und die Bündel des Auftrags.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file. It is not changed.</source>
+        <translation>Der Kabelplan, eine CSV-Datei. Er wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Only show what would change.</source>
+        <translation>Nur zeigen, was sich ändern würde.</translation>
+    </message>
+    <message>
+        <source>Bring a job up to a cable schedule.</source>
+        <translation>Einen Auftrag auf den Stand eines Kabelplans bringen.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
+        <translation>Etagen, Räume, Anschlüsse und Kabel, die dem Auftrag fehlen, werden ergänzt. Kabel, die abweichen, werden geändert. Wenn der Plan einen Fehler hat, wird der Auftrag nicht geändert. Jeder der ersten 50 Fehler ist eine Zeile; --json gibt alle aus.</translation>
+    </message>
+    <message>
+        <source>Print the cable schedule of a job as CSV.</source>
+        <translation>Den Kabelplan eines Auftrags als CSV ausgeben.</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: no file can be created in its folder</source>
+        <translation>Die Datei kann nicht gesperrt werden: In ihrem Ordner kann keine Datei angelegt werden</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Ein anderes Programm ändert die Datei gerade: %1, Prozess %2 auf %3. Wenn nicht, löschen Sie %4</translation>
+    </message>
+    <message>
+        <source>%1 exists and is left as it is</source>
+        <translation>%1 gibt es schon und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Show the help of a command.</source>
+        <translation>Die Hilfe eines Befehls anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>The command did its work.</source>
+        <translation>Der Befehl ist ausgeführt.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; found something wrong.</source>
+        <translation>&quot;check&quot; hat etwas gefunden.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>Der Aufruf ist falsch.</translation>
+    </message>
+    <message>
+        <source>A file could not be loaded.</source>
+        <translation>Eine Datei konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>A file could not be saved.</source>
+        <translation>Eine Datei konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The command did its work, but standard output could not be written.</source>
+        <translation>Der Befehl ist ausgeführt, aber die Standardausgabe konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc COMMAND ...
+</source>
+        <translation>Aufruf: cabledoc COMMAND ...
+</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Exit codes:</source>
+        <translation>Rückgabewerte:</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc %1
+</source>
+        <translation>Aufruf: cabledoc %1
+</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>a command is needed</source>
+        <translation>ein Befehl ist nötig</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>einen Befehl &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>Standardausgabe: %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>
@@ -695,7 +861,7 @@
         <translation>%1 hat keine Kabelliste oder keine Etagenliste</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>ein Anführungszeichen fehlt oder steht an falscher Stelle</translation>
     </message>
     <message>
@@ -703,11 +869,11 @@
         <translation>die Spalte &quot;%1&quot; fehlt</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
     </message>
     <message>
@@ -715,7 +881,7 @@
         <translation>die Zeile hat mehr Felder als die Überschrift</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; ist keine Farbe</translation>
     </message>
     <message>
@@ -723,7 +889,7 @@
         <translation>der Text ist nicht in UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; hat ein Zeichen, das in einer Auftragsdatei nicht stehen kann</translation>
     </message>
     <message>
@@ -731,7 +897,7 @@
         <translation>das Kabel hat keine ID</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>die ID &quot;%1&quot; ist die von Zeile %2</translation>
     </message>
     <message>
@@ -741,38 +907,6 @@
     <message>
         <source>the end has a port, but no floor</source>
         <translation>das Ende hat einen Anschluss, aber keine Etage</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
-</source>
-        <translation>neu wären: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
-</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
-</source>
-        <translation>neu: Etagen %1, Räume %2, Anschlüsse %3, Kabel %4; geändert: Kabel %5
-</translation>
-    </message>
-    <message>
-        <source>Brings a job file up to a cable schedule: adds the floors, rooms, ports and cables that it lacks and changes the cables that differ. When the schedule has a bad row, the job stays as it is.</source>
-        <translation>Bringt eine Auftragsdatei auf den Stand eines Kabelplans: ergänzt die Etagen, Räume, Anschlüsse und Kabel, die ihr fehlen, und ändert die Kabel, die abweichen. Wenn der Plan eine falsche Zeile hat, bleibt der Auftrag, wie er ist.</translation>
-    </message>
-    <message>
-        <source>The schedule, a CSV file. It is not changed.</source>
-        <translation>Der Plan, eine CSV-Datei. Er wird nicht geändert.</translation>
-    </message>
-    <message>
-        <source>Only tell what would be done.</source>
-        <translation>Nur sagen, was geschehen würde.</translation>
-    </message>
-    <message>
-        <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
-        <translation>Gibt den Kabelplan einer Auftragsdatei als CSV aus. Die Datei wird nicht geändert.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all problems.</source>
-        <translation>JSON statt Zeilen ausgeben, mit allen Fehlern.</translation>
     </message>
 </context>
 <context>
@@ -932,7 +1066,7 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Ein Steuerzeichen, das XML nicht erlaubt, steht im Text.</translation>
     </message>
     <message>
@@ -960,160 +1094,28 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <translation>Die Datei beginnt mit der Bytereihenfolge-Markierung von %1. Speichern Sie sie in der Kodierung ISO-8859-1 (Latin-1), ohne Markierung.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Ein Ordner hat diesen Namen.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Etwas, das keine Datei ist, hat diesen Namen.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie bleibt, wie sie ist.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Es gibt eine Datei dieses Namens. Sie bleibt, wie sie ist.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Es gibt schon eine Datei dieses Namens. Sie wird nicht ersetzt.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>Die Datei hat %1, erlaubt sind %2. Ein Dokument dieser Größe braucht etwa %3 Speicher.</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>a command is needed</source>
-        <translation>ein Befehl ist nötig</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; zeigt die Befehle</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>einen Befehl &quot;%1&quot; gibt es nicht</translation>
-    </message>
-    <message>
-        <source>Usage: cabledoc COMMAND ...
-
-Commands:
-  new FILE.job [--floors N]             make a new job file
-  info FILE.job [--json]                show what a job file holds
-  cables FILE.job [--metric] [--json]   list the cables with their tests
-  check FILE [--json]                   report what is wrong with a job or template file
-  convert FILE -o NEW                   bring an older job or template file up to date
-  import FILE.job --template FILE.bkt [--missing-only]
-                                        let a job take over what a template holds
-  export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run] [--json]
-                                        bring a job up to a cable schedule
-  schedule export FILE.job              print the cable schedule of a job
-
-Commands that read files take --max-size SIZE.
-&quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
-
-Exit codes:
-  0  all was done
-  1  &quot;check&quot; found something wrong
-  2  wrong command line
-  3  a file could not be loaded
-  4  a file could not be saved
-  5  all was done, but standard output could not be written
-</source>
-        <translation>Aufruf: cabledoc BEFEHL ...
-
-Befehle:
-  new DATEI.job [--floors N]            eine neue Auftragsdatei anlegen
-  info DATEI.job [--json]               zeigen, was eine Auftragsdatei enthält
-  cables DATEI.job [--metric] [--json]  die Kabel mit ihren Prüfungen auflisten
-  check DATEI [--json]                  berichten, was an einer Auftrags- oder Vorlagendatei nicht stimmt
-  convert DATEI -o NEU                  eine ältere Auftrags- oder Vorlagendatei auf den neuen Stand bringen
-  import DATEI.job --template DATEI.bkt [--missing-only]
-                                        einen Auftrag den Inhalt einer Vorlage übernehmen lassen
-  export DATEI.job -o NEU.bkt           aus einem Auftrag eine Vorlage machen
-  schedule import DATEI.job DATEI.csv [--dry-run] [--json]
-                                        einen Auftrag auf den Stand eines Kabelplans bringen
-  schedule export DATEI.job             den Kabelplan eines Auftrags ausgeben
-
-Befehle, die Dateien lesen, nehmen --max-size GRÖSSE.
-&quot;cabledoc BEFEHL --help&quot; sagt mehr. Außerdem: cabledoc --help, cabledoc --version.
-
-Rückgabewerte:
-  0  alles ist getan
-  1  &quot;check&quot; hat etwas gefunden
-  2  falscher Aufruf
-  3  eine Datei konnte nicht geladen werden
-  4  eine Datei konnte nicht gespeichert werden
-  5  alles ist getan, aber die Standardausgabe konnte nicht geschrieben werden
-</translation>
-    </message>
-</context>
-<context>
-    <name>runCheck</name>
-    <message>
-        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
-        <translation>Meldet, was an einer Auftrags- oder Vorlagendatei nicht stimmt, eine Zeile für jeden der ersten 50 Befunde. Die Datei wird nicht geändert.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all findings.</source>
-        <translation>JSON statt Zeilen ausgeben, mit allen Befunden.</translation>
-    </message>
-</context>
-<context>
-    <name>runConvert</name>
-    <message>
-        <source>Writes a job or template file of an earlier version as one of the current version. The file itself is not changed.</source>
-        <translation>Schreibt eine Auftrags- oder Vorlagendatei früherer Version als eine der heutigen. Die Datei selbst wird nicht geändert.</translation>
-    </message>
-    <message>
-        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
-        <translation>beide Namen müssen auf &quot;.job&quot; oder beide auf &quot;.bkt&quot; enden</translation>
-    </message>
-</context>
-<context>
-    <name>runExport</name>
-    <message>
-        <source>Makes a template of the contractor, the settings, the test definitions and the bundles of a job file.</source>
-        <translation>Macht eine Vorlage aus dem Auftragnehmer, den Einstellungen, den Prüfdefinitionen und den Bündeln einer Auftragsdatei.</translation>
-    </message>
-    <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>der Name einer Vorlage muss auf &quot;.bkt&quot; enden</translation>
-    </message>
-</context>
-<context>
-    <name>runImport</name>
-    <message>
-        <source>Lets a job file take over the contractor and the settings of a template, and the test definitions and bundles that it lacks.</source>
-        <translation>Lässt eine Auftragsdatei den Auftragnehmer und die Einstellungen einer Vorlage übernehmen, und die Prüfdefinitionen und Bündel, die ihr fehlen.</translation>
-    </message>
-    <message>
-        <source>The template. It is not changed.</source>
-        <translation>Die Vorlage. Sie wird nicht geändert.</translation>
-    </message>
-    <message>
-        <source>Only add the default test definitions and the bundles that the job lacks.</source>
-        <translation>Nur die vorgegebenen Prüfdefinitionen und die Bündel ergänzen, die dem Auftrag fehlen.</translation>
-    </message>
-</context>
-<context>
-    <name>runNew</name>
-    <message>
-        <source>Makes a new job file with one sheet. An existing file is not replaced; &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Legt eine neue Auftragsdatei mit einem Blatt an. Eine vorhandene Datei wird nicht ersetzt; einem Namen ohne &quot;.job&quot; wird es angehängt.</translation>
-    </message>
-    <message>
-        <source>Number of floors, from 1 (the default) to %1.</source>
-        <translation>Zahl der Etagen, von 1 (die Vorgabe) bis %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no number from 1 to %2</source>
-        <translation>&quot;%1&quot; ist keine Zahl von 1 bis %2</translation>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie wird nicht ersetzt.</translation>
     </message>
 </context>
 </TS>

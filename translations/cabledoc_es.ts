@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>El nombre del archivo contiene un carácter NUL.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>No se pudo cargar el archivo. No se reemplaza; guarde con otro nombre.</translation>
     </message>
 </context>
@@ -51,112 +51,6 @@
     <message>
         <source>Unable to Save file (NULL)</source>
         <translation>No se puede guardar sin nombre de archivo</translation>
-    </message>
-</context>
-<context>
-    <name>Cables</name>
-    <message>
-        <source>Lists the cables of a job file with their ends, the status of their tests and their measured lengths.</source>
-        <translation>Muestra los cables de un archivo de trabajo con sus extremos, el estado de sus pruebas y sus longitudes medidas.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of a table.</source>
-        <translation>Mostrar JSON en lugar de una tabla.</translation>
-    </message>
-    <message>
-        <source>Lengths in metres instead of feet.</source>
-        <translation>Longitudes en metros en lugar de pies.</translation>
-    </message>
-    <message>
-        <source>Cable</source>
-        <translation>Cable</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Tipo</translation>
-    </message>
-    <message>
-        <source>Use</source>
-        <translation>Uso</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>De</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>A</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Length (m)</source>
-        <translation>Longitud (m)</translation>
-    </message>
-    <message>
-        <source>Length (ft)</source>
-        <translation>Longitud (ft)</translation>
-    </message>
-</context>
-<context>
-    <name>Command</name>
-    <message>
-        <source>The file.</source>
-        <translation>El archivo.</translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation>Mostrar esta ayuda.</translation>
-    </message>
-    <message>
-        <source>The file to write. An existing one is not replaced.</source>
-        <translation>El archivo que se escribe. Uno existente no se reemplaza.</translation>
-    </message>
-    <message>
-        <source>one file name is needed</source>
-        <translation>hace falta un nombre de archivo</translation>
-    </message>
-    <message>
-        <source>two file names are needed</source>
-        <translation>hacen falta dos nombres de archivo</translation>
-    </message>
-    <message>
-        <source>--%1 is needed</source>
-        <translation>hace falta --%1</translation>
-    </message>
-    <message>
-        <source>%1 exists and is left as it is</source>
-        <translation>%1 ya existe y queda como está</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc %1 --help&quot; tells how it is used</source>
-        <translation>&quot;cabledoc %1 --help&quot; explica cómo se usa</translation>
-    </message>
-    <message>
-        <source>standard output: %1</source>
-        <translation>salida estándar: %1</translation>
-    </message>
-    <message>
-        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
-        <translation>El tamaño por encima del cual no se lee un archivo, por ejemplo 500M u 8G; 4G si no se indica.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a size such as 500M</source>
-        <translation>&quot;%1&quot; no es un tamaño como 500M</translation>
-    </message>
-    <message>
-        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
-        <translation>Otro programa está cambiando el archivo: %1, proceso %2 en %3. Si no es así, borre %4</translation>
-    </message>
-    <message>
-        <source>The file cannot be locked: its folder does not let a file be created</source>
-        <translation>No se puede bloquear el archivo: su carpeta no permite crear archivos</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>y %1 más</translation>
     </message>
 </context>
 <context>
@@ -225,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>No se ha indicado ningún archivo</translation>
     </message>
     <message>
@@ -237,7 +131,7 @@
         <translation>%1, línea %2, columna %3: %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 no es un archivo XML</translation>
     </message>
     <message>
@@ -245,7 +139,7 @@
         <translation>el archivo no empieza ni con el elemento &quot;%1&quot; ni con &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; no es una versión conocida</translation>
     </message>
     <message>
@@ -253,11 +147,11 @@
         <translation>la versión %1 es anterior a %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>su etiqueta es la de la línea %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>su identificador &quot;%1&quot; es el de la línea %2</translation>
     </message>
     <message>
@@ -289,7 +183,7 @@
         <translation>&quot;%1&quot;: no hay ningún cable &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot;: no hay ningún dispositivo ni punto &quot;%2&quot;</translation>
     </message>
     <message>
@@ -297,11 +191,11 @@
         <translation>texto</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; contiene &quot;%2&quot;, que se pierde al guardar</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; no es un número que se pueda usar</translation>
     </message>
 </context>
@@ -312,73 +206,6 @@
         <comment>forbidden characters in field</comment>
         <extracomment>Further characters may be added behind these.</extracomment>
         <translation>;&lt;&gt;|&amp;?$*&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>Info</name>
-    <message>
-        <source>Test status</source>
-        <translation>Estado de prueba</translation>
-    </message>
-    <message>
-        <source>Cables</source>
-        <translation>Cables</translation>
-    </message>
-    <message>
-        <source>Floor</source>
-        <translation>Planta</translation>
-    </message>
-    <message>
-        <source>Tag</source>
-        <translation>Etiqueta</translation>
-    </message>
-    <message>
-        <source>Ceiling</source>
-        <translation>Techo</translation>
-    </message>
-    <message>
-        <source>Rooms</source>
-        <translation>Salas</translation>
-    </message>
-    <message>
-        <source>Ports</source>
-        <translation>Tomas</translation>
-    </message>
-    <message>
-        <source>Vertical runs</source>
-        <translation>Montantes</translation>
-    </message>
-    <message>
-        <source>Points</source>
-        <translation>Puntos</translation>
-    </message>
-    <message>
-        <source>Texts</source>
-        <translation>Textos</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Hoja</translation>
-    </message>
-    <message>
-        <source>Devices</source>
-        <translation>Dispositivos</translation>
-    </message>
-    <message>
-        <source>Connections</source>
-        <translation>Conexiones</translation>
-    </message>
-    <message>
-        <source>Active ports</source>
-        <translation>Tomas activas</translation>
-    </message>
-    <message>
-        <source>Shows what a job file holds: its floors and sheets in the order of their tags, and how many cables, connections and active ports it has.</source>
-        <translation>Muestra lo que contiene un archivo de trabajo: sus plantas y hojas en el orden de sus etiquetas, y cuántos cables, conexiones y tomas activas tiene.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of tables.</source>
-        <translation>Mostrar JSON en lugar de tablas.</translation>
     </message>
 </context>
 <context>
@@ -471,7 +298,7 @@
         <translation>&quot;%1&quot; no puede ser el nombre de un elemento XML</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Un trabajo no contiene más de %1 revisiones</translation>
     </message>
     <message>
@@ -479,7 +306,7 @@
         <translation>No se puede abrir el archivo.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Este es el archivo del propio trabajo. Una plantilla necesita otro nombre.</translation>
     </message>
 </context>
@@ -540,6 +367,345 @@
     <message>
         <source>Other</source>
         <translation>Otro</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostrar esta ayuda.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; no es un tamaño como 500M</translation>
+    </message>
+    <message>
+        <source>%1 is needed</source>
+        <translation>hace falta %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>&quot;%1&quot; es un argumento de más</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc %1 --help&quot; shows how to use it</source>
+        <translation>&quot;cabledoc %1 --help&quot; muestra cómo se usa</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Cable</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Uso</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Length (m)</source>
+        <translation>Longitud (m)</translation>
+    </message>
+    <message>
+        <source>Length (ft)</source>
+        <translation>Longitud (ft)</translation>
+    </message>
+    <message>
+        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
+        <translation>los dos nombres deben terminar en &quot;.job&quot;, o los dos en &quot;.bkt&quot;</translation>
+    </message>
+    <message>
+        <source>the name of a template must end in &quot;.bkt&quot;</source>
+        <translation>el nombre de una plantilla debe terminar en &quot;.bkt&quot;</translation>
+    </message>
+    <message>
+        <source>Test status</source>
+        <translation>Estado de prueba</translation>
+    </message>
+    <message>
+        <source>Cables</source>
+        <translation>Cables</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Planta</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Ceiling</source>
+        <translation>Techo</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Salas</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Tomas</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Montantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textos</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Conexiones</translation>
+    </message>
+    <message>
+        <source>Active ports</source>
+        <translation>Tomas activas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from 1 to %2</source>
+        <translation>&quot;%1&quot; no es un número de 1 a %2</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
+</source>
+        <translation>por añadir: plantas %1, salas %2, tomas %3, cables %4; por cambiar: cables %5
+</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
+</source>
+        <translation>añadidos: plantas %1, salas %2, tomas %3, cables %4; cambiados: cables %5
+</translation>
+    </message>
+    <message>
+        <source>The job or template file.</source>
+        <translation>El archivo de trabajo o de plantilla.</translation>
+    </message>
+    <message>
+        <source>The job file.</source>
+        <translation>El archivo de trabajo.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of text.</source>
+        <translation>Mostrar JSON en lugar de texto.</translation>
+    </message>
+    <message>
+        <source>The largest file to read, such as 500M; 4G by default.</source>
+        <translation>El mayor archivo que se lee, como 500M; si no, 4G.</translation>
+    </message>
+    <message>
+        <source>The file to write. An existing file is not replaced.</source>
+        <translation>El archivo nuevo. Uno existente no se reemplaza.</translation>
+    </message>
+    <message>
+        <source>The number of floors, from 1 (the default) to 1000.</source>
+        <translation>El número de plantas, de 1 (el valor por defecto) a 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job file.</source>
+        <translation>Crear un archivo de trabajo.</translation>
+    </message>
+    <message>
+        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Tiene una hoja. Un archivo existente no se reemplaza. A un nombre sin &quot;.job&quot; se le añade.</translation>
+    </message>
+    <message>
+        <source>Show what a job file holds.</source>
+        <translation>Mostrar lo que contiene un trabajo.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
+        <translation>Las plantas y hojas se listan en el orden de sus etiquetas. Los cables, las conexiones y las tomas activas se cuentan.</translation>
+    </message>
+    <message>
+        <source>Print lengths in metres instead of feet.</source>
+        <translation>Mostrar las longitudes en metros en lugar de pies.</translation>
+    </message>
+    <message>
+        <source>List the cables of a job.</source>
+        <translation>Mostrar los cables de un trabajo.</translation>
+    </message>
+    <message>
+        <source>The list shows their ends, the status of their tests and their measured lengths.</source>
+        <translation>La lista muestra sus extremos, el estado de sus pruebas y sus longitudes medidas.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with a file.</source>
+        <translation>Señalar lo que está mal en un archivo.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
+        <translation>Cada uno de los primeros 50 hallazgos es una línea; --json los muestra todos. El archivo no se modifica.</translation>
+    </message>
+    <message>
+        <source>Convert a file of an earlier version.</source>
+        <translation>Convertir un archivo de una versión anterior.</translation>
+    </message>
+    <message>
+        <source>The new file has the current version. FILE is not changed.</source>
+        <translation>El archivo nuevo tiene la versión actual. FILE no se modifica.</translation>
+    </message>
+    <message>
+        <source>The template. It is not changed.</source>
+        <translation>La plantilla. No se modifica.</translation>
+    </message>
+    <message>
+        <source>Only add the default test definitions and the bundles that the job lacks.</source>
+        <translation>Añadir solo las definiciones de prueba predeterminadas y los haces que le faltan al trabajo.</translation>
+    </message>
+    <message>
+        <source>Apply a template to a job.</source>
+        <translation>Aplicar una plantilla a un trabajo.</translation>
+    </message>
+    <message>
+        <source>The contractor and the settings of the job are replaced. Test definitions and bundles that the job lacks are added.</source>
+        <translation>El contratista y los ajustes del trabajo se reemplazan. Las definiciones de prueba y los haces que le faltan al trabajo se añaden.</translation>
+    </message>
+    <message>
+        <source>Make a template of a job.</source>
+        <translation>Hacer una plantilla de un trabajo.</translation>
+    </message>
+    <message>
+        <source>The template gets the contractor, the settings, the test definitions and the bundles of the job.</source>
+        <translation>La plantilla recibe el contratista, los ajustes, las definiciones de prueba y los haces del trabajo.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file. It is not changed.</source>
+        <translation>El plan de cableado, un archivo CSV. No se modifica.</translation>
+    </message>
+    <message>
+        <source>Only show what would change.</source>
+        <translation>Mostrar solo lo que cambiaría.</translation>
+    </message>
+    <message>
+        <source>Bring a job up to a cable schedule.</source>
+        <translation>Poner un trabajo al día con un plan de cableado.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
+        <translation>Las plantas, salas, tomas y cables que le faltan al trabajo se añaden. Los cables que difieren se cambian. Si el plan tiene un problema, el trabajo no se cambia. Cada uno de los primeros 50 problemas es una línea; --json los muestra todos.</translation>
+    </message>
+    <message>
+        <source>Print the cable schedule of a job as CSV.</source>
+        <translation>Mostrar el plan de cableado de un trabajo como CSV.</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: no file can be created in its folder</source>
+        <translation>No se puede bloquear el archivo: en su carpeta no se puede crear ningún archivo</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Otro programa está cambiando el archivo: %1, proceso %2 en %3. Si no es así, borre %4</translation>
+    </message>
+    <message>
+        <source>%1 exists and is left as it is</source>
+        <translation>%1 ya existe y queda como está</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>Show the help of a command.</source>
+        <translation>Mostrar la ayuda de una orden.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>The command did its work.</source>
+        <translation>La orden ha hecho su trabajo.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; found something wrong.</source>
+        <translation>&quot;check&quot; ha encontrado algo.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>La línea de órdenes es incorrecta.</translation>
+    </message>
+    <message>
+        <source>A file could not be loaded.</source>
+        <translation>No se pudo cargar un archivo.</translation>
+    </message>
+    <message>
+        <source>A file could not be saved.</source>
+        <translation>No se pudo guardar un archivo.</translation>
+    </message>
+    <message>
+        <source>The command did its work, but standard output could not be written.</source>
+        <translation>La orden ha hecho su trabajo, pero no se pudo escribir la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc COMMAND ...
+</source>
+        <translation>Uso: cabledoc COMMAND ...
+</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Exit codes:</source>
+        <translation>Códigos de salida:</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc %1
+</source>
+        <translation>Uso: cabledoc %1
+</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>a command is needed</source>
+        <translation>hace falta una orden</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>no hay ninguna orden &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>salida estándar: %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
     </message>
 </context>
 <context>
@@ -695,7 +861,7 @@
         <translation>%1 no tiene lista de cables o no tiene lista de plantas</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>una comilla falta o está en un lugar equivocado</translation>
     </message>
     <message>
@@ -703,11 +869,11 @@
         <translation>falta la columna &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>no hay ninguna columna &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>la columna &quot;%1&quot; está repetida</translation>
     </message>
     <message>
@@ -715,7 +881,7 @@
         <translation>la fila tiene más campos que el encabezado</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; no es un color</translation>
     </message>
     <message>
@@ -723,7 +889,7 @@
         <translation>el texto no está en UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; tiene un carácter que un archivo de trabajo no puede contener</translation>
     </message>
     <message>
@@ -731,7 +897,7 @@
         <translation>el cable no tiene identificador</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>el identificador &quot;%1&quot; es el de la fila %2</translation>
     </message>
     <message>
@@ -741,38 +907,6 @@
     <message>
         <source>the end has a port, but no floor</source>
         <translation>el extremo tiene toma, pero no planta</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
-</source>
-        <translation>por añadir: plantas %1, salas %2, tomas %3, cables %4; por cambiar: cables %5
-</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
-</source>
-        <translation>añadidos: plantas %1, salas %2, tomas %3, cables %4; cambiados: cables %5
-</translation>
-    </message>
-    <message>
-        <source>Brings a job file up to a cable schedule: adds the floors, rooms, ports and cables that it lacks and changes the cables that differ. When the schedule has a bad row, the job stays as it is.</source>
-        <translation>Pone un archivo de trabajo al día con un plan de cableado: añade las plantas, salas, tomas y cables que le faltan y cambia los cables que difieren. Si el plan tiene una fila errónea, el trabajo queda como está.</translation>
-    </message>
-    <message>
-        <source>The schedule, a CSV file. It is not changed.</source>
-        <translation>El plan, un archivo CSV. No se modifica.</translation>
-    </message>
-    <message>
-        <source>Only tell what would be done.</source>
-        <translation>Solo decir lo que se haría.</translation>
-    </message>
-    <message>
-        <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
-        <translation>Muestra el plan de cableado de un archivo de trabajo como CSV. El archivo no se modifica.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all problems.</source>
-        <translation>Mostrar JSON en lugar de líneas, con todos los problemas.</translation>
     </message>
 </context>
 <context>
@@ -932,7 +1066,7 @@ de más de 330 ft (100 m).</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Hay un carácter de control que XML no permite.</translation>
     </message>
     <message>
@@ -960,161 +1094,28 @@ de más de 330 ft (100 m).</translation>
         <translation>El archivo empieza con la marca de orden de bytes de %1. Guárdelo en la codificación ISO-8859-1 (Latin-1), sin marca.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Una carpeta tiene este nombre.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Algo que no es un archivo tiene este nombre.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Otro programa ha cambiado el archivo desde que se leyó. Se deja como está.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Ya hay un archivo con este nombre. Se deja como está.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Ya hay un archivo con este nombre. No se reemplaza.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>No es un archivo normal.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>El archivo tiene %1 y el límite es %2. Un documento de este tamaño necesita unos %3 de memoria.</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>a command is needed</source>
-        <translation>hace falta una orden</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; muestra las órdenes</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>no hay ninguna orden &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>Usage: cabledoc COMMAND ...
-
-Commands:
-  new FILE.job [--floors N]             make a new job file
-  info FILE.job [--json]                show what a job file holds
-  cables FILE.job [--metric] [--json]   list the cables with their tests
-  check FILE [--json]                   report what is wrong with a job or template file
-  convert FILE -o NEW                   bring an older job or template file up to date
-  import FILE.job --template FILE.bkt [--missing-only]
-                                        let a job take over what a template holds
-  export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run] [--json]
-                                        bring a job up to a cable schedule
-  schedule export FILE.job              print the cable schedule of a job
-
-Commands that read files take --max-size SIZE.
-&quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
-
-Exit codes:
-  0  all was done
-  1  &quot;check&quot; found something wrong
-  2  wrong command line
-  3  a file could not be loaded
-  4  a file could not be saved
-  5  all was done, but standard output could not be written
-</source>
-        <translation>Uso: cabledoc ORDEN ...
-
-Órdenes:
-  new ARCHIVO.job [--floors N]          crear un archivo de trabajo
-  info ARCHIVO.job [--json]             mostrar lo que contiene un archivo de trabajo
-  cables ARCHIVO.job [--metric] [--json]
-                                        mostrar los cables con sus pruebas
-  check ARCHIVO [--json]                señalar lo que está mal en un archivo de trabajo o de plantilla
-  convert ARCHIVO -o NUEVO              poner al día un archivo de trabajo o de plantilla anterior
-  import ARCHIVO.job --template ARCHIVO.bkt [--missing-only]
-                                        hacer que un trabajo tome lo que contiene una plantilla
-  export ARCHIVO.job -o NUEVO.bkt       hacer una plantilla de un trabajo
-  schedule import ARCHIVO.job ARCHIVO.csv [--dry-run] [--json]
-                                        poner un trabajo al día con un plan de cableado
-  schedule export ARCHIVO.job           mostrar el plan de cableado de un trabajo
-
-Las órdenes que leen archivos aceptan --max-size TAMAÑO.
-&quot;cabledoc ORDEN --help&quot; dice más. También: cabledoc --help, cabledoc --version.
-
-Códigos de salida:
-  0  hecho sin errores
-  1  &quot;check&quot; ha encontrado algo
-  2  línea de órdenes incorrecta
-  3  no se pudo cargar un archivo
-  4  no se pudo guardar un archivo
-  5  hecho, pero no se pudo escribir la salida estándar
-</translation>
-    </message>
-</context>
-<context>
-    <name>runCheck</name>
-    <message>
-        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
-        <translation>Informa de lo que está mal en un archivo de trabajo o de plantilla, una línea por cada uno de los primeros 50 hallazgos. El archivo no se cambia.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all findings.</source>
-        <translation>Mostrar JSON en lugar de líneas, con todos los hallazgos.</translation>
-    </message>
-</context>
-<context>
-    <name>runConvert</name>
-    <message>
-        <source>Writes a job or template file of an earlier version as one of the current version. The file itself is not changed.</source>
-        <translation>Escribe un archivo de trabajo o de plantilla de una versión anterior en la versión actual. El archivo mismo no se modifica.</translation>
-    </message>
-    <message>
-        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
-        <translation>los dos nombres deben terminar en &quot;.job&quot;, o los dos en &quot;.bkt&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>runExport</name>
-    <message>
-        <source>Makes a template of the contractor, the settings, the test definitions and the bundles of a job file.</source>
-        <translation>Hace una plantilla del contratista, los ajustes, las definiciones de prueba y los haces de un archivo de trabajo.</translation>
-    </message>
-    <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>el nombre de una plantilla debe terminar en &quot;.bkt&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>runImport</name>
-    <message>
-        <source>Lets a job file take over the contractor and the settings of a template, and the test definitions and bundles that it lacks.</source>
-        <translation>Hace que un archivo de trabajo tome el contratista y los ajustes de una plantilla, y las definiciones de prueba y los haces que le faltan.</translation>
-    </message>
-    <message>
-        <source>The template. It is not changed.</source>
-        <translation>La plantilla. No se modifica.</translation>
-    </message>
-    <message>
-        <source>Only add the default test definitions and the bundles that the job lacks.</source>
-        <translation>Añadir solo las definiciones de prueba predeterminadas y los haces que le faltan al trabajo.</translation>
-    </message>
-</context>
-<context>
-    <name>runNew</name>
-    <message>
-        <source>Makes a new job file with one sheet. An existing file is not replaced; &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Crea un archivo de trabajo con una hoja. Un archivo existente no se reemplaza; a un nombre sin &quot;.job&quot; se le añade.</translation>
-    </message>
-    <message>
-        <source>Number of floors, from 1 (the default) to %1.</source>
-        <translation>Número de plantas, de 1 (el valor por defecto) a %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no number from 1 to %2</source>
-        <translation>&quot;%1&quot; no es un número de 1 a %2</translation>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Otro programa ha cambiado el archivo desde que se leyó. No se reemplaza.</translation>
     </message>
 </context>
 </TS>

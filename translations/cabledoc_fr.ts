@@ -4,11 +4,11 @@
 <context>
     <name>BKXMLEditor</name>
     <message>
-        <source>The file name holds a NUL character.</source>
+        <source>The file name contains a NUL character.</source>
         <translation>Le nom du fichier contient un caractère NUL.</translation>
     </message>
     <message>
-        <source>The file could not be loaded. It is not replaced; save under another name.</source>
+        <source>The file could not be loaded, so it is not replaced. Save under another name.</source>
         <translation>Le fichier n&apos;a pas pu être chargé. Il n&apos;est pas remplacé ; enregistrez sous un autre nom.</translation>
     </message>
 </context>
@@ -51,112 +51,6 @@
     <message>
         <source>Unable to Save file (NULL)</source>
         <translation>Impossible d&apos;enregistrer sans nom de fichier</translation>
-    </message>
-</context>
-<context>
-    <name>Cables</name>
-    <message>
-        <source>Lists the cables of a job file with their ends, the status of their tests and their measured lengths.</source>
-        <translation>Liste les câbles d&apos;un fichier de projet avec leurs extrémités, l&apos;état de leurs tests et leurs longueurs mesurées.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of a table.</source>
-        <translation>Afficher du JSON au lieu d&apos;un tableau.</translation>
-    </message>
-    <message>
-        <source>Lengths in metres instead of feet.</source>
-        <translation>Longueurs en mètres au lieu de pieds.</translation>
-    </message>
-    <message>
-        <source>Cable</source>
-        <translation>Câble</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Type</translation>
-    </message>
-    <message>
-        <source>Use</source>
-        <translation>Usage</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>De</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>Vers</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>État</translation>
-    </message>
-    <message>
-        <source>Length (m)</source>
-        <translation>Longueur (m)</translation>
-    </message>
-    <message>
-        <source>Length (ft)</source>
-        <translation>Longueur (ft)</translation>
-    </message>
-</context>
-<context>
-    <name>Command</name>
-    <message>
-        <source>The file.</source>
-        <translation>Le fichier.</translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation>Afficher cette aide.</translation>
-    </message>
-    <message>
-        <source>The file to write. An existing one is not replaced.</source>
-        <translation>Le fichier à écrire. Un fichier existant n&apos;est pas remplacé.</translation>
-    </message>
-    <message>
-        <source>one file name is needed</source>
-        <translation>un nom de fichier est nécessaire</translation>
-    </message>
-    <message>
-        <source>two file names are needed</source>
-        <translation>deux noms de fichier sont nécessaires</translation>
-    </message>
-    <message>
-        <source>--%1 is needed</source>
-        <translation>--%1 est nécessaire</translation>
-    </message>
-    <message>
-        <source>%1 exists and is left as it is</source>
-        <translation>%1 existe déjà et reste tel quel</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc %1 --help&quot; tells how it is used</source>
-        <translation>&quot;cabledoc %1 --help&quot; en donne le mode d&apos;emploi</translation>
-    </message>
-    <message>
-        <source>standard output: %1</source>
-        <translation>sortie standard : %1</translation>
-    </message>
-    <message>
-        <source>The size above which a file is not read, such as 500M or 8G; 4G by default.</source>
-        <translation>La taille au-delà de laquelle un fichier n&apos;est pas lu, par exemple 500M ou 8G ; 4G par défaut.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a size such as 500M</source>
-        <translation>&quot;%1&quot; n&apos;est pas une taille comme 500M</translation>
-    </message>
-    <message>
-        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
-        <translation>Un autre programme modifie le fichier : %1, processus %2 sur %3. Si ce n&apos;est pas le cas, supprimez %4</translation>
-    </message>
-    <message>
-        <source>The file cannot be locked: its folder does not let a file be created</source>
-        <translation>Le fichier ne peut pas être verrouillé : son dossier ne permet pas de créer un fichier</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>et %1 autres</translation>
     </message>
 </context>
 <context>
@@ -225,7 +119,7 @@
 <context>
     <name>DocumentCheck</name>
     <message>
-        <source>No file is named</source>
+        <source>A file name is needed</source>
         <translation>Aucun fichier indiqué</translation>
     </message>
     <message>
@@ -237,7 +131,7 @@
         <translation>%1, ligne %2, colonne %3 : %4</translation>
     </message>
     <message>
-        <source>%1 is no XML file</source>
+        <source>%1 is not an XML file</source>
         <translation>%1 n&apos;est pas un fichier XML</translation>
     </message>
     <message>
@@ -245,7 +139,7 @@
         <translation>le fichier ne commence ni par l&apos;élément &quot;%1&quot; ni par &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no version that is known</source>
+        <source>&quot;%1&quot; is not a known version</source>
         <translation>&quot;%1&quot; n&apos;est pas une version connue</translation>
     </message>
     <message>
@@ -253,11 +147,11 @@
         <translation>la version %1 est antérieure à %2</translation>
     </message>
     <message>
-        <source>its tag is that of line %1</source>
+        <source>it has the same tag as the element in line %1</source>
         <translation>sa balise est celle de la ligne %1</translation>
     </message>
     <message>
-        <source>its id &quot;%1&quot; is that of line %2</source>
+        <source>it has the same id &quot;%1&quot; as the element in line %2</source>
         <translation>son identifiant &quot;%1&quot; est celui de la ligne %2</translation>
     </message>
     <message>
@@ -289,7 +183,7 @@
         <translation>&quot;%1&quot; : il n&apos;y a pas de câble &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: there is no device or point &quot;%2&quot;</source>
+        <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
         <translation>&quot;%1&quot; : il n&apos;y a pas d&apos;appareil ni de point &quot;%2&quot;</translation>
     </message>
     <message>
@@ -297,11 +191,11 @@
         <translation>texte</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds &quot;%2&quot;, which a save cannot keep</source>
+        <source>&quot;%1&quot; contains &quot;%2&quot;, which a save cannot write</source>
         <translation>&quot;%1&quot; contient &quot;%2&quot;, perdu à l&apos;enregistrement</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: &quot;%2&quot; is not a number that can be used</source>
+        <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot; : &quot;%2&quot; n&apos;est pas un nombre utilisable</translation>
     </message>
 </context>
@@ -312,73 +206,6 @@
         <comment>forbidden characters in field</comment>
         <extracomment>Further characters may be added behind these.</extracomment>
         <translation>;&lt;&gt;|&amp;?$*&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>Info</name>
-    <message>
-        <source>Test status</source>
-        <translation>État des tests</translation>
-    </message>
-    <message>
-        <source>Cables</source>
-        <translation>Câbles</translation>
-    </message>
-    <message>
-        <source>Floor</source>
-        <translation>Étage</translation>
-    </message>
-    <message>
-        <source>Tag</source>
-        <translation>Balise</translation>
-    </message>
-    <message>
-        <source>Ceiling</source>
-        <translation>Plafond</translation>
-    </message>
-    <message>
-        <source>Rooms</source>
-        <translation>Pièces</translation>
-    </message>
-    <message>
-        <source>Ports</source>
-        <translation>Prises</translation>
-    </message>
-    <message>
-        <source>Vertical runs</source>
-        <translation>Colonnes montantes</translation>
-    </message>
-    <message>
-        <source>Points</source>
-        <translation>Points</translation>
-    </message>
-    <message>
-        <source>Texts</source>
-        <translation>Textes</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Feuille</translation>
-    </message>
-    <message>
-        <source>Devices</source>
-        <translation>Appareils</translation>
-    </message>
-    <message>
-        <source>Connections</source>
-        <translation>Connexions</translation>
-    </message>
-    <message>
-        <source>Active ports</source>
-        <translation>Prises actives</translation>
-    </message>
-    <message>
-        <source>Shows what a job file holds: its floors and sheets in the order of their tags, and how many cables, connections and active ports it has.</source>
-        <translation>Montre ce que contient un fichier de projet : ses étages et ses feuilles dans l&apos;ordre de leurs balises, et combien il a de câbles, de connexions et de prises actives.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of tables.</source>
-        <translation>Afficher du JSON au lieu de tableaux.</translation>
     </message>
 </context>
 <context>
@@ -471,7 +298,7 @@
         <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un élément XML</translation>
     </message>
     <message>
-        <source>A job holds no more than %1 releases</source>
+        <source>A job can hold at most %1 releases</source>
         <translation>Un projet ne contient pas plus de %1 révisions</translation>
     </message>
     <message>
@@ -479,7 +306,7 @@
         <translation>Impossible d&apos;ouvrir le fichier.</translation>
     </message>
     <message>
-        <source>This is the file of the job itself. A template needs another name.</source>
+        <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>C&apos;est le fichier du projet lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
     </message>
 </context>
@@ -540,6 +367,345 @@
     <message>
         <source>Other</source>
         <translation>Autre</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a size such as 500M</source>
+        <translation>&quot;%1&quot; n&apos;est pas une taille comme 500M</translation>
+    </message>
+    <message>
+        <source>%1 is needed</source>
+        <translation>%1 est nécessaire</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>&quot;%1&quot; est un argument de trop</translation>
+    </message>
+    <message>
+        <source>&quot;cabledoc %1 --help&quot; shows how to use it</source>
+        <translation>&quot;cabledoc %1 --help&quot; en montre le mode d&apos;emploi</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Câble</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Usage</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Length (m)</source>
+        <translation>Longueur (m)</translation>
+    </message>
+    <message>
+        <source>Length (ft)</source>
+        <translation>Longueur (ft)</translation>
+    </message>
+    <message>
+        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
+        <translation>les deux noms doivent finir par &quot;.job&quot;, ou tous les deux par &quot;.bkt&quot;</translation>
+    </message>
+    <message>
+        <source>the name of a template must end in &quot;.bkt&quot;</source>
+        <translation>le nom d&apos;un modèle doit finir par &quot;.bkt&quot;</translation>
+    </message>
+    <message>
+        <source>Test status</source>
+        <translation>État des tests</translation>
+    </message>
+    <message>
+        <source>Cables</source>
+        <translation>Câbles</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Étage</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Balise</translation>
+    </message>
+    <message>
+        <source>Ceiling</source>
+        <translation>Plafond</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Pièces</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Prises</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Colonnes montantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textes</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+    <message>
+        <source>Active ports</source>
+        <translation>Prises actives</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from 1 to %2</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre de 1 à %2</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
+</source>
+        <translation>à ajouter : étages %1, pièces %2, prises %3, câbles %4 ; à modifier : câbles %5
+</translation>
+    </message>
+    <message>
+        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
+</source>
+        <translation>ajouts : étages %1, pièces %2, prises %3, câbles %4 ; modifications : câbles %5
+</translation>
+    </message>
+    <message>
+        <source>The job or template file.</source>
+        <translation>Le fichier de projet ou de modèle.</translation>
+    </message>
+    <message>
+        <source>The job file.</source>
+        <translation>Le fichier de projet.</translation>
+    </message>
+    <message>
+        <source>Print JSON instead of text.</source>
+        <translation>Afficher du JSON au lieu de texte.</translation>
+    </message>
+    <message>
+        <source>The largest file to read, such as 500M; 4G by default.</source>
+        <translation>Le plus gros fichier à lire, tel que 500M ; sinon 4G.</translation>
+    </message>
+    <message>
+        <source>The file to write. An existing file is not replaced.</source>
+        <translation>Le nouveau fichier. Un fichier existant n&apos;est pas remplacé.</translation>
+    </message>
+    <message>
+        <source>The number of floors, from 1 (the default) to 1000.</source>
+        <translation>Le nombre d&apos;étages, de 1 (par défaut) à 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job file.</source>
+        <translation>Créer un fichier de projet.</translation>
+    </message>
+    <message>
+        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Il a une feuille. Un fichier existant n&apos;est pas remplacé. &quot;.job&quot; est ajouté à un nom qui ne l&apos;a pas.</translation>
+    </message>
+    <message>
+        <source>Show what a job file holds.</source>
+        <translation>Montrer ce que contient un projet.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
+        <translation>Les étages et les feuilles sont listés dans l&apos;ordre de leurs balises. Les câbles, les connexions et les prises actives sont comptés.</translation>
+    </message>
+    <message>
+        <source>Print lengths in metres instead of feet.</source>
+        <translation>Afficher les longueurs en mètres au lieu de pieds.</translation>
+    </message>
+    <message>
+        <source>List the cables of a job.</source>
+        <translation>Lister les câbles d&apos;un projet.</translation>
+    </message>
+    <message>
+        <source>The list shows their ends, the status of their tests and their measured lengths.</source>
+        <translation>La liste montre leurs extrémités, l&apos;état de leurs tests et leurs longueurs mesurées.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with a file.</source>
+        <translation>Signaler ce qui ne va pas dans un fichier.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
+        <translation>Chacun des 50 premiers constats est une ligne ; --json les affiche tous. Le fichier n&apos;est pas modifié.</translation>
+    </message>
+    <message>
+        <source>Convert a file of an earlier version.</source>
+        <translation>Convertir un fichier d&apos;une version antérieure.</translation>
+    </message>
+    <message>
+        <source>The new file has the current version. FILE is not changed.</source>
+        <translation>Le nouveau fichier a la version actuelle. FILE n&apos;est pas modifié.</translation>
+    </message>
+    <message>
+        <source>The template. It is not changed.</source>
+        <translation>Le modèle. Il n&apos;est pas modifié.</translation>
+    </message>
+    <message>
+        <source>Only add the default test definitions and the bundles that the job lacks.</source>
+        <translation>Ajouter seulement les définitions de test par défaut et les faisceaux qui manquent au projet.</translation>
+    </message>
+    <message>
+        <source>Apply a template to a job.</source>
+        <translation>Appliquer un modèle à un projet.</translation>
+    </message>
+    <message>
+        <source>The contractor and the settings of the job are replaced. Test definitions and bundles that the job lacks are added.</source>
+        <translation>L&apos;installateur et les réglages du projet sont remplacés. Les définitions de test et les faisceaux qui manquent au projet sont ajoutés.</translation>
+    </message>
+    <message>
+        <source>Make a template of a job.</source>
+        <translation>Faire un modèle d&apos;un projet.</translation>
+    </message>
+    <message>
+        <source>The template gets the contractor, the settings, the test definitions and the bundles of the job.</source>
+        <translation>Le modèle reçoit l&apos;installateur, les réglages, les définitions de test et les faisceaux du projet.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file. It is not changed.</source>
+        <translation>Le plan de câblage, un fichier CSV. Il n&apos;est pas modifié.</translation>
+    </message>
+    <message>
+        <source>Only show what would change.</source>
+        <translation>Montrer seulement ce qui changerait.</translation>
+    </message>
+    <message>
+        <source>Bring a job up to a cable schedule.</source>
+        <translation>Mettre un projet au niveau d&apos;un plan de câblage.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
+        <translation>Les étages, pièces, prises et câbles qui manquent au projet sont ajoutés. Les câbles qui diffèrent sont modifiés. Si le plan a un problème, le projet n&apos;est pas modifié. Chacun des 50 premiers problèmes est une ligne ; --json les affiche tous.</translation>
+    </message>
+    <message>
+        <source>Print the cable schedule of a job as CSV.</source>
+        <translation>Afficher le plan de câblage d&apos;un projet en CSV.</translation>
+    </message>
+    <message>
+        <source>The file cannot be locked: no file can be created in its folder</source>
+        <translation>Le fichier ne peut pas être verrouillé : aucun fichier ne peut être créé dans son dossier</translation>
+    </message>
+    <message>
+        <source>Another program is changing the file: %1, process %2 on %3. If it is not, delete %4</source>
+        <translation>Un autre programme modifie le fichier : %1, processus %2 sur %3. Si ce n&apos;est pas le cas, supprimez %4</translation>
+    </message>
+    <message>
+        <source>%1 exists and is left as it is</source>
+        <translation>%1 existe déjà et reste tel quel</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes :</translation>
+    </message>
+    <message>
+        <source>Show the help of a command.</source>
+        <translation>Afficher l&apos;aide d&apos;une commande.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>The command did its work.</source>
+        <translation>La commande a fait son travail.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; found something wrong.</source>
+        <translation>&quot;check&quot; a trouvé quelque chose.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>La ligne de commande est incorrecte.</translation>
+    </message>
+    <message>
+        <source>A file could not be loaded.</source>
+        <translation>Un fichier n&apos;a pas pu être chargé.</translation>
+    </message>
+    <message>
+        <source>A file could not be saved.</source>
+        <translation>Un fichier n&apos;a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>The command did its work, but standard output could not be written.</source>
+        <translation>La commande a fait son travail, mais la sortie standard n&apos;a pas pu être écrite.</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc COMMAND ...
+</source>
+        <translation>Usage : cabledoc COMMAND ...
+</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Exit codes:</source>
+        <translation>Codes de sortie :</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Usage: cabledoc %1
+</source>
+        <translation>Usage : cabledoc %1
+</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Arguments :</translation>
+    </message>
+    <message>
+        <source>a command is needed</source>
+        <translation>une commande est nécessaire</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de commande &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>sortie standard : %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 autres</translation>
     </message>
 </context>
 <context>
@@ -695,7 +861,7 @@
         <translation>%1 n&apos;a pas de liste de câbles ou pas de liste d&apos;étages</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or stands in the wrong place</source>
+        <source>a quotation mark is missing or is in the wrong place</source>
         <translation>un guillemet manque ou se trouve au mauvais endroit</translation>
     </message>
     <message>
@@ -703,11 +869,11 @@
         <translation>la colonne &quot;%1&quot; manque</translation>
     </message>
     <message>
-        <source>there is no column &quot;%1&quot;</source>
+        <source>unknown column &quot;%1&quot;</source>
         <translation>il n&apos;y a pas de colonne &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the column &quot;%1&quot; is there twice</source>
+        <source>the column &quot;%1&quot; occurs twice</source>
         <translation>la colonne &quot;%1&quot; est en double</translation>
     </message>
     <message>
@@ -715,7 +881,7 @@
         <translation>la ligne a plus de champs que l&apos;en-tête</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
     </message>
     <message>
@@ -723,7 +889,7 @@
         <translation>le texte n&apos;est pas en UTF-8</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a character that a job file cannot hold</source>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
         <translation>&quot;%1&quot; a un caractère qu&apos;un fichier de projet ne peut pas contenir</translation>
     </message>
     <message>
@@ -731,7 +897,7 @@
         <translation>le câble n&apos;a pas d&apos;identifiant</translation>
     </message>
     <message>
-        <source>the id &quot;%1&quot; is that of row %2</source>
+        <source>the id &quot;%1&quot; is already used in row %2</source>
         <translation>l&apos;identifiant &quot;%1&quot; est celui de la ligne %2</translation>
     </message>
     <message>
@@ -741,38 +907,6 @@
     <message>
         <source>the end has a port, but no floor</source>
         <translation>l&apos;extrémité a une prise, mais pas d&apos;étage</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 to add; %5 cables to change
-</source>
-        <translation>à ajouter : étages %1, pièces %2, prises %3, câbles %4 ; à modifier : câbles %5
-</translation>
-    </message>
-    <message>
-        <source>floors %1, rooms %2, ports %3, cables %4 added; %5 cables changed
-</source>
-        <translation>ajouts : étages %1, pièces %2, prises %3, câbles %4 ; modifications : câbles %5
-</translation>
-    </message>
-    <message>
-        <source>Brings a job file up to a cable schedule: adds the floors, rooms, ports and cables that it lacks and changes the cables that differ. When the schedule has a bad row, the job stays as it is.</source>
-        <translation>Met un fichier de projet au niveau d&apos;un plan de câblage : ajoute les étages, pièces, prises et câbles qui lui manquent et modifie les câbles qui diffèrent. Si le plan a une ligne fausse, le projet reste tel quel.</translation>
-    </message>
-    <message>
-        <source>The schedule, a CSV file. It is not changed.</source>
-        <translation>Le plan, un fichier CSV. Il n&apos;est pas modifié.</translation>
-    </message>
-    <message>
-        <source>Only tell what would be done.</source>
-        <translation>Dire seulement ce qui serait fait.</translation>
-    </message>
-    <message>
-        <source>Prints the cable schedule of a job file as CSV. The file is not changed.</source>
-        <translation>Affiche le plan de câblage d&apos;un fichier de projet en CSV. Le fichier n&apos;est pas modifié.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all problems.</source>
-        <translation>Afficher du JSON au lieu de lignes, avec tous les problèmes.</translation>
     </message>
 </context>
 <context>
@@ -932,7 +1066,7 @@ de plus de 330 ft (100 m).</translation>
 <context>
     <name>XmlFile</name>
     <message>
-        <source>There is a control character that XML does not allow.</source>
+        <source>The file contains a control character that XML does not allow.</source>
         <translation>Un caractère de commande que XML n&apos;admet pas se trouve dans le texte.</translation>
     </message>
     <message>
@@ -960,161 +1094,28 @@ de plus de 330 ft (100 m).</translation>
         <translation>Le fichier commence par la marque d&apos;ordre des octets de %1. Enregistrez-le dans le codage ISO-8859-1 (Latin-1), sans marque.</translation>
     </message>
     <message>
-        <source>A folder has this name.</source>
+        <source>This is the name of a folder.</source>
         <translation>Un dossier porte ce nom.</translation>
     </message>
     <message>
-        <source>Something that is not a file has this name.</source>
+        <source>This name belongs to something that is not a file.</source>
         <translation>Quelque chose qui n&apos;est pas un fichier porte ce nom.</translation>
     </message>
     <message>
-        <source>Another program has changed the file since it was read. It is left as it is.</source>
-        <translation>Un autre programme a modifié le fichier depuis sa lecture. Il est laissé tel quel.</translation>
-    </message>
-    <message>
-        <source>There is a file of this name. It is left as it is.</source>
-        <translation>Il existe un fichier de ce nom. Il est laissé tel quel.</translation>
+        <source>A file with this name already exists. It is not replaced.</source>
+        <translation>Il existe un fichier de ce nom. Il n&apos;est pas remplacé.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
         <translation>Ce n&apos;est pas un fichier ordinaire.</translation>
     </message>
     <message>
-        <source>The file has %1, and the limit is %2. A document of this size needs about %3 of memory.</source>
+        <source>The file is %1 in size, and the limit is %2. A document of this size needs about %3 of memory.</source>
         <translation>Le fichier fait %1, et la limite est de %2. Un document de cette taille demande environ %3 de mémoire.</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>a command is needed</source>
-        <translation>une commande est nécessaire</translation>
-    </message>
-    <message>
-        <source>&quot;cabledoc --help&quot; lists the commands</source>
-        <translation>&quot;cabledoc --help&quot; donne la liste des commandes</translation>
-    </message>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de commande &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>Usage: cabledoc COMMAND ...
-
-Commands:
-  new FILE.job [--floors N]             make a new job file
-  info FILE.job [--json]                show what a job file holds
-  cables FILE.job [--metric] [--json]   list the cables with their tests
-  check FILE [--json]                   report what is wrong with a job or template file
-  convert FILE -o NEW                   bring an older job or template file up to date
-  import FILE.job --template FILE.bkt [--missing-only]
-                                        let a job take over what a template holds
-  export FILE.job -o NEW.bkt            make a template of a job
-  schedule import FILE.job FILE.csv [--dry-run] [--json]
-                                        bring a job up to a cable schedule
-  schedule export FILE.job              print the cable schedule of a job
-
-Commands that read files take --max-size SIZE.
-&quot;cabledoc COMMAND --help&quot; tells more. Also: cabledoc --help, cabledoc --version.
-
-Exit codes:
-  0  all was done
-  1  &quot;check&quot; found something wrong
-  2  wrong command line
-  3  a file could not be loaded
-  4  a file could not be saved
-  5  all was done, but standard output could not be written
-</source>
-        <translation>Usage : cabledoc COMMANDE ...
-
-Commandes :
-  new FICHIER.job [--floors N]          créer un fichier de projet
-  info FICHIER.job [--json]             montrer ce que contient un fichier de projet
-  cables FICHIER.job [--metric] [--json]
-                                        lister les câbles avec leurs tests
-  check FICHIER [--json]                signaler ce qui ne va pas dans un fichier de projet ou un modèle
-  convert FICHIER -o NOUVEAU            mettre à jour un fichier de projet ou un modèle plus ancien
-  import FICHIER.job --template FICHIER.bkt [--missing-only]
-                                        faire reprendre à un projet le contenu d&apos;un modèle
-  export FICHIER.job -o NOUVEAU.bkt     faire un modèle d&apos;un projet
-  schedule import FICHIER.job FICHIER.csv [--dry-run] [--json]
-                                        mettre un projet au niveau d&apos;un plan de câblage
-  schedule export FICHIER.job           afficher le plan de câblage d&apos;un projet
-
-Les commandes qui lisent des fichiers acceptent --max-size TAILLE.
-&quot;cabledoc COMMANDE --help&quot; en dit plus. Et aussi : cabledoc --help, cabledoc --version.
-
-Codes de sortie :
-  0  tout a été fait
-  1  &quot;check&quot; a trouvé quelque chose
-  2  ligne de commande incorrecte
-  3  un fichier n&apos;a pas pu être chargé
-  4  un fichier n&apos;a pas pu être enregistré
-  5  tout est fait, mais la sortie standard n&apos;a pas pu être écrite
-</translation>
-    </message>
-</context>
-<context>
-    <name>runCheck</name>
-    <message>
-        <source>Reports what is wrong with a job or template file, one line for each of the first 50 findings. The file is not changed.</source>
-        <translation>Signale ce qui ne va pas dans un fichier de projet ou un modèle, une ligne pour chacun des 50 premiers constats. Le fichier n&apos;est pas modifié.</translation>
-    </message>
-    <message>
-        <source>Print JSON instead of lines, with all findings.</source>
-        <translation>Afficher du JSON au lieu de lignes, avec tous les constats.</translation>
-    </message>
-</context>
-<context>
-    <name>runConvert</name>
-    <message>
-        <source>Writes a job or template file of an earlier version as one of the current version. The file itself is not changed.</source>
-        <translation>Écrit un fichier de projet ou un modèle d&apos;une version antérieure dans la version actuelle. Le fichier lui-même n&apos;est pas modifié.</translation>
-    </message>
-    <message>
-        <source>both names must end in &quot;.job&quot;, or both in &quot;.bkt&quot;</source>
-        <translation>les deux noms doivent finir par &quot;.job&quot;, ou tous les deux par &quot;.bkt&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>runExport</name>
-    <message>
-        <source>Makes a template of the contractor, the settings, the test definitions and the bundles of a job file.</source>
-        <translation>Fait un modèle de l&apos;installateur, des réglages, des définitions de test et des faisceaux d&apos;un fichier de projet.</translation>
-    </message>
-    <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>le nom d&apos;un modèle doit finir par &quot;.bkt&quot;</translation>
-    </message>
-</context>
-<context>
-    <name>runImport</name>
-    <message>
-        <source>Lets a job file take over the contractor and the settings of a template, and the test definitions and bundles that it lacks.</source>
-        <translation>Fait reprendre à un fichier de projet l&apos;installateur et les réglages d&apos;un modèle, et les définitions de test et faisceaux qui lui manquent.</translation>
-    </message>
-    <message>
-        <source>The template. It is not changed.</source>
-        <translation>Le modèle. Il n&apos;est pas modifié.</translation>
-    </message>
-    <message>
-        <source>Only add the default test definitions and the bundles that the job lacks.</source>
-        <translation>Ajouter seulement les définitions de test par défaut et les faisceaux qui manquent au projet.</translation>
-    </message>
-</context>
-<context>
-    <name>runNew</name>
-    <message>
-        <source>Makes a new job file with one sheet. An existing file is not replaced; &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Crée un fichier de projet avec une feuille. Un fichier existant n&apos;est pas remplacé ; &quot;.job&quot; est ajouté à un nom qui ne l&apos;a pas.</translation>
-    </message>
-    <message>
-        <source>Number of floors, from 1 (the default) to %1.</source>
-        <translation>Nombre d&apos;étages, de 1 (par défaut) à %1.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no number from 1 to %2</source>
-        <translation>&quot;%1&quot; n&apos;est pas un nombre de 1 à %2</translation>
+        <source>Another program has changed the file since it was read. It is not replaced.</source>
+        <translation>Un autre programme a modifié le fichier depuis sa lecture. Il n&apos;est pas remplacé.</translation>
     </message>
 </context>
 </TS>

@@ -11,7 +11,8 @@
 
 namespace {
 
-/// Adds an edit field whose validator it owns, and which the validator's class names.
+/// Adds an edit field with a validator, which the field owns. The object name of the field is the class name of the
+/// validator.
 template <typename Validator> void addField(QFormLayout *layout, const QString &label)
 {
     auto *field = new QLineEdit;
@@ -44,14 +45,14 @@ FieldsWindow::FieldsWindow(const QDate &date, QWidget *parent)
     layout->addRow(QStringLiteral("Date"), &m_shownDate);
     connect(&m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             [this] { cabledoc::installTranslations(QLocale(m_language.currentData().toString())); });
-    // The user's own language at first, when it is among them.
+    // The user's own language comes first if it is one of them.
     m_language.setCurrentIndex(std::max(0, m_language.findData(QLocale().name().left(2))));
     showDate();
 }
 
 void FieldsWindow::changeEvent(QEvent *event)
 {
-    // The labels stay English: an application translates its own texts by itself.
+    // The labels stay English. An application translates its own texts.
     if (event->type() == QEvent::LanguageChange)
         showDate();
     QWidget::changeEvent(event);

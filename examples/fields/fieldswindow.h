@@ -6,7 +6,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
 
-/// An edit field for each validator, a choice of languages, and a date in the chosen one.
+/// A window with an edit field for each validator, a choice of languages, and a date in the chosen language.
 class FieldsWindow : public QWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     explicit FieldsWindow(const QDate &date, QWidget *parent = nullptr);
 
 protected:
-    /// Comes when another language was installed.
+    /// Called when another language has been installed.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -1,4 +1,4 @@
-// Shows the edit fields that the library guards: what they refuse, and where they cut.
+// Shows edit fields with the library's validators: what they reject, and where they cut.
 
 #include "fieldswindow.h"
 

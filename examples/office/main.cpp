@@ -13,7 +13,8 @@ namespace {
 struct Outline
 {
     QString name;
-    QRect rectangle; ///< plan pixels
+    /// In plan pixels.
+    QRect rectangle;
 };
 
 void drawRooms(JobEditor &job, const QString &floorTag)
@@ -34,7 +35,7 @@ void drawRooms(JobEditor &job, const QString &floorTag)
         room.setHeight(outline.rectangle.height());
         room.setRoomNameX(outline.rectangle.center().x());
         room.setRoomNameY(outline.rectangle.center().y());
-        // Mode 1: the id is ours, the tag is generated.
+        // Mode 1: the id is given, the tag is generated.
         job.addRoom(room, 1);
     }
 }

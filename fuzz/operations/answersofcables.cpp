@@ -21,7 +21,7 @@ QString statusOf(PlainElement *cable)
     return results == nullptr ? "UNTESTED" : results->text("status", "UNTESTED");
 }
 
-/// The tags of the cables that a condition holds for.
+/// Returns the tags of the cables for which a condition holds.
 template <typename Condition> QStringList tagsWhere(const std::vector<Place> &cables, Condition condition)
 {
     QStringList tags;

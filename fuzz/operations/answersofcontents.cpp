@@ -16,7 +16,7 @@ void compareInfo(const JobEditor &job, PlainElement *info, const Address &addres
     expectAnswer(fieldsOf(address), fieldsOf(addressAttributes(), childOf(info, "Address")), "an address");
 }
 
-/// The first child with that "id"; null if there is none.
+/// Returns the first child with the given "id", or null if there is none.
 PlainElement *childWithId(PlainElement *list, const QString &id)
 {
     for (PlainElement &child : childrenOf(list)) {
@@ -33,7 +33,7 @@ QStringList namesOf(const PlainElement *list)
     return names;
 }
 
-/// The first child of each "id".
+/// Returns the first child of each "id".
 std::vector<PlainElement *> named(PlainElement *list)
 {
     std::vector<PlainElement *> children;
@@ -135,7 +135,7 @@ void compareContents(const JobEditor &job, PlainJob *file)
     expectAnswer(job.getJobNotesText(), notes == nullptr ? QString() : notes->text("text"), "the notes");
     const PlainElement *releases = file->at({"Release"});
     Fields values = releases == nullptr ? Fields() : releases->attributes;
-    values.insert({"none", QString()}); // unless a release has this name
+    values.insert({"none", QString()}); // unless there is a release with this name
     for (const auto &[name, value] : values)
         expectAnswer(job.getRelease(name), value, "a release");
     compareTestDefs(job, file->at({"TestDef_List"}));

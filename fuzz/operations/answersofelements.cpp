@@ -9,7 +9,7 @@ namespace {
 
 using Name = const QString &;
 
-/// What can be asked of each kind; null for what cannot.
+/// The queries of each kind. A query that a kind does not have is null.
 struct ElementQueries
 {
     Kind kind;
@@ -154,7 +154,7 @@ const std::vector<FieldQuery> &fieldQueries(Kind kind)
 using NamesOn = QStringList (JobEditor::*)(Name, bool) const;
 using NamesIn = QStringList (JobEditor::*)(Name, Name, bool) const;
 
-/// Collects tags and ids of all children of lists of that name, also of those that cannot be reached.
+/// Collects the tags and ids of all children of lists with the given name, including those that cannot be reached.
 void gatherNames(const PlainElement &element, const QString &list, std::set<QString> *names)
 {
     for (const PlainElement &child : element.children) {
@@ -294,8 +294,10 @@ private:
     const JobEditor &m_job;
     PlainJob &m_file;
     std::map<Kind, std::set<QString>> m_names;
-    std::map<QString, Place> m_first;     ///< by tag: of the kind that is compared
-    std::map<QString, QString> m_tagOfId; ///< likewise
+    /// First elements of the compared kind by their tags.
+    std::map<QString, Place> m_first;
+    /// Tags of the compared kind by their ids.
+    std::map<QString, QString> m_tagOfId;
 };
 
 } // namespace

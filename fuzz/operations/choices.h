@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What the fuzzer decides: each choice takes a byte of the input, and is the first one when there are no more.
+/// The decisions of the fuzzer. Each choice takes a byte of the input. If there are no more bytes, it is the first one.
 class Choices
 {
 public:
@@ -17,15 +17,15 @@ public:
     }
 
     bool atEnd() const { return m_next == m_end; }
-    /// A number from 0 up to another one, which is no more than 256.
+    /// Returns a number from 0 up to, but not including, the given one, which is at most 256.
     int number(int below);
-    /// True once in so many times.
+    /// Returns true once in the given number of times.
     bool oneIn(int times) { return number(times) == times - 1; }
-    /// One of the texts; an empty text if there are none.
+    /// Returns one of the texts, or an empty text if there are none.
     QString oneOf(const QStringList &texts);
-    /// Mostly one of the tags, sometimes one that may be none of them or no tag at all.
+    /// Returns one of the tags in most cases. In others returns a tag that may not be among them, or no tag at all.
     QString tag(const QStringList &tags);
-    /// Text for users, with all that XML escapes.
+    /// Returns a text for users, with all characters that XML escapes.
     QString id();
     int whole();
     double real();

@@ -43,7 +43,7 @@ QString someVertRun(Session *session)
     return session->choices.tag(session->file.tags(Kind::VertRuns));
 }
 
-/// Calls the form of addCable() that takes that many arguments, or the one that takes a record.
+/// Calls the form of addCable() that takes the given number of arguments, or the one that takes a record.
 QString callAddCable(JobEditor &job, int arguments, const Fields &fields, const TestResults &results, int mode)
 {
     const auto text = [&fields](const char *name) { return fields.at(name); };
@@ -84,7 +84,7 @@ void addOne(Session *session)
     if (arguments >= 8)
         results = randomFields(choices, testResultsAttributes());
     fields["tag"] = someCable(session);
-    // What the shorter forms leave out is empty.
+    // Values that the shorter forms do not take are empty.
     const std::pair<const char *, int> givenFrom[] = {
         {"use", 4},   {"to", 5},  {"from", 6}, {"type", 7}, {"bundleName", 9}, {"bundleNum", 9}, {"bundleGroupNum", 9},
         {"color", 9}, {"path", 9}};
@@ -129,7 +129,7 @@ void putIntoVertRun(Session *session)
 
 // Tests
 
-/// The results of a cable, which are completed; the defaults for a null one.
+/// Returns the results of a cable and completes them. Returns the defaults if the cable is null.
 Fields readResults(PlainElement *cable)
 {
     PlainElement *results = childOf(cable, "Test_Results");
@@ -252,7 +252,8 @@ void readLengths(Session *session)
 struct Stop
 {
     QString tag;
-    QString floor; ///< empty when there is no such place
+    /// Empty if there is no such place.
+    QString floor;
     double x = 0.0;
     double y = 0.0;
     double drop = 0.0;
@@ -315,7 +316,7 @@ private:
 
     static int numberOf(const QString &floor) { return floor.split('_').value(1).toInt(); }
 
-    /// The storeys above the lower floor, up to and including the upper one.
+    /// Returns the height of the floors above the lower one, up to and including the upper one.
     double height(const QString &floorA, const QString &floorB)
     {
         const int numberA = numberOf(floorA);

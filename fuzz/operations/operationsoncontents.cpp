@@ -21,7 +21,7 @@ namespace {
 
 using SetText = void (JobEditor::*)(const QString &);
 
-/// Writes attributes of the contractor or the site, and its address, as far as these are there.
+/// Writes the existing attributes of the contractor or the site, and its address if there is one.
 void writeInfo(PlainElement *info, const Fields &fields, const Fields &address)
 {
     if (info != nullptr)
@@ -194,7 +194,7 @@ QString someName(Session *session, const char *list)
                                      : session->choices.oneOf({"CAT5E", "Hall", "", "CAT6"});
 }
 
-/// The first child of that name, if it has one.
+/// Returns the first child with the given name, or the end if there is none.
 std::list<PlainElement>::iterator childOfName(std::list<PlainElement> *children, const QString &name)
 {
     auto child = children->begin();
@@ -208,7 +208,7 @@ bool hasChildOfName(PlainElement *list, const QString &name)
     return childOfName(&list->children, name) != list->children.end();
 }
 
-/// The prefix and the first number that make no child's tag.
+/// Returns the prefix with the first number that makes a tag that no child has.
 QString freeTag(PlainElement *list, const QString &prefix)
 {
     int number = 1;
@@ -335,7 +335,7 @@ void importTemplate(Session *session)
         for (const QString &entry : plainSettings().at(i).entries)
             settingsAccess[i].put(bkt, settings[i], entry);
     }
-    // The template starts empty: it takes the first definition, and the first bundle, of each name.
+    // The template is empty at first. It takes the first definition and the first bundle of each name.
     const Fields testDef = randomTestDef(session);
     const Bundle bundle = randomBundle(session);
     bkt.addTestDef(recordOf<TestDef>(testDef));
@@ -357,7 +357,7 @@ void importTemplate(Session *session)
     addBundle(&session->file, bundle);
 }
 
-/// What a template holds of a list after the definitions and bundles of a job were added.
+/// Returns the list that a new template has after the definitions or bundles of the job have been added to it.
 PlainElement exportedList(PlainJob *file, const char *name)
 {
     PlainJob exported(PlainElement{"Bkt", {}, {}});
@@ -406,7 +406,7 @@ void exportTemplate(Session *session)
 void saveAndLoad(Session *session)
 {
     JobEditor &job = session->job;
-    // Only saveAs() replaces a file that somebody else has written to.
+    // Only saveAs() replaces a file that somebody else has changed.
     expect(session->choices.oneIn(2) ? job.saveAs(inputFile("saved.job", nullptr, 0)) : job.save(),
            "a job can be saved");
     expect(!job.fileChanged(), "a saved job is unchanged");

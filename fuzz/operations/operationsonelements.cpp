@@ -20,7 +20,7 @@ bool isNumber(const QString &text)
            && std::all_of(text.begin(), text.end(), [](QChar digit) { return digit >= '0' && digit <= '9'; });
 }
 
-/// Whether the name is the prefix and a number.
+/// Returns whether the name is the prefix and a number.
 bool isGenerated(const QString &name, const QString &prefix)
 {
     return name.startsWith(prefix) && isNumber(name.mid(prefix.size()));
@@ -28,7 +28,7 @@ bool isGenerated(const QString &name, const QString &prefix)
 
 QString newId(Session *session, const PlainElement &list, Kind kind, const QString &given, const QString &added)
 {
-    // Ids of rooms are unique on their floor, those of cables have a form of their own.
+    // Ids of rooms are unique on their floor. Ids of cables have a form of their own.
     const bool isUsed =
         kind == Kind::Rooms ? namesIn(&list, false).contains(added) : session->file.exists(kind, added, false);
     expect(!isUsed, "a generated id was not used");
@@ -98,7 +98,7 @@ struct Adder
 {
     Kind kind;
     QString (*add)(JobEditor &, const Fields &, int mode);
-    /// The same with all fields as arguments of their own.
+    /// Adds an element by the form that takes all fields as single arguments.
     QString (*addFields)(JobEditor &, const Fields &, int mode);
     const char *failure;
 };
@@ -189,7 +189,7 @@ const std::vector<Adder> &adders()
     return adders;
 }
 
-/// Names for what shall hold a new element of a kind.
+/// Chooses the elements that shall hold a new element of a kind.
 void chooseHolder(Session *session, Kind kind, Fields *fields)
 {
     PlainJob &file = session->file;
@@ -201,7 +201,8 @@ void chooseHolder(Session *session, Kind kind, Fields *fields)
         (*fields)["holder"] = isOnSheet ? session->choices.tag(file.tags(Kind::Sheets)) : (*fields)["floor"];
 }
 
-/// What shall hold a new element and its list; null if it is not there, or lacks a list that is not created.
+/// Returns the element that shall hold a new element, and its list. Returns null if it does not exist, or lacks a list
+/// that is not created.
 PlainElement *holderFor(PlainJob *file, Kind kind, const Fields &fields)
 {
     const QString list = plainKind(kind).list;
@@ -314,7 +315,7 @@ const std::vector<FieldSetter> &fieldSetters()
         {Kind::Connections, "from", set<&J::setConnectionFrom>},
         {Kind::Connections, "type",
          [](J &job, Name tag, const QString &text) {
-             // With a number where there is one.
+             // Given as a number if possible.
              text == QString::number(text.toInt()) ? job.setConnectionType(tag, text.toInt())
                                                    : job.setConnectionType(tag, text);
          }},
@@ -358,7 +359,7 @@ const std::vector<FieldSetter> &fieldSetters()
     return setters;
 }
 
-/// The attribute of that name; a text if the kind's records lack it.
+/// Returns the attribute with the given name, or a text attribute if the records of the kind lack it.
 PlainAttribute attributeOf(Kind kind, const char *name)
 {
     for (const PlainAttribute &attribute : plainKind(kind).attributes) {
@@ -373,7 +374,7 @@ void setField(Session *session, const FieldSetter &setter, const QString &text)
     const QString tag = session->choices.tag(session->file.tags(setter.kind));
     setter.set(session->job, tag, text);
     PlainElement *element = session->file.element(setter.kind, tag);
-    // Those of cables and connections create no attribute.
+    // The setters of cables and connections do not create attributes.
     const bool creates = setter.kind != Kind::Cables && setter.kind != Kind::Connections;
     if (element != nullptr && (creates || element->has(setter.attribute)))
         element->attributes[setter.attribute] = text;
@@ -387,7 +388,7 @@ void setSomeField(Session *session)
     setField(session, setter, canonical(attribute.value, randomValue(choices, setter.kind, attribute)));
 }
 
-/// Lets an element name another one that is there.
+/// Makes an element refer to another one that exists.
 void nameOther(Session *session)
 {
     static const std::pair<const char *, std::vector<Kind>> named[] = {

@@ -16,7 +16,7 @@ QString someSheet(Session *session)
     return session->choices.tag(session->file.tags(Kind::Sheets));
 }
 
-/// Gives the element an attribute that it lacks.
+/// Adds an attribute to an element that lacks it.
 void ensureAttribute(PlainElement *element, const QString &attribute, const QString &value)
 {
     if (element != nullptr)
@@ -110,7 +110,7 @@ Fields defaultRoom(const QString &name)
     return fields;
 }
 
-/// The room that readers answer with, which they complete.
+/// Returns the room that readers return, and completes it as they do.
 Fields readRoom(PlainJob *file, const QString &name, const Place &place)
 {
     if (name == "Undefined")
@@ -224,8 +224,8 @@ QString withoutNumber(QString name)
     return name;
 }
 
-/// Adds copies of all that a list holds behind what another holder has, under new names. Returns their tags by the
-/// tags of what was copied.
+/// Adds copies of all elements of a list to another holder, under new names. Returns the tags of the copies by the tags
+/// of the originals.
 QMap<QString, QString> copyList(Session *session, PlainElement *from, PlainElement *to, Kind kind)
 {
     QMap<QString, QString> copies;
@@ -240,7 +240,7 @@ QMap<QString, QString> copyList(Session *session, PlainElement *from, PlainEleme
     return copies;
 }
 
-/// The first of "12", "12A", ..., "12Z", "12[", "12AA", ... that no element has.
+/// Returns the first of "12", "12A", ..., "12Z", "12[", "12AA", ... that no element has.
 QString freeId(PlainJob *file, Kind kind, const QString &id)
 {
     for (QString base = id;; base += 'A') {
@@ -373,7 +373,8 @@ private:
     PlainJob &m_file;
     QString m_to;
     QMap<QString, QString> m_cableIds;
-    QMap<QString, QString> m_ports; ///< tags of copies by the tags of what was copied
+    /// Tags of the copies by the tags of the originals.
+    QMap<QString, QString> m_ports;
     QMap<QString, QString> m_vertRuns;
     QMap<QString, QString> m_points;
     QMap<QString, QString> m_cables;
@@ -399,7 +400,7 @@ void copySheet(Session *session, const QString &from, const QString &to)
 
 namespace {
 
-/// Elements beyond which nothing is copied: each copy may double what it copies.
+/// Number of elements from which on nothing is copied, because each copy may double the elements.
 constexpr int manyElements = 300;
 
 int countOf(const PlainElement &element)

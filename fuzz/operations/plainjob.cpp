@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The children of lists.
+/// Returns the children of lists.
 std::vector<Place> childrenOf(const std::vector<Place> &lists)
 {
     std::vector<Place> places;
@@ -28,7 +28,7 @@ std::vector<Place> firstOfEachTag(const std::vector<Place> &places)
     return first;
 }
 
-/// The lists of that name in elements.
+/// Returns the lists with the given name in elements.
 std::vector<Place> listsIn(const std::vector<Place> &holders, const QString &name)
 {
     std::vector<Place> lists;
@@ -265,7 +265,7 @@ void PlainJob::removeRoom(const QString &floorTag, const QString &tag)
     erase(place);
 }
 
-/// Removes the elements of a kind that name the tag in one of the attributes.
+/// Removes the elements of a kind that have the tag in one of the attributes.
 void PlainJob::removeNaming(Kind kind, const QString &tag, const QStringList &attributes)
 {
     for (const Place &place : all(kind)) {
@@ -289,7 +289,7 @@ void PlainJob::forget(const std::vector<PlainElement *> &elements, const QString
     }
 }
 
-/// The vertical runs, also those that cannot be reached now.
+/// Returns all vertical runs, including those that cannot be reached now.
 std::vector<PlainElement *> PlainJob::allVertRuns()
 {
     std::vector<PlainElement *> vertRuns;
@@ -299,7 +299,7 @@ std::vector<PlainElement *> PlainJob::allVertRuns()
     return vertRuns;
 }
 
-/// Sees to what names an element that is gone, unless another one of that tag stands in its place.
+/// Removes the references to an element that has been removed, unless another one has the same tag.
 void PlainJob::dropReferences(Kind kind, const QString &tag)
 {
     if (kind == Kind::Ports && !exists(Kind::Ports, tag, true))

@@ -2,16 +2,18 @@
 
 #include "plainvalues.h"
 
-/// Where an element stands. Null pointers when it does not exist.
+/// The place of an element. All pointers are null if it does not exist.
 struct Place
 {
     PlainElement *element = nullptr;
     PlainElement *list = nullptr;
-    PlainElement *holder = nullptr; ///< room, floor or sheet
-    PlainElement *floor = nullptr;  ///< of the room that holds it
+    /// Room, floor or sheet.
+    PlainElement *holder = nullptr;
+    /// Floor of the room that holds the element.
+    PlainElement *floor = nullptr;
 };
 
-/// A job as the file has it. Answers by walking through all of it.
+/// A job as it is in its file. All answers come from walks through the whole file.
 class PlainJob
 {
 public:
@@ -21,36 +23,37 @@ public:
     }
 
     PlainElement &root() { return m_root; }
-    /// The element that a way of first children leads to; null when a step is missing.
+    /// Returns the element at the end of a way of first children, or null if a step is missing.
     PlainElement *at(const QStringList &way);
-    /// The lists of a kind that can be reached.
+    /// Returns the lists of a kind that can be reached.
     std::vector<Place> lists(Kind kind);
-    /// The elements in them, in document order.
+    /// Returns the elements in these lists, in document order.
     std::vector<Place> all(Kind kind);
-    /// The first element of each tag.
+    /// Returns the first element of each tag.
     std::vector<Place> counted(Kind kind);
     Place first(Kind kind, const QString &tag);
     PlainElement *element(Kind kind, const QString &tag) { return first(kind, tag).element; }
     bool exists(Kind kind, const QString &text, bool byTag);
     bool isEnd(const QString &tag) { return exists(Kind::Ports, tag, true) || exists(Kind::VertRuns, tag, true); }
-    /// The first tag, in string order, that has the id.
+    /// Returns the first tag, in string order, with the given id.
     QString tagOfId(Kind kind, const QString &id);
     QStringList tags(Kind kind);
     Place room(const QString &floorTag, const QString &roomTag);
-    /// The first room with that id in the list of rooms.
+    /// Returns the first room with the given id on a floor.
     Place roomById(const QString &floorTag, const QString &id);
-    /// The cable with that tag, or if there is none with that id.
+    /// Returns the cable with the given tag, or with the given id if no cable has that tag.
     PlainElement *cable(const QString &tagOrId);
-    /// The tags of all ports and vertical runs on a floor.
+    /// Returns the tags of all ports and vertical runs on a floor.
     QStringList endsOnFloor(const QString &floorTag);
-    /// The tags of the cables in document order that lead to one of the ends.
+    /// Returns the tags of the cables that end at one of the given tags, in document order.
     QStringList cablesEndingAt(const QStringList &ends);
-    /// The whole record of an element, with its tag and what holds it; the default record if there is none.
+    /// Returns the record of an element, with its tag and those of the elements that hold it. Returns the default
+    /// record if the element does not exist.
     Fields record(Kind kind, const Place &place);
 
-    /// The room "Undefined" of a list of rooms.
+    /// Returns the room "Undefined" of a list of rooms.
     static PlainElement &undefinedRoom(PlainElement *roomList);
-    /// Each removes an element, with all that the manual says goes with it.
+    /// These remove an element and everything that the manual says is removed with it.
     void remove(Kind kind, const QString &tag);
     void removeFloor(const QString &tag);
     void removeSheet(const QString &tag);

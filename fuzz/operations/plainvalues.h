@@ -32,20 +32,26 @@ enum class Value {
     Curve,
 };
 
+/// An attribute of a kind of element.
 struct PlainAttribute
 {
     QString name;
     Value value;
-    QString missing; ///< what stands for a missing attribute
+    /// Text that counts if the attribute is missing.
+    QString missing;
+    /// Which elements have the attribute.
     enum Use {
-        New,       ///< new elements have it
-        Completed, ///< new elements have it, and readers add it where it is missing
-        Optional,  ///< new elements lack it
+        /// New elements have it.
+        New,
+        /// New elements have it, and readers add it if it is missing.
+        Completed,
+        /// New elements do not have it.
+        Optional,
     } use = New;
 };
 using PlainAttributes = std::vector<PlainAttribute>;
 
-/// What a job file has of elements with tags and ids.
+/// A kind of elements with tags and ids, as job files have them.
 struct PlainKind
 {
     Kind kind;
@@ -67,23 +73,24 @@ struct PlainSettings
     QStringList entries;
     PlainAttributes attributes;
 };
-/// Those of print, page and scale settings.
+/// Returns the lists of print, page and scale settings.
 const std::vector<PlainSettings> &plainSettings();
 
 /// Values by the names of attributes, in the form in which the library writes them.
 using Fields = std::map<QString, QString>;
 
-/// The number in the form of C's "%g" that reads back as the same value, with at least six digits.
+/// Returns the number in the form of C's "%g" that reads back as the same value, with at least six digits.
 QString plainNumber(double number);
-/// The number of a text without its fraction; the nearest int, and 0 for no number.
+/// Returns the number in a text without its fraction: the nearest int for a number that is too large, and 0 for a text
+/// that is not a number.
 int wholePart(const QString &text);
-/// The value that the text stands for, as the library writes it.
+/// Returns the value in a text in the form in which the library writes it.
 QString canonical(Value value, const QString &text);
-/// What the element holds; the defaults for a null element.
+/// Returns the values of an element, with the defaults for missing ones. Returns the defaults for a null element.
 Fields fieldsOf(const PlainAttributes &attributes, const PlainElement *element);
-/// The attributes of a new element.
+/// Returns the attributes of a new element.
 Fields newFields(const PlainAttributes &attributes, const Fields &fields);
 /// Adds the attributes that readers add.
 void complete(const PlainAttributes &attributes, PlainElement *element);
-/// The entries of a text with commas.
+/// Returns the entries of a text with commas.
 QStringList entriesOf(const QString &text);

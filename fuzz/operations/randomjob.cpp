@@ -10,7 +10,7 @@ QString randomList(Choices &choices, const QStringList &entries)
     return list.join(',');
 }
 
-/// What the attributes of that name hold in most jobs; an empty list if it can be anything.
+/// Returns what the attributes with the given name hold in most jobs, or an empty list if it can be anything.
 QStringList usualTexts(Kind kind, const QString &attribute)
 {
     static const QStringList ends{"Port1", "Port2", "VertRun1", "Port3", "VertRun2", "none", "", "Port1,Port2"};

@@ -27,7 +27,7 @@ Fields fieldsOf(const Sheet &sheet)
 
 namespace {
 
-/// A number that is a whole one in files.
+/// Returns a number that is a whole number in files.
 QString wholeTextOf(double number)
 {
     return number == int(number) ? QString::number(int(number)) : plainNumber(number);

@@ -4,7 +4,7 @@
 
 #include "jobeditor.h"
 
-/// Values and records of the library as texts and fields, and back.
+/// Conversions between values and records of the library, texts and fields.
 
 inline QString textOf(const QString &text)
 {
@@ -47,7 +47,7 @@ Fields fieldsOf(const PrintSettings &settings);
 Fields fieldsOf(const PageSettings &settings);
 Fields fieldsOf(const ScaleSettings &settings);
 
-/// A record of these fields; the tags of the element and of what holds it stand beside the attributes.
+/// Returns a record with the given fields. These include the tags of the element and of the elements that hold it.
 template <typename Record> Record recordOf(const Fields &fields);
 template <> Floor recordOf(const Fields &fields);
 template <> Sheet recordOf(const Fields &fields);
@@ -69,10 +69,10 @@ template <> PrintSettings recordOf(const Fields &fields);
 template <> PageSettings recordOf(const Fields &fields);
 template <> ScaleSettings recordOf(const Fields &fields);
 
-/// Ends the process when an answer is not the expected one, after printing both.
+/// Ends the process and prints both if an answer is not the expected one.
 void expectAnswer(const QString &answer, const QString &expected, const char *what);
 void expectAnswer(const QStringList &answer, const QStringList &expected, const char *what);
-/// The same for those fields that the answer has.
+/// Compares only the fields that the answer has.
 void expectAnswer(const Fields &answer, const Fields &expected, const char *what);
 inline void expectAnswer(bool answer, bool expected, const char *what)
 {

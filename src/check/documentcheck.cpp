@@ -1,13 +1,11 @@
 #include "documentcheck.h"
 
-#include "attributetext.h"
 #include "bkxmleditor.h"
 #include "childelements.h"
-#include "jobattributes.h"
+#include "document.h"
+#include "jobschema.h"
 #include "jobwords.h"
 #include "messagetext.h"
-#include "settingsattributes.h"
-#include "sharedattributes.h"
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
@@ -21,36 +19,6 @@ using namespace cabledoc;
 
 namespace {
 
-/// The attributes of an element whose fields cannot hold the numbers that they say.
-using InvalidNumbers = QStringList (*)(const QDomElement &);
-
-template <auto table> QStringList invalidNumbers(const QDomElement &element)
-{
-    return table().invalidNumbers(element);
-}
-
-/// By the name of the list that the element is in, or by its own.
-const QMap<QString, InvalidNumbers> &numberChecks()
-{
-    static const QMap<QString, InvalidNumbers> checks{
-        {words::FloorList, invalidNumbers<floorAttributes>},
-        {words::RoomList, invalidNumbers<roomAttributes>},
-        {words::PortList, invalidNumbers<portAttributes>},
-        {words::VerticalRunList, invalidNumbers<portAttributes>},
-        {words::PointList, invalidNumbers<pointAttributes>},
-        {words::VerticeList, invalidNumbers<pointAttributes>},
-        {words::FreeTextList, invalidNumbers<freeTextAttributes>},
-        {words::DeviceList, invalidNumbers<deviceAttributes>},
-        {words::TestResults, invalidNumbers<testResultsAttributes>},
-        {words::ActiveTestResult, invalidNumbers<activeTestResultAttributes>},
-        {words::TestDefList, invalidNumbers<testDefAttributes>},
-        {words::PrintSettingsList, invalidNumbers<printSettingsAttributes>},
-        {words::PageSettingsList, invalidNumbers<pageSettingsAttributes>},
-        {words::ScaleSettingsList, invalidNumbers<scaleSettingsAttributes>},
-    };
-    return checks;
-}
-
 QString pathOf(const QDomElement &element)
 {
     QStringList path;
@@ -59,7 +27,7 @@ QString pathOf(const QDomElement &element)
     return path.join(QLatin1Char('/'));
 }
 
-/// A document that is only looked at.
+/// A document that is checked and not changed.
 class CheckedDocument : public BKXMLEditor
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
@@ -74,15 +42,15 @@ public:
 
     CheckReport check(const QString &filename)
     {
-        if (!readFile(filename, QString(),
-                      {tr("No file is named"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
-                       tr("%1 is no XML file")})) {
-            m_report.error = m_error;
+        if (!inside().read(filename, QString(),
+                           {tr("A file name is needed"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
+                            tr("%1 is not an XML file")})) {
+            m_report.error = inside().error;
             return m_report;
         }
         if (mayBeChecked()) {
             checkShared();
-            if (m_document.firstChild().nodeName() == words::Job)
+            if (document().firstChild().nodeName() == words::Job)
                 checkJob();
             checkContents();
         }
@@ -94,16 +62,16 @@ public:
 private:
     void report(const char *rule, const QDomElement &element, const QString &message)
     {
-        // What an older file lacks and was just added has no line. It is nothing to complain of.
+        // An element that was just added because an older file lacks it has no line. This is not a finding.
         if (element.lineNumber() > 0)
             m_report.findings.append({QLatin1String(rule), element.lineNumber(), pathOf(element), message});
     }
 
     bool mayBeChecked()
     {
-        const QDomElement root = m_document.firstChild().toElement();
+        const QDomElement root = document().firstChild().toElement();
         if (root.tagName() != words::Job && root.tagName() != words::Bkt) {
-            report("unknown-root", m_document.documentElement(),
+            report("unknown-root", document().documentElement(),
                    tr("the file does not begin with the element \"%1\" or \"%2\"").arg(words::Job, words::Bkt));
             return false;
         }
@@ -111,7 +79,7 @@ private:
         const QDomElement element = getElement(words::Version);
         if (!convertToCurrentVersion([] { return true; })) {
             report("unknown-version", element.isNull() ? root : element,
-                   tr("\"%1\" is no version that is known").arg(excerpt(found)));
+                   tr("\"%1\" is not a known version").arg(excerpt(found)));
             return false;
         }
         if (found != words::CurrentVersion)
@@ -121,14 +89,15 @@ private:
 
     // Names
 
-    /// Looks at the names of the children. Their tags must differ within the scope, which is a kind of
-    /// element in the whole document.
+    /// Checks the names of the children. Their tags must differ within the scope, which is a kind of element in the
+    /// whole document.
     void checkTags(const QDomElement &list, const QString &scope)
     {
         QMap<QString, int> &lines = m_linesOfTags[scope];
         for (const QDomElement &element : ChildElements(list)) {
             if (lines.contains(element.tagName()))
-                report("duplicate-tag", element, tr("its tag is that of line %1").arg(lines.value(element.tagName())));
+                report("duplicate-tag", element,
+                       tr("it has the same tag as the element in line %1").arg(lines.value(element.tagName())));
             else
                 lines.insert(element.tagName(), element.lineNumber());
         }
@@ -143,7 +112,7 @@ private:
                 continue;
             if (lines.contains(id))
                 report("duplicate-id", element,
-                       tr("its id \"%1\" is that of line %2").arg(excerpt(id)).arg(lines.value(id)));
+                       tr("it has the same id \"%1\" as the element in line %2").arg(excerpt(id)).arg(lines.value(id)));
             else
                 lines.insert(id, element.lineNumber());
         }
@@ -155,21 +124,16 @@ private:
         checkIds(list);
     }
 
-    bool hasTag(const QString &listName, const QString &tag) const
-    {
-        return m_linesOfTags.value(listName).contains(tag);
-    }
-
     void reportMissing(const QDomElement &element, const QString &message)
     {
         report("missing-reference", element, message);
     }
 
-    // What both documents hold
+    // Elements of both documents
 
     void checkShared()
     {
-        checkTags(m_document.documentElement(), QString());
+        checkTags(document().documentElement(), QString());
         for (const QDomElement &list : {getToPrintSettingsList(), getToPageSettingsList(), getToScaleSettingsList()})
             checkTags(list, list.tagName());
 
@@ -190,7 +154,7 @@ private:
     {
         TestDef definition(testDefAttributes().read(element));
         m_types.insert(definition.id());
-        // A length that calls for a warning only.
+        // A maximum length that gives only a warning does not count.
         definition.setMaxLength(TestDefFields().maxLength);
         const QString verdict = definition.validDef();
         if (verdict != QLatin1String("GOOD"))
@@ -203,122 +167,79 @@ private:
             reportMissing(element, tr("there is no test definition \"%1\"").arg(excerpt(type)));
     }
 
-    // What jobs hold
+    // Elements of jobs
 
     void checkJob()
     {
-        checkFloors();
-        checkSheets();
-        checkNames(getElement(words::CableList));
-        for (const QDomElement &cable : ChildElements(getElement(words::CableList)))
-            checkCable(cable);
-        checkNames(getElement(words::ConnectionList));
-        for (const QDomElement &connection : ChildElements(getElement(words::ConnectionList)))
-            checkConnection(connection);
-        const QDomElement activePorts =
-            getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList);
-        checkNames(activePorts);
-        for (const QDomElement &activePort : ChildElements(activePorts)) {
-            const QString port = activePort.attribute(words::Port);
-            if (!port.isEmpty() && !hasTag(words::PortList, port))
-                reportMissing(activePort, tr("\"%1\": there is no port \"%2\"").arg(words::Port, excerpt(port)));
+        const QDomElement root = document().documentElement();
+        for (const ElementSchema *kind : jobSchema()) {
+            for (const QDomElement &list : listsOf(*kind, root, allChildren))
+                checkNamesOf(*kind, list);
         }
-        checkVertRuns();
-    }
-
-    void checkFloors()
-    {
-        checkNames(getElement(words::FloorList));
-        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
-            const QDomElement rooms = floor.firstChildElement(words::RoomList);
-            // Every floor has a room "Undefined" of its own.
-            m_linesOfTags[rooms.tagName()].remove(words::Undefined);
-            checkNames(rooms);
-            for (const QDomElement &room : ChildElements(rooms)) {
-                checkNames(room.firstChildElement(words::PortList));
-                checkNames(room.firstChildElement(words::VerticalRunList));
-            }
-            checkNames(floor.firstChildElement(words::PointList));
-            const QDomElement texts = floor.firstChildElement(words::FreeTextList);
-            checkTags(texts, words::FloorList + texts.tagName());
-            checkIds(texts);
-        }
-    }
-
-    void checkSheets()
-    {
-        checkNames(getElement(words::SheetList));
-        for (const QDomElement &sheet : ChildElements(getElement(words::SheetList))) {
-            for (const QString &list : {words::DeviceList, words::VerticeList, words::FreeTextList})
-                checkNames(sheet.firstChildElement(list));
-        }
-    }
-
-    bool isPortOrVertRun(const QString &tag) const
-    {
-        return hasTag(words::PortList, tag) || hasTag(words::VerticalRunList, tag);
-    }
-
-    void checkCable(const QDomElement &cable)
-    {
-        for (const QString &attribute : {words::From, words::To}) {
-            const QString end = cable.attribute(attribute);
-            if (!end.isEmpty() && !isPortOrVertRun(end))
-                reportMissing(cable,
-                              tr("\"%1\": there is no port or vertical run \"%2\"").arg(attribute, excerpt(end)));
-        }
-        QStringList path;
-        fromText(cable.attribute(words::Path), &path);
-        for (const QString &passed : std::as_const(path)) {
-            if (!hasTag(words::PointList, passed) && !isPortOrVertRun(passed)) {
-                reportMissing(
-                    cable,
-                    tr("\"%1\": there is no point, port or vertical run \"%2\"").arg(words::Path, excerpt(passed)));
+        for (const ElementSchema *kind : jobSchema()) {
+            for (const QDomElement &list : listsOf(*kind, root, allChildren)) {
+                for (const QDomElement &element : ChildElements(list))
+                    checkReferences(*kind, element);
             }
         }
-        checkType(cable, cable.attribute(words::Type));
-        const QString bundle = cable.attribute(words::BundleName);
+    }
+
+    /// Returns the name of the scope in which the tags of a kind must differ.
+    static QString scopeOf(const ElementSchema &kind)
+    {
+        return kind.holder == ElementKind::None ? kind.listName() : schemaOf(kind.holder).listName() + kind.listName();
+    }
+
+    void checkNamesOf(const ElementSchema &kind, const QDomElement &list)
+    {
+        // Every floor has a room "Undefined" of its own.
+        if (kind.kind == ElementKind::Rooms)
+            m_linesOfTags[scopeOf(kind)].remove(words::Undefined);
+        checkTags(list, scopeOf(kind));
+        checkIds(list);
+    }
+
+    /// Returns what is said of a tag that leads nowhere.
+    static QString missingText(const Reference &reference)
+    {
+        if (reference.targets.contains(ElementKind::Points))
+            return tr("\"%1\": there is no point, port or vertical run \"%2\"");
+        if (reference.targets.contains(ElementKind::VerticalRuns))
+            return tr("\"%1\": there is no port or vertical run \"%2\"");
+        if (reference.targets.contains(ElementKind::Ports))
+            return tr("\"%1\": there is no port \"%2\"");
+        if (reference.targets.contains(ElementKind::Devices))
+            return tr("\"%1\": there is no device or bend \"%2\"");
+        return tr("\"%1\": there is no cable \"%2\"");
+    }
+
+    void checkReferences(const ElementSchema &kind, const QDomElement &element)
+    {
+        for (const Reference &reference : kind.references) {
+            for (const QString &attribute : reference.attributes) {
+                for (const QString &tag : reference.tagsIn(element.attribute(attribute))) {
+                    const bool isThere =
+                        std::any_of(reference.targets.begin(), reference.targets.end(), [&](ElementKind target) {
+                            return m_linesOfTags.value(scopeOf(schemaOf(target))).contains(tag);
+                        });
+                    if (!isThere)
+                        reportMissing(element, missingText(reference).arg(attribute, excerpt(tag)));
+                }
+            }
+        }
+        if (kind.kind != ElementKind::Cables)
+            return;
+        checkType(element, element.attribute(words::Type));
+        const QString bundle = element.attribute(words::BundleName);
         if (!bundle.isEmpty() && m_bundles.count(bundle) == 0)
-            reportMissing(cable, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
-    }
-
-    void checkVertRuns()
-    {
-        for (const QDomElement &floor : ChildElements(getElement(words::FloorList))) {
-            for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList))) {
-                for (const QDomElement &vertRun : ChildElements(room.firstChildElement(words::VerticalRunList)))
-                    checkVertRun(vertRun);
-            }
-        }
-    }
-
-    void checkVertRun(const QDomElement &vertRun)
-    {
-        for (const QString &attribute : {words::Connected, words::Disconnected}) {
-            QStringList cables;
-            fromText(vertRun.attribute(attribute), &cables);
-            for (const QString &cable : std::as_const(cables)) {
-                if (!hasTag(words::CableList, cable))
-                    reportMissing(vertRun, tr("\"%1\": there is no cable \"%2\"").arg(attribute, excerpt(cable)));
-            }
-        }
-    }
-
-    void checkConnection(const QDomElement &connection)
-    {
-        for (const QString &attribute : {words::From, words::To}) {
-            const QString end = connection.attribute(attribute);
-            if (!end.isEmpty() && !hasTag(words::DeviceList, end) && !hasTag(words::VerticeList, end))
-                reportMissing(connection,
-                              tr("\"%1\": there is no device or point \"%2\"").arg(attribute, excerpt(end)));
-        }
+            reportMissing(element, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
     }
 
     // Characters and numbers
 
     void checkContents()
     {
-        QDomNode node = m_document.documentElement();
+        QDomNode node = document().documentElement();
         while (!node.isNull()) {
             checkContentsOf(node);
             if (node.hasChildNodes()) {
@@ -343,16 +264,16 @@ private:
             const QDomAttr attribute = attributes.item(i).toAttr();
             checkText(element, attribute.name(), attribute.value());
         }
-        for (const QString &name : {node.parentNode().nodeName(), node.nodeName()})
-            checkNumbers(element, numberChecks().value(name));
+        checkNumbers(element, jobFileAttributes().inList.value(node.parentNode().nodeName()));
+        checkNumbers(element, jobFileAttributes().ofElement.value(node.nodeName()));
     }
 
-    void checkNumbers(const QDomElement &element, InvalidNumbers invalidNumbers)
+    void checkNumbers(const QDomElement &element, const AttributeList *attributes)
     {
-        const QStringList names = invalidNumbers == nullptr ? QStringList() : invalidNumbers(element);
+        const QStringList names = attributes == nullptr ? QStringList() : attributes->invalidNumbers(element);
         for (const QString &name : names) {
             report("invalid-number", element,
-                   tr("\"%1\": \"%2\" is not a number that can be used").arg(name, excerpt(element.attribute(name))));
+                   tr("\"%1\": \"%2\" is not a usable number").arg(name, excerpt(element.attribute(name))));
         }
     }
 
@@ -361,12 +282,14 @@ private:
         const QString lost = firstLostCharacter(text, characterReferences());
         if (!lost.isEmpty())
             report("lost-character", element,
-                   tr("\"%1\" holds \"%2\", which a save cannot keep").arg(excerpt(name), lost));
+                   tr("\"%1\" contains \"%2\", which a save cannot write").arg(excerpt(name), lost));
     }
 
     CheckReport m_report;
-    QMap<QString, QMap<QString, int>> m_linesOfTags; ///< by scope
-    std::set<QString> m_types;                       ///< with a test definition
+    /// Lines of the elements by their tags, by scope.
+    QMap<QString, QMap<QString, int>> m_linesOfTags;
+    /// Cable types that have a test definition.
+    std::set<QString> m_types;
     std::set<QString> m_bundles;
 };
 

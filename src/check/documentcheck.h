@@ -8,44 +8,51 @@
 
 namespace cabledoc {
 
-/// Something in a file that is not as it should be.
+/// One thing in a file that is not as it should be.
 struct Finding
 {
-    QString rule;    ///< its fixed name, from the table below
-    int line = 0;    ///< where the element begins in the file
-    QString element; ///< the element's path below the root, such as "Cable_List/Cable7"; empty for the root
-    QString message; ///< what is wrong, translated
+    /// Fixed name of the rule, see checkFile().
+    QString rule;
+    /// Line of the file in which the element begins.
+    int line = 0;
+    /// Path of the element below the root, such as "Cable_List/Cable7". Empty for the root.
+    QString element;
+    /// Translated description of what is wrong.
+    QString message;
 };
 
-/// What checkFile() found.
+/// What checkFile() has found.
 struct CheckReport
 {
-    QString error;             ///< why the file cannot be read; empty when it can
-    QVector<Finding> findings; ///< in the order of their lines
+    /// Why the file cannot be read, or empty if it can.
+    QString error;
+    /// Findings in the order of their lines.
+    QVector<Finding> findings;
 };
 
-/// How checkFile() looks at a file.
+/// Options of checkFile().
 struct CheckOptions
 {
     /// Whether the file will be saved with character references, see BKXMLEditor::setCharacterReferences().
     bool characterReferences = false;
-    qint64 maximumFileSize = BKXMLEditor::defaultMaximumFileSize; ///< bytes; a larger file is not read
+    /// Size in bytes above which a file is not read.
+    qint64 maximumFileSize = BKXMLEditor::defaultMaximumFileSize;
 };
 
-/// Looks for what is wrong with a job or template file, and changes nothing. An older file is checked as it
-/// will be when it has been brought to the current version.
+/// Checks a job or template file and returns its findings. The file is not changed. An older file is checked in the
+/// form that it has after its conversion to the current version.
 ///
 ///     rule                 what it finds
-///     unknown-root         the file is neither a job nor a template; nothing else is looked at
-///     unknown-version      its version is not known; nothing else is looked at
-///     old-version          its version is not the current one
-///     duplicate-tag        several elements of a kind have the same tag: only the first can be reached
-///     duplicate-id         several elements of a list have the same id, or several bundles or definitions
-///                          the same name
-///     missing-reference    an element names another one that is not there
-///     invalid-definition   a test definition that cannot be used, as TestDef::validDef() says
-///     invalid-number       a number that is not finite, or that its field cannot hold
-///     lost-character       a character that a save will write as "?"
+///     unknown-root         The file is neither a job nor a template. Nothing else is checked.
+///     unknown-version      The version of the file is not known. Nothing else is checked.
+///     old-version          The version of the file is not the current one.
+///     duplicate-tag        Several elements of a kind have the same tag. Only the first can be reached.
+///     duplicate-id         Several elements of a list have the same id, or several bundles or test
+///                          definitions have the same name.
+///     missing-reference    An element refers to another one that does not exist.
+///     invalid-definition   A test definition cannot be used, see TestDef::validDef().
+///     invalid-number       A number is not finite, or its field cannot hold it.
+///     lost-character       A save will write a character as "?".
 CABLEDOC_EXPORT CheckReport checkFile(const QString &filename, const CheckOptions &options = {});
 
 } // namespace cabledoc

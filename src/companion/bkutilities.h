@@ -5,37 +5,40 @@
 #include <QtCore/QPointF>
 #include <QtCore/QString>
 
-/// Vocabulary of the companion utilities library.
+/// The vocabulary of the companion utilities library.
 namespace BKUtils {
 
-/// Keys of the application's settings. The numbers are fixed: applications store them.
+/// Keys of the application's settings. The numbers are fixed, because applications store them.
 enum layvoSettings {
-    NewJobDirectory = 1,       ///< directory in which new, untitled jobs are placed
-    DefaultCeilingHeight = 24, ///< ceiling height of a new floor, a decimal number in the job's length unit
+    /// Directory in which new, untitled jobs are placed.
+    NewJobDirectory = 1,
+    /// Ceiling height of a new floor: a decimal number in the job's length unit.
+    DefaultCeilingHeight = 24,
 };
 
 } // namespace BKUtils
 
-/// The services that cabledoc takes from the application's utilities library. cabledoc brings this
-/// implementation; an application may link a library of its own with the same functions instead.
+/// The functions that cabledoc takes from the application's utilities library. cabledoc brings this implementation. An
+/// application may link a library of its own with the same functions instead.
 namespace BKUtilities {
 
-/// Names the settings file (INI format) that readSettings() reads from now on. It holds one entry a
-/// key under [Settings], named by the key's number: "1=/home/me/jobs". An empty name, the initial
-/// state, stands for no file.
+/// Sets the settings file, in INI format, that readSettings() reads from now on. The section [Settings] of the file has
+/// one entry for each key. The entry is named by the key's number, as in "1=/home/me/jobs". An empty file name, which
+/// is the initial state, stands for no file.
 Q_DECL_EXPORT void setSettingsFile(const QString &fileName);
 
-/// The text of each requested key. A key that the file does not hold, holds empty or (for a number)
-/// unreadable has its default: the user's documents folder, and "8". Never changes the file.
+/// Returns the text of each of the given keys. A key that is missing or empty in the file has its default value: the
+/// user's documents folder for NewJobDirectory, and "8" for DefaultCeilingHeight. A ceiling height that is not a finite
+/// number above 0 is also "8". Never changes the file.
 Q_DECL_EXPORT QMap<BKUtils::layvoSettings, QString> readSettings(const QList<BKUtils::layvoSettings> &keys);
 
-/// The multiple of 0.5 nearest to value; ties go away from zero (0.25 gives 0.5).
+/// Returns the multiple of 0.5 nearest to value. Ties are rounded away from zero: 0.25 gives 0.5.
 Q_DECL_EXPORT float roundToHalf(float value);
 
-/// The multiple of 0.1 nearest to value; ties go away from zero (0.05 gives 0.1).
+/// Returns the multiple of 0.1 nearest to value. Ties are rounded away from zero: 0.05 gives 0.1.
 Q_DECL_EXPORT float roundToTenths(float value);
 
-/// The straight distance between two points, in the unit of their coordinates.
+/// Returns the straight distance between two points, in the unit of their coordinates.
 Q_DECL_EXPORT double getDistance(const QPointF &from, const QPointF &to);
 
 } // namespace BKUtilities

@@ -1,13 +1,8 @@
 #include "bkxmleditor.h"
 
-#include "childelements.h"
-#include "knownfiles.h"
+#include "document.h"
 #include "testencoding.h"
 #include "words.h"
-#include "xmlfile.h"
-
-#include <QtCore/QDebug>
-#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -15,44 +10,99 @@
 using namespace cabledoc;
 
 BKXMLEditor::BKXMLEditor(const QString &documentTypeName)
-    : m_document(documentTypeName)
-    , m_filename(QLatin1String(""))
-    , m_error(QLatin1String(""))
-    , m_files(std::make_unique<KnownFiles>())
+    : BKXMLEditor(std::make_unique<Document>(std::make_unique<DocumentTree>(documentTypeName)))
+{
+}
+
+BKXMLEditor::BKXMLEditor(std::unique_ptr<Document> inside)
+    : m_inside(std::move(inside))
 {
 }
 
 BKXMLEditor::BKXMLEditor(BKXMLEditor &other)
     : QObject(other.parent())
-    , m_document(other.m_document)
-    , m_filename(other.m_filename)
-    , m_error(other.m_error)
-    , m_files(std::make_unique<KnownFiles>(*other.m_files))
-    , m_maximumFileSize(other.m_maximumFileSize)
-    , m_isLoadFailed(other.m_isLoadFailed)
-    , m_writesReferences(other.m_writesReferences)
-    , m_replacesUnknownFiles(other.m_replacesUnknownFiles)
+    , m_inside(std::make_unique<Document>(*other.m_inside))
 {
 }
 
 BKXMLEditor &BKXMLEditor::operator=(const BKXMLEditor &other)
 {
-    if (this == &other)
-        return *this;
-    m_document = other.m_document;
-    m_filename = other.m_filename;
-    m_error = other.m_error;
-    *m_files = *other.m_files;
-    m_isLoadFailed = other.m_isLoadFailed;
-    // The dirty flag tells of this object's own file and stays.
+    *m_inside = *other.m_inside;
     return *this;
 }
 
 BKXMLEditor::~BKXMLEditor() = default;
 
+QString &BKXMLEditor::filename()
+{
+    return m_inside->filename;
+}
+
+void BKXMLEditor::setFilename(const QString &filename)
+{
+    m_inside->filename = filename;
+}
+
+QString &BKXMLEditor::error()
+{
+    return m_inside->error;
+}
+
+void BKXMLEditor::setCharacterReferences(bool on)
+{
+    m_inside->writesReferences = on;
+}
+
+bool BKXMLEditor::characterReferences() const
+{
+    return m_inside->writesReferences;
+}
+
+qint64 BKXMLEditor::replacedCharacters() const
+{
+    return m_inside->replacedCharacters;
+}
+
+void BKXMLEditor::setMaximumFileSize(qint64 bytes)
+{
+    m_inside->maximumFileSize = bytes;
+}
+
+qint64 BKXMLEditor::maximumFileSize() const
+{
+    return m_inside->maximumFileSize;
+}
+
+void BKXMLEditor::setReplacesUnknownFiles(bool on)
+{
+    m_inside->replacesUnknownFiles = on;
+}
+
+bool BKXMLEditor::replacesUnknownFiles() const
+{
+    return m_inside->replacesUnknownFiles;
+}
+
+QDomDocument BKXMLEditor::document() const
+{
+    return m_inside->tree().document();
+}
+
+bool BKXMLEditor::fileChanged() const
+{
+    return m_inside->tree().isChanged();
+}
+
+void BKXMLEditor::setDirty(bool dirty)
+{
+    m_inside->tree().setChanged(dirty);
+}
+
+// Finding elements
+
 QDomNode BKXMLEditor::getDomNodeFirstChild() const
 {
-    return m_document.firstChild().firstChild();
+    return document().firstChild().firstChild();
 }
 
 QDomElement BKXMLEditor::getChildElement(const QString &tagName, const QDomNode &start)
@@ -72,28 +122,7 @@ bool BKXMLEditor::hasChildElement(const QString &tagName, const QDomNode &start)
 
 QDomElement BKXMLEditor::getElement(const QString &tagName) const
 {
-    return getChildElement(tagName, getDomNodeFirstChild());
-}
-
-QString BKXMLEditor::getChildAttr(const QString &attribute, const QDomElement &element)
-{
-    return element.attribute(attribute);
-}
-
-void BKXMLEditor::setChildAttr(const QString &attribute, const QString &value, QDomElement &element)
-{
-    if (element.hasAttribute(attribute))
-        element.setAttribute(attribute, value);
-}
-
-QString BKXMLEditor::getElementId(const QDomElement &element)
-{
-    return getChildAttr(words::Id, element);
-}
-
-void BKXMLEditor::setElementId(const QString &id, QDomElement &element)
-{
-    setChildAttr(words::Id, id, element);
+    return m_inside->tree().child(tagName);
 }
 
 QDomElement BKXMLEditor::getToTestDefList() const
@@ -104,6 +133,46 @@ QDomElement BKXMLEditor::getToTestDefList() const
 QDomElement BKXMLEditor::getToBundledCableTypeList() const
 {
     return getElement(words::BundledCableList);
+}
+
+QDomElement BKXMLEditor::getToPrintSettingsList() const
+{
+    return getElement(words::SettingsList).firstChildElement(words::PrintSettingsList);
+}
+
+QDomElement BKXMLEditor::getToPageSettingsList() const
+{
+    return getElement(words::SettingsList).firstChildElement(words::PageSettingsList);
+}
+
+QDomElement BKXMLEditor::getToScaleSettingsList() const
+{
+    return getElement(words::SettingsList).firstChildElement(words::ScaleSettingsList);
+}
+
+// Reading and writing attributes
+
+QString BKXMLEditor::getChildAttr(const QString &attribute, const QDomElement &element)
+{
+    return element.attribute(attribute);
+}
+
+void BKXMLEditor::setChildAttr(const QString &attribute, const QString &value, QDomElement &element)
+{
+    // The subclass decides whether this counts as a change.
+    const bool wasChanged = fileChanged();
+    m_inside->tree().changeAttribute(element, attribute, value);
+    setDirty(wasChanged);
+}
+
+QString BKXMLEditor::getElementId(const QDomElement &element)
+{
+    return getChildAttr(words::Id, element);
+}
+
+void BKXMLEditor::setElementId(const QString &id, QDomElement &element)
+{
+    setChildAttr(words::Id, id, element);
 }
 
 QString BKXMLEditor::boolArrayToString(const bool *flags)
@@ -119,32 +188,7 @@ bool BKXMLEditor::stringToBoolArray(const QString &text, bool *flags)
     return isWhole;
 }
 
-QDomElement BKXMLEditor::appendElement(const QString &tagName, QDomNode parent)
-{
-    return parent.appendChild(m_document.createElement(tagName)).toElement();
-}
-
-QDomElement BKXMLEditor::ensureElement(const QString &tagName, const QDomNode &parent)
-{
-    const QDomElement element = parent.firstChildElement(tagName);
-    return element.isNull() ? appendElement(tagName, parent) : element;
-}
-
-void BKXMLEditor::renameElement(QDomElement element, const QString &id)
-{
-    if (element.isNull())
-        return;
-    element.setAttribute(words::Id, id);
-    setDirty(true);
-}
-
-void BKXMLEditor::removeElement(const QDomElement &element)
-{
-    if (element.isNull())
-        return;
-    element.parentNode().removeChild(element);
-    setDirty(true);
-}
+// The text forms of test data
 
 QString BKXMLEditor::dataToString(const cable_struct &block)
 {
@@ -168,125 +212,4 @@ TRUEPHY_PLOT_DATA BKXMLEditor::responseStringToData(const QString &text)
     TRUEPHY_PLOT_DATA curve;
     fromText(text, &curve);
     return curve;
-}
-
-bool BKXMLEditor::hasExtension(const QString &filename, const QString &extension)
-{
-    return QFileInfo(filename).suffix().toLower() == extension;
-}
-
-bool BKXMLEditor::namesAFile(const QString &filename, const QString &extension)
-{
-    return !filename.isEmpty() && filename != QLatin1Char('.') + extension;
-}
-
-bool BKXMLEditor::mayBeFileName(const QString &filename)
-{
-    if (!filename.contains(QChar(0)))
-        return true;
-    // The system would take the name to end there.
-    m_error = tr("The file name holds a NUL character.");
-    return false;
-}
-
-bool BKXMLEditor::takeName(const QString &filename)
-{
-    if (!mayBeFileName(filename))
-        return false;
-    m_filename = filename;
-    m_files->takeName(filename);
-    m_isLoadFailed = false;
-    return true;
-}
-
-void BKXMLEditor::changeName(const QString &filename)
-{
-    m_filename = filename;
-    m_files->changeName(filename);
-}
-
-bool BKXMLEditor::isOwnFile(const QString &filename) const
-{
-    return isSameFile(m_files->path(m_filename), filename);
-}
-
-bool BKXMLEditor::readFile(const QString &filename, const QString &documentTypeName, const LoadTexts &texts)
-{
-    if (filename.isEmpty()) {
-        m_error = texts.noName;
-        return false;
-    }
-    // Before anything is checked: a failed load leaves the new name in place.
-    m_filename = filename;
-    m_files->takeName(filename);
-    rejectFile();
-    if (!mayBeFileName(filename))
-        return false;
-    const QString path = m_files->path(filename);
-    if (!QFileInfo::exists(path)) {
-        m_error = texts.missing.arg(filename);
-        return false;
-    }
-    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, m_maximumFileSize);
-    if (result.status == xmlfile::ReadResult::NotOpened) {
-        m_error = result.deviceError;
-        return false;
-    }
-    m_document = result.document;
-    if (result.status == xmlfile::ReadResult::Read) {
-        m_files->remember(path, result.state);
-        m_isLoadFailed = false;
-        return true;
-    }
-
-    const XmlProblem &problem = result.problem;
-    if (problem.line != 0 && problem.column != 0) {
-        qDebug().noquote() << "errMsg = " << problem.message;
-        qDebug("errLine = %d", problem.line);
-        qDebug("errColumn = %d", problem.column);
-        m_error = texts.badAtPosition.arg(filename, QString::number(problem.line), QString::number(problem.column),
-                                          problem.message);
-    } else {
-        m_error = texts.bad.arg(filename);
-    }
-    return false;
-}
-
-void BKXMLEditor::rejectFile()
-{
-    m_files->rememberUnread(m_files->path(m_filename));
-    m_isLoadFailed = true;
-}
-
-bool BKXMLEditor::refuseUnloaded()
-{
-    if (m_isLoadFailed)
-        m_error = tr("The file could not be loaded. It is not replaced; save under another name.");
-    return m_isLoadFailed;
-}
-
-bool BKXMLEditor::writeFile(const QString &filename, const xmlfile::AttributeOrder &order, Replace replace)
-{
-    if (!mayBeFileName(filename))
-        return false;
-    const QString path = m_files->path(filename);
-    Expectation expected;
-    if (!m_files->knows(path))
-        expected.kind = m_replacesUnknownFiles ? Expectation::Anything : Expectation::NoFile;
-    else if (replace == Replace::ExpectedFile)
-        expected = {Expectation::KnownContent, m_files->state(path)};
-    const auto beyondLatin1 = m_writesReferences ? xmlfile::BeyondLatin1::AsReferences : xmlfile::BeyondLatin1::Replace;
-
-    const xmlfile::SaveOutcome outcome = xmlfile::save(path, m_document, order, beyondLatin1, expected);
-    if (outcome.state)
-        m_files->remember(path, *outcome.state);
-    if (!outcome.error.isEmpty()) {
-        m_error = outcome.error;
-        return false;
-    }
-    m_isLoadFailed = false;
-    m_replacedCharacters = outcome.replacedCharacters;
-    if (m_replacedCharacters > 0)
-        qDebug("%lld characters that the file cannot hold were written as \"?\"", m_replacedCharacters);
-    return true;
 }

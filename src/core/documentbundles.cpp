@@ -1,7 +1,8 @@
 #include "bkxmleditor.h"
 
-#include "attributetext.h"
 #include "childelements.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "words.h"
 
 using namespace cabledoc;
@@ -13,11 +14,10 @@ constexpr int maximumTypes = 8;
 
 BundledCable bundleFrom(const QDomElement &element)
 {
-    bool isDefault = false;
-    fromText(element.attribute(words::DefaultType), &isDefault);
-    return BundledCable(element.tagName(), element.attribute(words::Id),
-                        childIds(element.firstChildElement(words::BundledCableTypeList)),
-                        element.attribute(words::Color), isDefault);
+    BundledCableFields fields = bundledCableAttributes().read(element);
+    fields.tag = element.tagName();
+    fields.types = childIds(element.firstChildElement(words::BundledCableTypeList));
+    return BundledCable(fields);
 }
 
 } // namespace
@@ -38,34 +38,32 @@ void BKXMLEditor::addBundledCableTypes(const QVector<BundledCable> &bundles)
     const QDomElement list = getToBundledCableTypeList();
     if (list.isNull())
         return;
+    DocumentTree &tree = inside().tree();
     ChildNames names(list);
     for (const BundledCable &bundle : bundles) {
         if (names.containsId(bundle.id()))
             continue;
-        QDomElement element = appendElement(names.firstFreeTag(words::BundledCableTagPrefix), list);
-        element.setAttribute(words::Id, bundle.id());
-        element.setAttribute(words::Color, bundle.color());
-        element.setAttribute(words::DefaultType, toText(bundle.defaultType()));
-        const QDomElement typeList = appendElement(words::BundledCableTypeList, element);
+        const QDomElement element = tree.append(names.firstFreeTag(words::BundledCableTagPrefix), list,
+                                                bundledCableAttributes(), bundle.fields());
+        const QDomElement typeList = tree.append(words::BundledCableTypeList, element);
         int position = 0;
         for (const QString &type : bundle.types().mid(0, maximumTypes)) {
             ++position;
-            appendElement(words::BundledCableTypeTagPrefix + QString::number(position), typeList)
-                .setAttribute(words::Id, type);
+            const QString tag = words::BundledCableTypeTagPrefix + QString::number(position);
+            tree.setAttribute(tree.append(tag, typeList), words::Id, type);
         }
         names.insert(element);
-        setDirty(true);
     }
 }
 
 void BKXMLEditor::renameBundledCableType(const QString &oldName, const QString &newName)
 {
-    renameElement(childWithId(getToBundledCableTypeList(), oldName), newName);
+    inside().tree().setAttribute(childWithId(getToBundledCableTypeList(), oldName), words::Id, newName);
 }
 
 void BKXMLEditor::removeBundledCableTypeByTag(const QString &tag)
 {
-    removeElement(getChildElement(tag, getToBundledCableTypeList().firstChild()));
+    inside().tree().remove(getChildElement(tag, getToBundledCableTypeList().firstChild()));
 }
 
 BundledCable BKXMLEditor::getBundledCableType(const QString &name) const

@@ -1,6 +1,7 @@
 #include "bkxmleditor.h"
 
-#include "settingsattributes.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "words.h"
 
 using namespace cabledoc;
@@ -36,109 +37,82 @@ const SettingsKind<ScaleSettings> &scaleKind()
     return kind;
 }
 
-} // namespace
-
-QDomElement BKXMLEditor::settingsList(const QString &tagName) const
+/// Stores the settings of an entry, which is added if it is missing.
+template <typename Settings> void store(DocumentTree *tree, const QDomElement &list, const SettingsKind<Settings> &kind,
+                                        const QString &name, const Settings &settings)
 {
-    return getElement(words::SettingsList).firstChildElement(tagName);
-}
-
-QDomElement BKXMLEditor::getToPrintSettingsList() const
-{
-    return settingsList(words::PrintSettingsList);
-}
-
-QDomElement BKXMLEditor::getToPageSettingsList() const
-{
-    return settingsList(words::PageSettingsList);
-}
-
-QDomElement BKXMLEditor::getToScaleSettingsList() const
-{
-    return settingsList(words::ScaleSettingsList);
-}
-
-template <typename Settings, typename Kind>
-void BKXMLEditor::store(const Settings &settings, const QString &name, const Kind &kind)
-{
-    const QDomElement list = settingsList(kind.listName);
     if (list.isNull() || !kind.entryNames.contains(name))
         return;
-    QDomElement entry = list.firstChildElement(name);
-    if (entry.isNull()) {
-        entry = appendElement(name, list);
-        setDirty(true);
-    }
-    if (kind.attributes.write(entry, settings.fields()))
-        setDirty(true);
+    const QDomElement entry = list.firstChildElement(name);
+    if (entry.isNull())
+        tree->append(name, list, kind.attributes, settings.fields());
+    else
+        tree->write(entry, kind.attributes, settings.fields());
 }
 
-template <typename Settings, typename Kind> Settings BKXMLEditor::fetch(const QString &name, const Kind &kind)
+/// Returns the settings of an entry. Adds what is missing with its default.
+template <typename Settings>
+Settings fetch(DocumentTree *tree, const QDomElement &list, const SettingsKind<Settings> &kind, const QString &name)
 {
-    const QDomElement list = settingsList(kind.listName);
-    if (list.isNull() || !kind.entryNames.contains(name))
-        return Settings();
-    QDomElement entry = list.firstChildElement(name);
-    if (entry.isNull()) {
-        store(Settings(), name, kind);
-        return Settings();
-    }
-    if (kind.attributes.complete(entry))
-        setDirty(true);
-    return Settings(kind.attributes.read(entry));
+    const QDomElement entry = list.firstChildElement(name);
+    if (kind.entryNames.contains(name) && !entry.isNull())
+        return Settings(tree->read(entry, kind.attributes));
+    store(tree, list, kind, name, Settings());
+    return Settings();
 }
+
+/// Adds the entries that a list lacks, and the list itself if it is missing.
+template <typename Settings, typename Initial>
+void addEntries(DocumentTree *tree, const QDomElement &parent, const SettingsKind<Settings> &kind, Initial initial)
+{
+    const QDomElement list = tree->ensure(kind.listName, parent);
+    for (const QString &name : kind.entryNames) {
+        if (list.firstChildElement(name).isNull())
+            tree->append(name, list, kind.attributes, initial(name).fields());
+    }
+}
+
+} // namespace
 
 void BKXMLEditor::setPrintSettings(const PrintSettings &settings, const QString &name)
 {
-    store(settings, name, printKind());
+    store(&inside().tree(), getToPrintSettingsList(), printKind(), name, settings);
 }
 
 void BKXMLEditor::setPageSettings(const PageSettings &settings, const QString &name)
 {
-    store(settings, name, pageKind());
+    store(&inside().tree(), getToPageSettingsList(), pageKind(), name, settings);
 }
 
 void BKXMLEditor::setScaleSettings(const ScaleSettings &settings, const QString &name)
 {
-    store(settings, name, scaleKind());
+    store(&inside().tree(), getToScaleSettingsList(), scaleKind(), name, settings);
 }
 
 PrintSettings BKXMLEditor::getPrintSettings(const QString &name)
 {
-    return fetch<PrintSettings>(name, printKind());
+    return fetch(&inside().tree(), getToPrintSettingsList(), printKind(), name);
 }
 
 PageSettings BKXMLEditor::getPageSettings(const QString &name)
 {
-    return fetch<PageSettings>(name, pageKind());
+    return fetch(&inside().tree(), getToPageSettingsList(), pageKind(), name);
 }
 
 ScaleSettings BKXMLEditor::getScaleSettings(const QString &name)
 {
-    return fetch<ScaleSettings>(name, scaleKind());
-}
-
-template <typename Kind, typename Initial>
-void BKXMLEditor::addEntries(const QDomElement &settings, const Kind &kind, Initial initial)
-{
-    const QDomElement list = ensureElement(kind.listName, settings);
-    for (const QString &name : kind.entryNames) {
-        if (list.firstChildElement(name).isNull())
-            kind.attributes.write(appendElement(name, list), initial(name).fields());
-    }
+    return fetch(&inside().tree(), getToScaleSettingsList(), scaleKind(), name);
 }
 
 void BKXMLEditor::addSettingsList(QDomElement *parent)
 {
     if (parent == nullptr || parent->isNull())
         return;
-    const QDomElement settings = ensureElement(words::SettingsList, *parent);
-    addEntries(settings, printKind(), initialPrintSettings);
-    addEntries(settings, pageKind(), [](const QString &) { return PageSettings(); });
-    addEntries(settings, scaleKind(), [](const QString &) { return ScaleSettings(); });
-
-    QDomElement notes = ensureElement(words::JobNotesText, *parent);
-    if (!notes.hasAttribute(words::Text))
-        notes.setAttribute(words::Text, QLatin1String(""));
-    setDirty(true);
+    DocumentTree &tree = inside().tree();
+    const QDomElement settings = tree.ensure(words::SettingsList, *parent);
+    addEntries(&tree, settings, printKind(), initialPrintSettings);
+    addEntries(&tree, settings, pageKind(), [](const QString &) { return PageSettings(); });
+    addEntries(&tree, settings, scaleKind(), [](const QString &) { return ScaleSettings(); });
+    tree.addAttribute(tree.ensure(words::JobNotesText, *parent), words::Text, QLatin1String(""));
+    tree.setChanged(true);
 }

@@ -1,7 +1,8 @@
 #include "bkxmleditor.h"
 
 #include "childelements.h"
-#include "sharedattributes.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "words.h"
 
 using namespace cabledoc;
@@ -37,21 +38,19 @@ void BKXMLEditor::addTestDefs(const QVector<TestDef> &definitions)
     for (const TestDef &definition : definitions) {
         if (names.containsId(definition.id()))
             continue;
-        const QDomElement element = appendElement(names.firstFreeTag(words::TestDefTagPrefix), list);
-        testDefAttributes().write(element, definition.fields());
-        names.insert(element);
-        setDirty(true);
+        names.insert(inside().tree().append(names.firstFreeTag(words::TestDefTagPrefix), list, testDefAttributes(),
+                                            definition.fields()));
     }
 }
 
 void BKXMLEditor::renameTestDef(const QString &oldName, const QString &newName)
 {
-    renameElement(childWithId(getToTestDefList(), oldName), newName);
+    inside().tree().setAttribute(childWithId(getToTestDefList(), oldName), words::Id, newName);
 }
 
 void BKXMLEditor::removeTestDef(const QString &name)
 {
-    removeElement(childWithId(getToTestDefList(), name));
+    inside().tree().remove(childWithId(getToTestDefList(), name));
 }
 
 bool BKXMLEditor::testDefExists(const QString &name) const

@@ -41,7 +41,7 @@ private:
 
     void endRow(int terminator)
     {
-        // The parser reports both halves of a line end.
+        // The parser reports both characters of a line break.
         const bool isSecondHalf = terminator == CSV_LF && m_lastTerminator == CSV_CR && m_row.fields.isEmpty();
         m_lastTerminator = isSecondHalf ? 0 : terminator;
         if (isSecondHalf)
@@ -61,7 +61,7 @@ bool isBlank(char character)
     return character == ' ' || character == '\t';
 }
 
-/// Whether the field would not be read as it is when it stood there bare.
+/// Returns whether the field would be read differently without quotation marks.
 bool needsQuotes(const QByteArray &field)
 {
     return std::any_of(field.begin(), field.end(),

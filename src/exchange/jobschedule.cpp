@@ -13,7 +13,8 @@ namespace cabledoc {
 
 namespace {
 
-/// Beyond that, rooms of a damaged file would push new ones out of all numbers.
+/// Largest bottom edge that counts. Rooms of a damaged file could otherwise make the positions of new ones too large
+/// for numbers.
 constexpr double maximumBottom = 1e6;
 
 QDomElement floorList(const JobEditor &job)
@@ -29,7 +30,7 @@ QRectF areaOf(const QDomElement &room)
 
 } // namespace
 
-bool JobSchedule::isPossible(const JobEditor &job)
+bool JobSchedule::hasLists(const JobEditor &job)
 {
     return !floorList(job).isNull();
 }
@@ -38,7 +39,7 @@ JobSchedule::JobSchedule(const JobEditor &job)
     : m_job(job)
 {
     findRooms();
-    // A tag leads to the port rather than to the vertical run.
+    // A tag that a port and a vertical run share leads to the port.
     findEnds(words::PortList);
     findEnds(words::VerticalRunList);
     findCables();
@@ -104,7 +105,7 @@ void JobSchedule::findCables()
     }
 }
 
-/// The attribute as a save would write it.
+/// Returns the attribute as a save would write it.
 QString JobSchedule::storedText(const QDomElement &element, const QString &attribute) const
 {
     return savedText(element.attribute(attribute), m_job.characterReferences());

@@ -14,51 +14,64 @@ class JobEditor;
 
 namespace cabledoc {
 
+/// A floor of the job.
 struct FloorPlace
 {
     QString tag;
-    QDomElement element; ///< null for one that was just added
-    double bottom = 0.0; ///< of its lowest room, in plan pixels
+    /// The floor's element, or a null element if the import has just added the floor.
+    QDomElement element;
+    /// Bottom edge of the lowest room, in plan pixels.
+    double bottom = 0.0;
     int newRooms = 0;
 };
 
+/// A room of the job.
 struct RoomPlace
 {
     QString floorTag;
     QString tag;
-    QRectF area;   ///< in plan pixels; empty for one that is not drawn
-    int ports = 0; ///< vertical runs included
+    /// Area in plan pixels, or empty if the room is not drawn.
+    QRectF area;
+    /// Number of ports and vertical runs.
+    int ports = 0;
 };
 
-/// What a job says of its cables, in the words of a schedule. Where several elements have the same names, the
-/// first in the document is the one that counts; those that the job's operations cannot reach do not.
+/// The cables of a job in the form of a schedule. If several elements have the same names, the first one in the
+/// document counts. Elements that the operations of the job cannot reach do not count.
 class JobSchedule
 {
 public:
-    /// Whether the job has the lists that take up floors and cables.
-    static bool isPossible(const JobEditor &job);
+    /// Returns whether the job has lists of floors and of cables.
+    static bool hasLists(const JobEditor &job);
 
     explicit JobSchedule(const JobEditor &job);
 
+    /// Returns the row of a cable.
     ScheduleRow row(const QDomElement &cable) const;
-    /// The colour that a cable of that type gets for a text.
+    /// Returns the colour that a cable of the given type gets if its colour is the given text.
     QString color(const QString &text, const QString &type) const;
 
-    QVector<QDomElement> cables;                            ///< in document order
-    QMap<QString, QDomElement> cableOfId;                   ///< the same
-    QMap<QString, FloorPlace> floors;                       ///< by id
-    std::map<std::pair<QString, QString>, RoomPlace> rooms; ///< by the floor's id and their own
-    std::map<CableEnd, QString> tagOfEnd;                   ///< of ports and vertical runs
+    /// Cables in document order.
+    QVector<QDomElement> cables;
+    /// Cables by their ids.
+    QMap<QString, QDomElement> cableOfId;
+    /// Floors by their ids.
+    QMap<QString, FloorPlace> floors;
+    /// Rooms by the id of the floor and their own id.
+    std::map<std::pair<QString, QString>, RoomPlace> rooms;
+    /// Tags of ports and vertical runs by their ends.
+    std::map<CableEnd, QString> tagOfEnd;
 
 private:
     struct FoundRoom
     {
         QDomElement element;
-        CableEnd name; ///< without a port
+        /// Name of the room as an end without a port.
+        CableEnd name;
     };
 
     QString storedText(const QDomElement &element, const QString &attribute) const;
-    /// The room's id; empty for "Undefined".
+    /// Returns the id of a room, or an empty string for "Undefined".
     QString roomName(const QDomElement &room) const;
     void findRooms();
     void findRoomsOf(const QDomElement &floor);

@@ -1,9 +1,7 @@
 #include "schedule.h"
 
-#include "addmode.h"
 #include "csvtext.h"
-#include "jobattributes.h"
-#include "jobeditor.h"
+#include "jobeditor_p.h"
 #include "jobschedule.h"
 #include "jobwords.h"
 #include "schedulereader.h"
@@ -16,12 +14,12 @@ using namespace cabledoc;
 
 namespace {
 
-// The grid of new rooms, in plan pixels
+// The grid of new rooms, in plan pixels.
 constexpr int roomsInRow = 6;
 constexpr int roomWidth = 240;
 constexpr int roomHeight = 160;
 constexpr int gap = 40;
-// Ports
+// The places of new ports.
 constexpr int portsInRow = 16;
 constexpr int undefinedPortDistance = 24;
 constexpr int undefinedPortTop = 12;
@@ -39,8 +37,8 @@ RoomFields placeOfRoom(int number, double top)
     return fields;
 }
 
-/// Any number of ports is spread over the room: the golden ratio puts each row into the widest space that those
-/// before it leave.
+/// Returns the place of a port in a room. Any number of ports is spread over the room: the golden ratio puts each row
+/// into the widest space that the rows before it leave.
 QPointF placeOfPort(int number, const QRectF &area)
 {
     if (area.isEmpty())
@@ -53,7 +51,7 @@ QPointF placeOfPort(int number, const QRectF &area)
     return {rounded(area.left() + across * area.width()), rounded(area.top() + down * area.height())};
 }
 
-/// Fields of a cable but its ends, which take more than a text.
+/// A field of a cable that is a single text, unlike its ends.
 struct TextField
 {
     column::Column column;
@@ -74,14 +72,14 @@ const std::array<TextField, 6> &textFields()
     return fields;
 }
 
-/// Brings a job up to a schedule, or only counts what that takes.
+/// Brings a job up to date with a schedule, or only counts the changes.
 class ScheduleImport
 {
 public:
     ScheduleImport(JobEditor &job, bool dryRun)
         : m_job(job)
         , m_isDry(dryRun)
-        , m_there(job)
+        , m_known(job)
         , m_firstFloor(job.getFloorTags().value(0))
     {
     }
@@ -96,14 +94,14 @@ public:
 private:
     void import(ScheduleRow row, const std::bitset<column::Count> &has)
     {
-        const QDomElement cable = m_there.cableOfId.value(row[column::Id]);
-        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_there.row(cable);
+        const QDomElement cable = m_known.cableOfId.value(row[column::Id]);
+        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_known.row(cable);
         for (std::size_t column = 0; column < column::Count; ++column) {
             if (!has[column])
                 row[column] = before[column];
         }
         row[column::Use] = storedCableUse(row[column::Use]);
-        row[column::Color] = m_there.color(row[column::Color], row[column::Type]);
+        row[column::Color] = m_known.color(row[column::Color], row[column::Type]);
         if (cable.isNull())
             addCable(row);
         else if (row != before)
@@ -140,29 +138,28 @@ private:
             set(cable, words::To, endTag(row, column::ToFloor), &JobEditor::setCableTo);
     }
 
-    void set(QDomElement cable, const QString &attribute, const QString &text,
+    void set(const QDomElement &cable, const QString &attribute, const QString &text,
              void (JobEditor::*setter)(const QString &, const QString &))
     {
         if (m_isDry)
             return;
-        // The setters create none that an older file lacks.
-        if (!cable.hasAttribute(attribute))
-            cable.setAttribute(attribute, QString());
+        // The setters do not add an attribute that an older file lacks.
+        JobEditorPrivate::of(m_job).tree.addAttribute(cable, attribute, QString());
         (m_job.*setter)(cable.tagName(), text);
     }
 
-    // What the job lacks of an end is added. In a dry run it is there from then on, but without a tag.
+    // An end that the job lacks is added. In a dry run it counts as added from then on, but has no tag.
 
     QString endTag(const ScheduleRow &row, std::size_t floorColumn)
     {
         const CableEnd end = endIn(row, floorColumn);
         if (end == CableEnd())
             return QString();
-        const auto found = m_there.tagOfEnd.find(end);
-        if (found != m_there.tagOfEnd.end())
+        const auto found = m_known.tagOfEnd.find(end);
+        if (found != m_known.tagOfEnd.end())
             return found->second;
         const QString tag = addPort(end, row[column::Use]);
-        m_there.tagOfEnd.insert({end, tag});
+        m_known.tagOfEnd.insert({end, tag});
         return tag;
     }
 
@@ -184,8 +181,8 @@ private:
     RoomPlace &roomPlace(const CableEnd &end)
     {
         FloorPlace &floor = floorPlace(end.floor);
-        const auto found = m_there.rooms.find({end.floor, end.room});
-        return found != m_there.rooms.end() ? found->second : addRoom(end, floor);
+        const auto found = m_known.rooms.find({end.floor, end.room});
+        return found != m_known.rooms.end() ? found->second : addRoom(end, floor);
     }
 
     RoomPlace &addRoom(const CableEnd &end, FloorPlace &floor)
@@ -205,33 +202,32 @@ private:
             tag = m_job.addRoom(Room(fields), isUndefined ? addmode::GivenNames : addmode::GivenId);
         }
         const QRectF area(fields.x, fields.y, fields.width, fields.height);
-        return m_there.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
+        return m_known.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
     }
 
-    /// A floor that was not made here may lack its list.
+    /// Floors that the import has not added may lack a list of rooms.
     void ensureRoomList(const FloorPlace &floor)
     {
-        QDomElement element = floor.element;
         if (m_job.getToRoomList(floor.tag).isNull())
-            element.appendChild(element.ownerDocument().createElement(words::RoomList));
+            JobEditorPrivate::of(m_job).tree.append(words::RoomList, floor.element);
     }
 
     FloorPlace &floorPlace(const QString &id)
     {
-        const auto found = m_there.floors.find(id);
-        if (found != m_there.floors.end())
+        const auto found = m_known.floors.find(id);
+        if (found != m_known.floors.end())
             return *found;
         ++m_report.floors;
         const QString tag = m_isDry ? QString()
                                     : m_job.addFloor(QString(), id, m_job.getFloorCeilingHeight(m_firstFloor),
                                                      QString(), addmode::GivenId);
-        m_there.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
-        return *m_there.floors.insert(id, {tag, QDomElement(), 0.0, 0});
+        m_known.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
+        return *m_known.floors.insert(id, {tag, QDomElement(), 0.0, 0});
     }
 
     JobEditor &m_job;
     bool m_isDry;
-    JobSchedule m_there;
+    JobSchedule m_known;
     QString m_firstFloor;
     ScheduleReport m_report;
 };
@@ -244,7 +240,7 @@ ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName,
     ScheduleReport report;
     report.error = file.error;
     report.problems = file.problems;
-    if (report.error.isEmpty() && !JobSchedule::isPossible(job))
+    if (report.error.isEmpty() && !JobSchedule::hasLists(job))
         report.error = QCoreApplication::translate("Schedule", "%1 has no list of cables or no list of floors")
                            .arg(job.filename());
     if (!report.error.isEmpty() || !report.problems.isEmpty())

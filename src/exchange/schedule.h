@@ -10,61 +10,80 @@ class JobEditor;
 
 namespace cabledoc {
 
-/// Something in a cable schedule that keeps it from being imported.
+/// Something in a cable schedule that prevents its import.
 struct ScheduleProblem
 {
-    int row = 0;     ///< 1 is the heading; a row of several lines counts once, an empty line too
-    int column = 0;  ///< from 1, as in the file
-    QString message; ///< what is wrong, translated
+    /// Number of the row, where 1 is the heading. A row with line breaks in its fields counts once. Empty lines count
+    /// too.
+    int row = 0;
+    /// Number of the column in the file, from 1.
+    int column = 0;
+    /// Translated description of the problem.
+    QString message;
 };
 
+/// The result of importSchedule(). If there is an error or a problem, the job has not been changed.
 struct ScheduleReport
 {
-    QString error;                     ///< why nothing could be read or imported; empty when it could
-    QVector<ScheduleProblem> problems; ///< in the order of the file
-    int floors = 0;                    ///< added, as all of these
+    /// Why the schedule cannot be read or imported, or empty if it can.
+    QString error;
+    /// Problems in the order of the file.
+    QVector<ScheduleProblem> problems;
+    /// Number of floors added.
+    int floors = 0;
+    /// Number of rooms added.
     int rooms = 0;
+    /// Number of ports added.
     int ports = 0;
+    /// Number of cables added.
     int cables = 0;
-    int changed = 0; ///< cables that were there and differed
+    /// Number of existing cables that have been changed.
+    int changed = 0;
 };
 
-/// Cable schedules: CSV with one row for each cable.
+/// Brings a job up to date with a cable schedule, which is a CSV file with one row for each cable.
 ///
-/// A schedule is UTF-8 text, with or without a byte order mark. It may hold any character if the job writes references
-/// (BKXMLEditor::setCharacterReferences()), and otherwise those of Latin-1. Fields are separated by commas; those that
-/// hold commas, quotation marks, line breaks or blanks at their ends stand in quotation marks. The first row
-/// names the columns, in any order:
+/// A schedule is UTF-8 text, with or without a byte order mark. It may hold any character if the job writes references,
+/// see BKXMLEditor::setCharacterReferences(). Otherwise it may hold only those of Latin-1. Commas separate the fields.
+/// A field that holds a comma, a quotation mark or a line break, or begins or ends with a blank, must be in quotation
+/// marks. The first row names the columns, in any order:
 ///
-///     column                         holds
-///     id                             the cable's id; needed, and only once in a file
-///     type                           the name of its test definition
-///     use                            what it is for
-///     from_floor from_room from_port the ids of what it ends at; needed, but all three may be empty
-///     to_floor to_room to_port       the same of its other end
-///     bundle                         the name of its bundle
-///     bundle_number bundle_group     its numbers in the bundle and of those pulled together
-///     color                          a colour name such as "#ff8000"; empty for that of the test definition
+///     column                           holds
+///     id                               id of the cable; required, and only once in a file
+///     type                             name of its test definition
+///     use                              what it is used for
+///     from_floor, from_room, from_port ids of the floor, room and port where it begins; required columns, but
+///                                      all three fields may be empty
+///     to_floor, to_room, to_port       ids of the floor, room and port where it ends; required columns, but
+///                                      all three fields may be empty
+///     bundle                           name of its bundle
+///     bundle_number                    its number in the bundle
+///     bundle_group                     number of the cables that are pulled together
+///     color                            name of a colour such as "#ff8000"; empty for that of the test definition
 ///
-/// Columns but those named as needed may be missing. Fields missing at the end of a row are empty, and rows of
-/// nothing but empty fields do not count. An empty room is the floor's room "Undefined". A port may be a
-/// vertical run. Where several floors, rooms, ports or cables have the same id, the first in the document
-/// counts.
-
-/// Brings a job up to a schedule. Floors, rooms and ports that it lacks are added, and so are cables. Cables that
-/// it has get what the schedule says otherwise; columns that the schedule lacks, test results and paths stay as they
-/// are, and so does an end that has the same names. Nothing is removed. A job that says the same already is not
-/// changed. When there are an error or problems nothing is. A dry run changes nothing and reports the same.
+/// All other columns may be missing. Fields that are missing at the end of a row are empty. A row with only empty
+/// fields is skipped. An empty room stands for the floor's room "Undefined". The id of a port may be that of a vertical
+/// run. If several floors, rooms, ports or cables have the same id, the first one in the document counts.
 ///
-/// New floors have the ceiling height of the first floor. New rooms are drawn as rectangles of 240 by 160 plan
-/// pixels, six in a row, below what rooms the floor has. New ports take over the use of the cable and stand in their
-/// room, in rows of sixteen; those in "Undefined" stand in one line at the top of the plan.
+/// The import adds the floors, rooms, ports and cables that the job lacks. It changes existing cables where the
+/// schedule differs. It keeps the fields of columns that are not in the schedule, test results and paths. An end of a
+/// cable also stays as it is if its floor, room and port have the same ids as in the schedule. Nothing is removed. A
+/// job that already agrees with the schedule is not changed. If there is an error or a problem, the job is not changed
+/// at all. If dryRun is true, the job is not changed, and the report is the same as that of an import.
+///
+/// New floors have the ceiling height of the first floor. New rooms are rectangles of 240 by 160 plan pixels, six in a
+/// row, below the existing rooms of the floor. New ports take over the use of the cable and are placed in their room in
+/// rows of sixteen. Those in "Undefined" are placed in one line at the top of the plan.
 CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fileName, bool dryRun = false);
 
-/// The schedule of a job: all columns, and the cables in document order. An end that does not exist, or has no name
-/// or no floor's name, is empty. Cables without an id, and those whose id another one before them has, are left out.
-/// Characters that a save of the job would write as "?" are "?", and colours that are none are those of the test
-/// definitions. So the schedule can be imported; that into a job without cables, exported again, gives the same bytes.
+/// Returns the cable schedule of a job, with all columns and the cables in document order. The job is not changed.
+///
+/// An end is empty if it does not exist, or if its port or its floor has no id. Cables without an id are left out, and
+/// so are cables whose id belongs to an earlier one. Characters that a save of the job would write as "?" are "?" here
+/// too. A colour that is not the name of a colour is replaced by that of the test definition.
+///
+/// The result can always be imported. Importing it into a job without cables and exporting that job again gives the
+/// same bytes.
 CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job);
 
 } // namespace cabledoc

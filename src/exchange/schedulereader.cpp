@@ -69,12 +69,12 @@ private:
         });
         if (fault.row > 0)
             m_file.problems.append(
-                {fault.row, fault.column, tr("a quotation mark is missing or stands in the wrong place")});
+                {fault.row, fault.column, tr("a quotation mark is missing or is in the wrong place")});
         else if (isHeading)
             readHeading(CsvRow());
     }
 
-    /// False for a heading under which every row would be wrong.
+    /// Returns false if every row under this heading would be wrong.
     bool readHeading(const CsvRow &heading)
     {
         const auto problemsBefore = m_file.problems.size();
@@ -96,9 +96,9 @@ private:
                                                [&name](const ColumnName &column) { return name == column.name; });
         const auto column = std::size_t(found - columnNames.begin());
         if (column == column::Count)
-            report(heading, field + 1, tr("there is no column \"%1\"").arg(excerpt(QString::fromUtf8(name))));
+            report(heading, field + 1, tr("unknown column \"%1\"").arg(excerpt(QString::fromUtf8(name))));
         else if (m_file.has[column])
-            report(heading, field + 1, tr("the column \"%1\" is there twice").arg(excerpt(QString::fromUtf8(name))));
+            report(heading, field + 1, tr("the column \"%1\" occurs twice").arg(excerpt(QString::fromUtf8(name))));
         else {
             m_file.has.set(column);
             m_fieldOf[column] = field;
@@ -119,7 +119,7 @@ private:
         checkEnd(row, texts, column::ToFloor);
         const QString &color = texts[column::Color];
         if (!color.isEmpty() && !qtcompat::isColorName(color))
-            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is no colour").arg(excerpt(color)));
+            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is not a colour").arg(excerpt(color)));
         for (const std::size_t room : {column::FromRoom, column::ToRoom}) {
             if (texts[room] == words::Undefined)
                 texts[room].clear();
@@ -127,7 +127,7 @@ private:
         if (m_file.problems.isEmpty())
             m_file.rows.append(texts);
         else
-            m_file.rows.clear(); // nobody will need them
+            m_file.rows.clear(); // no longer needed
     }
 
     QString readField(const CsvRow &row, int field)
@@ -137,7 +137,7 @@ private:
         if (text.toUtf8() != bytes)
             report(row, field + 1, tr("the text is not UTF-8"));
         else if (!firstLostCharacter(text, m_canHoldAll).isEmpty())
-            report(row, field + 1, tr("\"%1\" has a character that a job file cannot hold").arg(excerpt(text)));
+            report(row, field + 1, tr("\"%1\" contains a character that a job file cannot hold").arg(excerpt(text)));
         return text;
     }
 
@@ -147,7 +147,8 @@ private:
         if (id.isEmpty())
             report(row, column, m_noId);
         else if (m_rowOfId.contains(id))
-            report(row, column, tr("the id \"%1\" is that of row %2").arg(excerpt(id)).arg(m_rowOfId.value(id)));
+            report(row, column,
+                   tr("the id \"%1\" is already used in row %2").arg(excerpt(id)).arg(m_rowOfId.value(id)));
         else
             m_rowOfId.insert(id, row.number);
     }
@@ -163,15 +164,17 @@ private:
             report(row, m_fieldOf[floorColumn] + 1, m_noFloor);
     }
 
-    // One text for a million rows
+    // Translated once, even if a million rows need them.
     const QString m_noPort = tr("the end has a floor or room, but no port");
     const QString m_noFloor = tr("the end has a port, but no floor");
     const QString m_noId = tr("the cable has no id");
     const QString m_tooManyFields = tr("the row has more fields than the heading");
-    bool m_canHoldAll; ///< whether the job can hold characters beyond Latin-1
+    /// Whether the job can hold characters beyond Latin-1.
+    bool m_canHoldAll;
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
-    std::array<int, column::Count> m_fieldOf{}; ///< the place of a column that the file has
+    /// Field of each column that the file has.
+    std::array<int, column::Count> m_fieldOf{};
     QMap<QString, int> m_rowOfId;
 };
 

@@ -7,15 +7,20 @@
 
 namespace cabledoc {
 
+/// The content of a schedule.
 struct ScheduleFile
 {
-    QString error;                     ///< why it cannot be read; empty when it can
-    QVector<ScheduleProblem> problems; ///< in the order of the file
-    QVector<ScheduleRow> rows;         ///< whole only when there are no problems
-    std::bitset<column::Count> has;    ///< which columns the file has
+    /// Why the file cannot be read, or empty if it can.
+    QString error;
+    /// Problems in the order of the file.
+    QVector<ScheduleProblem> problems;
+    /// Rows of the schedule. They are complete only if there are no problems.
+    QVector<ScheduleRow> rows;
+    /// Which columns the file has.
+    std::bitset<column::Count> has;
 };
 
-/// Reads a schedule and checks all that can be said without the job, but whether that can hold characters beyond
+/// Reads a schedule. Checks everything that can be checked without the job, which may or may not hold characters beyond
 /// Latin-1.
 ScheduleFile readSchedule(const QString &fileName, bool canHoldAll);
 

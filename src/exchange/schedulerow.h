@@ -27,9 +27,11 @@ enum Column : std::size_t {
 };
 } // namespace column
 
+/// A column of a schedule.
 struct ColumnName
 {
     const char *name;
+    /// Whether the column is required.
     bool isNeeded;
 };
 
@@ -47,10 +49,11 @@ inline constexpr std::array<ColumnName, column::Count> columnNames{{{"id", true}
                                                                     {"bundle_group", false},
                                                                     {"color", false}}};
 
-/// What a schedule says of a cable, by column.
+/// The fields of a cable in a schedule, by column.
 using ScheduleRow = std::array<QString, column::Count>;
 
-/// Where a cable ends, by the ids; the room is empty for "Undefined", and all is for an end that is nowhere.
+/// The ids of the floor, room and port at which a cable ends. The room is empty for "Undefined". All three are empty if
+/// the cable does not end anywhere.
 struct CableEnd
 {
     QString floor;
@@ -67,7 +70,7 @@ struct CableEnd
     }
 };
 
-/// The end that begins in that column.
+/// Returns the end that begins in the given column.
 inline CableEnd endIn(const ScheduleRow &row, std::size_t floorColumn)
 {
     return {row[floorColumn], row[floorColumn + 1], row[floorColumn + 2]};

@@ -1,18 +1,17 @@
 #include "bkteditor.h"
-#include "jobeditor.h"
-
-#include "settingsattributes.h"
+#include "documentattributes.h"
+#include "jobeditor_p.h"
 #include "words.h"
 
 #include <algorithm>
 
 using namespace cabledoc;
 
-// What moves between a job and a template, through the operations that both documents have.
+// Copies between a job and a template, through the operations that both documents have.
 
 namespace {
 
-/// Stores print, page and scale settings of the source in the target.
+/// Copies the print, page and scale settings of the source to the target.
 void copySettings(BKXMLEditor &source, BKXMLEditor *target)
 {
     for (const QString &name : printSettingsEntries())
@@ -23,7 +22,7 @@ void copySettings(BKXMLEditor &source, BKXMLEditor *target)
         target->setPageSettings(source.getPageSettings(name), name);
 }
 
-/// The definitions of the built-in types.
+/// Returns the definitions of the built-in types.
 QVector<TestDef> defaultDefinitions(const BKXMLEditor &source)
 {
     QVector<TestDef> definitions = source.getTestDefs();
@@ -55,15 +54,15 @@ void JobEditor::ImportMissingDefaultCableTypes(BktEditor *bkt)
 
 bool JobEditor::Export(const QString &filename)
 {
-    if (!mayBeFile(filename, words::BktExtension))
+    if (!d->mayBeFile(filename, words::BktExtension))
         return false;
-    if (isOwnFile(filename)) {
-        m_error = tr("This is the file of the job itself. A template needs another name.");
+    if (inside().isOwnFile(filename)) {
+        error() = tr("This is the job's own file. Choose another name for the template.");
         return false;
     }
     BktEditor &bkt = BktEditor::Instance();
     if (!bkt.New(filename)) {
-        m_error = tr("Unable to open file.");
+        error() = tr("Unable to open file.");
         return false;
     }
     bkt.setContractorData(getContractorData());
@@ -72,7 +71,7 @@ bool JobEditor::Export(const QString &filename)
     bkt.addBundledCableTypes(getBundledCableTypes());
     if (bkt.save())
         return true;
-    m_error = bkt.error();
+    error() = bkt.error();
     return false;
 }
 

@@ -1,17 +1,10 @@
-#include "jobelements.h"
-
 #include "childelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
 
 namespace {
-
-const DrawnKind<ActivePortFields> &activePortKind()
-{
-    static const DrawnKind<ActivePortFields> kind{ElementKind::ActivePorts, words::ActivePortList,
-                                                  words::ActivePortTagPrefix, activePortAttributes()};
-    return kind;
-}
 
 ActiveTestResult readResult(const QDomElement &element)
 {
@@ -33,16 +26,26 @@ QDomElement resultElement(const QDomElement &activePort, const QString &time)
     return QDomElement();
 }
 
+void appendResult(JobTree *tree, const QDomElement &activePort, const ActiveTestResult &result)
+{
+    const QDomElement element =
+        tree->append(words::ActiveTestResult, activePort, activeTestResultAttributes(), result.fields());
+    for (const auto &[name, value] : result.values()) {
+        const QDomElement valueElement = tree->append(words::ActiveTestValue, element);
+        tree->setAttribute(valueElement, words::Name, name);
+        tree->setAttribute(valueElement, words::Value, value);
+    }
+}
+
 } // namespace
 
 QString JobEditor::addActivePort(const ActivePort &activePort, int mode)
 {
-    const QDomElement element =
-        addElement(activePortKind(), getElement(words::ActiveNetworkTestList), activePort.fields(), mode);
-    if (element.isNull())
-        return QString();
-    for (const ActiveTestResult &result : activePort.results())
-        appendResult(element, result);
+    const QDomElement element = d->add(activePortKind(), activePort.fields(), mode);
+    if (!element.isNull()) {
+        for (const ActiveTestResult &result : activePort.results())
+            appendResult(&d->tree, element, result);
+    }
     return element.tagName();
 }
 
@@ -53,7 +56,7 @@ QString JobEditor::addActivePort(const QString &portTag, const QString &tag, con
 
 void JobEditor::removeActivePort(const QString &tag)
 {
-    removeElementOf(ElementKind::ActivePorts, activePortElement(tag));
+    d->tree.remove(ElementKind::ActivePorts, tag);
 }
 
 void JobEditor::removeActivePort(const ActivePort &activePort)
@@ -61,17 +64,9 @@ void JobEditor::removeActivePort(const ActivePort &activePort)
     removeActivePort(activePort.element());
 }
 
-QDomElement JobEditor::activePortElement(const QString &tag) const
-{
-    return elementOf(ElementKind::ActivePorts, tag);
-}
-
 ActivePort JobEditor::getActivePortByTag(const QString &tag) const
 {
-    const QDomElement element = activePortElement(tag);
-    if (element.isNull())
-        return ActivePort();
-    ActivePortFields fields = readElement(activePortKind(), element);
+    ActivePortFields fields = d->tree.read(activePortKind(), tag);
     fields.results = getActiveTestResults(tag);
     return ActivePort(fields);
 }
@@ -83,57 +78,45 @@ ActivePort JobEditor::getActivePortById(const QString &id) const
 
 QString JobEditor::getActivePortIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::ActivePorts].id(tag);
+    return d->tree.id(ElementKind::ActivePorts, tag);
 }
 
 QString JobEditor::getActivePortTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::ActivePorts].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::ActivePorts, id);
 }
 
 QString JobEditor::getActivePortPort(const QString &tag) const
 {
-    return getChildAttr(words::Port, activePortElement(tag));
+    return d->tree.attribute(ElementKind::ActivePorts, tag, words::Port);
 }
 
 void JobEditor::setActivePortID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::ActivePorts, tag, id);
+    d->tree.set(ElementKind::ActivePorts, tag, words::Id, id);
 }
 
 void JobEditor::setActivePortPort(const QString &tag, const QString &portTag)
 {
-    writeAttribute(activePortElement(tag), words::Port, portTag);
+    d->tree.set(ElementKind::ActivePorts, tag, words::Port, portTag);
 }
 
 void JobEditor::addActiveTestResult(const QString &tag, const ActiveTestResult &result)
 {
-    const QDomElement activePort = activePortElement(tag);
+    const QDomElement activePort = d->tree.element(ElementKind::ActivePorts, tag);
     if (!activePort.isNull())
-        appendResult(activePort, result);
-}
-
-void JobEditor::appendResult(const QDomElement &activePort, const ActiveTestResult &result)
-{
-    const QDomElement element = appendElement(words::ActiveTestResult, activePort);
-    activeTestResultAttributes().write(element, result.fields());
-    for (const auto &[name, value] : result.values()) {
-        QDomElement valueElement = appendElement(words::ActiveTestValue, element);
-        valueElement.setAttribute(words::Name, name);
-        valueElement.setAttribute(words::Value, value);
-    }
-    setDirty(true);
+        appendResult(&d->tree, activePort, result);
 }
 
 void JobEditor::removeActiveTestResult(const QString &tag, const QString &time)
 {
-    removeElement(resultElement(activePortElement(tag), time));
+    d->tree.remove(resultElement(d->tree.element(ElementKind::ActivePorts, tag), time));
 }
 
 QVector<ActiveTestResult> JobEditor::getActiveTestResults(const QString &tag) const
 {
     QVector<ActiveTestResult> results;
-    for (const QDomElement &element : ChildElements(activePortElement(tag))) {
+    for (const QDomElement &element : ChildElements(d->tree.element(ElementKind::ActivePorts, tag))) {
         if (element.tagName() == words::ActiveTestResult)
             results.append(readResult(element));
     }
@@ -142,5 +125,5 @@ QVector<ActiveTestResult> JobEditor::getActiveTestResults(const QString &tag) co
 
 bool JobEditor::activePortTestResultExists(const QString &tag, const QString &time) const
 {
-    return !resultElement(activePortElement(tag), time).isNull();
+    return !resultElement(d->tree.element(ElementKind::ActivePorts, tag), time).isNull();
 }

@@ -1,9 +1,8 @@
-#include "jobeditor.h"
-
 #include "childelements.h"
-#include "jobattributes.h"
-#include "jobindex.h"
+#include "jobeditor_p.h"
 #include "jobwords.h"
+
+#include <set>
 
 using namespace cabledoc;
 
@@ -27,24 +26,24 @@ QStringList cablesWith(const QDomElement &cableList, const QString &attribute, c
     });
 }
 
-} // namespace
-
-const CableLists &JobEditor::cableLists() const
+QStringList cablesEndingAt(const QDomElement &cableList, const std::set<QString> &ends)
 {
-    if (!m_index->cables)
-        m_index->cables.emplace(getToCableList());
-    return *m_index->cables;
+    return cablesWhere(cableList, [&ends](const QDomElement &cable) {
+        return ends.count(cable.attribute(words::To)) != 0 || ends.count(cable.attribute(words::From)) != 0;
+    });
 }
+
+} // namespace
 
 QStringList JobEditor::getCables(bool byTag) const
 {
-    const CableLists &lists = cableLists();
+    const CableLists &lists = d->tree.index().cables();
     return byTag ? lists.tags : lists.ids;
 }
 
 QStringList JobEditor::getCablesByType(const QString &type) const
 {
-    return cableLists().tagsOfType.value(type);
+    return d->tree.index().cables().tagsOfType.value(type);
 }
 
 QStringList JobEditor::getCablesByUse(const QString &use) const
@@ -64,7 +63,7 @@ QStringList JobEditor::getCablesByBundleGroup(const QString &bundleGroupNum) con
 
 QStringList JobEditor::getCablesByPort(const QString &portTag) const
 {
-    return cablesEndingAt({portTag});
+    return cablesEndingAt(getToCableList(), {portTag});
 }
 
 QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
@@ -76,14 +75,7 @@ QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
                 ends.insert(end.tagName());
         }
     }
-    return cablesEndingAt(ends);
-}
-
-QStringList JobEditor::cablesEndingAt(const std::set<QString> &ends) const
-{
-    return cablesWhere(getToCableList(), [&ends](const QDomElement &cable) {
-        return ends.count(cable.attribute(words::To)) != 0 || ends.count(cable.attribute(words::From)) != 0;
-    });
+    return cablesEndingAt(getToCableList(), ends);
 }
 
 QStringList JobEditor::getCablesByStatus(const QString &status) const
@@ -94,9 +86,4 @@ QStringList JobEditor::getCablesByStatus(const QString &status) const
 bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const
 {
     return !getCablesByBundleGroup(bundleGroupNum).isEmpty();
-}
-
-void JobEditor::forgetCableLists()
-{
-    m_index->cables.reset();
 }

@@ -1,39 +1,50 @@
-#include "jobeditor.h"
-
-#include "addmode.h"
-#include "jobattributes.h"
-#include "jobindex.h"
+#include "jobeditor_p.h"
 #include "jobwords.h"
 #include "qtcompat.h"
 
 using namespace cabledoc;
 
+namespace {
+
+/// Returns a generated tag: the first free number after that of the last cable.
+QString newTag(const JobTree &tree)
+{
+    ElementIndex &cables = tree.index().of(ElementKind::Cables);
+    const QString prefix = words::CableTagPrefix;
+    return prefix
+           + QString::number(cables.firstFreeTagNumber(prefix, numberAfter(prefix, cables.lastTag()) + qint64(1)));
+}
+
+/// Returns a generated id, such as "Cable001".
+QString newId(const JobTree &tree)
+{
+    ElementIndex &cables = tree.index().of(ElementKind::Cables);
+    //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
+    const QString prefix = JobEditor::tr("Cable");
+    // The last in the order of the tags, deliberately, not the highest number.
+    const QString lastId = cables.id(cables.ids().lastTagWithNumber(prefix));
+    return cables.ids().numberedId(prefix,
+                                   cables.ids().firstFreeNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));
+}
+
+} // namespace
+
 // Adding and removing
 
 QString JobEditor::addCable(const Cable &cable, int mode)
 {
-    if (addmode::keepsTag(mode) && !mayBeName(cable.tag()))
-        return QString();
-    const QDomElement list = getToCableList();
-    if (list.isNull())
-        return QString();
     CableFields fields = cable.fields();
     if (!addmode::keepsTag(mode))
-        fields.tag = newCableTag();
+        fields.element = newTag(d->tree);
     if (!addmode::keepsId(mode))
-        fields.id = newCableId();
+        fields.id = newId(d->tree);
     if (!qtcompat::isColorName(fields.color))
         fields.color = getTestDef(fields.type).color();
     fields.use = storedCableUse(fields.use);
-
-    const QDomElement element = appendElement(fields.tag, list);
-    cableAttributes().write(element, fields);
-    testResultsAttributes().write(appendElement(words::TestResults, element), fields.testResults.fields());
-    (*m_index)[ElementKind::Cables].append(element);
-    if (m_index->references)
-        m_index->references->insert(element);
-    forgetCableLists();
-    setDirty(true);
+    const QDomElement element = d->add(cableKind(), fields, addmode::GivenNames);
+    if (element.isNull())
+        return QString();
+    d->tree.append(words::TestResults, element, testResultsAttributes(), fields.testResults.fields());
     return fields.id;
 }
 
@@ -80,27 +91,9 @@ QString JobEditor::addCable(const QString &tag, const QString &id, int mode)
     return addCable(tag, id, QString(), mode);
 }
 
-QString JobEditor::newCableTag() const
-{
-    ElementIndex &cables = (*m_index)[ElementKind::Cables];
-    const QString prefix = words::CableTagPrefix;
-    return prefix
-           + QString::number(cables.firstFreeTagNumber(prefix, numberAfter(prefix, cables.lastTag()) + qint64(1)));
-}
-
-QString JobEditor::newCableId() const
-{
-    ElementIndex &cables = (*m_index)[ElementKind::Cables];
-    //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
-    const QString prefix = tr("Cable");
-    // The last in the order of the tags, deliberately, not the highest number.
-    const QString lastId = cables.id(cables.lastTagWithNumberedId(prefix));
-    return cables.numberedId(prefix, cables.firstFreeIdNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));
-}
-
 void JobEditor::removeCable(const QString &tag)
 {
-    removeElementOf(ElementKind::Cables, cableElement(tag));
+    d->tree.remove(ElementKind::Cables, tag);
 }
 
 void JobEditor::removeCable(const Cable &cable)
@@ -112,148 +105,135 @@ void JobEditor::removeCable(const Cable &cable)
 
 Cable JobEditor::getCable(const QString &tag)
 {
-    const QDomElement element = cableElement(tag);
-    if (element.isNull())
-        return Cable();
-    CableFields fields = cableAttributes().read(element);
-    fields.tag = tag;
-    fields.testResults = readTestResults(element);
+    const QDomElement element = d->tree.element(ElementKind::Cables, tag);
+    CableFields fields = d->tree.read(cableKind(), element);
+    fields.testResults =
+        TestResults(d->tree.read(element.firstChildElement(words::TestResults), testResultsAttributes()));
     return Cable(fields);
 }
 
 Cable JobEditor::getCableById(const QString &id)
 {
-    return getCable((*m_index)[ElementKind::Cables].tagOfId(id));
+    return getCable(d->tree.tagOfId(ElementKind::Cables, id));
 }
 
 QString JobEditor::getCableElement(const QString &tag) const
 {
-    return cableElement(tag).tagName();
-}
-
-QDomElement JobEditor::cableElement(const QString &tag) const
-{
-    return (*m_index)[ElementKind::Cables].element(tag);
+    return d->tree.element(ElementKind::Cables, tag).tagName();
 }
 
 // Single fields
 
 QString JobEditor::getCableID(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Cables].id(tag);
+    return d->tree.id(ElementKind::Cables, tag);
 }
 
 QString JobEditor::getCableUse(const QString &tag) const
 {
-    return getChildAttr(words::Use, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::Use);
 }
 
 QString JobEditor::getCableTo(const QString &tag) const
 {
-    return getChildAttr(words::To, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::To);
 }
 
 QString JobEditor::getCableFrom(const QString &tag) const
 {
-    return getChildAttr(words::From, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::From);
 }
 
 QString JobEditor::getCableType(const QString &tag) const
 {
-    return getChildAttr(words::Type, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::Type);
 }
 
 QStringList JobEditor::getCablePath(const QString &tag) const
 {
-    QStringList path;
-    fromText(getChildAttr(words::Path, cableElement(tag)), &path);
-    return path;
+    return entriesIn(d->tree.attribute(ElementKind::Cables, tag, words::Path));
 }
 
 QString JobEditor::getCableBundleName(const QString &tag) const
 {
-    return getChildAttr(words::BundleName, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::BundleName);
 }
 
 QString JobEditor::getCableBundleNum(const QString &tag) const
 {
-    return getChildAttr(words::BundleNum, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::BundleNum);
 }
 
 QString JobEditor::getCableBundleGroupNum(const QString &tag) const
 {
-    return getChildAttr(words::BundleGroupNum, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::BundleGroupNum);
 }
 
 QString JobEditor::getCableColor(const QString &tag) const
 {
-    return getChildAttr(words::Color, cableElement(tag));
+    return d->tree.attribute(ElementKind::Cables, tag, words::Color);
 }
 
 bool JobEditor::getCableDefaultType(const QString &tag) const
 {
     bool isDefault = false;
-    fromText(getChildAttr(words::DefaultType, cableElement(tag)), &isDefault);
+    fromText(d->tree.attribute(ElementKind::Cables, tag, words::DefaultType), &isDefault);
     return isDefault;
 }
 
 void JobEditor::setCableID(const QString &tag, const QString &id)
 {
-    const QDomElement cable = cableElement(tag);
-    changeAttribute(cable, words::Id, id);
-    (*m_index)[ElementKind::Cables].updateId(cable);
-    forgetCableLists();
+    d->tree.set(ElementKind::Cables, tag, words::Id, id);
 }
 
 void JobEditor::setCableUse(const QString &tag, const QString &use)
 {
-    changeAttribute(cableElement(tag), words::Use, use);
+    d->tree.set(ElementKind::Cables, tag, words::Use, use);
 }
 
 void JobEditor::setCableTo(const QString &tag, const QString &to)
 {
-    changeAttribute(cableElement(tag), words::To, to);
+    d->tree.set(ElementKind::Cables, tag, words::To, to);
 }
 
 void JobEditor::setCableFrom(const QString &tag, const QString &from)
 {
-    changeAttribute(cableElement(tag), words::From, from);
+    d->tree.set(ElementKind::Cables, tag, words::From, from);
 }
 
 void JobEditor::setCableType(const QString &tag, const QString &type)
 {
-    changeAttribute(cableElement(tag), words::Type, type);
-    forgetCableLists();
+    d->tree.set(ElementKind::Cables, tag, words::Type, type);
 }
 
 void JobEditor::setCablePath(const QString &tag, const QStringList &path)
 {
-    changeAttribute(cableElement(tag), words::Path, toText(path));
+    d->tree.set(ElementKind::Cables, tag, words::Path, toText(path));
 }
 
 void JobEditor::setCableBundleName(const QString &tag, const QString &name)
 {
-    changeAttribute(cableElement(tag), words::BundleName, name);
+    d->tree.set(ElementKind::Cables, tag, words::BundleName, name);
 }
 
 void JobEditor::setCableBundleNum(const QString &tag, const QString &number)
 {
-    changeAttribute(cableElement(tag), words::BundleNum, number);
+    d->tree.set(ElementKind::Cables, tag, words::BundleNum, number);
 }
 
 void JobEditor::setCableBundleGroupNum(const QString &tag, const QString &number)
 {
-    changeAttribute(cableElement(tag), words::BundleGroupNum, number);
+    d->tree.set(ElementKind::Cables, tag, words::BundleGroupNum, number);
 }
 
 void JobEditor::setCableColor(const QString &tag, const QString &color)
 {
-    changeAttribute(cableElement(tag), words::Color, color);
+    d->tree.set(ElementKind::Cables, tag, words::Color, color);
 }
 
 void JobEditor::setCableDefaultType(const QString &tag, bool isDefault)
 {
-    changeAttribute(cableElement(tag), words::DefaultType, toText(isDefault));
+    d->tree.set(ElementKind::Cables, tag, words::DefaultType, toText(isDefault));
 }
 
 bool JobEditor::cableIsInBundle(const QString &tag) const

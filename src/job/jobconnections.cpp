@@ -1,22 +1,11 @@
-#include "jobelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
 
-namespace {
-
-const DrawnKind<DeviceConnectionFields> &connectionKind()
-{
-    static const DrawnKind<DeviceConnectionFields> kind{ElementKind::Connections, words::ConnectionList,
-                                                        words::ConnectionTagPrefix, connectionAttributes()};
-    return kind;
-}
-
-} // namespace
-
 QString JobEditor::addConnection(const DeviceConnection &connection, int mode)
 {
-    const QDomElement root = getToConnectionList().parentNode().toElement();
-    return getElementId(addElement(connectionKind(), root, connection.fields(), mode));
+    return getElementId(d->add(connectionKind(), connection.fields(), mode));
 }
 
 QString JobEditor::addConnection(const QString &tag, const QString &id, const QString &to, const QString &from,
@@ -33,7 +22,7 @@ QString JobEditor::addConnection(const QString &tag, const QString &id, const QS
 
 void JobEditor::removeConnection(const QString &tag)
 {
-    removeElementOf(ElementKind::Connections, elementOf(ElementKind::Connections, tag));
+    d->tree.remove(ElementKind::Connections, tag);
 }
 
 void JobEditor::removeConnection(const DeviceConnection &connection)
@@ -43,45 +32,42 @@ void JobEditor::removeConnection(const DeviceConnection &connection)
 
 DeviceConnection JobEditor::getConnection(const QString &tag) const
 {
-    const QDomElement connection = elementOf(ElementKind::Connections, tag);
-    if (connection.isNull())
-        return DeviceConnection();
-    return DeviceConnection(readElement(connectionKind(), connection));
+    return DeviceConnection(d->tree.read(connectionKind(), tag));
 }
 
 QString JobEditor::getConnectionTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Connections].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Connections, id);
 }
 
 QString JobEditor::getConnectionTo(const QString &tag) const
 {
-    return getChildAttr(words::To, elementOf(ElementKind::Connections, tag));
+    return d->tree.attribute(ElementKind::Connections, tag, words::To);
 }
 
 QString JobEditor::getConnectionFrom(const QString &tag) const
 {
-    return getChildAttr(words::From, elementOf(ElementKind::Connections, tag));
+    return d->tree.attribute(ElementKind::Connections, tag, words::From);
 }
 
 int JobEditor::getConnectionType(const QString &tag) const
 {
-    return getChildAttr(words::Type, elementOf(ElementKind::Connections, tag)).toInt();
+    return d->tree.attribute(ElementKind::Connections, tag, words::Type).toInt();
 }
 
 void JobEditor::setConnectionTo(const QString &tag, const QString &to)
 {
-    changeAttribute(elementOf(ElementKind::Connections, tag), words::To, to);
+    d->tree.set(ElementKind::Connections, tag, words::To, to);
 }
 
 void JobEditor::setConnectionFrom(const QString &tag, const QString &from)
 {
-    changeAttribute(elementOf(ElementKind::Connections, tag), words::From, from);
+    d->tree.set(ElementKind::Connections, tag, words::From, from);
 }
 
 void JobEditor::setConnectionType(const QString &tag, const QString &type)
 {
-    changeAttribute(elementOf(ElementKind::Connections, tag), words::Type, type);
+    d->tree.set(ElementKind::Connections, tag, words::Type, type);
 }
 
 void JobEditor::setConnectionType(const QString &tag, int type)

@@ -1,6 +1,8 @@
-#include "jobelements.h"
-
 #include "childelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
+
+#include <set>
 
 using namespace cabledoc;
 
@@ -22,7 +24,7 @@ QString freeId(const ElementIndex &index, const QString &id)
     QString base = id;
     QString candidate = id;
     char letter = 'A';
-    while (index.containsId(candidate)) {
+    while (index.ids().contains(candidate)) {
         candidate = base + QLatin1Char(letter);
         if (++letter > '[') {
             letter = 'A';
@@ -42,10 +44,8 @@ QStringList copiesOf(const QStringList &tags, const QMap<QString, QString> &copi
     return list;
 }
 
-} // namespace
-
 /// The tags of what was copied, and those of the copies.
-struct JobEditor::Copies
+struct Copies
 {
     QMap<QString, QString> ports;
     QMap<QString, QString> vertRuns;
@@ -53,125 +53,80 @@ struct JobEditor::Copies
     QMap<QString, QString> cables;
     QMap<QString, QString> bundleGroups; ///< their numbers
 
-    /// What a copied cable names: the copy where there is one, otherwise the same as before.
+    /// What a copied cable names: the copy if there is one, otherwise the same as before.
     QString end(const QString &tag) const { return ports.value(tag, vertRuns.value(tag, tag)); }
     QString passed(const QString &tag) const { return points.value(tag, end(tag)); }
 };
 
-void JobEditor::copyFloor(const QString &srcTag, const QString &dstTag, const QMap<QString, QString> &cableIds,
-                          bool useCableIds)
+/// Copies the elements of a list to another floor or sheet, under new names. Returns their tags and those of the
+/// copies.
+template <typename Fields>
+QMap<QString, QString> copyElements(JobTree *tree, const Kind<Fields> &kind, const QString &from, const QString &to)
 {
-    if (floorElement(srcTag).isNull() || floorElement(dstTag).isNull())
-        return;
-    // Also for what is created on the way: the list of rooms, the room "Undefined".
-    setDirty(true);
-    ensureElement(words::RoomList, floorElement(dstTag));
-    Copies copies;
-    const QStringList cables = getCablesByFloor(srcTag);
-    copyPoints(getToPointList(srcTag), dstTag, &copies);
-    copyTexts(getToFloorFreeTextList(srcTag), dstTag, &JobEditor::addFloorFreeText);
-    copyRooms(getToRoomList(srcTag), dstTag, &copies);
-    copyCables(cables, useCableIds ? cableIds : QMap<QString, QString>(), &copies);
-    for (auto vertRun = copies.vertRuns.cbegin(); vertRun != copies.vertRuns.cend(); ++vertRun) {
-        setVertRunConnected(vertRun.value(), copiesOf(getVertRunConnected(vertRun.key()), copies.cables));
-        setVertRunDisconnected(vertRun.value(), copiesOf(getVertRunDisconnected(vertRun.key()), copies.cables));
+    QMap<QString, QString> copies;
+    const QVector<QDomElement> elements = allChildren(tree->list(kind, {from}));
+    for (const QDomElement &element : elements) {
+        Fields fields = tree->read(kind, element);
+        fields.*kind.holders.first() = to;
+        fields.id = withoutNumber(fields.id);
+        copies.insert(element.tagName(), tree->add(kind, fields, 0).tagName());
+    }
+    return copies;
+}
+
+/// Copies the ports or vertical runs of a room to another room. Returns their tags and those of the copies.
+template <typename Fields> void copyPlaces(JobTree *tree, const Kind<Fields> &kind, const QDomElement &room,
+                                           const QString &floorTag, const QString &roomTag,
+                                           QMap<QString, QString> *copies)
+{
+    const QVector<QDomElement> elements = allChildren(kind.listIn(room));
+    for (const QDomElement &element : elements) {
+        Fields fields = tree->read(kind, element);
+        fields.id = freeId(tree->index().of(kind.kind), fields.id);
+        fields.room = roomTag;
+        fields.floor = floorTag;
+        copies->insert(element.tagName(), tree->add(kind, fields, addmode::GivenId).tagName());
     }
 }
 
-void JobEditor::copySheet(const QString &srcTag, const QString &dstTag)
+/// Returns the tag of the copy of a room. A room of that id on the floor stands for it.
+QString copyOfRoom(JobEditor *job, const QDomElement &room, const QString &floorTag)
 {
-    if (sheetElement(srcTag).isNull() || sheetElement(dstTag).isNull())
-        return;
-    const QVector<QDomElement> devices = allChildren(getToDeviceList(srcTag));
-    for (const QDomElement &element : devices) {
-        Device device(readDevice(element));
-        device.setSheet(dstTag);
-        device.setID(withoutNumber(device.id()));
-        addDevice(device, 0);
-    }
-    const QVector<QDomElement> vertices = allChildren(getToVerticeList(srcTag));
-    for (const QDomElement &element : vertices) {
-        Vertice vertice(readPoint(element));
-        vertice.setParent(dstTag);
-        vertice.setID(withoutNumber(vertice.id()));
-        addVertice(vertice, 0);
-    }
-    copyTexts(getToFreeTextList(srcTag), dstTag, &JobEditor::addFreeText);
-}
-
-void JobEditor::copyPoints(const QDomElement &list, const QString &floorTag, Copies *copies)
-{
-    const QVector<QDomElement> points = allChildren(list);
-    for (const QDomElement &element : points) {
-        Point point(readPoint(element));
-        point.setParent(floorTag);
-        point.setID(withoutNumber(point.id()));
-        copies->points.insert(element.tagName(), addPoint(point, 0));
-    }
-}
-
-void JobEditor::copyTexts(const QDomElement &list, const QString &parentTag,
-                          QString (JobEditor::*add)(const FreeText &, int))
-{
-    const QVector<QDomElement> texts = allChildren(list);
-    for (const QDomElement &element : texts) {
-        FreeText text(readText(element));
-        text.setParent(parentTag);
-        text.setID(withoutNumber(text.id()));
-        (this->*add)(text, 0);
-    }
-}
-
-/// The tag of the copy of a room: a room of that id that the floor has already stands for it.
-QString JobEditor::copyOfRoom(const QDomElement &source, const QString &floorTag)
-{
-    if (source.tagName() == words::Undefined)
-        return undefinedRoomElement(getToRoomList(floorTag)).tagName();
-    const QDomElement there = roomElementById(floorTag, getElementId(source));
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
+    if (room.tagName() == words::Undefined)
+        return tree.undefinedRoom(tree.element(ElementKind::Floors, floorTag)).tagName();
+    const QDomElement there = tree.roomById(floorTag, room.attribute(words::Id));
     if (!there.isNull())
         return there.tagName();
-    Room room = readRoom(source);
-    room.setFloor(floorTag);
-    return addRoom(room, addmode::GivenId);
+    RoomFields fields = tree.read(roomKind(), room);
+    fields.floor = floorTag;
+    return job->addRoom(Room(fields), addmode::GivenId);
 }
 
 /// Copies rooms with what is in them.
-void JobEditor::copyRooms(const QDomElement &roomList, const QString &floorTag, Copies *copies)
+void copyRooms(JobEditor *job, const QString &from, const QString &to, Copies *copies)
 {
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
     QVector<std::pair<QDomElement, QString>> rooms;
-    const QVector<QDomElement> sources = allChildren(roomList);
+    const QVector<QDomElement> sources = allChildren(tree.list(roomKind(), {from}));
     for (const QDomElement &source : sources)
-        rooms.append({source, copyOfRoom(source, floorTag)});
-    for (const auto &[source, roomTag] : std::as_const(rooms)) {
-        const QVector<QDomElement> ports = allChildren(source.firstChildElement(words::PortList));
-        for (const QDomElement &element : ports) {
-            PortFields fields = readPort(element);
-            fields.id = freeId((*m_index)[ElementKind::Ports], fields.id);
-            fields.room = roomTag;
-            fields.floor = floorTag;
-            copies->ports.insert(element.tagName(), addPort(Port(fields), addmode::GivenId));
-        }
-    }
-    for (const auto &[source, roomTag] : std::as_const(rooms)) {
-        const QVector<QDomElement> vertRuns = allChildren(source.firstChildElement(words::VerticalRunList));
-        for (const QDomElement &element : vertRuns) {
-            PortFields fields = readPort(element);
-            fields.id = freeId((*m_index)[ElementKind::VerticalRuns], fields.id);
-            fields.room = roomTag;
-            fields.floor = floorTag;
-            copies->vertRuns.insert(element.tagName(), addVertRun(VertRun(fields, {}), addmode::GivenId));
-        }
-    }
+        rooms.append({source, copyOfRoom(job, source, to)});
+    for (const auto &[source, roomTag] : std::as_const(rooms))
+        copyPlaces(&tree, portKind(), source, to, roomTag, &copies->ports);
+    for (const auto &[source, roomTag] : std::as_const(rooms))
+        copyPlaces(&tree, vertRunKind(), source, to, roomTag, &copies->vertRuns);
 }
 
-void JobEditor::copyCables(const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies)
+/// Copies cables, untested, under the ids that are given for theirs. Cables of one bundle group form a new group.
+void copyCables(JobEditor *job, const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies)
 {
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
     std::set<QString> takenGroups;
-    for (const QDomElement &cable : ChildElements(getToCableList()))
+    for (const QDomElement &cable : ChildElements(job->getToCableList()))
         takenGroups.insert(cable.attribute(words::BundleGroupNum));
     int freeGroup = 1;
     for (const QString &tag : tags) {
-        CableFields fields = cableAttributes().read(cableElement(tag));
+        CableFields fields = tree.read(cableKind(), tag);
         fields.to = copies->end(fields.to);
         fields.from = copies->end(fields.from);
         for (QString &passed : fields.path)
@@ -185,7 +140,38 @@ void JobEditor::copyCables(const QStringList &tags, const QMap<QString, QString>
         fields.bundleGroupNum = group;
         const QString givenId = ids.value(fields.id);
         fields.id = givenId;
-        addCable(Cable(fields), givenId.isEmpty() ? 0 : addmode::GivenId);
-        copies->cables.insert(tag, getToCableList().lastChildElement().tagName());
+        job->addCable(Cable(fields), givenId.isEmpty() ? 0 : addmode::GivenId);
+        copies->cables.insert(tag, job->getToCableList().lastChildElement().tagName());
     }
+}
+
+} // namespace
+
+void JobEditor::copyFloor(const QString &srcTag, const QString &dstTag, const QMap<QString, QString> &cableIds,
+                          bool useCableIds)
+{
+    JobTree &tree = d->tree;
+    if (!floorExists(srcTag, true) || !floorExists(dstTag, true))
+        return;
+    setDirty(true);
+    tree.ensure(words::RoomList, tree.element(ElementKind::Floors, dstTag));
+    const QStringList cables = getCablesByFloor(srcTag);
+    Copies copies;
+    copies.points = copyElements(&tree, pointKind(), srcTag, dstTag);
+    copyElements(&tree, floorFreeTextKind(), srcTag, dstTag);
+    copyRooms(this, srcTag, dstTag, &copies);
+    copyCables(this, cables, useCableIds ? cableIds : QMap<QString, QString>(), &copies);
+    for (auto vertRun = copies.vertRuns.cbegin(); vertRun != copies.vertRuns.cend(); ++vertRun) {
+        setVertRunConnected(vertRun.value(), copiesOf(getVertRunConnected(vertRun.key()), copies.cables));
+        setVertRunDisconnected(vertRun.value(), copiesOf(getVertRunDisconnected(vertRun.key()), copies.cables));
+    }
+}
+
+void JobEditor::copySheet(const QString &srcTag, const QString &dstTag)
+{
+    if (!sheetExists(srcTag, true) || !sheetExists(dstTag, true))
+        return;
+    copyElements(&d->tree, deviceKind(), srcTag, dstTag);
+    copyElements(&d->tree, verticeKind(), srcTag, dstTag);
+    copyElements(&d->tree, freeTextKind(), srcTag, dstTag);
 }

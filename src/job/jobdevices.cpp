@@ -1,21 +1,11 @@
-#include "jobelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
 
-namespace {
-
-const DrawnKind<DeviceFields> &deviceKind()
-{
-    static const DrawnKind<DeviceFields> kind{ElementKind::Devices, words::DeviceList, words::DeviceTagPrefix,
-                                              deviceAttributes()};
-    return kind;
-}
-
-} // namespace
-
 QString JobEditor::addDevice(const Device &device, int mode)
 {
-    return addElement(deviceKind(), sheetElement(device.sheet()), device.fields(), mode).tagName();
+    return d->add(deviceKind(), device.fields(), mode).tagName();
 }
 
 QString JobEditor::addDevice(const QString &sheetTag, const QString &type, double x, double y, double iconScale,
@@ -26,7 +16,7 @@ QString JobEditor::addDevice(const QString &sheetTag, const QString &type, doubl
 
 void JobEditor::removeDevice(const QString &tag)
 {
-    removeElementOf(ElementKind::Devices, deviceElement(tag));
+    d->tree.remove(ElementKind::Devices, tag);
 }
 
 void JobEditor::removeDevice(const Device &device)
@@ -34,23 +24,9 @@ void JobEditor::removeDevice(const Device &device)
     removeDevice(device.element());
 }
 
-QDomElement JobEditor::deviceElement(const QString &tag) const
-{
-    return elementOf(ElementKind::Devices, tag);
-}
-
-DeviceFields JobEditor::readDevice(const QDomElement &element) const
-{
-    if (element.isNull())
-        return DeviceFields();
-    DeviceFields fields = readElement(deviceKind(), element);
-    fields.sheet = element.parentNode().parentNode().nodeName();
-    return fields;
-}
-
 Device JobEditor::getDeviceByTag(const QString &tag) const
 {
-    return Device(readDevice(deviceElement(tag)));
+    return Device(d->tree.read(deviceKind(), tag));
 }
 
 Device JobEditor::getDeviceById(const QString &id) const
@@ -60,12 +36,12 @@ Device JobEditor::getDeviceById(const QString &id) const
 
 QString JobEditor::getDeviceIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Devices].id(tag);
+    return d->tree.id(ElementKind::Devices, tag);
 }
 
 QString JobEditor::getDeviceTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Devices].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Devices, id);
 }
 
 QString JobEditor::getDeviceType(const QString &tag) const
@@ -96,26 +72,26 @@ QString JobEditor::getDeviceSheet(const QString &tag) const
 
 void JobEditor::setDeviceID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::Devices, tag, id);
+    d->tree.set(ElementKind::Devices, tag, words::Id, id);
 }
 
 void JobEditor::setDeviceType(const QString &tag, const QString &type)
 {
-    writeAttribute(deviceElement(tag), words::Type, type);
+    d->tree.set(ElementKind::Devices, tag, words::Type, type);
 }
 
 void JobEditor::setDevicePos(const QString &tag, double x, double y)
 {
-    writeAttribute(deviceElement(tag), words::X, toText(x));
-    writeAttribute(deviceElement(tag), words::Y, toText(y));
+    d->tree.set(ElementKind::Devices, tag, words::X, toText(x));
+    d->tree.set(ElementKind::Devices, tag, words::Y, toText(y));
 }
 
 void JobEditor::setDeviceIconScale(const QString &tag, double scale)
 {
-    writeAttribute(deviceElement(tag), words::IconScale, toText(scale));
+    d->tree.set(ElementKind::Devices, tag, words::IconScale, toText(scale));
 }
 
 void JobEditor::setDeviceInfo(const QString &tag, const QString &info)
 {
-    writeAttribute(deviceElement(tag), words::Info, info);
+    d->tree.set(ElementKind::Devices, tag, words::Info, info);
 }

@@ -1,11 +1,8 @@
-#include "jobeditor.h"
-
-#include "addmode.h"
 #include "bkutilities.h"
-#include "jobattributes.h"
-#include "jobindex.h"
+#include "childelements.h"
+#include "documentattributes.h"
+#include "jobeditor_p.h"
 #include "jobwords.h"
-#include "sharedattributes.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QFileInfo>
@@ -21,26 +18,84 @@ QString withTrailingSlash(const QString &directory)
     return directory.endsWith(QLatin1Char('/')) ? directory : directory + QLatin1Char('/');
 }
 
-} // namespace
+/// Adds what every job has directly under its root and this one lacks.
+void addSkeleton(JobEditor *job, QDomElement root)
+{
+    Document &document = JobEditorPrivate::of(*job).document;
+    DocumentTree &tree = document.tree();
+    tree.ensure(words::Release, root);
+    tree.ensure(words::Version, root);
+    document.addInfo(words::ContractorInfo, contractorInfoAttributes(), root);
+    document.addInfo(words::SiteInfo, siteInfoAttributes(), root);
+    for (const QString &list : {words::CableList, words::ConnectionList, words::FloorList, words::SheetList,
+                                words::TestDefList, words::BundledCableList})
+        tree.ensure(list, root);
+    job->addSettingsList(&root);
+    tree.ensure(words::ActivePortList, tree.ensure(words::ActiveNetworkTestList, root));
+}
 
-JobEditor *JobEditor::s_instance = nullptr;
+/// Gives a job of an older version what the operations of today expect of every job.
+void addWhatOlderJobsLack(JobEditor *job)
+{
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
+    addSkeleton(job, tree.root());
+    for (const QDomElement &floor : ChildElements(floorKind().listIn(tree.root()))) {
+        tree.undefinedRoom(floor);
+        for (const QDomElement &room : ChildElements(roomKind().listIn(floor)))
+            tree.addLists(room, ElementKind::Rooms);
+    }
+    for (const QDomElement &sheet : ChildElements(sheetKind().listIn(tree.root())))
+        tree.addLists(sheet, ElementKind::Sheets);
+}
+
+/// Makes a new job in an empty tree.
+void create(JobEditor *job, double ceilingHeight)
+{
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
+    // Unload() left the tags and ids of the job before, which must not count for the new one.
+    tree.index().rebuild();
+
+    addSkeleton(job, tree.append(words::Job, tree.document()));
+    tree.setAttribute(tree.child(words::Version), words::Number, words::CurrentVersion);
+    //: What generated names of floors begin with, such as "Floor_1"; no characters beyond Latin-1.
+    const QString floorName = JobEditor::tr("Floor_") + QLatin1Char('1');
+    job->addFloor(floorName, floorName, ceilingHeight, QString(), addmode::GivenId);
+    //: What generated names of sheets begin with; no characters beyond Latin-1.
+    const QString sheetName = JobEditor::tr("Sheet_") + QLatin1Char('1');
+    job->addSheet(sheetName, sheetName, addmode::GivenId);
+
+    tree.setChanged(false);
+}
+
+/// Fails if a job is open. A second root element beside the first could never be saved.
+bool isClosed(Document *document)
+{
+    if (!document->tree().document().hasChildNodes())
+        return true;
+    document->error = JobEditor::tr("A job is open. Unload it before making a new one.");
+    return false;
+}
+
+JobEditor *instance = nullptr;
+
+} // namespace
 
 JobEditor &JobEditor::Instance()
 {
-    if (s_instance == nullptr)
-        s_instance = new JobEditor;
-    return *s_instance;
+    if (instance == nullptr)
+        instance = new JobEditor;
+    return *instance;
 }
 
 void JobEditor::Destroy()
 {
-    delete s_instance;
-    s_instance = nullptr;
+    delete instance;
+    instance = nullptr;
 }
 
 JobEditor::JobEditor()
-    : BKXMLEditor(words::Job)
-    , m_index(std::make_unique<JobIndex>())
+    : BKXMLEditor(std::make_unique<Document>(std::make_unique<JobTree>()))
+    , d(std::make_unique<JobEditorPrivate>(&inside(), static_cast<JobTree *>(&inside().tree())))
 {
 }
 
@@ -50,7 +105,7 @@ JobEditor::JobEditor(const QString &filename)
     const QFileInfo file(filename);
     if (file.isDir()) {
         qDebug("Filename given to JobEditor is a directory");
-        m_error = tr("Filename given to JobEditor is a directory");
+        error() = tr("Filename given to JobEditor is a directory");
     } else if (file.exists()) {
         // Deliberate: a job named at construction loads, or the program ends.
         if (!JobEditor::Load(filename)) {
@@ -66,7 +121,7 @@ JobEditor::~JobEditor() = default;
 
 QString JobEditor::New()
 {
-    if (refuseWhenOpen())
+    if (!isClosed(&inside()))
         return QString();
     const auto settings = BKUtilities::readSettings({BKUtils::DefaultCeilingHeight, BKUtils::NewJobDirectory});
     const QString directory = withTrailingSlash(settings.value(BKUtils::NewJobDirectory));
@@ -75,9 +130,9 @@ QString JobEditor::New()
     for (int n = 2; QFileInfo::exists(candidate); ++n)
         //: File name. It stays as it is: checkUntitledJob() knows the word "Untitled".
         candidate = directory + tr("Untitled%1.job").arg(n);
-    if (!takeName(candidate))
+    if (!inside().takeName(candidate))
         return QString();
-    create(settings.value(BKUtils::DefaultCeilingHeight).toDouble());
+    create(this, settings.value(BKUtils::DefaultCeilingHeight).toDouble());
     return candidate;
 }
 
@@ -85,68 +140,34 @@ bool JobEditor::New(const QString &filename)
 {
     const auto settings = BKUtilities::readSettings({BKUtils::DefaultCeilingHeight});
     if (filename.isNull()) {
-        m_error = tr("Null filename given to New(const &Qstring)");
+        error() = tr("Null filename given to New(const &Qstring)");
         return false;
     }
-    if (refuseWhenOpen())
+    if (!isClosed(&inside()))
         return false;
-    if (!takeName(checkJobExtension(filename) ? filename : filename + QLatin1String(".job")))
+    if (!inside().takeName(checkJobExtension(filename) ? filename : filename + QLatin1String(".job")))
         return false;
-    create(settings.value(BKUtils::DefaultCeilingHeight).toDouble());
+    create(this, settings.value(BKUtils::DefaultCeilingHeight).toDouble());
     return true;
-}
-
-/// A second root element beside the first could never be saved.
-bool JobEditor::refuseWhenOpen()
-{
-    if (!m_document.hasChildNodes())
-        return false;
-    m_error = tr("A job is open. Unload it before making a new one.");
-    return true;
-}
-
-void JobEditor::create(double ceilingHeight)
-{
-    // Unload() left the tags and ids of the job before, which must not count for the new one.
-    updateAllInternalLists();
-
-    addSkeleton(appendElement(words::Job, m_document));
-    getElement(words::Version).setAttribute(words::Number, words::CurrentVersion);
-    //: What generated names of floors begin with, such as "Floor_1"; no characters beyond Latin-1.
-    const QString floorName = tr("Floor_") + QLatin1Char('1');
-    addFloor(floorName, floorName, ceilingHeight, QString(), addmode::GivenId);
-    //: What generated names of sheets begin with; no characters beyond Latin-1.
-    const QString sheetName = tr("Sheet_") + QLatin1Char('1');
-    addSheet(sheetName, sheetName, addmode::GivenId);
-
-    setDirty(false);
-}
-
-/// Adds what every job has directly under its root and this one lacks.
-void JobEditor::addSkeleton(QDomElement root)
-{
-    ensureElement(words::Release, root);
-    ensureElement(words::Version, root);
-    addInfo(words::ContractorInfo, contractorInfoAttributes(), root);
-    addInfo(words::SiteInfo, siteInfoAttributes(), root);
-    for (const QString &list : {words::CableList, words::ConnectionList, words::FloorList, words::SheetList,
-                                words::TestDefList, words::BundledCableList})
-        ensureElement(list, root);
-    addSettingsList(&root);
-    ensureElement(words::ActivePortList, ensureElement(words::ActiveNetworkTestList, root));
 }
 
 bool JobEditor::Load(const QString &filename)
 {
-    const bool isRead =
-        readFile(filename, words::Job,
-                 {tr("Empty or null filename in JobEditor::Load"), tr("Job file %1 does not exist"),
-                  tr("Error parsing job file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse job file %1")});
-    const bool isLoaded = isRead && checkVersion();
+    const bool isRead = inside().read(
+        filename, words::Job,
+        {tr("Empty or null filename in JobEditor::Load"), tr("Job file %1 does not exist"),
+         tr("Error parsing job file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse job file %1")});
+    // The first child of the document has to be the root, even if it is a comment.
+    const bool isJob = isRead && d->tree.root().tagName() == words::Job;
+    const bool isOlder = isJob && version() != words::CurrentVersion;
+    // Nothing is written: the file keeps its version until the job is saved.
+    const bool isLoaded = isJob && convertToCurrentVersion([] { return true; });
+    if (isLoaded && isOlder)
+        addWhatOlderJobsLack(this);
     updateAllInternalLists();
     if (isRead && !isLoaded) {
-        rejectFile();
-        m_error = tr("Incompatible version of job file %1").arg(filename);
+        inside().rejectFile();
+        error() = tr("Incompatible version of job file %1").arg(filename);
     }
     if (isLoaded)
         setDirty(false);
@@ -155,52 +176,33 @@ bool JobEditor::Load(const QString &filename)
 
 void JobEditor::Unload()
 {
-    // The lists of cables stay, as all names do.
-    getCables(true);
-    getCablesByType(QString());
-    m_document = QDomDocument(words::Job);
-    for (ElementIndex &index : m_index->elements)
-        index.forgetElements();
-    m_index->roomsOfFloor.clear();
-    m_index->references.reset();
-    m_filename = QLatin1String("");
-    m_error = QStringLiteral("Unloading");
+    d->tree.unload();
+    filename() = QLatin1String("");
+    error() = QStringLiteral("Unloading");
     setDirty(false);
 }
 
 bool JobEditor::save()
 {
-    return save(Replace::ExpectedFile);
+    return inside().save(words::JobExtension, jobAttributeOrder(), Document::Replace::ExpectedFile,
+                         tr("Filename is Empty"));
 }
 
 bool JobEditor::saveAnyway()
 {
-    return save(Replace::AnyFile);
+    return inside().save(words::JobExtension, jobAttributeOrder(), Document::Replace::AnyFile, tr("Filename is Empty"));
 }
 
-bool JobEditor::save(Replace replace)
+bool JobEditorPrivate::mayBeFile(const QString &filename, const QString &extension)
 {
-    if (!namesAFile(m_filename, words::JobExtension)) {
-        m_error = tr("Filename is Empty");
-        return false;
-    }
-    if (refuseUnloaded() || !writeFile(m_filename, jobAttributeOrder(), replace))
-        return false;
-    setDirty(false);
-    return true;
-}
-
-/// Whether a file can have that name: the extension alone cannot be one, nor can a directory.
-bool JobEditor::mayBeFile(const QString &filename, const QString &extension)
-{
-    if (!namesAFile(filename, extension)) {
-        m_error = tr("Filename is Empty");
+    if (!Document::isSaveName(filename, extension)) {
+        document.error = JobEditor::tr("Filename is Empty");
         return false;
     }
     if (QFileInfo(filename).isDir()) {
         // The text for the user is deliberately shorter.
         qDebug("Filename given to JobEditor is a directory");
-        m_error = tr("Filename given is a directory");
+        document.error = JobEditor::tr("Filename given is a directory");
         return false;
     }
     return true;
@@ -208,20 +210,20 @@ bool JobEditor::mayBeFile(const QString &filename, const QString &extension)
 
 bool JobEditor::saveAs(const QString &filename)
 {
-    if (!mayBeFile(filename, words::JobExtension))
+    if (!d->mayBeFile(filename, words::JobExtension))
         return false;
     if (QFileInfo::exists(filename))
         qDebug("Overwriting in JobEditor::saveAs");
-    if (!writeFile(filename, jobAttributeOrder(), Replace::AnyFile))
+    if (!inside().write(filename, jobAttributeOrder(), Document::Replace::AnyFile))
         return false;
-    changeName(filename);
+    inside().changeName(filename);
     setDirty(false);
     return true;
 }
 
 bool JobEditor::checkJobExtension(const QString &filename)
 {
-    return hasExtension(filename, words::JobExtension);
+    return Document::hasExtension(filename, words::JobExtension);
 }
 
 bool JobEditor::checkUntitledJob(const QString &filename)
@@ -233,5 +235,20 @@ bool JobEditor::checkUntitledJob(const QString &filename)
 void JobEditor::setDefaultBktFile(const QString &filename)
 {
     if (!filename.isEmpty())
-        m_defaultBktFile = filename;
+        d->defaultBktFile = filename;
+}
+
+const QString &JobEditor::defaultBktFile() const
+{
+    return d->defaultBktFile;
+}
+
+int JobEditor::getRelease() const
+{
+    return d->release;
+}
+
+void JobEditor::setRelease(int release)
+{
+    d->release = release;
 }

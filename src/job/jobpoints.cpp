@@ -1,39 +1,13 @@
-#include "jobelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
-
-namespace {
-
-const DrawnKind<PointFields> &pointKind()
-{
-    static const DrawnKind<PointFields> kind{ElementKind::Points, words::PointList, words::PointTagPrefix,
-                                             pointAttributes()};
-    return kind;
-}
-
-const DrawnKind<PointFields> &verticeKind()
-{
-    static const DrawnKind<PointFields> kind{ElementKind::Vertices, words::VerticeList, words::VerticeTagPrefix,
-                                             pointAttributes()};
-    return kind;
-}
-
-} // namespace
-
-PointFields JobEditor::readPoint(const QDomElement &element) const
-{
-    if (element.isNull())
-        return PointFields();
-    PointFields fields = readElement(pointKind(), element);
-    fields.parent = element.parentNode().parentNode().nodeName();
-    return fields;
-}
 
 // Points on floors
 
 QString JobEditor::addPoint(const Point &point, int mode)
 {
-    return addElement(pointKind(), floorElement(point.parent()), point.fields(), mode).tagName();
+    return d->add(pointKind(), point.fields(), mode).tagName();
 }
 
 QString JobEditor::addPoint(const QString &floorTag, double x, double y, const QString &tag, const QString &id,
@@ -44,7 +18,7 @@ QString JobEditor::addPoint(const QString &floorTag, double x, double y, const Q
 
 void JobEditor::removePoint(const QString &tag)
 {
-    removeElementOf(ElementKind::Points, elementOf(ElementKind::Points, tag));
+    d->tree.remove(ElementKind::Points, tag);
 }
 
 void JobEditor::removePoint(const Point &point)
@@ -54,7 +28,7 @@ void JobEditor::removePoint(const Point &point)
 
 Point JobEditor::getPointByTag(const QString &tag) const
 {
-    return Point(readPoint(elementOf(ElementKind::Points, tag)));
+    return Point(d->tree.read(pointKind(), tag));
 }
 
 Point JobEditor::getPointById(const QString &id) const
@@ -64,12 +38,12 @@ Point JobEditor::getPointById(const QString &id) const
 
 QString JobEditor::getPointIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Points].id(tag);
+    return d->tree.id(ElementKind::Points, tag);
 }
 
 QString JobEditor::getPointTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Points].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Points, id);
 }
 
 QPointF JobEditor::getPointPos(const QString &tag) const
@@ -85,20 +59,20 @@ QString JobEditor::getPointFloor(const QString &tag) const
 
 void JobEditor::setPointID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::Points, tag, id);
+    d->tree.set(ElementKind::Points, tag, words::Id, id);
 }
 
 void JobEditor::setPointPos(const QString &tag, double x, double y)
 {
-    writeAttribute(elementOf(ElementKind::Points, tag), words::X, toText(x));
-    writeAttribute(elementOf(ElementKind::Points, tag), words::Y, toText(y));
+    d->tree.set(ElementKind::Points, tag, words::X, toText(x));
+    d->tree.set(ElementKind::Points, tag, words::Y, toText(y));
 }
 
 // Bends on sheets
 
 QString JobEditor::addVertice(const Vertice &vertice, int mode)
 {
-    return addElement(verticeKind(), sheetElement(vertice.parent()), vertice.fields(), mode).tagName();
+    return d->add(verticeKind(), vertice.fields(), mode).tagName();
 }
 
 QString JobEditor::addVertice(const QString &sheetTag, double x, double y, const QString &tag, const QString &id,
@@ -109,7 +83,7 @@ QString JobEditor::addVertice(const QString &sheetTag, double x, double y, const
 
 void JobEditor::removeVertice(const QString &tag)
 {
-    removeElementOf(ElementKind::Vertices, elementOf(ElementKind::Vertices, tag));
+    d->tree.remove(ElementKind::Vertices, tag);
 }
 
 void JobEditor::removeVertice(const Vertice &vertice)
@@ -119,7 +93,7 @@ void JobEditor::removeVertice(const Vertice &vertice)
 
 Vertice JobEditor::getVerticeByTag(const QString &tag) const
 {
-    return Vertice(readPoint(elementOf(ElementKind::Vertices, tag)));
+    return Vertice(d->tree.read(verticeKind(), tag));
 }
 
 Vertice JobEditor::getVerticeById(const QString &id) const
@@ -129,12 +103,12 @@ Vertice JobEditor::getVerticeById(const QString &id) const
 
 QString JobEditor::getVerticeIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Vertices].id(tag);
+    return d->tree.id(ElementKind::Vertices, tag);
 }
 
 QString JobEditor::getVerticeTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Vertices].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Vertices, id);
 }
 
 QPointF JobEditor::getVerticePos(const QString &tag) const
@@ -150,11 +124,11 @@ QString JobEditor::getVerticeSheet(const QString &tag) const
 
 void JobEditor::setVerticeID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::Vertices, tag, id);
+    d->tree.set(ElementKind::Vertices, tag, words::Id, id);
 }
 
 void JobEditor::setVerticePos(const QString &tag, double x, double y)
 {
-    writeAttribute(elementOf(ElementKind::Vertices, tag), words::X, toText(x));
-    writeAttribute(elementOf(ElementKind::Vertices, tag), words::Y, toText(y));
+    d->tree.set(ElementKind::Vertices, tag, words::X, toText(x));
+    d->tree.set(ElementKind::Vertices, tag, words::Y, toText(y));
 }

@@ -1,61 +1,34 @@
-#include "jobelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
 
 namespace {
 
-const DrawnKind<PortFields> &portKind()
+/// Puts a cable into one of the two lists of a vertical run and takes it out of the other. An empty name of the list
+/// takes it out of both.
+void putCableIntoVertRun(JobTree *tree, const QString &cableTag, const QString &tag, const QString &list)
 {
-    static const DrawnKind<PortFields> kind{ElementKind::Ports, words::PortList, words::PortTagPrefix,
-                                            portAttributes()};
-    return kind;
-}
-
-const DrawnKind<PortFields> &vertRunKind()
-{
-    static const DrawnKind<PortFields> kind{ElementKind::VerticalRuns, words::VerticalRunList, words::VertRunTagPrefix,
-                                            portAttributes()};
-    return kind;
-}
-
-QDomElement roomOf(const QDomElement &portOrVertRun)
-{
-    return portOrVertRun.parentNode().parentNode().toElement();
+    for (const QString &attribute : {words::Connected, words::Disconnected}) {
+        QStringList cables = entriesIn(tree->attribute(ElementKind::VerticalRuns, tag, attribute));
+        const bool isListed = cables.contains(cableTag);
+        if (isListed == (attribute == list))
+            continue;
+        if (isListed)
+            cables.removeAll(cableTag);
+        else
+            cables.append(cableTag);
+        tree->set(ElementKind::VerticalRuns, tag, attribute, toText(cables));
+    }
 }
 
 } // namespace
-
-/// What ports and vertical runs have in common.
-PortFields JobEditor::readPort(const QDomElement &element) const
-{
-    if (element.isNull())
-        return PortFields();
-    PortFields fields = readElement(portKind(), element);
-    const QDomElement room = roomOf(element);
-    fields.room = room.tagName();
-    fields.floor = room.parentNode().parentNode().nodeName();
-    return fields;
-}
-
-/// Moves the element into its list in another room; nothing when one of them does not exist.
-void JobEditor::moveToRoom(ElementKind kind, const QDomElement &element, const QString &listName,
-                           const QString &floorTag, const QString &roomTag)
-{
-    const QDomElement room = roomElement(floorTag, roomTag);
-    if (element.isNull() || room.isNull() || room == roomOf(element))
-        return;
-    ensureElement(listName, room).appendChild(element);
-    // Only the document can tell which of several elements of that tag is the first now.
-    if ((*m_index)[kind].isRepeated(element.tagName()))
-        rebuildIndex(kind);
-    setDirty(true);
-}
 
 // Ports
 
 QString JobEditor::addPort(const Port &port, int mode)
 {
-    return addElement(portKind(), roomElement(port.floor(), port.room()), port.fields(), mode).tagName();
+    return d->add(portKind(), port.fields(), mode).tagName();
 }
 
 QString JobEditor::addPort(const QString &floorTag, const QString &roomTag, double x, double y, const QString &tag,
@@ -66,7 +39,7 @@ QString JobEditor::addPort(const QString &floorTag, const QString &roomTag, doub
 
 void JobEditor::removePort(const QString &tag)
 {
-    removeElementOf(ElementKind::Ports, portElement(tag));
+    d->tree.remove(ElementKind::Ports, tag);
 }
 
 void JobEditor::removePort(const Port &port)
@@ -74,14 +47,9 @@ void JobEditor::removePort(const Port &port)
     removePort(port.element());
 }
 
-QDomElement JobEditor::portElement(const QString &tag) const
-{
-    return elementOf(ElementKind::Ports, tag);
-}
-
 Port JobEditor::getPortByTag(const QString &tag) const
 {
-    return Port(readPort(portElement(tag)));
+    return Port(d->tree.read(portKind(), tag));
 }
 
 Port JobEditor::getPortById(const QString &id) const
@@ -91,12 +59,12 @@ Port JobEditor::getPortById(const QString &id) const
 
 QString JobEditor::getPortIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Ports].id(tag);
+    return d->tree.id(ElementKind::Ports, tag);
 }
 
 QString JobEditor::getPortTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Ports].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Ports, id);
 }
 
 QPointF JobEditor::getPortPos(const QString &tag) const
@@ -132,44 +100,40 @@ QString JobEditor::getPortFloor(const QString &tag) const
 
 void JobEditor::setPortID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::Ports, tag, id);
+    d->tree.set(ElementKind::Ports, tag, words::Id, id);
 }
 
 void JobEditor::setPortPos(const QString &tag, double x, double y)
 {
-    writeAttribute(portElement(tag), words::X, toText(x));
-    writeAttribute(portElement(tag), words::Y, toText(y));
+    d->tree.set(ElementKind::Ports, tag, words::X, toText(x));
+    d->tree.set(ElementKind::Ports, tag, words::Y, toText(y));
 }
 
 void JobEditor::setPortUse(const QString &tag, const QString &use)
 {
-    writeAttribute(portElement(tag), words::Use, use);
+    d->tree.set(ElementKind::Ports, tag, words::Use, use);
 }
 
 void JobEditor::setPortIconScale(const QString &tag, double scale)
 {
-    writeAttribute(portElement(tag), words::IconScale, toText(scale));
+    d->tree.set(ElementKind::Ports, tag, words::IconScale, toText(scale));
 }
 
 void JobEditor::setPortDropHeight(const QString &tag, double feet)
 {
-    writeAttribute(portElement(tag), words::DropHeight, toText(feet));
+    d->tree.set(ElementKind::Ports, tag, words::DropHeight, toText(feet));
 }
 
 void JobEditor::setPortRoom(const QString &tag, const QString &floorTag, const QString &roomTag)
 {
-    moveToRoom(ElementKind::Ports, portElement(tag), words::PortList, floorTag, roomTag);
+    d->tree.moveTo(d->tree.room(floorTag, roomTag), portKind(), tag);
 }
 
 // Vertical runs
 
 QString JobEditor::addVertRun(const VertRun &vertRun, int mode)
 {
-    const QDomElement element =
-        addElement(vertRunKind(), roomElement(vertRun.floor(), vertRun.room()), vertRun.fields(), mode);
-    writeAttribute(element, words::Connected, toText(vertRun.connected()));
-    writeAttribute(element, words::Disconnected, toText(vertRun.disconnected()));
-    return element.tagName();
+    return d->add(vertRunKind(), {vertRun.fields(), vertRun.cables()}, mode).tagName();
 }
 
 QString JobEditor::addVertRun(const QString &floorTag, const QString &roomTag, double x, double y, const QString &tag,
@@ -182,7 +146,7 @@ QString JobEditor::addVertRun(const QString &floorTag, const QString &roomTag, d
 
 void JobEditor::removeVertRun(const QString &tag)
 {
-    removeElementOf(ElementKind::VerticalRuns, vertRunElement(tag));
+    d->tree.remove(ElementKind::VerticalRuns, tag);
 }
 
 void JobEditor::removeVertRun(const VertRun &vertRun)
@@ -190,15 +154,10 @@ void JobEditor::removeVertRun(const VertRun &vertRun)
     removeVertRun(vertRun.element());
 }
 
-QDomElement JobEditor::vertRunElement(const QString &tag) const
-{
-    return elementOf(ElementKind::VerticalRuns, tag);
-}
-
 VertRun JobEditor::getVertRunByTag(const QString &tag) const
 {
-    const QDomElement element = vertRunElement(tag);
-    return {readPort(element), vertRunCablesAttributes().read(element)};
+    const VertRunElementFields fields = d->tree.read(vertRunKind(), tag);
+    return {fields, fields};
 }
 
 VertRun JobEditor::getVertRunById(const QString &id) const
@@ -208,12 +167,12 @@ VertRun JobEditor::getVertRunById(const QString &id) const
 
 QString JobEditor::getVertRunIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::VerticalRuns].id(tag);
+    return d->tree.id(ElementKind::VerticalRuns, tag);
 }
 
 QString JobEditor::getVertRunTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::VerticalRuns].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::VerticalRuns, id);
 }
 
 QPointF JobEditor::getVertRunPos(const QString &tag) const
@@ -259,43 +218,43 @@ QStringList JobEditor::getVertRunDisconnected(const QString &tag) const
 
 void JobEditor::setVertRunID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::VerticalRuns, tag, id);
+    d->tree.set(ElementKind::VerticalRuns, tag, words::Id, id);
 }
 
 void JobEditor::setVertRunPos(const QString &tag, double x, double y)
 {
-    writeAttribute(vertRunElement(tag), words::X, toText(x));
-    writeAttribute(vertRunElement(tag), words::Y, toText(y));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::X, toText(x));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::Y, toText(y));
 }
 
 void JobEditor::setVertRunUse(const QString &tag, const QString &use)
 {
-    writeAttribute(vertRunElement(tag), words::Use, use);
+    d->tree.set(ElementKind::VerticalRuns, tag, words::Use, use);
 }
 
 void JobEditor::setVertRunIconScale(const QString &tag, double scale)
 {
-    writeAttribute(vertRunElement(tag), words::IconScale, toText(scale));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::IconScale, toText(scale));
 }
 
 void JobEditor::setVertRunDropHeight(const QString &tag, double feet)
 {
-    writeAttribute(vertRunElement(tag), words::DropHeight, toText(feet));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::DropHeight, toText(feet));
 }
 
 void JobEditor::setVertRunRoom(const QString &tag, const QString &floorTag, const QString &roomTag)
 {
-    moveToRoom(ElementKind::VerticalRuns, vertRunElement(tag), words::VerticalRunList, floorTag, roomTag);
+    d->tree.moveTo(d->tree.room(floorTag, roomTag), vertRunKind(), tag);
 }
 
 void JobEditor::setVertRunConnected(const QString &tag, const QStringList &cableTags)
 {
-    writeAttribute(vertRunElement(tag), words::Connected, toText(cableTags));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::Connected, toText(cableTags));
 }
 
 void JobEditor::setVertRunDisconnected(const QString &tag, const QStringList &cableTags)
 {
-    writeAttribute(vertRunElement(tag), words::Disconnected, toText(cableTags));
+    d->tree.set(ElementKind::VerticalRuns, tag, words::Disconnected, toText(cableTags));
 }
 
 bool JobEditor::isCableInVertRun(const QString &cableTag, const QString &tag) const
@@ -307,36 +266,16 @@ bool JobEditor::isCableInVertRun(const QString &cableTag, const QString &tag) co
 void JobEditor::connectCableToVertRun(const QString &cableTag, const QString &tag)
 {
     if (cableExists(cableTag, true))
-        putCableIntoVertRun(cableTag, tag, words::Connected);
+        putCableIntoVertRun(&d->tree, cableTag, tag, words::Connected);
 }
 
 void JobEditor::disconnectCableFromVertRun(const QString &cableTag, const QString &tag)
 {
     if (cableExists(cableTag, true))
-        putCableIntoVertRun(cableTag, tag, words::Disconnected);
-}
-
-/// A cable stands in one of the two lists, or in none when the list is empty.
-void JobEditor::putCableIntoVertRun(const QString &cableTag, const QString &tag, const QString &list)
-{
-    const QDomElement element = vertRunElement(tag);
-    if (element.isNull())
-        return;
-    for (const QString &attribute : {words::Connected, words::Disconnected}) {
-        QStringList cables;
-        fromText(element.attribute(attribute), &cables);
-        const bool isListed = cables.contains(cableTag);
-        if (isListed == (attribute == list))
-            continue;
-        if (isListed)
-            cables.removeAll(cableTag);
-        else
-            cables.append(cableTag);
-        writeAttribute(element, attribute, toText(cables));
-    }
+        putCableIntoVertRun(&d->tree, cableTag, tag, words::Disconnected);
 }
 
 void JobEditor::removeCableFromVertRun(const QString &cableTag, const QString &tag)
 {
-    putCableIntoVertRun(cableTag, tag, QString());
+    putCableIntoVertRun(&d->tree, cableTag, tag, QString());
 }

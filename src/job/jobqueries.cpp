@@ -1,8 +1,5 @@
-#include "jobeditor.h"
-
 #include "childelements.h"
-#include "jobindex.h"
-#include "jobwords.h"
+#include "jobeditor_p.h"
 #include "messagetext.h"
 #include "xmlnames.h"
 
@@ -15,48 +12,43 @@ QStringList namesIn(const QDomElement &container, bool byTag)
     return byTag ? childTags(container) : childIds(container);
 }
 
-bool exists(const ElementIndex &index, const QString &text, bool byTag)
-{
-    return byTag ? index.containsTag(text) : index.containsId(text);
-}
-
 } // namespace
 
 // Existence
 
 bool JobEditor::cableExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Cables], text, byTag);
+    return d->exists(ElementKind::Cables, text, byTag);
 }
 
 bool JobEditor::connectionExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Connections], text, byTag);
+    return d->exists(ElementKind::Connections, text, byTag);
 }
 
 bool JobEditor::floorExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Floors], text, byTag);
+    return d->exists(ElementKind::Floors, text, byTag);
 }
 
 bool JobEditor::sheetExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Sheets], text, byTag);
+    return d->exists(ElementKind::Sheets, text, byTag);
 }
 
 bool JobEditor::roomExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Rooms], text, byTag);
+    return d->exists(ElementKind::Rooms, text, byTag);
 }
 
 bool JobEditor::portExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Ports], text, byTag);
+    return d->exists(ElementKind::Ports, text, byTag);
 }
 
 bool JobEditor::vertRunExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::VerticalRuns], text, byTag);
+    return d->exists(ElementKind::VerticalRuns, text, byTag);
 }
 
 bool JobEditor::portOrVertRunExists(const QString &text, bool byTag) const
@@ -66,81 +58,81 @@ bool JobEditor::portOrVertRunExists(const QString &text, bool byTag) const
 
 bool JobEditor::deviceExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Devices], text, byTag);
+    return d->exists(ElementKind::Devices, text, byTag);
 }
 
 bool JobEditor::verticeExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Vertices], text, byTag);
+    return d->exists(ElementKind::Vertices, text, byTag);
 }
 
 bool JobEditor::pointExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::Points], text, byTag);
+    return d->exists(ElementKind::Points, text, byTag);
 }
 
 bool JobEditor::freeTextExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::FreeTexts], text, byTag);
+    return d->exists(ElementKind::FreeTexts, text, byTag);
 }
 
 bool JobEditor::floorFreeTextExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::FloorFreeTexts], text, byTag);
+    return d->exists(ElementKind::FloorFreeTexts, text, byTag);
 }
 
 bool JobEditor::activePortExists(const QString &text, bool byTag) const
 {
-    return exists((*m_index)[ElementKind::ActivePorts], text, byTag);
+    return d->exists(ElementKind::ActivePorts, text, byTag);
 }
 
 bool JobEditor::roomExistsOnFloor(const QString &room, const QString &floorTag, bool byTag) const
 {
     if (!floorExists(floorTag, true) && floorExists(room, true))
         return roomExistsOnFloor(floorTag, room, byTag);
-    return !(byTag ? roomElement(floorTag, room) : roomElementById(floorTag, room)).isNull();
+    return !(byTag ? d->tree.room(floorTag, room) : d->tree.roomById(floorTag, room)).isNull();
 }
 
 // Lists and names
 
 QStringList JobEditor::getFloorTags() const
 {
-    return (*m_index)[ElementKind::Floors].tags();
+    return d->tree.index().of(ElementKind::Floors).tags();
 }
 
 QStringList JobEditor::getSheetTags() const
 {
-    return (*m_index)[ElementKind::Sheets].tags();
+    return d->tree.index().of(ElementKind::Sheets).tags();
 }
 
 QStringList JobEditor::getFloorIds() const
 {
-    return (*m_index)[ElementKind::Floors].ids();
+    return d->tree.index().of(ElementKind::Floors).idsByTag();
 }
 
 QStringList JobEditor::getSheetIds() const
 {
-    return (*m_index)[ElementKind::Sheets].ids();
+    return d->tree.index().of(ElementKind::Sheets).idsByTag();
 }
 
 QString JobEditor::getFloorIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Floors].id(tag);
+    return d->tree.id(ElementKind::Floors, tag);
 }
 
 QString JobEditor::getSheetIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::Sheets].id(tag);
+    return d->tree.id(ElementKind::Sheets, tag);
 }
 
 QString JobEditor::getFloorTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Floors].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Floors, id);
 }
 
 QString JobEditor::getSheetTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::Sheets].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::Sheets, id);
 }
 
 QStringList JobEditor::getConnections(bool byTag) const
@@ -197,90 +189,68 @@ QStringList JobEditor::getFreeTexts(const QString &sheetTag, bool byTag) const
 
 QDomElement JobEditor::getToCableList() const
 {
-    return getElement(words::CableList);
+    return d->tree.list(cableKind());
 }
 
 QDomElement JobEditor::getToConnectionList() const
 {
-    return getElement(words::ConnectionList);
+    return d->tree.list(connectionKind());
 }
 
 QDomElement JobEditor::getToActivePortList() const
 {
-    return getElement(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList);
+    return d->tree.list(activePortKind());
 }
 
 QDomElement JobEditor::getToRoomList(const QString &floorTag) const
 {
-    return floorElement(floorTag).firstChildElement(words::RoomList);
+    return d->tree.list(roomKind(), {floorTag});
 }
 
 QDomElement JobEditor::getToPortList(const QString &floorTag, const QString &roomTag) const
 {
-    return roomElement(floorTag, roomTag).firstChildElement(words::PortList);
+    return d->tree.list(portKind(), {roomTag, floorTag});
 }
 
 QDomElement JobEditor::getToVertRunList(const QString &floorTag, const QString &roomTag) const
 {
-    return roomElement(floorTag, roomTag).firstChildElement(words::VerticalRunList);
+    return d->tree.list(vertRunKind(), {roomTag, floorTag});
 }
 
 QDomElement JobEditor::getToPointList(const QString &floorTag) const
 {
-    return floorElement(floorTag).firstChildElement(words::PointList);
+    return d->tree.list(pointKind(), {floorTag});
 }
 
 QDomElement JobEditor::getToFloorFreeTextList(const QString &floorTag) const
 {
-    return floorElement(floorTag).firstChildElement(words::FreeTextList);
+    return d->tree.list(floorFreeTextKind(), {floorTag});
 }
 
 QDomElement JobEditor::getToDeviceList(const QString &sheetTag) const
 {
-    return sheetElement(sheetTag).firstChildElement(words::DeviceList);
+    return d->tree.list(deviceKind(), {sheetTag});
 }
 
 QDomElement JobEditor::getToFreeTextList(const QString &sheetTag) const
 {
-    return sheetElement(sheetTag).firstChildElement(words::FreeTextList);
+    return d->tree.list(freeTextKind(), {sheetTag});
 }
 
 QDomElement JobEditor::getToVerticeList(const QString &sheetTag) const
 {
-    return sheetElement(sheetTag).firstChildElement(words::VerticeList);
+    return d->tree.list(verticeKind(), {sheetTag});
 }
 
-QDomElement JobEditor::floorElement(const QString &tag) const
+bool JobEditorPrivate::exists(ElementKind kind, const QString &text, bool byTag) const
 {
-    return elementOf(ElementKind::Floors, tag);
+    return byTag ? tree.contains(kind, text) : tree.index().of(kind).ids().contains(text);
 }
 
-QDomElement JobEditor::sheetElement(const QString &tag) const
+bool JobEditorPrivate::mayBeName(const QString &name)
 {
-    return elementOf(ElementKind::Sheets, tag);
-}
-
-QDomElement JobEditor::roomElement(const QString &floorTag, const QString &tag) const
-{
-    const QDomElement roomList = getToRoomList(floorTag);
-    const ElementIndex &rooms = (*m_index)[ElementKind::Rooms];
-    const QDomElement room = rooms.element(tag);
-    if (!roomList.isNull() && room.parentNode() == roomList)
-        return room;
-    // The index leads to the first room of a tag; "Undefined", for one, is there on every floor.
-    return rooms.isRepeated(tag) ? roomList.firstChildElement(tag) : QDomElement();
-}
-
-QDomElement JobEditor::roomElementById(const QString &floorTag, const QString &id) const
-{
-    const auto rooms = m_index->roomsOfFloor.constFind(floorTag);
-    return rooms == m_index->roomsOfFloor.cend() ? QDomElement() : rooms->element(id);
-}
-
-bool JobEditor::mayBeName(const QString &tag)
-{
-    if (isXmlName(tag))
+    if (isXmlName(name))
         return true;
-    m_error = tr("\"%1\" cannot be the name of an XML element").arg(excerpt(tag));
+    document.error = JobEditor::tr("\"%1\" cannot be the name of an XML element").arg(excerpt(name));
     return false;
 }

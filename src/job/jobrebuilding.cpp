@@ -1,36 +1,20 @@
-#include "jobeditor.h"
-
-#include "jobindex.h"
+#include "jobeditor_p.h"
 
 using namespace cabledoc;
 
 void JobEditor::updateAllInternalLists()
 {
-    populateCurrentCablesLists();
-    populateCableMap();
-    populateConnectionMap();
-    populateSheetMap();
-    populateDeviceMap();
-    populateVerticeMap();
-    populateFreeTextMap();
-    populateFloorMap();
-    populateRoomMap();
-    populatePortMap();
-    populateActivePortMap();
-    populateVerticalRunMap();
-    populatePointMap();
-    populateFloorFreeTextMap();
+    d->tree.index().rebuild();
 }
 
 void JobEditor::populateCurrentCablesLists()
 {
-    m_index->references.reset();
-    m_index->cables = CableLists(getToCableList());
+    d->tree.index().rebuildCableLists();
 }
 
 void JobEditor::populateCableMap()
 {
-    populate(ElementKind::Cables);
+    d->tree.index().rebuild(ElementKind::Cables);
 }
 
 void JobEditor::populateCableTypeMap()
@@ -41,72 +25,60 @@ void JobEditor::populateCableTypeMap()
 
 void JobEditor::populateConnectionMap()
 {
-    populate(ElementKind::Connections);
+    d->tree.index().rebuild(ElementKind::Connections);
 }
 
 void JobEditor::populateSheetMap()
 {
-    populate(ElementKind::Sheets);
+    d->tree.index().rebuild(ElementKind::Sheets);
 }
 
 void JobEditor::populateDeviceMap()
 {
-    populate(ElementKind::Devices);
+    d->tree.index().rebuild(ElementKind::Devices);
 }
 
 void JobEditor::populateVerticeMap()
 {
-    populate(ElementKind::Vertices);
+    d->tree.index().rebuild(ElementKind::Vertices);
 }
 
 void JobEditor::populateFreeTextMap()
 {
-    populate(ElementKind::FreeTexts);
+    d->tree.index().rebuild(ElementKind::FreeTexts);
 }
 
 void JobEditor::populateFloorMap()
 {
-    populate(ElementKind::Floors);
+    d->tree.index().rebuild(ElementKind::Floors);
 }
 
 void JobEditor::populateRoomMap()
 {
-    populate(ElementKind::Rooms);
+    d->tree.index().rebuild(ElementKind::Rooms);
 }
 
 void JobEditor::populatePortMap()
 {
-    populate(ElementKind::Ports);
+    d->tree.index().rebuild(ElementKind::Ports);
 }
 
 void JobEditor::populateActivePortMap()
 {
-    populate(ElementKind::ActivePorts);
+    d->tree.index().rebuild(ElementKind::ActivePorts);
 }
 
 void JobEditor::populateVerticalRunMap()
 {
-    populate(ElementKind::VerticalRuns);
+    d->tree.index().rebuild(ElementKind::VerticalRuns);
 }
 
 void JobEditor::populatePointMap()
 {
-    populate(ElementKind::Points);
+    d->tree.index().rebuild(ElementKind::Points);
 }
 
 void JobEditor::populateFloorFreeTextMap()
 {
-    populate(ElementKind::FloorFreeTexts);
-}
-
-/// Rebuilds an index for a caller, who may also have changed what elements name.
-void JobEditor::populate(ElementKind kind)
-{
-    m_index->references.reset();
-    rebuildIndex(kind);
-}
-
-void JobEditor::rebuildIndex(ElementKind kind)
-{
-    m_index->rebuild(kind, m_document.firstChild().toElement());
+    d->tree.index().rebuild(ElementKind::FloorFreeTexts);
 }

@@ -1,5 +1,4 @@
-#include "jobeditor.h"
-
+#include "jobeditor_p.h"
 #include "jobwords.h"
 #include "xmlnames.h"
 #include "xmlscan.h"
@@ -10,32 +9,32 @@ using namespace cabledoc;
 
 void JobEditor::setSiteContact(const QString &contact)
 {
-    writeInfo(words::SiteInfo, words::Contact, contact);
+    d->document.writeInfo(words::SiteInfo, words::Contact, contact);
 }
 
 void JobEditor::setSiteJobID(const QString &jobID)
 {
-    writeInfo(words::SiteInfo, words::JobID, jobID);
+    d->document.writeInfo(words::SiteInfo, words::JobID, jobID);
 }
 
 void JobEditor::setSiteCompany(const QString &company)
 {
-    writeInfo(words::SiteInfo, words::Company, company);
+    d->document.writeInfo(words::SiteInfo, words::Company, company);
 }
 
 void JobEditor::setSitePhone(const QString &phone)
 {
-    writeInfo(words::SiteInfo, words::Phone, phone);
+    d->document.writeInfo(words::SiteInfo, words::Phone, phone);
 }
 
 void JobEditor::setSiteEmail(const QString &email)
 {
-    writeInfo(words::SiteInfo, words::Email, email);
+    d->document.writeInfo(words::SiteInfo, words::Email, email);
 }
 
 void JobEditor::setSiteAddress(const Address &address)
 {
-    writeInfoAddress(words::SiteInfo, address);
+    d->document.writeInfoAddress(words::SiteInfo, address);
 }
 
 void JobEditor::setSiteData(const SiteData &data)
@@ -56,32 +55,32 @@ void JobEditor::setSiteData(const QString &contact, const QString &jobID, const 
 
 QString JobEditor::getSiteContact() const
 {
-    return getChildAttr(words::Contact, getElement(words::SiteInfo));
+    return d->document.readInfo(words::SiteInfo, words::Contact);
 }
 
 QString JobEditor::getSiteJobID() const
 {
-    return getChildAttr(words::JobID, getElement(words::SiteInfo));
+    return d->document.readInfo(words::SiteInfo, words::JobID);
 }
 
 QString JobEditor::getSiteCompany() const
 {
-    return getChildAttr(words::Company, getElement(words::SiteInfo));
+    return d->document.readInfo(words::SiteInfo, words::Company);
 }
 
 QString JobEditor::getSitePhone() const
 {
-    return getChildAttr(words::Phone, getElement(words::SiteInfo));
+    return d->document.readInfo(words::SiteInfo, words::Phone);
 }
 
 QString JobEditor::getSiteEmail() const
 {
-    return getChildAttr(words::Email, getElement(words::SiteInfo));
+    return d->document.readInfo(words::SiteInfo, words::Email);
 }
 
 Address JobEditor::getSiteAddress() const
 {
-    return readInfoAddress(words::SiteInfo);
+    return d->document.readInfoAddress(words::SiteInfo);
 }
 
 SiteData JobEditor::getSiteData() const
@@ -94,54 +93,41 @@ SiteData JobEditor::getSiteData() const
 
 void JobEditor::addRelease(const QString &name, const QString &value)
 {
-    if (!mayBeName(name))
+    if (!d->mayBeName(name))
         return;
     const QDomElement release = getElement(words::Release);
     if (!release.hasAttribute(name) && release.attributes().count() >= maximumAttributes) {
-        m_error = tr("A job holds no more than %1 releases").arg(maximumAttributes);
+        error() = tr("A job can hold at most %1 releases").arg(maximumAttributes);
         return;
     }
-    writeInfo(words::Release, name, value);
+    d->document.writeInfo(words::Release, name, value);
 }
 
 QString JobEditor::getRelease(const QString &name) const
 {
-    return getChildAttr(name, getElement(words::Release));
+    return d->document.readInfo(words::Release, name);
 }
 
 void JobEditor::removeRelease(const QString &name)
 {
-    QDomElement release = getElement(words::Release);
-    if (release.isNull())
-        return;
-    release.removeAttribute(name);
-    setDirty(true);
+    d->tree.removeAttribute(getElement(words::Release), name);
 }
 
 void JobEditor::setJobNotesText(const QString &text)
 {
-    const QDomElement root = m_document.documentElement();
-    if (root.isNull() || getJobNotesText() == text)
-        return;
-    QDomElement notes = getElement(words::JobNotesText);
-    if (notes.isNull())
-        notes = appendElement(words::JobNotesText, root);
-    notes.setAttribute(words::Text, text);
-    setDirty(true);
+    const QDomElement root = d->tree.document().documentElement();
+    if (!root.isNull() && getJobNotesText() != text)
+        d->tree.setAttribute(d->tree.ensure(words::JobNotesText, root), words::Text, text);
 }
 
 QString JobEditor::getJobNotesText() const
 {
-    return getChildAttr(words::Text, getElement(words::JobNotesText));
+    return d->document.readInfo(words::JobNotesText, words::Text);
 }
 
 QDomElement JobEditor::getToJobNotesList()
 {
     // Deliberate: under the name of the notes, callers expect the list of connections.
-    const QDomElement list = getToConnectionList();
-    const QDomElement root = m_document.documentElement();
-    if (!list.isNull() || root.isNull())
-        return list;
-    setDirty(true);
-    return appendElement(words::ConnectionList, root);
+    const QDomElement root = d->tree.document().documentElement();
+    return root.isNull() ? root : d->tree.ensure(words::ConnectionList, root);
 }

@@ -1,8 +1,5 @@
-#include "jobeditor.h"
-
 #include "bkutilities.h"
-#include "jobattributes.h"
-#include "jobindex.h"
+#include "jobeditor_p.h"
 #include "jobwords.h"
 #include "units.h"
 
@@ -19,71 +16,63 @@ float roundedLength(float feet, bool metric)
     return metric ? BKUtilities::roundToHalf(float(feet / feetInAMeter)) : BKUtilities::roundToTenths(feet);
 }
 
-} // namespace
-
-QDomElement JobEditor::cableOfTagOrId(const QString &text) const
+/// Returns the cable with the given tag or, if there is none, the first one with that id.
+QDomElement cableOfTagOrId(const JobTree &tree, const QString &text)
 {
-    return cableElement(cableExists(text, true) ? text : (*m_index)[ElementKind::Cables].tagOfId(text));
+    const QDomElement cable = tree.element(ElementKind::Cables, text);
+    return cable.isNull() ? tree.element(ElementKind::Cables, tree.tagOfId(ElementKind::Cables, text)) : cable;
 }
+
+/// Returns the results of a cable, after adding what an older file lacks.
+TestResults readResults(JobTree *tree, const QDomElement &cable)
+{
+    return TestResults(tree->read(cable.firstChildElement(words::TestResults), testResultsAttributes()));
+}
+
+/// Returns a length reading in feet, by the test definition of the cable's type.
+float correctedLength(const JobEditor &job, int reading, const QDomElement &cable)
+{
+    const int lengthConstant = job.getTestDef(cable.attribute(words::Type)).length_constant();
+    return float(reading / (lengthConstant / 100.0));
+}
+
+} // namespace
 
 void JobEditor::setCableTestResults(const QString &cable, const TestResults &results)
 {
-    QDomElement element = cableOfTagOrId(cable).firstChildElement(words::TestResults);
-    if (element.isNull())
-        return;
-    // The two that the earliest files lack are created; all others are changed only where they are.
-    for (const QString &name : {words::SoftwareVersion, words::Serial}) {
-        if (!element.hasAttribute(name))
-            element.setAttribute(name, QLatin1String(""));
-    }
-    testResultsAttributes().change(element, results.fields());
-    setDirty(true);
+    const QDomElement element = cableOfTagOrId(d->tree, cable).firstChildElement(words::TestResults);
+    // The two that the earliest files lack are added. All others are changed only if they are there.
+    for (const QString &name : {words::SoftwareVersion, words::Serial})
+        d->tree.addAttribute(element, name, QLatin1String(""));
+    d->tree.change(element, testResultsAttributes(), results.fields());
 }
 
 TestResults JobEditor::getCableTestResults(const QString &cable)
 {
-    return readTestResults(cableOfTagOrId(cable));
-}
-
-TestResults JobEditor::readTestResults(const QDomElement &cable)
-{
-    const QDomElement element = cable.firstChildElement(words::TestResults);
-    if (element.isNull())
-        return TestResults();
-    // Reading completes what an older version wrote, on purpose.
-    if (testResultsAttributes().complete(element))
-        setDirty(true);
-    return TestResults(testResultsAttributes().read(element));
+    return readResults(&d->tree, cableOfTagOrId(d->tree, cable));
 }
 
 QString JobEditor::getCableStatus(const QString &tag) const
 {
-    const QDomElement cable = cableElement(tag);
+    const QDomElement cable = d->tree.element(ElementKind::Cables, tag);
     return cable.isNull() ? QString() : testStatus(cable);
-}
-
-/// A length reading in feet, as the test definition of the cable's type says.
-float JobEditor::correctedLength(int reading, const QDomElement &cable) const
-{
-    const int lengthConstant = getTestDef(cable.attribute(words::Type)).length_constant();
-    return float(reading / (lengthConstant / 100.0));
 }
 
 float JobEditor::getRoundedCableLength(const QString &cable, int pair, bool metric)
 {
-    const QDomElement element = cableOfTagOrId(cable);
-    const cable_struct results = readTestResults(element).results();
+    const QDomElement element = cableOfTagOrId(d->tree, cable);
+    const cable_struct results = readResults(&d->tree, element).results();
     if (pair < 0 || pair >= int(std::size(results.pair_length)))
         return 0.0F;
-    return roundedLength(correctedLength(results.pair_length[pair], element), metric);
+    return roundedLength(correctedLength(*this, results.pair_length[pair], element), metric);
 }
 
 float JobEditor::getMaxRoundedCableLength(const QString &cable, bool metric, bool uncorrected)
 {
-    const QDomElement element = cableOfTagOrId(cable);
-    const int reading = readTestResults(element).cableLength();
+    const QDomElement element = cableOfTagOrId(d->tree, cable);
+    const int reading = readResults(&d->tree, element).cableLength();
     if (!uncorrected)
-        return roundedLength(correctedLength(reading, element), metric);
+        return roundedLength(correctedLength(*this, reading, element), metric);
     const float feet = reading < 0 ? 0.0F : float(reading);
     // Whole metres, cut off and not rounded.
     return metric ? float(std::trunc(feet / feetInAMeter)) : feet;

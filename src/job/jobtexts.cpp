@@ -1,39 +1,13 @@
-#include "jobelements.h"
+#include "jobeditor_p.h"
+#include "jobwords.h"
 
 using namespace cabledoc;
-
-namespace {
-
-const DrawnKind<FreeTextFields> &freeTextKind()
-{
-    static const DrawnKind<FreeTextFields> kind{ElementKind::FreeTexts, words::FreeTextList, words::FreeTextTagPrefix,
-                                                freeTextAttributes()};
-    return kind;
-}
-
-const DrawnKind<FreeTextFields> &floorFreeTextKind()
-{
-    static const DrawnKind<FreeTextFields> kind{ElementKind::FloorFreeTexts, words::FreeTextList,
-                                                words::FloorFreeTextTagPrefix, freeTextAttributes()};
-    return kind;
-}
-
-} // namespace
-
-FreeTextFields JobEditor::readText(const QDomElement &element) const
-{
-    if (element.isNull())
-        return FreeTextFields();
-    FreeTextFields fields = readElement(freeTextKind(), element);
-    fields.parent = element.parentNode().parentNode().nodeName();
-    return fields;
-}
 
 // Texts on sheets
 
 QString JobEditor::addFreeText(const FreeText &text, int mode)
 {
-    return addElement(freeTextKind(), sheetElement(text.parent()), text.fields(), mode).tagName();
+    return d->add(freeTextKind(), text.fields(), mode).tagName();
 }
 
 QString JobEditor::addFreeText(const QString &sheetTag, const QString &text, double x, double y,
@@ -45,7 +19,7 @@ QString JobEditor::addFreeText(const QString &sheetTag, const QString &text, dou
 
 void JobEditor::removeFreeText(const QString &tag)
 {
-    removeElementOf(ElementKind::FreeTexts, elementOf(ElementKind::FreeTexts, tag));
+    d->tree.remove(ElementKind::FreeTexts, tag);
 }
 
 void JobEditor::removeFreeText(const FreeText &text)
@@ -55,7 +29,7 @@ void JobEditor::removeFreeText(const FreeText &text)
 
 FreeText JobEditor::getFreeTextByTag(const QString &tag) const
 {
-    return FreeText(readText(elementOf(ElementKind::FreeTexts, tag)));
+    return FreeText(d->tree.read(freeTextKind(), tag));
 }
 
 FreeText JobEditor::getFreeTextById(const QString &id) const
@@ -65,12 +39,12 @@ FreeText JobEditor::getFreeTextById(const QString &id) const
 
 QString JobEditor::getFreeTextIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::FreeTexts].id(tag);
+    return d->tree.id(ElementKind::FreeTexts, tag);
 }
 
 QString JobEditor::getFreeTextTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::FreeTexts].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::FreeTexts, id);
 }
 
 QPointF JobEditor::getFreeTextPos(const QString &tag) const
@@ -116,50 +90,50 @@ QString JobEditor::getFreeTextColor(const QString &tag) const
 
 void JobEditor::setFreeTextID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::FreeTexts, tag, id);
+    d->tree.set(ElementKind::FreeTexts, tag, words::Id, id);
 }
 
 void JobEditor::setFreeTextPos(const QString &tag, double x, double y)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::X, toText(x));
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::Y, toText(y));
+    d->tree.set(ElementKind::FreeTexts, tag, words::X, toText(x));
+    d->tree.set(ElementKind::FreeTexts, tag, words::Y, toText(y));
 }
 
 void JobEditor::setFreeTextText(const QString &tag, const QString &text)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::Text, text);
+    d->tree.set(ElementKind::FreeTexts, tag, words::Text, text);
 }
 
 void JobEditor::setFreeTextFontFamily(const QString &tag, const QString &family)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::FontFamily, family);
+    d->tree.set(ElementKind::FreeTexts, tag, words::FontFamily, family);
 }
 
 void JobEditor::setFreeTextFontSize(const QString &tag, double points)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::FontSize, toText(points));
+    d->tree.set(ElementKind::FreeTexts, tag, words::FontSize, toText(points));
 }
 
 void JobEditor::setFreeTextBold(const QString &tag, bool bold)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::Bold, toText(bold));
+    d->tree.set(ElementKind::FreeTexts, tag, words::Bold, toText(bold));
 }
 
 void JobEditor::setFreeTextItalic(const QString &tag, bool italic)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::Italic, toText(italic));
+    d->tree.set(ElementKind::FreeTexts, tag, words::Italic, toText(italic));
 }
 
 void JobEditor::setFreeTextColor(const QString &tag, const QString &color)
 {
-    writeAttribute(elementOf(ElementKind::FreeTexts, tag), words::Color, color);
+    d->tree.set(ElementKind::FreeTexts, tag, words::Color, color);
 }
 
 // Texts on floors
 
 QString JobEditor::addFloorFreeText(const FreeText &text, int mode)
 {
-    return addElement(floorFreeTextKind(), floorElement(text.parent()), text.fields(), mode).tagName();
+    return d->add(floorFreeTextKind(), text.fields(), mode).tagName();
 }
 
 QString JobEditor::addFloorFreeText(const QString &floorTag, const QString &text, double x, double y,
@@ -171,7 +145,7 @@ QString JobEditor::addFloorFreeText(const QString &floorTag, const QString &text
 
 void JobEditor::removeFloorFreeText(const QString &tag)
 {
-    removeElementOf(ElementKind::FloorFreeTexts, elementOf(ElementKind::FloorFreeTexts, tag));
+    d->tree.remove(ElementKind::FloorFreeTexts, tag);
 }
 
 void JobEditor::removeFloorFreeText(const FreeText &text)
@@ -181,7 +155,7 @@ void JobEditor::removeFloorFreeText(const FreeText &text)
 
 FreeText JobEditor::getFloorFreeTextByTag(const QString &tag) const
 {
-    return FreeText(readText(elementOf(ElementKind::FloorFreeTexts, tag)));
+    return FreeText(d->tree.read(floorFreeTextKind(), tag));
 }
 
 FreeText JobEditor::getFloorFreeTextById(const QString &id) const
@@ -191,12 +165,12 @@ FreeText JobEditor::getFloorFreeTextById(const QString &id) const
 
 QString JobEditor::getFloorFreeTextIdByTag(const QString &tag) const
 {
-    return (*m_index)[ElementKind::FloorFreeTexts].id(tag);
+    return d->tree.id(ElementKind::FloorFreeTexts, tag);
 }
 
 QString JobEditor::getFloorFreeTextTagById(const QString &id) const
 {
-    return (*m_index)[ElementKind::FloorFreeTexts].tagOfId(id);
+    return d->tree.tagOfId(ElementKind::FloorFreeTexts, id);
 }
 
 QPointF JobEditor::getFloorFreeTextPos(const QString &tag) const
@@ -242,41 +216,41 @@ QString JobEditor::getFloorFreeTextColor(const QString &tag) const
 
 void JobEditor::setFloorFreeTextID(const QString &tag, const QString &id)
 {
-    renameElementOf(ElementKind::FloorFreeTexts, tag, id);
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Id, id);
 }
 
 void JobEditor::setFloorFreeTextPos(const QString &tag, double x, double y)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::X, toText(x));
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::Y, toText(y));
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::X, toText(x));
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Y, toText(y));
 }
 
 void JobEditor::setFloorFreeTextText(const QString &tag, const QString &text)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::Text, text);
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Text, text);
 }
 
 void JobEditor::setFloorFreeTextFontFamily(const QString &tag, const QString &family)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::FontFamily, family);
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::FontFamily, family);
 }
 
 void JobEditor::setFloorFreeTextFontSize(const QString &tag, double points)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::FontSize, toText(points));
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::FontSize, toText(points));
 }
 
 void JobEditor::setFloorFreeTextBold(const QString &tag, bool bold)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::Bold, toText(bold));
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Bold, toText(bold));
 }
 
 void JobEditor::setFloorFreeTextItalic(const QString &tag, bool italic)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::Italic, toText(italic));
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Italic, toText(italic));
 }
 
 void JobEditor::setFloorFreeTextColor(const QString &tag, const QString &color)
 {
-    writeAttribute(elementOf(ElementKind::FloorFreeTexts, tag), words::Color, color);
+    d->tree.set(ElementKind::FloorFreeTexts, tag, words::Color, color);
 }

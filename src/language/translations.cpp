@@ -6,8 +6,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTranslator>
 
-// Q_INIT_RESOURCE works outside of namespaces only. Without it a program that links the objects from an archive
-// would leave out the language files, since nothing else refers to them.
+// Q_INIT_RESOURCE works only outside of namespaces. Without it, a program that links the objects from an archive would
+// leave out the language files, because nothing else refers to them.
 static void initLanguageFiles()
 {
     Q_INIT_RESOURCE(translations);
@@ -15,7 +15,7 @@ static void initLanguageFiles()
 
 namespace {
 
-/// Installs a language file for as long as its owner lives. False when there is no such file.
+/// Installs a language file until its owner is destroyed. Returns false if there is no such file.
 bool install(const QString &fileName, const QString &folder, QObject *owner)
 {
     auto *translator = new QTranslator(owner);

@@ -6,13 +6,15 @@
 
 namespace cabledoc {
 
-/// Lets the texts of the library and of the cabledoc program appear in the first of the locale's languages
-/// (QLocale::uiLanguages()) that they are translated into: German, French or Spanish; or in English, in which they are
-/// written. What Qt adds to messages is translated as well where Qt's own language files are installed.
+/// Translates the texts of the library and of the program cabledoc into the first of the locale's languages, see
+/// QLocale::uiLanguages(), that is available: German, French, Spanish, or English, in which the texts are written.
+/// Messages of Qt are translated too if Qt's own language files are installed.
 ///
-/// Takes the place of what an earlier call installed. Needs a QCoreApplication, with which the translations end.
-/// False when none of the languages is there: the texts appear in English then. No document is changed, but the names
-/// that are generated from then on begin with words of that language ("Kabel001").
+/// Replaces the translations that an earlier call has installed. The program must have a QCoreApplication, and the
+/// translations are removed when that is destroyed.
+///
+/// Returns false if none of the languages is available: the texts are then in English. Does not change a document, but
+/// names that are generated from now on begin with words of the new language, such as "Kabel001".
 CABLEDOC_EXPORT bool installTranslations(const QLocale &locale);
 
 } // namespace cabledoc

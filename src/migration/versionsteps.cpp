@@ -1,10 +1,9 @@
 #include "bkxmleditor.h"
 
-#include "attributetext.h"
 #include "childelements.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "elementindex.h"
-#include "settingsattributes.h"
-#include "sharedattributes.h"
 #include "words.h"
 
 #include <QtCore/QMap>
@@ -16,9 +15,6 @@
 using namespace cabledoc;
 
 namespace {
-
-const QString connector = QStringLiteral("connector");
-const QString networkDevicesSettings = QStringLiteral("NetworkDevices_Settings");
 
 /// The colour of a cable type that the system brings; black for another.
 QString colorOfType(const QString &type)
@@ -44,14 +40,14 @@ TestDef newDefinition(const QString &type, const QString &color, const QString &
     return definition;
 }
 
-void setVersion(const QDomElement &root, const QString &number)
+void setVersion(DocumentTree *tree, const QDomElement &root, const QString &number)
 {
-    root.firstChildElement(words::Version).setAttribute(words::Number, number);
+    tree->setAttribute(root.firstChildElement(words::Version), words::Number, number);
 }
 
 /// Adds to the expected blocks what 1.4 brought. Up to 1.3 the element of a definition was named "T" and its
 /// type; it is removed and added under a tag of today, with all that it holds.
-void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
+void replaceDefinitions(DocumentTree *tree, const QDomElement &list, double lengthConstantDivisor)
 {
     QVector<QDomElement> definitions;
     ElementIndex index;
@@ -60,62 +56,59 @@ void replaceDefinitions(QDomElement list, double lengthConstantDivisor)
         if (definition.hasAttribute(words::Id))
             definitions.append(definition);
     }
-    for (QDomElement definition : definitions) {
+    for (const QDomElement &definition : std::as_const(definitions)) {
         const TestDefFields fields = testDefAttributes().read(definition);
         const QDomElement named = index.element(QLatin1Char('T') + fields.id);
         const QString expected = (named.isNull() ? definition : named).attribute(words::Expected);
 
         index.remove(definition);
-        list.removeChild(definition);
         const qint64 number = index.firstFreeTagNumber(words::TestDefTagPrefix, 1);
-        definition.setTagName(words::TestDefTagPrefix + QString::number(number));
-        list.appendChild(definition);
+        tree->setTagName(definition, words::TestDefTagPrefix + QString::number(number));
+        tree->move(definition, list);
         index.append(definition);
         if (!expected.isEmpty()) {
             const QString lengthened = expected + QString(24, QLatin1Char('0'));
-            definition.setAttribute(words::Expected, toText(BKXMLEditor::stringToData(lengthened)));
+            tree->setAttribute(definition, words::Expected, toText(BKXMLEditor::stringToData(lengthened)));
         }
         if (lengthConstantDivisor != 1.0) {
-            definition.setAttribute(words::LengthConstant,
-                                    toText(truncated(double(fields.lengthConstant) / lengthConstantDivisor)));
+            const double lengthConstant = double(fields.lengthConstant) / lengthConstantDivisor;
+            tree->setAttribute(definition, words::LengthConstant, toText(truncated(lengthConstant)));
         }
     }
 }
 
 /// Every definition keeps its tag when that holds a number and is its own.
-void giveDefinitionsTheirOwnTags(const QDomElement &list)
+void giveDefinitionsTheirOwnTags(DocumentTree *tree, const QDomElement &list)
 {
     static const QRegularExpression number(QStringLiteral("[1-9][0-9]{0,}"));
     std::set<QString> used;
     int counter = 1;
-    for (QDomElement definition : ChildElements(list)) {
+    for (const QDomElement &definition : ChildElements(list)) {
         if (!definition.tagName().contains(number) || used.count(definition.tagName()) != 0) {
             while (used.count(words::TestDefTagPrefix + QString::number(counter)) != 0)
                 ++counter;
-            definition.setTagName(words::TestDefTagPrefix + QString::number(counter));
+            tree->setTagName(definition, words::TestDefTagPrefix + QString::number(counter));
         }
         used.insert(definition.tagName());
     }
 }
 
-void addColor(QDomElement definition)
+void addColor(DocumentTree *tree, const QDomElement &definition)
 {
-    if (definition.hasAttribute(words::Color))
-        return;
     // Only what a file says is no default type is left black; the earliest files say nothing.
     const bool isOwnType =
         definition.hasAttribute(words::DefaultType) && definition.attribute(words::DefaultType).toInt() == 0;
-    definition.setAttribute(words::Color,
-                            isOwnType ? TestDefFields().color : colorOfType(definition.attribute(words::Id)));
+    tree->addAttribute(definition, words::Color,
+                       isOwnType ? TestDefFields().color : colorOfType(definition.attribute(words::Id)));
 }
 
 /// The connector was a text of its own. Beside a comment that is there already it follows that.
-void turnConnectorIntoComment(QDomElement definition)
+void turnConnectorIntoComment(DocumentTree *tree, const QDomElement &definition)
 {
-    QStringList remarks{definition.attribute(words::Comment), definition.attribute(connector)};
+    QStringList remarks{definition.attribute(words::Comment), definition.attribute(words::Connector)};
     remarks.removeAll(QString());
-    definition.setAttribute(words::Comment, remarks.join(QLatin1String(", ")));
-    definition.removeAttribute(connector);
+    tree->setAttribute(definition, words::Comment, remarks.join(QLatin1String(", ")));
+    tree->removeAttribute(definition, words::Connector);
 }
 
 void addInventorySettings(BKXMLEditor *document, const QDomElement &printSettings)
@@ -145,7 +138,7 @@ bool BKXMLEditor::convertToCurrentVersion(const std::function<bool()> &stepDone)
         {QStringLiteral("2.1"), &BKXMLEditor::convert21To22}, {QStringLiteral("2.2"), &BKXMLEditor::convert22To23},
         {QStringLiteral("2.3"), &BKXMLEditor::convert23To30},
     };
-    QDomElement root = m_document.firstChild().toElement();
+    QDomElement root = inside().tree().root();
     for (const ConversionStep &step : steps) {
         if (version() == step.from && !((this->*step.convert)(&root, &root) && stepDone()))
             return false;
@@ -155,32 +148,30 @@ bool BKXMLEditor::convertToCurrentVersion(const std::function<bool()> &stepDone)
 
 bool BKXMLEditor::convert11To14(QDomElement *root, QDomNode *rootNode)
 {
-    QDomElement contractor = root->firstChildElement(words::ContractorInfo);
-    if (!contractor.hasAttribute(words::Logo))
-        contractor.setAttribute(words::Logo, QLatin1String(""));
+    inside().tree().addAttribute(root->firstChildElement(words::ContractorInfo), words::Logo, QLatin1String(""));
     return convert12To14(root, rootNode);
 }
 
 bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, QStringLiteral("1.4"));
+    setVersion(&inside().tree(), *root, QStringLiteral("1.4"));
     // The unit became ten times as large.
-    replaceDefinitions(root->firstChildElement(words::TestDefList), 10.0);
+    replaceDefinitions(&inside().tree(), root->firstChildElement(words::TestDefList), 10.0);
     return true;
 }
 
 bool BKXMLEditor::convert13To14(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, QStringLiteral("1.4"));
+    setVersion(&inside().tree(), *root, QStringLiteral("1.4"));
     // Deliberately without the division: 1.3 has the later unit already.
-    replaceDefinitions(root->firstChildElement(words::TestDefList), 1.0);
+    replaceDefinitions(&inside().tree(), root->firstChildElement(words::TestDefList), 1.0);
     return true;
 }
 
 bool BKXMLEditor::convert14To21(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, QStringLiteral("2.1"));
-    ensureElement(words::TestDefList, *root);
+    setVersion(&inside().tree(), *root, QStringLiteral("2.1"));
+    inside().tree().ensure(words::TestDefList, *root);
     const QString coaxial = QStringLiteral("RG-59");
     addTestDef(newDefinition(coaxial, colorOfType(coaxial),
                              QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFFEEFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF"
@@ -191,16 +182,17 @@ bool BKXMLEditor::convert14To21(QDomElement *root, QDomNode *)
 
 bool BKXMLEditor::convert21To22(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, QStringLiteral("2.2"));
+    setVersion(&inside().tree(), *root, QStringLiteral("2.2"));
 
+    DocumentTree &tree = inside().tree();
     const QDomElement definitions = root->firstChildElement(words::TestDefList);
-    giveDefinitionsTheirOwnTags(definitions);
+    giveDefinitionsTheirOwnTags(&tree, definitions);
     for (const QDomElement &definition : ChildElements(definitions)) {
-        addColor(definition);
-        turnConnectorIntoComment(definition);
+        addColor(&tree, definition);
+        turnConnectorIntoComment(&tree, definition);
     }
 
-    ensureElement(words::BundledCableList, *root);
+    inside().tree().ensure(words::BundledCableList, *root);
     const QString audio = QStringLiteral("Audio");
     const QString cat5e = QStringLiteral("CAT5E");
     const QString rg6 = QStringLiteral("RG-6");
@@ -216,15 +208,15 @@ bool BKXMLEditor::convert21To22(QDomElement *root, QDomNode *)
 
 bool BKXMLEditor::convert22To23(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, QStringLiteral("2.3"));
+    setVersion(&inside().tree(), *root, QStringLiteral("2.3"));
     return true;
 }
 
 bool BKXMLEditor::convert23To30(QDomElement *root, QDomNode *)
 {
-    setVersion(*root, words::CurrentVersion);
+    setVersion(&inside().tree(), *root, words::CurrentVersion);
 
-    ensureElement(words::TestDefList, *root);
+    inside().tree().ensure(words::TestDefList, *root);
     // Cables with pairs 0 and 1 crossed, and those with all pairs crossed.
     const QString firstPairsCrossed =
         QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFF0001000203FFFFFFFFFFFFFFFFFFFFFFFFFF0FFFFFFFF"
@@ -239,16 +231,17 @@ bool BKXMLEditor::convert23To30(QDomElement *root, QDomNode *)
     addTestDef(newDefinition(QStringLiteral("CAT5E-XX"), QStringLiteral("#aa55ff"), allPairsCrossed));
     addTestDef(newDefinition(QStringLiteral("CAT6-XX"), QStringLiteral("#aaaaff"), allPairsCrossed));
 
-    QDomElement settings = getToPrintSettingsList();
-    QDomElement entry = settings.firstChildElement(networkDevicesSettings);
+    DocumentTree &tree = inside().tree();
+    const QDomElement settings = getToPrintSettingsList();
+    const QDomElement entry = settings.firstChildElement(words::NetworkDevicesSettings);
     if (entry.isNull()) {
         addInventorySettings(this, settings);
         return true;
     }
     for (QDomElement other = settings.firstChildElement(words::InventorySettings); !other.isNull();
          other = settings.firstChildElement(words::InventorySettings))
-        settings.removeChild(other);
-    entry.setTagName(words::InventorySettings);
+        tree.remove(other);
+    tree.setTagName(entry, words::InventorySettings);
     setPrintSettings(PrintSettings(), words::InventorySettings);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "bkteditor.h"
 
-#include "sharedattributes.h"
+#include "document.h"
+#include "documentattributes.h"
 #include "words.h"
 
 #include <QtCore/QFileInfo>
@@ -46,20 +47,20 @@ BktEditor::~BktEditor() = default;
 bool BktEditor::New(const QString &filename)
 {
     if (filename.isNull()) {
-        m_error = tr("Unable to create template with NULL filename");
+        error() = tr("Unable to create template with NULL filename");
         return false;
     }
-    if (!takeName(filename))
+    if (!inside().takeName(filename))
         return false;
-    m_document = QDomDocument(words::Bkt);
-
-    QDomElement root = appendElement(words::Bkt, m_document);
-    appendElement(words::Version, root).setAttribute(words::Number, words::CurrentVersion);
-    addInfo(words::ContractorInfo, contractorInfoAttributes(), root);
+    DocumentTree &tree = inside().tree();
+    tree.setDocument(QDomDocument(words::Bkt));
+    QDomElement root = tree.append(words::Bkt, tree.document());
+    tree.setAttribute(tree.append(words::Version, root), words::Number, words::CurrentVersion);
+    inside().addInfo(words::ContractorInfo, contractorInfoAttributes(), root);
     addSettingsList(&root);
-    appendElement(words::TestDefList, root);
-    appendElement(words::BundledCableList, root);
-    setDirty(false);
+    tree.append(words::TestDefList, root);
+    tree.append(words::BundledCableList, root);
+    tree.setChanged(false);
     return true;
 }
 
@@ -75,13 +76,14 @@ bool BktEditor::LoadWithoutSaving(const QString &filename)
 
 bool BktEditor::load(const QString &filename, const std::function<bool()> &stepDone)
 {
-    if (!readFile(filename, words::Bkt,
-                  {tr("Empty or null filename in BktEditor::Load"), tr("Bkt file %1 does not exist"),
-                   tr("Error parsing Bkt file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse Bkt file %1")}))
+    if (!inside().read(filename, words::Bkt,
+                       {tr("Empty or null filename in BktEditor::Load"), tr("Bkt file %1 does not exist"),
+                        tr("Error parsing Bkt file %1\n on line %2,\n column %3,\n%4"),
+                        tr("Unable to parse Bkt file %1")}))
         return false;
     if (!checkVersion(stepDone)) {
-        rejectFile();
-        m_error = QStringLiteral("Incompatible version of Bkt file");
+        inside().rejectFile();
+        inside().error = QStringLiteral("Incompatible version of Bkt file");
         return false;
     }
     setDirty(false);
@@ -90,36 +92,26 @@ bool BktEditor::load(const QString &filename, const std::function<bool()> &stepD
 
 bool BktEditor::save()
 {
-    return save(Replace::ExpectedFile);
+    return inside().save(words::BktExtension, attributeOrder(documentFileAttributes()), Document::Replace::ExpectedFile,
+                         tr("Filename is empty."));
 }
 
 bool BktEditor::saveAnyway()
 {
-    return save(Replace::AnyFile);
-}
-
-bool BktEditor::save(Replace replace)
-{
-    if (!namesAFile(m_filename, words::BktExtension)) {
-        m_error = tr("Filename is empty.");
-        return false;
-    }
-    if (refuseUnloaded() || !writeFile(m_filename, sharedAttributeOrder(), replace))
-        return false;
-    setDirty(false);
-    return true;
+    return inside().save(words::BktExtension, attributeOrder(documentFileAttributes()), Document::Replace::AnyFile,
+                         tr("Filename is empty."));
 }
 
 bool BktEditor::saveAs(const QString &filename)
 {
-    if (!namesAFile(filename, words::BktExtension)) {
-        m_error = tr("Unable to Save file (NULL)");
+    if (!Document::isSaveName(filename, words::BktExtension)) {
+        inside().error = tr("Unable to Save file (NULL)");
         return false;
     }
-    return writeFile(filename, sharedAttributeOrder(), Replace::AnyFile);
+    return inside().write(filename, attributeOrder(documentFileAttributes()), Document::Replace::AnyFile);
 }
 
 bool BktEditor::checkBktExtension(const QString &filename)
 {
-    return hasExtension(filename, words::BktExtension);
+    return Document::hasExtension(filename, words::BktExtension);
 }

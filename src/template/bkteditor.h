@@ -5,77 +5,103 @@
 
 class JobEditor;
 
-/// The template document: the one open template file of the process. It holds what new jobs start from: the
-/// contractor, the settings of reports and views, test definitions and bundles of cable types.
+/// The template document: the one open template file of the process. It holds what new jobs start from: the contractor,
+/// the settings of reports and views, test definitions and bundles of cable types.
 class CABLEDOC_EXPORT BktEditor : public BKXMLEditor
 {
     Q_OBJECT
     Q_DISABLE_COPY(BktEditor)
 
 public:
-    // The instance
+    /// @name The instance
+    /// @{
 
-    /// The template document of the process, created empty on the first call.
+    /// Returns the template document of the process. The first call creates it as an empty document.
     static BktEditor &Instance();
-    /// Deletes the instance, if there is one, with everything that was not saved.
+    /// Deletes the template document of the process, including all changes that are not saved. Does nothing if there is
+    /// none.
     static void Destroy();
+    /// @}
 
-    // Creating, loading and saving
+    /// @name Creating, loading and saving
+    /// These operations return true if they succeed. Otherwise they return false, and error() tells why.
+    /// @{
 
-    /// Replaces the document by a new template to be saved under that name: settings with their defaults, a
-    /// contractor without data, no definitions and no bundles. Nothing is written yet. False, with a text in
-    /// error(), for a null name; an empty one can be set later.
+    /// Replaces the document by a new template with the given file name. It has default settings, an empty contractor,
+    /// no test definitions and no bundles, and is not marked as changed. The file is not written yet. Fails for a null
+    /// name. An empty name is allowed: it can be set later.
     bool New(const QString &filename);
-    /// Replaces the document by the content of a file. An older file is brought to version 3.0 in steps, and
-    /// is rewritten after each of them. False, with a text in error(), when the name is empty, or the file
-    /// is missing, cannot be opened (the open template is as it was, under the new name), is no XML (the
-    /// document is empty), has a version that is not supported or cannot be rewritten (the file then holds
-    /// what the last completed step wrote).
+    /// Replaces the document by the content of the given file. An older template is converted to version 3.0 step by
+    /// step, and the file is saved after each step.
+    ///
+    /// Fails in these cases:
+    ///
+    /// - The name is empty. The document stays as it is.
+    /// - The file does not exist, is larger than maximumFileSize(), or cannot be opened. The document keeps its
+    ///   content, but has the new name.
+    /// - The file is not valid XML. The document is empty.
+    /// - The version of the file is not supported. The document holds the file as it was read.
+    /// - The file cannot be saved after a step. It then holds what the last complete step has written.
     bool Load(const QString &filename);
-    /// Does what Load() does, but leaves an older file as it is: only the document in memory is converted.
+    /// Loads a template like Load(), but does not save it: an older template is converted in memory only.
     bool LoadWithoutSaving(const QString &filename);
-    /// Writes the document to its file. Returns false, with a text in error(), if it has no name or no content, if the
-    /// last Load() failed (until New(), saveAs() or a Load() succeeds), if another program has changed the file since
-    /// it was read or written, or if the file cannot be written. The file is then as it was. A file that was taken away
-    /// is created again.
+    /// Writes the document to its file and clears the mark of a change. Creates the file again if it has been removed.
+    ///
+    /// Fails in these cases, in which the file stays as it is and the document stays marked as changed:
+    ///
+    /// - The document has no name or no content.
+    /// - The last Load() failed, and neither New(), saveAs() nor a Load() has succeeded since.
+    /// - Another program has changed the file since it was read or written. See saveAnyway().
+    /// - The file cannot be written.
     bool save();
-    /// Does what save() does, but replaces the file even if another program has changed it.
+    /// Writes the document to its file like save(), but replaces the file even if another program has changed it.
     bool saveAnyway();
-    /// Writes the document to another file. The document still belongs to its own file, which save() writes,
-    /// and counts as changed as it did before.
+    /// Writes the document to another file. Replaces an existing file. The document still belongs to its own file, and
+    /// stays marked as changed if it was.
     bool saveAs(const QString &filename);
 
-    /// Whether the document was changed since it was last created, loaded or saved.
+    /// Returns whether the document has been changed since it was last created, loaded or saved.
     using BKXMLEditor::fileChanged;
-    /// Whether the file name has the extension "bkt", in any case.
+    /// Returns whether the file name has the extension "bkt", in upper or lower case.
     static bool checkBktExtension(const QString &filename);
+    /// @}
 
-    /// Takes over the contractor of a job, and the test definitions and bundles that the template lacks. The
-    /// settings stay as they are.
+    /// @name Jobs
+    /// @{
+
+    /// Copies the contractor of a job to the template, and adds the test definitions and bundles that the template
+    /// lacks. The settings stay as they are. Does nothing for a null pointer.
     void Import(JobEditor *job);
+    /// @}
 
-    /// Brings the tree to version 3.0 and saves it after each step. Load() does it. False, with a text in
-    /// error(), when the tree is no template of a known version or cannot be saved.
+    /// @name Converting older files
+    /// @{
+
+    /// Converts the tree to version 3.0 and saves the file after each step. Load() calls this operation. Returns false,
+    /// with a text in error(), if the tree is not a template of a known version, or if a step cannot be saved.
     bool checkVersion();
-    /// Each takes the tree from one version to the next: sets the version, adds what the newer one brought where it is
-    /// missing, and returns true. Both arguments are the root. Nothing is saved.
+    /// Converts a tree of version 1.4 to version 2.1 and returns true. Both arguments are the root. Nothing is saved.
     using BKXMLEditor::convert14To21;
+    /// Converts a tree of version 2.1 to version 2.2 and returns true. Both arguments are the root. Nothing is saved.
     using BKXMLEditor::convert21To22;
+    /// Converts a tree of version 2.2 to version 2.3 and returns true. Both arguments are the root. Nothing is saved.
     using BKXMLEditor::convert22To23;
+    /// Converts a tree of version 2.3 to version 3.0 and returns true. Both arguments are the root. Nothing is saved.
     using BKXMLEditor::convert23To30;
+    /// @}
 
 protected:
-    /// An empty document.
+    /// Creates an empty document.
     BktEditor();
-    /// Loads the file when it exists, and otherwise makes a new template of that name. A file that cannot be
-    /// loaded ends the process with exit status -1.
+    /// Creates a document and loads the given file, or makes a new template with that name if the file does not exist.
+    /// Ends the process with exit status -1 if the file exists but cannot be loaded.
     explicit BktEditor(const QString &filename);
+    /// Destroys the document. Changes are not saved.
     ~BktEditor() override;
 
 private:
     bool load(const QString &filename, const std::function<bool()> &stepDone);
     bool checkVersion(const std::function<bool()> &stepDone);
-    bool save(Replace replace);
 
     static BktEditor *s_instance;
 };

@@ -1,5 +1,6 @@
 #include "bkteditor.h"
 
+#include "document.h"
 #include "messagetext.h"
 #include "words.h"
 
@@ -13,16 +14,16 @@ bool BktEditor::checkVersion()
 bool BktEditor::checkVersion(const std::function<bool()> &stepDone)
 {
     // The three texts are for developers: Load() puts its own in their place.
-    if (!m_document.hasChildNodes()) {
-        m_error = QStringLiteral("_doc has no child nodes in BktEditor::checkVersion");
+    if (!document().hasChildNodes()) {
+        inside().error = QStringLiteral("_doc has no child nodes in BktEditor::checkVersion");
         return false;
     }
     if (getDomNodeFirstChild().isNull()) {
-        m_error = QStringLiteral("there are no nodes below root node in _doc in BktEditor::checkVersion");
+        inside().error = QStringLiteral("there are no nodes below root node in _doc in BktEditor::checkVersion");
         return false;
     }
-    if (m_document.firstChild().nodeName() != words::Bkt || getElement(words::Version).isNull()) {
-        m_error = QStringLiteral("version Doesn't Exist in BktEditor::checkVersion");
+    if (document().firstChild().nodeName() != words::Bkt || getElement(words::Version).isNull()) {
+        inside().error = QStringLiteral("version Doesn't Exist in BktEditor::checkVersion");
         return false;
     }
     const QString found = version();
@@ -30,6 +31,6 @@ bool BktEditor::checkVersion(const std::function<bool()> &stepDone)
     if (convertToCurrentVersion([&] { return isSaved = stepDone(); }))
         return true;
     if (isSaved)
-        m_error = tr("%1 is a bad version number in BktEditor::checkVersion.").arg(excerpt(found));
+        inside().error = tr("%1 is a bad version number in BktEditor::checkVersion.").arg(excerpt(found));
     return false;
 }

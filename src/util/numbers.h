@@ -5,7 +5,8 @@
 
 namespace cabledoc {
 
-/// Returns the value without its fraction: the nearest int for a value beyond them, 0 for one that is not a number.
+/// Returns the value without its fraction. A value that is too large or too small gives the nearest int, and one that
+/// is not a number gives 0.
 inline int truncated(double value)
 {
     if (std::isnan(value))

@@ -7,10 +7,10 @@
 #include <QtGui/QColor>
 #include <QtXml/QDomDocument>
 
-/// What differs between the versions of Qt, in one place.
+/// Everything that differs between the versions of Qt.
 namespace cabledoc::qtcompat {
 
-/// Parses what the reader holds into the document. A null message: it succeeded.
+/// Parses the content of the reader into the document. The message of the result is null if this succeeds.
 inline XmlProblem setContent(QDomDocument *document, QXmlStreamReader *reader)
 {
     XmlProblem problem;
@@ -23,13 +23,13 @@ inline XmlProblem setContent(QDomDocument *document, QXmlStreamReader *reader)
     return problem;
 }
 
-/// How many bytes of memory a document needs for each byte of its file, as measured for cables without curves.
+/// Number of bytes of memory that a document needs for each byte of its file, as measured for cables without curves.
 constexpr double memoryOfAByte = QT_VERSION_MAJOR == 5 ? 30 : 42;
 
-/// The largest file whose text can be held.
+/// Size in bytes of the largest file whose text a string can hold.
 constexpr qint64 largestText = QT_VERSION_MAJOR == 5 ? (qint64(1) << 30) - 64 : qint64(1) << 40;
 
-/// Whether the text names a colour, without the warning that a QColor made of another text would print.
+/// Returns whether the text is the name of a colour. Unlike the constructor of QColor, this does not print a warning.
 inline bool isColorName(const QString &text)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 4, 0)
@@ -39,7 +39,7 @@ inline bool isColorName(const QString &text)
 #endif
 }
 
-/// The folder of Qt's own language files.
+/// Returns the folder of Qt's own language files.
 inline QString translationsFolder()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int lettersOfShortName = 3;
 
-// What stands for a name while the date formats the rest.
+// Placeholders for names while the date formats the other parts.
 constexpr QChar shortDay(1);
 constexpr QChar longDay(2);
 constexpr QChar shortMonth(3);
@@ -18,7 +18,7 @@ constexpr QChar longMonth(4);
 QString TranslatableDate::toString(const QString &format) const
 {
     QString rest = format;
-    // The long codes first: "dddd" is no "ddd" with a "d" behind it.
+    // The long codes come first, because "dddd" contains "ddd".
     rest.replace(QLatin1String("dddd"), longDay);
     rest.replace(QLatin1String("ddd"), shortDay);
     rest.replace(QLatin1String("MMMM"), longMonth);

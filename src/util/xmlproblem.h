@@ -4,12 +4,14 @@
 
 namespace cabledoc {
 
-/// Where and why a text cannot be taken as it is. A null message: nothing was found.
+/// Why and where a text cannot be read. The message is null if there is no problem.
 struct XmlProblem
 {
     QString message;
-    int line = 0;   ///< counted from 1
-    int column = 0; ///< counted from 1
+    /// Line, counted from 1.
+    int line = 0;
+    /// Column, counted from 1.
+    int column = 0;
 };
 
 } // namespace cabledoc

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Accepts any text, and lets the validator cut one that is longer than the limit.
+/// Accepts any text. Lets the validator cut a text that is longer than the limit.
 QValidator::State acceptedWithin(int limit, const QValidator &validator, QString *input)
 {
     if (input->size() > limit)
@@ -42,7 +42,7 @@ QValidator::State FileValidator::validate(QString &input, int &) const
         return Invalid;
     //: Further characters may be added behind these.
     const QString forbidden = tr(";<>|&?$*\"", "forbidden characters in field");
-    // As they stand, not escaped: a translation may give a range.
+    // Not escaped, because a translation may contain a range.
     const QRegularExpression anyForbidden(QLatin1Char('[') + forbidden + QLatin1Char(']'));
     return input.contains(anyForbidden) ? Invalid : Acceptable;
 }

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-// Q_INIT_RESOURCE works outside of namespaces only. Without it a program that links the objects from an archive
-// would leave out the pictures, since nothing else refers to them.
+// Q_INIT_RESOURCE works only outside of namespaces. Without it, a program that links the objects from an archive would
+// leave out the pictures, because nothing else refers to them.
 static void initPictures()
 {
     Q_INIT_RESOURCE(vocabulary);

@@ -8,24 +8,28 @@
 
 namespace cabledoc {
 
-/// Words that documents store and that a user interface offers for choice, each with a name in the user's
-/// language and a picture. A word is found only as it is stored; "tv" is not "TV".
+/// A vocabulary: words that documents store and that a user interface offers for choice. Each word has a name in the
+/// user's language and a picture.
+///
+/// A word is found only in the exact form in which it is stored: "tv" is not "TV".
 class CABLEDOC_EXPORT Vocabulary
 {
 public:
-    /// What ports are used for: "data", "voice", "TV" and so on.
+    /// Returns the vocabulary of what ports are used for: "data", "voice", "TV" and so on.
     static const Vocabulary &portUses();
-    /// What devices there are: "computer", "switch", "panel" and so on.
+    /// Returns the vocabulary of device types: "computer", "switch", "panel" and so on.
     static const Vocabulary &deviceTypes();
 
-    /// All words, in the order in which they are offered; the last is "other".
+    /// Returns all words in the order in which a user interface offers them. The last one is "other".
     QStringList words() const;
+    /// Returns whether the word is in the vocabulary.
     bool contains(const QString &word) const;
-    /// The translated name; the word itself when it is not in the vocabulary.
+    /// Returns the translated name of the word, or the word itself if it is not in the vocabulary.
     QString name(const QString &word) const;
-    /// The word's picture on a transparent square with sides of that many device pixels; the picture of "other"
-    /// when the word is not in the vocabulary. Null for a size below 1. It is drawn anew at each call, and the
-    /// program must have a QGuiApplication.
+    /// Returns the picture of the word on a transparent square with sides of size device pixels. Returns the picture of
+    /// "other" if the word is not in the vocabulary, and a null pixmap for a size below 1.
+    ///
+    /// The picture is drawn again with each call. The program must have a QGuiApplication.
     QPixmap pixmap(const QString &word, int size) const;
 
 private:
@@ -38,8 +42,10 @@ private:
     Vocabulary(const char *context, const QString &pictures, const QVector<Entry> &entries);
     const Entry *find(const QString &word) const;
 
-    const char *m_context; // of the names' translations
-    QString m_pictures;    // what the names of the picture files begin with
+    // Context of the translations of the names.
+    const char *m_context;
+    // First part of the names of the picture files.
+    QString m_pictures;
     QVector<Entry> m_entries;
 };
 

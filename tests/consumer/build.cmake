@@ -1,32 +1,61 @@
-# Installs the library into an empty folder, builds its clients against it and nothing else, and runs
-# them.
+# Installs cabledoc, moves the installed folder, and builds clients against it and nothing else. Then configures a
+# project that has cabledoc in a subfolder.
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
+set(flags "-Werror -Wall -Wextra")
+if(SANITIZERS)
+  string(APPEND flags " -fsanitize=${SANITIZERS}")
+endif()
 
+# run(COMMAND...): sets "output" to what the command prints.
 function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE error)
   if(NOT result EQUAL 0)
     string(JOIN " " command ${ARGN})
-    message(FATAL_ERROR "${command}: ${result}\n${output}")
+    message(FATAL_ERROR "${command}: ${result}\n${output}${error}")
   endif()
+  set(output ${output} PARENT_SCOPE)
 endfunction()
 
-# build(CLIENT FLAGS): builds the client in that folder.
-function(build client flags)
-  if(SANITIZERS)
-    string(APPEND flags " -fsanitize=${SANITIZERS}")
-  endif()
-  run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/${client} -B ${WORK_DIR}/${client} -G Ninja
-      -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=-Werror -Wall -Wextra ${flags}")
+function(configure project)
+  run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/${project} -B ${WORK_DIR}/${project} -G Ninja
+      -DCMAKE_CXX_COMPILER=${COMPILER} -DCABLEDOC_QT_MAJOR=${QT_MAJOR} ${ARGN})
+endfunction()
+
+function(build client)
+  configure(${client} -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=${flags}")
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/${client})
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
-build(tests/consumer/interface "")
-foreach(client tools/cabledoc examples/fields examples/office)
-  build(${client} "-DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII -DQT_NO_KEYWORDS")
-endforeach()
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
+file(RENAME ${WORK_DIR}/installed ${prefix})
+
+build(tests/consumer/interface)
 run(${WORK_DIR}/tests/consumer/interface/interface)
-run(${WORK_DIR}/tools/cabledoc/cabledoc new ${WORK_DIR}/site.job --floors 2)
+
+string(APPEND flags " -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII -DQT_NO_KEYWORDS")
+build(examples/fields)
+build(examples/office)
+build(tools/cabledoc)
+set(program ${WORK_DIR}/tools/cabledoc/cabledoc)
+run(${program} --version)
+if(NOT output STREQUAL "cabledoc ${VERSION}\n")
+  message(FATAL_ERROR "The program calls itself ${output}")
+endif()
+run(${program} new ${WORK_DIR}/site.job --floors 2)
 run(${WORK_DIR}/examples/office/office ${WORK_DIR}/site.job)
-run(${WORK_DIR}/tools/cabledoc/cabledoc info ${WORK_DIR}/site.job)
+run(${program} info ${WORK_DIR}/site.job)
+
+# The same example with pkg-config. Qt 5 asks for -fPIC.
+set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBRARY_FOLDER}/pkgconfig)
+run(${PKG_CONFIG} --cflags --libs cabledoc-qt${QT_MAJOR})
+separate_arguments(arguments UNIX_COMMAND "${flags} -fPIC -std=c++17 ${output}")
+run(${COMPILER} ${SOURCE_DIR}/examples/office/main.cpp -o ${WORK_DIR}/office ${arguments}
+    -Wl,-rpath,${prefix}/${LIBRARY_FOLDER})
+run(${WORK_DIR}/office ${WORK_DIR}/site.job)
+
+# The client of that project is the example again. Only its syntax is checked, since building the library takes long.
+configure(tests/consumer/parent -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
+file(READ ${WORK_DIR}/tests/consumer/parent/compile_commands.json commands)
+string(JSON command GET ${commands} 0 command)
+run(sh -c "${command} -fsyntax-only")

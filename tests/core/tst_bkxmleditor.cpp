@@ -13,7 +13,7 @@ public:
     explicit OpenEditor(const QString &content = QString())
         : BKXMLEditor("Test")
     {
-        m_document.setContent(content);
+        document().setContent(content);
     }
     OpenEditor(OpenEditor &) = default;
     OpenEditor &operator=(const OpenEditor &) = default;
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(copy.error(), QString("failure"));
         QVERIFY(!copy.fileChanged());
         QDomElement shared = copy.getElement("a");
-        OpenEditor::setElementId("2", shared);
+        copy.setElementId("2", shared);
         QCOMPARE(OpenEditor::getElementId(original.getElement("a")), QString("2"));
 
         OpenEditor clean;
@@ -104,15 +104,15 @@ private Q_SLOTS:
 
     void writesOnlyAttributesThatExist()
     {
-        const OpenEditor editor("<r><a x='1'/></r>");
+        OpenEditor editor("<r><a x='1'/></r>");
         QDomElement element = editor.getElement("a");
-        OpenEditor::setElementId("new", element);
+        editor.setElementId("new", element);
         QVERIFY(!element.hasAttribute("id"));
         QVERIFY(OpenEditor::getElementId(element).isNull());
-        OpenEditor::setChildAttr("x", "2", element);
+        editor.setChildAttr("x", "2", element);
         QCOMPARE(OpenEditor::getChildAttr("x", element), QString("2"));
         QDomElement none;
-        OpenEditor::setChildAttr("x", "2", none);
+        editor.setChildAttr("x", "2", none);
         QVERIFY(none.isNull());
     }
 

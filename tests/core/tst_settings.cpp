@@ -13,7 +13,7 @@ public:
     SettingsEditor()
         : BKXMLEditor("Test")
     {
-        QDomElement root = appendElement("Test", m_document);
+        QDomElement root = document().appendChild(document().createElement("Test")).toElement();
         addSettingsList(&root);
         setDirty(false);
     }
@@ -22,8 +22,8 @@ public:
     using BKXMLEditor::getToPrintSettingsList;
     using BKXMLEditor::setDirty;
 
-    QString text() const { return m_document.toString(); }
-    void clear() { m_document.clear(); }
+    QString text() const { return document().toString(); }
+    void clear() { document().removeChild(document().documentElement()); }
     QDomElement printEntry(const QString &name) const { return getToPrintSettingsList().firstChildElement(name); }
 };
 

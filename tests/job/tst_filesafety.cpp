@@ -141,7 +141,7 @@ private Q_SLOTS:
             document.editor.error().clear();
             QVERIFY(!document.save() && !document.saveAnyway());
             QCOMPARE(document.editor.error(),
-                     BKXMLEditor::tr("The file could not be loaded. It is not replaced; save under another name."));
+                     BKXMLEditor::tr("The file could not be loaded, so it is not replaced. Save under another name."));
             QVERIFY(!document.load(QString()));
             QVERIFY(!document.save());
             QCOMPARE(isFile ? readFile(other) : QByteArray(), before);
@@ -192,7 +192,7 @@ private Q_SLOTS:
                 if (!isSaved) {
                     QCOMPARE(document.editor.error(),
                              QCoreApplication::translate("XmlFile", "Another program has changed the file since it was "
-                                                                    "read. It is left as it is."));
+                                                                    "read. It is not replaced."));
                     QCOMPARE(readFile(name), before);
                     QVERIFY(document.saveAnyway());
                 }
@@ -240,7 +240,7 @@ private Q_SLOTS:
         for (const QString &target : {name, path("./../" + QDir(m_directory->path()).dirName() + "/site.bkt"),
                                       path("link.bkt"), path("hardlink.bkt")}) {
             QVERIFY2(!job.Export(target), qPrintable(target));
-            QCOMPARE(job.error(), JobEditor::tr("This is the file of the job itself. A template needs another name."));
+            QCOMPARE(job.error(), JobEditor::tr("This is the job's own file. Choose another name for the template."));
             QCOMPARE(readFile(target), before);
         }
         QVERIFY(job.Export(path("other.bkt")));
@@ -282,7 +282,7 @@ private Q_SLOTS:
             QVERIFY(!QFile::exists(name) && readFile(path(name)).contains("Zoe"));
             const QString withNul = QString("x") + QChar(0) + ".job";
             QVERIFY(!document.saveAs(withNul) && !document.load(withNul));
-            QCOMPARE(document.editor.error(), BKXMLEditor::tr("The file name holds a NUL character."));
+            QCOMPARE(document.editor.error(), BKXMLEditor::tr("The file name contains a NUL character."));
             QVERIFY(!QFile::exists("x"));
         });
     }

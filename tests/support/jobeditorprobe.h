@@ -1,8 +1,6 @@
 #pragma once
 
-#include "jobattributes.h"
-#include "jobeditor.h"
-#include "jobindex.h"
+#include "jobeditor_p.h"
 #include "testfiles.h"
 
 #include <QtCore/QHash>
@@ -13,36 +11,24 @@ class JobEditorProbe
 {
 public:
     explicit JobEditorProbe(JobEditor &job)
-        : m_job(job)
+        : m_inside(cabledoc::JobEditorPrivate::of(job))
     {
     }
 
     /// The document as it would be saved.
     cabledoc::xmlfile::Text savedText() const
     {
-        return cabledoc::xmlfile::toText(m_job.m_document, cabledoc::jobAttributeOrder());
+        return cabledoc::xmlfile::toText(m_inside.tree.document(), cabledoc::jobAttributeOrder());
     }
     QByteArray text() const { return savedText().bytes; }
-    QDomElement root() const { return m_job.m_document.documentElement(); }
+    QDomElement root() const { return m_inside.tree.document().documentElement(); }
     QStringList floorsInBetween(const QString &tagA, const QString &tagB) const
     {
-        return m_job.getFloorsInBetween(tagA, tagB);
+        return m_inside.floorsBetween(tagA, tagB);
     }
 
-    /// Whether the indexes equal what a rebuild makes of the tree. They are left as they are, not rebuilt.
-    bool indexesMatchTheTree() const
-    {
-        // These are made when they are asked for.
-        m_job.getCables(true);
-        m_job.getCablesByType(QString());
-        m_job.m_index->allReferences(root());
-        const cabledoc::JobIndex kept = *m_job.m_index;
-        m_job.updateAllInternalLists();
-        m_job.m_index->allReferences(root());
-        const bool match = kept == *m_job.m_index;
-        *m_job.m_index = kept;
-        return match;
-    }
+    /// Returns whether the index equals what a rebuild makes of the tree.
+    bool indexesMatchTheTree() const { return m_inside.tree.index().matchesTree(); }
 
     /// What elements name that is not there, as "Cable1: Port7".
     QStringList danglingReferences() const
@@ -90,5 +76,5 @@ public:
     }
 
 private:
-    JobEditor &m_job;
+    cabledoc::JobEditorPrivate &m_inside;
 };

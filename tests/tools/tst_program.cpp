@@ -3,25 +3,26 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
-/// The program as a person or a script runs it.
+/// Runs the program as a person or a script does.
 class ProgramTest : public QObject
 {
     Q_OBJECT
 
 private:
-    /// What the command prints in that folder: the data, the messages behind "! ", and the exit code if not 0.
+    /// Runs the command in the folder. Returns the data that it prints, its messages after "! ", and its exit code if
+    /// that is not 0.
     static QString printedBy(const QString &command, const QString &folder)
     {
         QProcess shell;
         shell.setWorkingDirectory(folder);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
-        environment.insert("LANGUAGE", "en"); // whatever language the rest of the test has
+        environment.insert("LANGUAGE", "en"); // the cases are in English
         shell.setProcessEnvironment(environment);
         shell.start("sh", {"-c", command});
         constexpr int patience = 120000; // milliseconds, for a busy machine and sanitizers
         if (!shell.waitForFinished(patience) || shell.exitStatus() != QProcess::NormalExit)
-            return "no end";
+            return "does not end";
         QString printed = shell.readAllStandardOutput();
         const QStringList messages = QString(shell.readAllStandardError()).split('\n');
         for (const QString &message : messages.mid(0, messages.size() - 1))

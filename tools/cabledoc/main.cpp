@@ -1,89 +1,79 @@
-#include "command.h"
+#include "commandline.h"
+#include "documents.h"
+#include "help.h"
+#include "output.h"
 
 #include <cabledoc/translations.h>
+#include <cabledoc/version.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QMap>
 
+#include <algorithm>
 #include <csignal>
+#include <cstdio>
 
 namespace {
 
-QString usage()
+QStringList nameOf(const Command &command)
 {
-    return QCoreApplication::translate(
-        "main", "Usage: cabledoc COMMAND ...\n"
-                "\n"
-                "Commands:\n"
-                "  new FILE.job [--floors N]             make a new job file\n"
-                "  info FILE.job [--json]                show what a job file holds\n"
-                "  cables FILE.job [--metric] [--json]   list the cables with their tests\n"
-                "  check FILE [--json]                   report what is wrong with a job or template file\n"
-                "  convert FILE -o NEW                   bring an older job or template file up to date\n"
-                "  import FILE.job --template FILE.bkt [--missing-only]\n"
-                "                                        let a job take over what a template holds\n"
-                "  export FILE.job -o NEW.bkt            make a template of a job\n"
-                "  schedule import FILE.job FILE.csv [--dry-run] [--json]\n"
-                "                                        bring a job up to a cable schedule\n"
-                "  schedule export FILE.job              print the cable schedule of a job\n"
-                "\n"
-                "Commands that read files take --max-size SIZE.\n"
-                "\"cabledoc COMMAND --help\" tells more. Also: cabledoc --help, cabledoc --version.\n"
-                "\n"
-                "Exit codes:\n"
-                "  0  all was done\n"
-                "  1  \"check\" found something wrong\n"
-                "  2  wrong command line\n"
-                "  3  a file could not be loaded\n"
-                "  4  a file could not be saved\n"
-                "  5  all was done, but standard output could not be written\n");
+    return QString::fromLatin1(command.name).split(QLatin1Char(' '));
 }
 
-ExitCode run(QStringList arguments)
+bool isHelp(const QString &word)
 {
-    if (arguments.size() < 2) {
-        printMessage(QCoreApplication::translate("main", "a command is needed"));
-        printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
-        return WrongUsage;
-    }
-    QString command = arguments.takeAt(1);
-    if (command == QLatin1String("schedule") && arguments.size() > 1)
-        command += QLatin1Char(' ') + arguments.takeAt(1);
-    if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
-        return printData(usage().toLocal8Bit());
-    }
-    if (command == QLatin1String("--version")) {
-        return printData("cabledoc " CABLEDOC_VERSION "\n");
-    }
-    const QMap<QString, ExitCode (*)(const QStringList &)> commands{
-        {QStringLiteral("cables"), runCables},
-        {QStringLiteral("check"), runCheck},
-        {QStringLiteral("convert"), runConvert},
-        {QStringLiteral("export"), runExport},
-        {QStringLiteral("import"), runImport},
-        {QStringLiteral("info"), runInfo},
-        {QStringLiteral("new"), runNew},
-        {QStringLiteral("schedule export"), runScheduleExport},
-        {QStringLiteral("schedule import"), runScheduleImport},
-    };
-    if (commands.contains(command))
-        return commands.value(command)(arguments);
-    printMessage(QCoreApplication::translate("main", "there is no command \"%1\"").arg(command));
-    printMessage(QCoreApplication::translate("main", "\"cabledoc --help\" lists the commands"));
+    return word == QLatin1String("--help") || word == QLatin1String("-h");
+}
+
+/// Runs the program when its words do not begin with the name of a command: shows help or the version, or reports
+/// wrong usage.
+ExitCode runWithoutCommand(const QStringList &words)
+{
+    const QString first = words.value(0);
+    if (isHelp(first))
+        return printText(programHelp());
+    if (first == QLatin1String("--version"))
+        return printData("cabledoc " CABLEDOC_VERSION_STR "\n");
+
+    // "schedule" is the first word of several commands.
+    const QString group = first.isEmpty() ? QString() : commandList(first);
+    if (!group.isEmpty() && isHelp(words.value(1)))
+        return printText(group);
+    printMessage(words.isEmpty() ? Program::tr("a command is needed")
+                                 : Program::tr("there is no command \"%1\"")
+                                       .arg(words.mid(0, group.isEmpty() ? 1 : 2).join(QLatin1Char(' '))));
+    std::fprintf(stderr, "\n%s", qPrintable(group.isEmpty() ? commandList() : group));
     return WrongUsage;
+}
+
+ExitCode run(const QStringList &words)
+{
+    const auto command = std::find_if(commands().cbegin(), commands().cend(), [&words](const Command &candidate) {
+        const QStringList name = nameOf(candidate);
+        return words.mid(0, name.size()) == name;
+    });
+    if (command == commands().cend())
+        return runWithoutCommand(words);
+
+    CommandLine line(*command);
+    const QString problem = line.parse(words.mid(nameOf(*command).size()));
+    if (!problem.isEmpty())
+        return line.usageError(problem);
+    if (line.isSet("help"))
+        return printText(commandHelp(*command));
+    setUpDocuments(line.maximumSize());
+    return command->run(line);
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    // A write beyond the file-size limit shall fail with a message, not end the program.
+    // A write beyond the limit of file sizes shall fail with a message. Without this it ends the program.
     std::signal(SIGXFSZ, SIG_IGN);
-    // The library's debug lines are for its developers.
+    // The debug messages of the library are for its developers.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
     cabledoc::installTranslations(QLocale::system());
-    return run(QCoreApplication::arguments());
+    return run(QCoreApplication::arguments().mid(1));
 }

@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <QtCore/QJsonObject>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include <algorithm>
@@ -21,27 +22,39 @@ bool isNumeric(const QVector<QStringList> &rows, int column)
     return isClean && isFilled;
 }
 
+/// Returns the cells of the table, with the headings in the first row.
+QVector<QStringList> cellsOf(const QJsonArray &objects, const QVector<Column> &columns)
+{
+    QStringList headings;
+    for (const Column &column : columns)
+        headings.append(column.heading);
+    QVector<QStringList> rows{headings};
+    for (const QJsonValue object : objects) {
+        QStringList row;
+        for (const Column &column : columns)
+            row.append(object.toObject().value(QLatin1String(column.key)).toVariant().toString().simplified());
+        rows.append(row);
+    }
+    return rows;
+}
+
 } // namespace
 
-QString formatTable(const QVector<QStringList> &rows)
+QString tableOf(const QJsonArray &objects, const QVector<Column> &columns)
 {
-    QVector<QStringList> cells = rows;
-    for (QStringList &row : cells) {
-        for (QString &cell : row)
-            cell = cell.simplified();
-    }
-    QVector<int> widths(int(cells.constFirst().size()), 0);
-    QVector<bool> numeric(widths.size(), false);
-    for (int column = 0; column < widths.size(); ++column) {
-        for (const QStringList &row : std::as_const(cells))
+    const QVector<QStringList> rows = cellsOf(objects, columns);
+    QVector<int> widths(columns.size(), 0);
+    QVector<bool> numeric(columns.size(), false);
+    for (int column = 0; column < columns.size(); ++column) {
+        for (const QStringList &row : rows)
             widths[column] = std::max(widths[column], int(row.at(column).size()));
-        numeric[column] = isNumeric(cells, column);
+        numeric[column] = isNumeric(rows, column);
     }
 
     QString text;
-    for (const QStringList &row : std::as_const(cells)) {
+    for (const QStringList &row : rows) {
         QString line;
-        for (int column = 0; column < widths.size(); ++column) {
+        for (int column = 0; column < columns.size(); ++column) {
             const QString &cell = row.at(column);
             line += numeric.at(column) ? cell.rightJustified(widths.at(column)) : cell.leftJustified(widths.at(column));
             line += QLatin1String("  ");
@@ -51,19 +64,4 @@ QString formatTable(const QVector<QStringList> &rows)
         text += line + QLatin1Char('\n');
     }
     return text;
-}
-
-QString tableOf(const QJsonArray &objects, const QVector<Column> &columns)
-{
-    QStringList headings;
-    for (const Column &column : columns)
-        headings.append(column.heading);
-    QVector<QStringList> rows{headings};
-    for (const QJsonValue object : objects) {
-        QStringList row;
-        for (const Column &column : columns)
-            row.append(object.toObject().value(column.key).toVariant().toString());
-        rows.append(row);
-    }
-    return formatTable(rows);
 }

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <QtCore/QJsonArray>
-#include <QtCore/QStringList>
+#include <QtCore/QString>
 #include <QtCore/QVector>
 
-/// The rows as lines of text, the columns aligned and two blanks apart. The first row is the heading.
-/// Columns of numbers stand to the right. Line breaks in a cell become blanks.
-QString formatTable(const QVector<QStringList> &rows);
-
-/// A key of JSON objects and the heading of its column.
+/// The key of a value in JSON objects, and the heading of its column.
 struct Column
 {
-    QString key;
+    const char *key;
     QString heading;
 };
 
-/// The same of an array of objects, one row each.
+/// Returns the objects as lines of text: the headings, and one row for each object. Columns are aligned and two blanks
+/// apart. Columns of numbers are aligned to the right. Line breaks in a value become blanks.
 QString tableOf(const QJsonArray &objects, const QVector<Column> &columns);

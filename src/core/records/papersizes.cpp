@@ -11,12 +11,13 @@ namespace {
 struct PaperSize
 {
     QString name;
-    double width; // inches, portrait
+    double width; // inches, in portrait
     double height;
 };
 
-/// In the order in which they are offered. The dimensions are constants of the file format and are not
-/// computed from the millimetres: A4 is 8.26 wide where A5, of the same 210 mm, is 8.267 high.
+/// Returns all paper sizes in the order in which a user interface offers them. The dimensions are constants of the file
+/// format and are not computed from the millimetres: 210 mm are 8.26 inches in the width of A4, but 8.267 inches in the
+/// height of A5.
 const QVector<PaperSize> &paperSizeTable()
 {
     static const QVector<PaperSize> table{

@@ -5,14 +5,14 @@
 
 namespace cabledoc {
 
-/// Returns the names of all paper sizes in the order in which they are offered.
+/// Returns the names of all paper sizes in the order in which a user interface offers them.
 QStringList paperSizeNames();
 
-/// Returns width and height in inches of the paper with the given name, in portrait (orientation 0) or landscape (1).
-/// Returns noDimensions() for any other name or orientation.
+/// Returns the width and height in inches of the paper with the given name, in portrait (orientation 0) or landscape
+/// (1). Returns noDimensions() for any other name or orientation.
 QSizeF paperDimensions(const QString &name, int orientation);
 
-/// Returns -1.0 by -1.0, which stands for the size of a paper that is not known.
+/// Returns -1.0 by -1.0, which stands for an unknown size.
 QSizeF noDimensions();
 
 } // namespace cabledoc

@@ -4,7 +4,7 @@
 
 namespace cabledoc {
 
-/// Returns the names of the predefined scales, English ones first.
+/// Returns the names of the predefined scales. The English ones come first.
 QStringList predefinedScaleNames();
 
 /// Returns the factor of the predefined scale with the given name, or 10 if there is none.

@@ -11,15 +11,15 @@ using namespace cabledoc;
 namespace {
 
 constexpr int pairCount = 4;
-constexpr int mappingOfFirstPair = 1; // in wire_map
-constexpr int careOfFirstPair = 5;    // in wire_map
+constexpr int mappingOfFirstPair = 1; // place in wire_map
+constexpr int careOfFirstPair = 5;    // place in wire_map
 
 bool isPair(int pair)
 {
     return pair >= 0 && pair < pairCount;
 }
 
-/// The conditions that the rules of a definition are made of.
+/// The conditions in the rules of a definition.
 class Conditions
 {
 public:
@@ -46,12 +46,13 @@ public:
         return false;
     }
 
-    /// Straight, or pairs 0 and 1 crossed, or those and pairs 2 and 3 crossed.
+    /// Returns whether all pairs are straight, or pairs 0 and 1 are crossed, or these and also pairs 2 and 3 are
+    /// crossed.
     bool allPairsWired() const
     {
         return firstPairsWired() && (isWired(2, 2, 3) || (!isWired(0, 0, 1) && isWired(2, 3, 2)));
     }
-    /// Pairs 0 and 1 straight or crossed.
+    /// Returns whether pairs 0 and 1 are straight or crossed.
     bool firstPairsWired() const { return isWired(0, 0, 1) || isWired(0, 1, 0); }
 
     bool lengthConstantInRange() const
@@ -76,7 +77,7 @@ public:
     }
 
 private:
-    /// Whether a pair and the next are wired to these far-end pairs.
+    /// Returns whether a pair and the next one are wired to the given far-end pairs.
     bool isWired(int pair, int far, int nextFar) const
     {
         return m_definition.getPairTo(pair) == far && m_definition.getPairTo(pair + 1) == nextFar;
@@ -162,7 +163,7 @@ void TestDef::setPairCare(int pair, int side, int code)
     codes = quint8(kept | (code << (4 * side)));
 }
 
-// The messages differ in small things from rule to rule. Translations are keyed on them as they stand.
+// The messages differ in details from rule to rule. They must stay as they are, because translations are keyed on them.
 QString TestDef::validDef() const
 {
     const Conditions is(*this);
@@ -226,9 +227,9 @@ QString TestDef::validDef() const
         return tr("Can't map 2 pairs on near end to\nsame pair on far end.");
     if (!qtcompat::isColorName(color()))
         return tr("Invalid color.");
-    // A warning only: it counts when nothing is wrong.
+    // This is a warning only. It is reported if nothing is wrong.
     if (m_fields.maxLength == -1.0F || m_fields.maxLength > 330.0F)
         return tr("SNR and BERT tests may fail with\ncable length greater than 330ft (100m).");
-    // Not translated: callers compare it.
+    // Not translated, because callers compare it.
     return QStringLiteral("GOOD");
 }

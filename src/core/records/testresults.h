@@ -8,71 +8,104 @@
 
 namespace cabledoc {
 
+/// The fields of a TestResults.
 struct TestResultsFields
 {
+    /// Time of the test.
     QString time;
-    QString softwareVersion; ///< of the tester
-    QString serialNumber;    ///< of the tester
+    /// Software version of the tester.
+    QString softwareVersion;
+    /// Serial number of the tester.
+    QString serialNumber;
+    /// Result of the test, such as "UNTESTED".
     QString status = QStringLiteral("UNTESTED");
-    int bertErrors = -1; ///< bit errors counted; -1 when they were not
+    /// Number of bit errors, or -1 if they were not counted.
+    int bertErrors = -1;
+    /// Wire map and measurements of the pairs.
     cable_struct results = cable_struct::untested();
+    /// Curve of the near-end crosstalk.
     TRUEPHY_PLOT_DATA next = {};
+    /// Curve of the echo.
     TRUEPHY_PLOT_DATA echo = {};
+    /// Curve of the channel.
     TRUEPHY_PLOT_DATA channel = {};
-
-    auto members() const
-    {
-        const auto &[when, version, serial, verdict, errors, block, nextCurve, echoCurve, channelCurve] = *this;
-        return std::tie(when, version, serial, verdict, errors, block, nextCurve, echoCurve, channelCurve);
-    }
 };
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const TestResultsFields &fields)
+{
+    const auto &[time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel] = fields;
+    return std::tie(time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel);
+}
 
 } // namespace cabledoc
 
-/// The results of one test of a cable. A record of some 10 KB. See Record for copying and comparing.
+/// The results of one test of a cable.
+///
+/// A record takes about 10 KB of memory. See cabledoc::Record for how records are copied and compared.
 class CABLEDOC_EXPORT TestResults : public cabledoc::Record<cabledoc::TestResultsFields>
 {
     Q_OBJECT
 
 public:
-    /// An untested cable.
+    /// Creates the results of an untested cable: status "UNTESTED", -1 bit errors, an untested block and empty curves.
     TestResults() = default;
+    /// Creates results with the given fields.
     explicit TestResults(const Fields &fields);
-    /// Time and software version end up empty, whatever is given: callers rely on it.
+    /// Creates results with the given status, block and number of bit errors. The time and the software version are
+    /// empty, whatever is given as the time: callers rely on this. The curves are empty.
     TestResults(const QString &time, const QString &status, const cable_struct &results, int bertErrors);
-    /// The status comes second. The curves are empty.
+    /// Creates results with empty curves. Note that the status is the second argument.
     TestResults(const QString &time, const QString &status, const QString &softwareVersion, const QString &serialNumber,
                 const cable_struct &results, int bertErrors);
-    /// All fields in their order.
+    /// Creates results from their parts, in the order of the fields.
     TestResults(const QString &time, const QString &softwareVersion, const QString &serialNumber, const QString &status,
                 int bertErrors, const cable_struct &results, const TRUEPHY_PLOT_DATA &next,
                 const TRUEPHY_PLOT_DATA &echo, const TRUEPHY_PLOT_DATA &channel);
 
+    /// Returns the time of the test.
     const QString &time() const { return m_fields.time; }
+    /// Sets the time of the test.
     void setTime(const QString &time) { m_fields.time = time; }
+    /// Returns the software version of the tester.
     const QString &softwareVersion() const { return m_fields.softwareVersion; }
+    /// Sets the software version of the tester.
     void setSoftwareVersion(const QString &version) { m_fields.softwareVersion = version; }
+    /// Returns the serial number of the tester.
     const QString &serialNumber() const { return m_fields.serialNumber; }
+    /// Sets the serial number of the tester.
     void setSerialNumber(const QString &serialNumber) { m_fields.serialNumber = serialNumber; }
+    /// Returns the status of the test, such as "UNTESTED".
     const QString &status() const { return m_fields.status; }
+    /// Sets the status of the test.
     void setStatus(const QString &status) { m_fields.status = status; }
+    /// Returns the number of bit errors, or -1 if they were not counted.
     int BERTResults() const { return m_fields.bertErrors; }
+    /// Sets the number of bit errors. -1 means that they were not counted.
     void setBERTResults(int errors) { m_fields.bertErrors = errors; }
-    /// The results block, which can be written through.
+    /// Returns a reference to the block of measurements, through which it can be changed.
     cable_struct &results() { return m_fields.results; }
+    /// Returns the block of measurements.
     const cable_struct &results() const { return m_fields.results; }
+    /// Sets the block of measurements.
     void setResults(const cable_struct &results) { m_fields.results = results; }
+    /// Returns the curve of the near-end crosstalk.
     TRUEPHY_PLOT_DATA next() const { return m_fields.next; }
+    /// Sets the curve of the near-end crosstalk.
     void setNEXT(const TRUEPHY_PLOT_DATA &curve) { m_fields.next = curve; }
+    /// Returns the curve of the echo.
     TRUEPHY_PLOT_DATA echo() const { return m_fields.echo; }
+    /// Sets the curve of the echo.
     void setEcho(const TRUEPHY_PLOT_DATA &curve) { m_fields.echo = curve; }
+    /// Returns the curve of the channel.
     TRUEPHY_PLOT_DATA channel() const { return m_fields.channel; }
+    /// Sets the curve of the channel.
     void setChannel(const TRUEPHY_PLOT_DATA &curve) { m_fields.channel = curve; }
 
-    /// Gives the results block its untested contents.
+    /// Replaces the block of measurements by that of an untested cable.
     void initializeCableStruct();
-    /// Empties the three curves; their headers stay.
+    /// Sets all samples and counts of the three curves to 0. The headers of the curves stay as they are.
     void initializeResponsePlotData();
-    /// The shortest pair length reading that is above 0 and below 60000; -1 when there is none.
+    /// Returns the shortest length reading of all pairs that is above 0 and below 60000, or -1 if there is none.
     int cableLength() const;
 };

@@ -12,70 +12,81 @@
 
 namespace cabledoc {
 
-/// What reading a whole record does about an attribute that the element lacks.
+/// What the reader of a whole record does if the element lacks an attribute.
 enum class WhenMissing {
-    UseDefault, ///< the record has the default, the element stays as it is
-    AddDefault, ///< the element gets the default too: this brings older files up to date
+    /// The record gets the default. The element stays as it is.
+    UseDefault,
+    /// The element gets the default too. This brings older files up to date.
+    AddDefault,
 };
 
-/// One attribute of a kind of element.
-template <typename Fields> struct Attribute
+/// One attribute of a kind of element. The functions take a pointer to the fields of the record.
+struct AttributeRow
 {
     QString name;
-    QString defaultText; ///< what stands for a missing attribute
+    /// Text that counts if the attribute is missing.
+    QString defaultText;
     WhenMissing whenMissing;
-    QString (*text)(const Fields &);          ///< null when writing a record leaves the attribute alone
-    void (*parse)(const QString &, Fields *); ///< null when reading a record does
-    bool (*isValid)(const QString &);         ///< whether the field can hold the number that the text says
+    QString (*text)(const void *fields);              ///< null if writing a record leaves the attribute alone
+    void (*parse)(const QString &text, void *fields); ///< null if reading a record leaves the field alone
+    bool (*isValid)(const QString &text);             ///< whether the field can hold the number in the text
+};
+
+/// The same for records with these fields.
+template <typename Fields> struct Attribute : AttributeRow
+{
 };
 
 template <typename Fields, typename Value> Fields fieldsOf(Value Fields::*);
-
 template <typename Fields, typename Value> const Value *pointerTo(Value Fields::*);
 
-/// Whether the field of the record can hold the number that the text says.
+/// Returns the field of the record that the pointer leads to.
+template <auto Field, typename Fields> const auto &fieldIn(const void *fields)
+{
+    return static_cast<const Fields *>(fields)->*Field;
+}
+template <auto Field, typename Fields> auto &fieldIn(void *fields)
+{
+    return static_cast<Fields *>(fields)->*Field;
+}
+
+/// Returns whether the field of the record can hold the number in the text.
 template <auto Field> bool holdsNumber(const QString &text)
 {
     return holdsNumber(text, decltype(pointerTo(Field))(nullptr));
 }
 
-/// The attribute that holds a field of the record; its default is the field's.
-template <auto Field> auto attribute(const QString &name, WhenMissing whenMissing = WhenMissing::UseDefault)
+/// The attribute that holds a field of the record. Its default is that of the field. Fields may be derived from the
+/// struct that has the field.
+template <auto Field, typename Fields = decltype(fieldsOf(Field))>
+Attribute<Fields> attribute(const QString &name, WhenMissing whenMissing = WhenMissing::UseDefault)
 {
-    using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name,
-                             toText(Fields().*Field),
-                             whenMissing,
-                             [](const Fields &fields) { return toText(fields.*Field); },
-                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); },
-                             holdsNumber<Field>};
+    return {{name, toText(Fields().*Field), whenMissing,
+             [](const void *fields) { return toText(fieldIn<Field, Fields>(fields)); },
+             [](const QString &text, void *fields) { fromText(text, &fieldIn<Field, Fields>(fields)); },
+             holdsNumber<Field>}};
 }
 
-/// The same for a number that loses its fraction when it is written.
-template <auto Field> auto truncatedNumber(const QString &name)
+/// The attribute that holds a number, which loses its fraction when it is written.
+template <auto Field, typename Fields = decltype(fieldsOf(Field))>
+Attribute<Fields> truncatedNumber(const QString &name)
 {
-    using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name,
-                             toText(truncated(double(Fields().*Field))),
-                             WhenMissing::UseDefault,
-                             [](const Fields &fields) { return toText(truncated(double(fields.*Field))); },
-                             [](const QString &text, Fields *fields) { fromText(text, &(fields->*Field)); },
-                             holdsNumber<Field>};
+    Attribute<Fields> row = attribute<Field>(name);
+    row.defaultText = toText(truncated(double(Fields().*Field)));
+    row.text = [](const void *fields) { return toText(truncated(double(fieldIn<Field, Fields>(fields)))); };
+    return row;
 }
 
-/// The same for a field that is a double in the record and a whole number in the file.
-template <auto Field> auto wholeNumber(const QString &name)
+/// The attribute that holds a field which is a double in the record and a whole number in the file.
+template <auto Field, typename Fields = decltype(fieldsOf(Field))> Attribute<Fields> wholeNumber(const QString &name)
 {
-    using Fields = decltype(fieldsOf(Field));
-    return Attribute<Fields>{name,
-                             toText(truncated(Fields().*Field)),
-                             WhenMissing::UseDefault,
-                             [](const Fields &fields) { return toText(truncated(fields.*Field)); },
-                             [](const QString &text, Fields *fields) { fields->*Field = text.toInt(); },
-                             [](const QString &text) { return holdsNumber(text, static_cast<const int *>(nullptr)); }};
+    Attribute<Fields> row = truncatedNumber<Field>(name);
+    row.parse = [](const QString &text, void *fields) { fieldIn<Field, Fields>(fields) = text.toInt(); };
+    row.isValid = [](const QString &text) { return holdsNumber(text, static_cast<const int *>(nullptr)); };
+    return row;
 }
 
-/// An attribute whose field is read with the record, but which new elements lack.
+/// The attribute that holds a field which is read with the record, but which new elements lack.
 template <auto Field> auto readOnly(const QString &name)
 {
     auto row = attribute<Field>(name);
@@ -83,104 +94,49 @@ template <auto Field> auto readOnly(const QString &name)
     return row;
 }
 
-/// An attribute that no record holds and new elements lack: it comes with the first operation that
-/// needs it.
+/// An attribute that no record holds and that new elements lack. The first operation that needs it adds it.
 template <typename Fields> Attribute<Fields> onDemand(const QString &name, const QString &defaultText)
 {
-    return {name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }};
+    return {{name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }}};
 }
 
-/// The attributes of one kind of element, in the order in which the file has them. All that creates,
-/// reads or completes such an element goes by this table; a new field is one more row.
-template <typename Fields> class AttributeTable
+/// The attributes of one kind of element, in the order in which the file has them.
+class AttributeList
 {
 public:
+    const QVector<AttributeRow> &rows() const { return m_rows; }
+    QStringList names() const;
+    /// Returns the default of the attribute with the given name, or an empty text if the list lacks it.
+    QString defaultText(const QString &name) const;
+    /// Returns the attributes of the element whose fields cannot hold the numbers in them.
+    QStringList invalidNumbers(const QDomElement &element) const;
+
+protected:
+    void readInto(void *fields, const QDomElement &element) const;
+
+    QVector<AttributeRow> m_rows;
+};
+
+/// The attributes of one kind of element, and the fields of its record. All that creates, reads, completes, checks or
+/// saves such an element uses this table. A new field is one more row.
+template <typename FieldsType> class AttributeTable : public AttributeList
+{
+public:
+    using Fields = FieldsType;
+
     AttributeTable(std::initializer_list<Attribute<Fields>> attributes)
-        : m_attributes(attributes)
     {
+        for (const Attribute<Fields> &attribute : attributes)
+            m_rows.append(attribute);
     }
 
-    QStringList names() const
-    {
-        QStringList names;
-        for (const Attribute<Fields> &attribute : m_attributes)
-            names.append(attribute.name);
-        return names;
-    }
-
-    /// The default of the attribute of that name; empty for a name that the table lacks.
-    QString defaultText(const QString &name) const
-    {
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (attribute.name == name)
-                return attribute.defaultText;
-        }
-        return QString();
-    }
-
-    /// Writes the fields into the element, each attribute only where it differs. True when one did.
-    bool write(QDomElement element, const Fields &fields) const
-    {
-        bool changed = false;
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (attribute.text == nullptr)
-                continue;
-            const QString text = attribute.text(fields);
-            if (element.hasAttribute(attribute.name) && element.attribute(attribute.name) == text)
-                continue;
-            element.setAttribute(attribute.name, text);
-            changed = true;
-        }
-        return changed;
-    }
-
-    /// Writes the fields into those attributes that the element has.
-    void change(QDomElement element, const Fields &fields) const
-    {
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (attribute.text != nullptr && element.hasAttribute(attribute.name))
-                element.setAttribute(attribute.name, attribute.text(fields));
-        }
-    }
-
-    /// The fields that the element holds, defaults where it lacks them.
+    /// Returns the fields that the element holds, with defaults for those that it lacks.
     Fields read(const QDomElement &element) const
     {
         Fields fields;
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (attribute.parse != nullptr && element.hasAttribute(attribute.name))
-                attribute.parse(element.attribute(attribute.name), &fields);
-        }
+        readInto(&fields, element);
         return fields;
     }
-
-    /// The attributes of the element whose fields cannot hold the numbers that they say.
-    QStringList invalidNumbers(const QDomElement &element) const
-    {
-        QStringList names;
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (!attribute.isValid(element.attribute(attribute.name)))
-                names.append(attribute.name);
-        }
-        return names;
-    }
-
-    /// Gives the element what it lacks of the attributes marked WhenMissing::AddDefault. True when it
-    /// lacked one.
-    bool complete(QDomElement element) const
-    {
-        bool changed = false;
-        for (const Attribute<Fields> &attribute : m_attributes) {
-            if (attribute.whenMissing != WhenMissing::AddDefault || element.hasAttribute(attribute.name))
-                continue;
-            element.setAttribute(attribute.name, attribute.defaultText);
-            changed = true;
-        }
-        return changed;
-    }
-
-private:
-    QVector<Attribute<Fields>> m_attributes;
 };
 
 } // namespace cabledoc

@@ -77,9 +77,9 @@ QString toText(const QStringList &entries)
     return entries.join(QLatin1Char(','));
 }
 
-void fromText(const QString &text, QStringList *entries)
+QStringList entriesIn(const QString &text)
 {
-    *entries = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
+    return text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
 }
 
 } // namespace cabledoc

@@ -2,7 +2,7 @@
 
 #include <QtCore/QStringList>
 
-/// How values become the text of an attribute, and back. Nothing here depends on the locale.
+/// Conversions between values and the texts of attributes. None of them depends on the locale.
 namespace cabledoc {
 
 inline QString toText(const QString &value)
@@ -10,26 +10,27 @@ inline QString toText(const QString &value)
     return value;
 }
 QString toText(int value);
-/// "1" or "0".
+/// Returns "1" or "0".
 QString toText(bool value);
-/// The number in the form of C's "%g", with as many digits as it takes to read back the same value, but never fewer
-/// than six: "8", "9.5", "100000", "1.2e+06", "1234567".
+/// Returns the number in the form of C's "%g". It has as many digits as are needed to read back the same value, but at
+/// least six: "8", "9.5", "100000", "1.2e+06", "1234567".
 QString toText(double value);
-/// The entries, separated by commas.
+/// Returns the entries, separated by commas.
 QString toText(const QStringList &entries);
 
 inline void fromText(const QString &text, QString *value)
 {
     *value = text;
 }
-/// 0 for a text that is no number.
+/// Reads a number. The value is 0 if the text is not a number.
 void fromText(const QString &text, int *value);
 void fromText(const QString &text, float *value);
 void fromText(const QString &text, double *value);
-/// True for "1" and nothing else.
+/// Reads a flag. The value is true only if the text is "1".
 void fromText(const QString &text, bool *value);
 
-/// Whether the text is empty, or a value of that kind can hold the number that it says. Texts and lists hold anything.
+/// Returns whether the text is empty or a number that a value of this kind can hold. Strings and lists can hold any
+/// text.
 bool holdsNumber(const QString &text, const int *);
 bool holdsNumber(const QString &text, const float *);
 bool holdsNumber(const QString &text, const double *);
@@ -38,7 +39,11 @@ inline bool holdsNumber(const QString &, const void *)
     return true;
 }
 
-/// An empty text has no entries.
-void fromText(const QString &text, QStringList *entries);
+/// Returns the entries of a list, which are separated by commas. An empty text has none.
+QStringList entriesIn(const QString &text);
+inline void fromText(const QString &text, QStringList *entries)
+{
+    *entries = entriesIn(text);
+}
 
 } // namespace cabledoc

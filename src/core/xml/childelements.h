@@ -10,8 +10,8 @@
 
 namespace cabledoc {
 
-/// The child elements of an element in document order, for range-based loops. The loop must not remove
-/// the element that it is at.
+/// The child elements of an element in document order, for range-based loops. The loop must not remove the current
+/// element.
 class ChildElements
 {
 public:
@@ -45,29 +45,30 @@ private:
     QDomElement m_parent;
 };
 
-/// The child elements as they are now; what is added or removed later does not count.
+/// Returns the child elements as they are now. Later changes of the element do not affect the result.
 QVector<QDomElement> allChildren(const QDomElement &parent);
-/// The first child element of each tag: those that a search by tag can find.
+/// Returns the first child element of each tag. These are the elements that a search by tag can find.
 QVector<QDomElement> reachableChildren(const QDomElement &parent);
-/// The tags of the child elements in document order.
+/// Returns the tags of the child elements in document order.
 QStringList childTags(const QDomElement &parent);
-/// Their attributes "id".
+/// Returns the attributes "id" of the child elements in document order.
 QStringList childIds(const QDomElement &parent);
-/// The first child element with that "id"; null when there is none.
+/// Returns the first child element with the given "id", or a null element if there is none.
 QDomElement childWithId(const QDomElement &parent, const QString &id);
-/// The first child element of each "id": those that a search by id can find.
+/// Returns the first child element of each "id". These are the elements that a search by id can find.
 QVector<QDomElement> childrenWithId(const QDomElement &parent);
 
-/// The names of an element's children, read once: adding many children does not walk over all others for each.
+/// The names of an element's children. They are read once, so that adding many children does not take a walk over all
+/// others for each.
 class ChildNames
 {
 public:
     explicit ChildNames(const QDomElement &parent);
 
     bool containsId(const QString &id) const { return m_ids.count(id) != 0; }
-    /// The prefix with the smallest number, from 1, that is no child's tag.
+    /// Returns the prefix with the smallest number from 1 on that makes a tag that no child has.
     QString firstFreeTag(const QString &prefix);
-    /// To be called for a child that was added.
+    /// Adds the names of a child. To be called when the child has been added to the element.
     void insert(const QDomElement &child);
 
 private:

@@ -27,7 +27,7 @@ void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
     *this = ElementIndex(m_idDigits);
     m_entries.reserve(std::size_t(elements.size()));
-    m_tagOfId.reserve(std::size_t(elements.size()));
+    m_ids.reserve(std::size_t(elements.size()));
     for (const QDomElement &element : elements)
         append(element);
 }
@@ -41,7 +41,8 @@ void ElementIndex::append(const QDomElement &element)
     }
     m_tagNames.insert(entry->first);
     m_lastTag.insert(entry->first);
-    show(entry->first, element, &entry->second);
+    entry->second = {idOf(element), element};
+    m_ids.insert(entry->second.id, entry->first);
 }
 
 void ElementIndex::remove(const QDomElement &element)
@@ -51,15 +52,17 @@ void ElementIndex::remove(const QDomElement &element)
         return;
     const auto waiting = m_waiting.find(entry->first);
     if (entry->second.element == element) {
-        hide(entry->first, entry->second.id);
+        m_ids.remove(entry->second.id, entry->first);
         if (waiting == m_waiting.end()) {
             m_tagNames.remove(entry->first);
             m_lastTag.remove(entry->first);
             m_entries.erase(entry);
             return;
         }
-        show(entry->first, waiting->second.front(), &entry->second);
+        const QDomElement next = waiting->second.front();
         waiting->second.pop_front();
+        entry->second = {idOf(next), next};
+        m_ids.insert(entry->second.id, entry->first);
     } else if (waiting != m_waiting.end()) {
         waiting->second.remove(element);
     }
@@ -72,8 +75,9 @@ void ElementIndex::updateId(const QDomElement &element)
     const auto entry = m_entries.find(element.tagName());
     if (entry == m_entries.end() || entry->second.element != element)
         return;
-    hide(entry->first, entry->second.id);
-    show(entry->first, element, &entry->second);
+    m_ids.remove(entry->second.id, entry->first);
+    entry->second.id = idOf(element);
+    m_ids.insert(entry->second.id, entry->first);
 }
 
 void ElementIndex::forgetElements()
@@ -95,12 +99,6 @@ QString ElementIndex::id(const QString &tag) const
     return entry == m_entries.end() ? QString() : entry->second.id;
 }
 
-QString ElementIndex::tagOfId(const QString &id) const
-{
-    const auto tag = m_tagOfId.find(id);
-    return tag == m_tagOfId.end() ? QString() : tag->second;
-}
-
 QStringList ElementIndex::tags() const
 {
     QStringList tags = namesIn(m_entries);
@@ -108,7 +106,7 @@ QStringList ElementIndex::tags() const
     return tags;
 }
 
-QStringList ElementIndex::ids() const
+QStringList ElementIndex::idsByTag() const
 {
     QStringList ids;
     for (const QString &tag : tags())
@@ -126,72 +124,9 @@ qint64 ElementIndex::firstFreeTagNumber(const QString &prefix, qint64 from)
     return m_tagNames.firstFree(prefix, from, [this](const QString &tag) { return containsTag(tag); });
 }
 
-qint64 ElementIndex::firstFreeIdNumber(const QString &prefix, qint64 from)
-{
-    return m_idNames.firstFree(prefix, from, [this](const QString &id) { return containsId(id); });
-}
-
 bool ElementIndex::operator==(const ElementIndex &other) const
 {
-    return m_entries == other.m_entries && m_waiting == other.m_waiting && m_tagOfId == other.m_tagOfId
-           && m_waitingTagsOfId == other.m_waitingTagsOfId;
-}
-
-void ElementIndex::show(const QString &tag, const QDomElement &element, Entry *entry)
-{
-    *entry = {idOf(element), element};
-    m_idNames.insert(entry->id);
-    if (isNumberedId(entry->id))
-        m_tagsWithNumberedId.insert(tag);
-    const auto [first, isNew] = m_tagOfId.try_emplace(entry->id, tag);
-    if (isNew)
-        return;
-    m_waitingTagsOfId[entry->id].insert(std::max(tag, first->second));
-    first->second = std::min(tag, first->second);
-}
-
-void ElementIndex::hide(const QString &tag, const QString &id)
-{
-    const auto first = m_tagOfId.find(id);
-    const auto waiting = m_waitingTagsOfId.find(id);
-    if (waiting == m_waitingTagsOfId.end()) {
-        m_tagOfId.erase(first);
-        m_idNames.remove(id);
-        return;
-    }
-    std::set<QString> &others = waiting->second;
-    if (first->second == tag)
-        first->second = others.extract(others.begin()).value();
-    else
-        others.erase(tag);
-    if (others.empty())
-        m_waitingTagsOfId.erase(waiting);
-}
-
-bool ElementIndex::isNumberedId(const QString &id) const
-{
-    return !m_idPrefix.isNull() && id.size() == m_idPrefix.size() + m_idDigits && id.startsWith(m_idPrefix)
-           && std::all_of(id.cend() - m_idDigits, id.cend(),
-                          [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
-}
-
-QString ElementIndex::lastTagWithNumberedId(const QString &prefix)
-{
-    if (m_idPrefix.isNull() || m_idPrefix != prefix) {
-        m_idPrefix = prefix;
-        m_tagsWithNumberedId.clear();
-        for (const auto &[tag, entry] : m_entries) {
-            if (isNumberedId(entry.id))
-                m_tagsWithNumberedId.insert(tag);
-        }
-    }
-    while (!m_tagsWithNumberedId.empty()) {
-        const auto last = std::prev(m_tagsWithNumberedId.end());
-        if (isNumberedId(id(*last)))
-            return *last;
-        m_tagsWithNumberedId.erase(last);
-    }
-    return QString();
+    return m_entries == other.m_entries && m_waiting == other.m_waiting && m_ids == other.m_ids;
 }
 
 void ContainerIndex::append(const QDomElement &element)

@@ -12,9 +12,9 @@ namespace cabledoc {
 
 namespace {
 
-/// Under this name the system keeps the access control list of a file.
+/// The system keeps the access control list of a file under this name.
 const char accessList[] = "system.posix_acl_access";
-/// Rights of a program, which a save drops as it drops the bits for them.
+/// The capabilities of a program. A save drops them, as it drops the bits that give a program rights.
 const char capabilities[] = "security.capability";
 
 constexpr mode_t ownerBits = S_IRWXU;
@@ -22,7 +22,7 @@ constexpr mode_t groupBits = S_IRWXG;
 constexpr mode_t otherBits = S_IRWXO;
 constexpr mode_t allBits = ownerBits | groupBits | otherBits;
 
-/// Asks the system twice, for the size and for the data; empty if there are none.
+/// Asks the system twice, first for the size and then for the data. Returns an empty array if there are no data.
 template <typename Ask> QByteArray answerTo(Ask ask)
 {
     QByteArray answer;
@@ -70,13 +70,14 @@ bool copyAccess(const QByteArray &from, int to)
     const QByteArray list = attributeOf(from, accessList);
     bool isListKept = true;
     if (list.isEmpty())
-        ::fremovexattr(to, accessList); // one that the folder gives to new files
+        // Remove a list that the folder gives to new files.
+        ::fremovexattr(to, accessList);
     else
         isListKept = isGroupKept && setAttribute(to, accessList, list);
     copyOtherAttributes(from, to);
 
-    // Whoever is no longer the owner, in the group or in the list may now do what the group or the others may: no more
-    // than before.
+    // A user who is no longer the owner, in the group or in the list now has the permissions of the group or of others.
+    // Reduce these so that the user can do no more than before.
     if (!isListKept)
         mode &= ownerBits;
     if (!isGroupKept)

@@ -4,9 +4,9 @@
 
 namespace cabledoc {
 
-/// Gives the open file the owner, the group, the permissions and the extended attributes of another one, as far as the
-/// system allows it. Nobody who could not read that one can read this one. False, with errno set, if that cannot be
-/// made sure.
+/// Gives an open file the owner, the group, the permissions and the extended attributes of another file, as far as the
+/// system allows it. Nobody who could not read the other file can read this one. Returns false, with errno set, if this
+/// cannot be ensured.
 bool copyAccess(const QByteArray &from, int to);
 
 } // namespace cabledoc

@@ -19,10 +19,11 @@ namespace cabledoc {
 
 namespace {
 
-/// Follows the links from a name to where they end, which may be at nothing. Empty, with errno set, if they do not end.
+/// Returns the name at which the links that begin with the given name end. There may be no file with that name. Returns
+/// an empty name, with errno set, if the links do not end.
 QByteArray endOfLinks(QByteArray name)
 {
-    constexpr int maximumLinks = 40; // as in the system
+    constexpr int maximumLinks = 40; // the limit of the system
     for (int links = 0; links < maximumLinks; ++links) {
         QByteArray target(PATH_MAX, '\0');
         const ssize_t size = ::readlink(name.constData(), target.data(), std::size_t(target.size()));
@@ -35,8 +36,8 @@ QByteArray endOfLinks(QByteArray name)
     return QByteArray();
 }
 
-/// Makes a change of names in the folder survive a power cut. A folder that may not be read cannot be synced; the file
-/// itself is safe then.
+/// Makes changes of names in the folder survive a power failure. A folder that may not be read cannot be synced. The
+/// file itself is safe even then.
 QString syncFolder(const QByteArray &folder)
 {
     const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -47,7 +48,7 @@ QString syncFolder(const QByteArray &folder)
     return error;
 }
 
-/// Gives a file another name that no file has.
+/// Renames a file to a name that no file has. Fails if there is one.
 bool renameToNewName(const QByteArray &from, const QByteArray &to)
 {
 #ifdef RENAME_NOREPLACE
@@ -56,7 +57,7 @@ bool renameToNewName(const QByteArray &from, const QByteArray &to)
     if (errno != EINVAL && errno != ENOSYS)
         return false;
 #endif
-    // Not every file system can do that at once.
+    // Some file systems cannot do this in one step.
     if (::link(from.constData(), to.constData()) != 0)
         return false;
     ::unlink(from.constData());
@@ -85,10 +86,10 @@ QString FileReplacement::open()
     if (m_isNew && errno != ENOENT)
         return systemError();
     if (!m_isNew && S_ISDIR(status.st_mode))
-        return QCoreApplication::translate("XmlFile", "A folder has this name.");
+        return QCoreApplication::translate("XmlFile", "This is the name of a folder.");
     if (!m_isNew && !S_ISREG(status.st_mode))
-        return QCoreApplication::translate("XmlFile", "Something that is not a file has this name.");
-    // The folder would let a file be replaced that nobody may write to.
+        return QCoreApplication::translate("XmlFile", "This name belongs to something that is not a file.");
+    // The permissions of the folder alone would allow the save to replace a file that nobody may write to.
     if (!m_isNew && ::faccessat(AT_FDCWD, m_target.constData(), W_OK, AT_EACCESS) != 0)
         return systemError();
     return createCopy();
@@ -96,8 +97,8 @@ QString FileReplacement::open()
 
 QString FileReplacement::createCopy()
 {
-    // What the folder gives to a new file is for the file itself. An existing one gets what the old one has at the end;
-    // until then nobody else reads it.
+    // A new file gets the permissions that the folder gives. A copy of an existing file is private until it gets the
+    // permissions of the old file at the end.
     const mode_t mode = m_isNew ? 0666 : 0600;
     constexpr int attempts = 100;
     for (int attempt = 0; attempt < attempts && m_handle < 0; ++attempt) {
@@ -109,7 +110,7 @@ QString FileReplacement::createCopy()
     }
     if (m_handle >= 0)
         return QString();
-    m_copy.clear(); // the file of that name is another one's
+    m_copy.clear(); // this name belongs to another file
     return systemError();
 }
 
@@ -117,14 +118,14 @@ QString FileReplacement::write(const QByteArray &piece)
 {
     qint64 written = 0;
     while (written < piece.size()) {
-        // After a short write the next one tells the reason.
+        // If a write is short, the next one reports the reason.
         const ssize_t more = ::write(m_handle, piece.constData() + written, std::size_t(piece.size() - written));
         if (more < 0 && errno != EINTR)
             return systemError();
         written += more < 0 ? 0 : more;
     }
 #ifdef SYNC_FILE_RANGE_WRITE
-    // The disk begins with it: the rest of the text is made meanwhile. The sync at the end tells of failures.
+    // The disk starts writing now, while the rest of the text is made. The sync at the end reports failures.
     ::sync_file_range(m_handle, 0, 0, SYNC_FILE_RANGE_WRITE);
 #endif
     m_hash.add(piece);
@@ -145,7 +146,8 @@ QString FileReplacement::commit(const Expectation &expected)
     struct stat status
     {
     };
-    // Of what was written, wherever somebody else may have put it by now. Without it the hash tells.
+    // This is the status of the file that was written, even if somebody has moved it by now. If it cannot be read, the
+    // hash decides later.
     if (::fstat(m_handle, &status) == 0)
         m_state->status = FileStatus(status);
     return syncFolder(QFile::encodeName(QFileInfo(QFile::decodeName(m_target)).path()));
@@ -156,14 +158,13 @@ QString FileReplacement::moveIntoPlace(const Expectation &expected)
     const bool isThere = ::access(m_target.constData(), F_OK) == 0 || errno != ENOENT;
     if (isThere && expected.kind == Expectation::KnownContent
         && !hasContent(QFile::decodeName(m_target), expected.known))
-        return QCoreApplication::translate("XmlFile",
-                                           "Another program has changed the file since it was read. It is left "
-                                           "as it is.");
+        return QCoreApplication::translate(
+            "XmlFile", "Another program has changed the file since it was read. It is not replaced.");
     const bool mayReplace = expected.kind == Expectation::Anything || (isThere && expected.kind != Expectation::NoFile);
     if (mayReplace ? ::rename(m_copy.constData(), m_target.constData()) == 0 : renameToNewName(m_copy, m_target))
         return QString();
     if (errno == EEXIST)
-        return QCoreApplication::translate("XmlFile", "There is a file of this name. It is left as it is.");
+        return QCoreApplication::translate("XmlFile", "A file with this name already exists. It is not replaced.");
     return systemError();
 }
 

@@ -8,26 +8,30 @@
 
 namespace cabledoc {
 
-/// What may be replaced by a save.
+/// What a save may replace.
 struct Expectation
 {
     enum Kind {
-        Anything,     ///< whatever file is there
-        KnownContent, ///< a file with the content of known, or none
-        NoFile,       ///< nothing: there must be no file
+        /// Any file.
+        Anything,
+        /// A file with the content of known, or no file.
+        KnownContent,
+        /// No file: the file must not exist.
+        NoFile,
     };
     Kind kind = Anything;
     FileState known;
 };
 
-/// A new content for a file. It is written beside the file, and moved into its place once it is safely on the disk.
+/// Replaces the content of a file. The new content is written beside the file, and moved into its place when it is
+/// safely on the disk.
 ///
-/// The file keeps its links, and as far as the system allows it its group, its permissions, its access control list and
-/// its extended attributes; the owner too if the administrator saves. If the group or the list cannot be kept, the
-/// group gets no permissions and others get none that somebody lacked before. The bits that give a program the rights
-/// of its owner or its group, and the sticky bit, are dropped.
+/// Symbolic links to the file stay. As far as the system allows it, the file keeps its group, its permissions, its
+/// access control list and its extended attributes. It also keeps its owner if the administrator saves. If the group or
+/// the list cannot be kept, the group gets no permissions, and others get none that somebody lacked before. The bits
+/// that give a program the rights of its owner or its group, and the sticky bit, are dropped.
 ///
-/// Each operation returns why it failed, or an empty text.
+/// Each operation returns an empty string if it succeeds, or the reason why it failed.
 class FileReplacement
 {
 public:
@@ -35,26 +39,31 @@ public:
         : m_fileName(fileName)
     {
     }
-    /// Removes what was written, unless it was moved into place.
+    /// Removes the new content, unless it has been moved into place.
     ~FileReplacement();
     Q_DISABLE_COPY(FileReplacement)
 
+    /// Creates the file for the new content.
     QString open();
+    /// Appends a piece of the new content.
     QString write(const QByteArray &piece);
-    /// Fails if the file is not the expected one.
+    /// Moves the new content into place. Fails if the file is not the expected one.
     QString commit(const Expectation &expected);
 
-    /// Returns the state of the file; nothing before the new content is in place. That may be even if commit() failed,
-    /// namely if the folder could not be brought to the disk.
+    /// Returns the state of the file once the new content is in place, or nothing before. The new content can be in
+    /// place even if commit() failed: then the folder could not be brought to the disk.
     const std::optional<FileState> &state() const { return m_state; }
 
 private:
     QString createCopy();
     QString moveIntoPlace(const Expectation &expected);
 
-    QString m_fileName; ///< behind all links, from open() on
+    /// Name that was given.
+    QString m_fileName;
+    /// Name of the file at the end of all links. Known after open().
     QByteArray m_target;
-    QByteArray m_copy; ///< the name of what is written; empty if there is none
+    /// Name of the file with the new content, or empty if there is none.
+    QByteArray m_copy;
     int m_handle = -1;
     bool m_isNew = false;
     ContentHash m_hash;

@@ -26,7 +26,7 @@ namespace {
 class OpenFile
 {
 public:
-    // Without waiting: a pipe would keep the call until somebody writes to it.
+    // Opened without waiting, because a pipe would block the call until somebody writes to it.
     explicit OpenFile(const QString &fileName)
         : m_handle(::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
     {
@@ -41,7 +41,7 @@ public:
     bool isOpen() const { return m_handle >= 0; }
     bool readStatus(struct stat *status) const { return ::fstat(m_handle, status) == 0; }
 
-    /// Appends what is left of the file. False when it cannot be read.
+    /// Appends the rest of the file. Returns false if it cannot be read.
     bool readAll(QByteArray *bytes) const
     {
         using Size = decltype(bytes->size());
@@ -124,15 +124,16 @@ FileContent readContent(const QString &fileName, qint64 maximumSize)
     maximumSize = std::min(maximumSize, qtcompat::largestText);
     if (status.st_size > maximumSize) {
         content.error =
-            QCoreApplication::translate("XmlFile", "The file has %1, and the limit is %2. A document of this "
+            QCoreApplication::translate("XmlFile", "The file is %1 in size, and the limit is %2. A document of this "
                                                    "size needs about %3 of memory.")
                 .arg(sizeText(double(status.st_size)), sizeText(double(maximumSize)),
                      sizeText(double(status.st_size) * qtcompat::memoryOfAByte));
         return content;
     }
-    // The status from before reading: whoever writes meanwhile or later makes it another one.
+    // This is the status before reading. If somebody writes during or after the reading, the status of the file differs
+    // from it.
     content.state.status = FileStatus(status);
-    // A byte more than expected lets the first round find the end.
+    // One byte more than expected, so that the first round finds the end.
     content.bytes.reserve(decltype(content.bytes.size())(status.st_size) + 1);
     if (!file.readAll(&content.bytes)) {
         content.error = systemError();
@@ -168,7 +169,7 @@ bool isSameFile(const QString &a, const QString &b)
         return false;
     if (isThere)
         return statusOfA.st_dev == statusOfB.st_dev && statusOfA.st_ino == statusOfB.st_ino;
-    // Neither is there yet.
+    // Neither of the files exists yet.
     const QFileInfo fileA(a);
     const QFileInfo fileB(b);
     return fileA.fileName() == fileB.fileName() && isSameFile(fileA.absolutePath(), fileB.absolutePath());

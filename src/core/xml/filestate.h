@@ -8,14 +8,17 @@ struct XXH3_state_s;
 
 namespace cabledoc {
 
-/// Which file it is and when it was changed. A file whose status is the same was not written to.
+/// Identifies a file and the times of its changes. If the status of a file is the same as before, the file has not been
+/// written to.
 struct FileStatus
 {
     quint64 device = 0;
     quint64 inode = 0;
     qint64 size = 0;
-    qint64 contentChanged = 0; ///< in nanoseconds
-    qint64 statusChanged = 0;  ///< in nanoseconds; of content, name or access
+    /// Time of the last change of the content, in nanoseconds.
+    qint64 contentChanged = 0;
+    /// Time of the last change of the content, the name or the access, in nanoseconds.
+    qint64 statusChanged = 0;
 
     FileStatus() = default;
     explicit FileStatus(const struct stat &status);
@@ -27,15 +30,16 @@ struct FileStatus
     }
 };
 
-/// What a file was when it was read or written.
+/// The state of a file when it was read or written.
 struct FileState
 {
     FileStatus status;
-    quint64 hash = 0; ///< of the content
+    /// Hash of the content.
+    quint64 hash = 0;
 };
 
-/// The hash of a content that comes in pieces. It takes no more time than copying them. It is not made to withstand
-/// somebody who wants two contents to have the same one.
+/// Makes the hash of a content that comes in pieces. This takes no more time than copying them. The hash does not
+/// protect against somebody who wants two contents to have the same one.
 class ContentHash
 {
 public:
@@ -50,25 +54,26 @@ private:
     XXH3_state_s *m_state;
 };
 
-/// What was read of a file.
+/// The content of a file that has been read.
 struct FileContent
 {
     QByteArray bytes;
     FileState state;
-    QString error; ///< why the file cannot be read; empty if it was
+    /// Why the file cannot be read, or empty if it could.
+    QString error;
 };
 
-/// Reads a regular file of at most maximumSize bytes. Refuses anything else, with the memory that a document of that
-/// size would need if it is too large.
+/// Reads a regular file of at most maximumSize bytes. Refuses all other files. If the file is too large, the error
+/// tells how much memory a document of that size would need.
 FileContent readContent(const QString &fileName, qint64 maximumSize);
 
-/// Returns whether the file still has the content of that state. The content is read only if the status differs.
+/// Returns whether the file still has the content of the given state. Reads the content only if the status differs.
 bool hasContent(const QString &fileName, const FileState &state);
 
-/// Returns whether both names lead to the same file, through links or another spelling too.
+/// Returns whether both names lead to the same file, also through links or in different spellings.
 bool isSameFile(const QString &a, const QString &b);
 
-/// What the system says of the last call that failed.
+/// Returns the system's message about the last call that failed.
 QString systemError();
 
 } // namespace cabledoc

@@ -7,30 +7,33 @@
 
 namespace cabledoc {
 
-/// What a document remembers of files: where its name leads, and what the files were when it was read from them or
-/// written to them.
+/// Remembers for a document where its file name leads, and the states of the files when they were read or written.
 class KnownFiles
 {
 public:
     /// Forgets everything, and remembers where the name leads now.
     void takeName(const QString &name);
-    /// Remembers a second name that the document belongs to from now on.
+    /// Remembers another name, which is the document's from now on.
     void changeName(const QString &name);
-    /// Returns the absolute path of a name. For the one that was taken it stays the same when the process goes to
-    /// another folder.
+    /// Returns the absolute path of a name. The path of the document's own name stays the same if the process changes
+    /// its folder.
     QString path(const QString &name) const;
 
+    /// Remembers the state of a file that was read or written.
     void remember(const QString &path, const FileState &state) { m_states.insert(path, state); }
-    /// Remembers a file that could not be read: it has no content that would be known.
+    /// Remembers a file that could not be read, whose content is not known.
     void rememberUnread(const QString &path) { m_states.insert(path, FileState()); }
 
+    /// Returns whether the file was read or written, or could not be read.
     bool knows(const QString &path) const { return m_states.contains(path); }
+    /// Returns the state of a file, or an empty state if its content is not known.
     FileState state(const QString &path) const { return m_states.value(path); }
 
 private:
     QString m_name;
     QString m_path;
-    QMap<QString, FileState> m_states; ///< by path
+    /// States of the files by their paths.
+    QMap<QString, FileState> m_states;
 };
 
 } // namespace cabledoc

@@ -4,8 +4,8 @@
 
 namespace cabledoc {
 
-/// A value as a message quotes it: on one line, control characters as escapes such as "\x00", and not more than 80
-/// characters of it.
+/// Returns a value in the form in which messages quote it: on one line, with escapes such as "\x00" for control
+/// characters, and cut after 80 characters.
 QString excerpt(const QString &value);
 
 } // namespace cabledoc

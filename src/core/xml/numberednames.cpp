@@ -6,11 +6,11 @@ namespace cabledoc {
 
 namespace {
 
-/// Numbers with more digits are no numbers that this program has given.
+/// Generated numbers never have more digits.
 constexpr int maximumDigits = 18;
 
-/// Calls use with each way to read the name as a prefix and a number of that many digits, or of more without
-/// leading zeros: "B12" is "B" and 12, and with one digit "B1" and 2 too.
+/// Calls use with each way to read the name as a prefix and a number. The number has at least the given count of
+/// digits, and more only without leading zeros. "B12" is "B" and 12, and with one digit also "B1" and 2.
 template <typename Use> void forEachReading(const QString &name, int minimumDigits, Use use)
 {
     qint64 number = 0;
@@ -31,7 +31,7 @@ template <typename Use> void forEachReading(const QString &name, int minimumDigi
 int numberAfter(const QString &prefix, const QString &name)
 {
     const auto position = name.lastIndexOf(prefix);
-    // Where the last empty text stands depends on the version of Qt.
+    // The position of the last empty text depends on the version of Qt.
     if (position < 0 || prefix.isEmpty())
         return 0;
     return std::max(0, name.mid(position + prefix.size()).toInt());
@@ -137,7 +137,7 @@ QString LastName::last(const Gather &gather, const QString &ignored)
 {
     if (!m_names) {
         QStringList names = gather();
-        names.sort(); // what is sorted becomes a set without a search for each
+        names.sort(); // a set is made of sorted names without searching for the place of each
         m_names.emplace(names.cbegin(), names.cend());
     }
     auto last = m_names->crbegin();

@@ -10,53 +10,57 @@
 
 namespace cabledoc {
 
-/// A set of numbers as intervals, so that the first number outside of it is found without counting.
+/// A set of numbers, kept as intervals. The first number outside of the set is found without counting.
 class NumberSet
 {
 public:
     void insert(qint64 number);
     void remove(qint64 number);
-    /// The smallest number that is at least from and not in the set.
+    /// Returns the smallest number that is at least from and not in the set.
     qint64 firstFree(qint64 from) const;
 
 private:
-    std::map<qint64, qint64> m_intervals; ///< first to last number of each; never adjacent
+    /// First and last number of each interval. Intervals are never adjacent.
+    std::map<qint64, qint64> m_intervals;
 };
 
-/// Returns the number behind the last occurrence of the prefix in a name, read as QString::toInt() reads it: 5 for
-/// "Zone" and "Zone 5". Returns 0 if there is no number, or one that is negative or overflows.
+/// Returns the number after the last occurrence of the prefix in a name, such as 5 for "Zone" and "Zone 5". It is read
+/// like QString::toInt() does. Returns 0 if there is no number, or if it is negative or too large.
 int numberAfter(const QString &prefix, const QString &name);
 
-/// Finds free names made of a prefix and a number ("Room12"). Of the numbers of a prefix those that were found to be
-/// taken are remembered and kept in step, so that none is tried twice.
+/// Finds unused names that consist of a prefix and a number, such as "Room12". Remembers the numbers of each prefix
+/// that are in use, so that none is tried twice.
 class NumberedNames
 {
 public:
-    /// Numbers are written with that many digits at least, zeros before them.
+    /// Creates a finder for names whose numbers have at least the given count of digits, with leading zeros.
     explicit NumberedNames(int digits = 1)
         : m_digits(digits)
     {
     }
 
+    /// Returns the name with the given prefix and number.
     QString name(const QString &prefix, qint64 number) const;
-    /// To be called for names that come into use, and for those that go.
+    /// Marks a name as used. To be called for each name that comes into use.
     void insert(const QString &name);
+    /// Marks a name as unused. To be called for each name that goes out of use.
     void remove(const QString &name);
 
     using IsTaken = std::function<bool(const QString &name)>;
 
-    /// The smallest number, at least from, that makes a free name with the prefix.
+    /// Returns the smallest number, at least from, that makes an unused name with the prefix.
     qint64 firstFree(const QString &prefix, qint64 from, const IsTaken &isTaken);
 
 private:
     void update(const QString &name, void (NumberSet::*change)(qint64));
 
     int m_digits;
-    QMap<QString, NumberSet> m_taken; ///< by prefix
+    /// Numbers in use by their prefixes.
+    QMap<QString, NumberSet> m_taken;
 };
 
-/// Knows the last of the names in use, in string order. They are gathered when it is first asked for and kept in step
-/// from then on.
+/// Finds the last of the used names in string order. The names are gathered with the first question, and kept up to
+/// date from then on.
 class LastName
 {
 public:
@@ -65,7 +69,7 @@ public:
 
     using Gather = std::function<QStringList()>;
 
-    /// Returns the last name other than the ignored one, or an empty text if there is none.
+    /// Returns the last name other than the ignored one, or an empty string if there is none.
     QString last(const Gather &gather, const QString &ignored);
 
 private:

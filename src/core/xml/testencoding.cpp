@@ -10,8 +10,7 @@ namespace {
 
 constexpr int blockBytes = 48;
 
-/// Calls the two functions with each one-byte and each 32-bit field of a results block, in the order of
-/// its text form.
+/// Calls the two functions with each one-byte and each 32-bit field of a results block, in the order of its text form.
 template <typename Block, typename ByteUse, typename WordUse>
 void forEachField(Block *block, ByteUse useByte, WordUse useWord)
 {
@@ -34,14 +33,14 @@ void forEachField(Block *block, ByteUse useByte, WordUse useWord)
     words(block->word_group_d);
 }
 
-/// Only upper-case digits have their values. Files hold no others, and what others give must not change.
+/// Only upper-case digits give their values. Files hold no others, and the values of others must not change.
 int nibble(QChar character)
 {
     const int code = character.unicode();
     return code < ':' ? code - '0' : code - '7';
 }
 
-/// Reads the numbers of a curve one after the other, without a list of them.
+/// Reads the numbers of a curve one after the other, without making a list of them.
 class NumberReader
 {
 public:
@@ -51,9 +50,9 @@ public:
     {
     }
 
-    bool atEnd() const { return m_isBehind; }
+    bool atEnd() const { return m_isAtEnd; }
 
-    /// The number up to the next comma; 0 when it is none.
+    /// Returns the number up to the next comma, or 0 if it is not a number.
     qint32 next()
     {
         const QChar *start = m_position;
@@ -67,34 +66,35 @@ public:
         if (!isPlain)
             return oddNumber(start);
         m_position = position;
-        goBehindComma();
+        skipComma();
         return digits == start ? qint32(number) : -qint32(number);
     }
 
 private:
     static bool isDigit(QChar character) { return unsigned(character.unicode()) - u'0' <= 9U; }
 
-    /// Anything but up to nine digits with or without a minus: more digits, blanks, other signs, or nothing.
+    /// Reads a number that is not up to nine digits with or without a minus: one with more digits, blanks or other
+    /// signs, or no number.
     qint32 oddNumber(const QChar *start)
     {
         while (m_position != m_end && *m_position != QLatin1Char(','))
             ++m_position;
         const qint64 number = QString(start, int(m_position - start)).toLongLong();
-        goBehindComma();
+        skipComma();
         return qint32(number);
     }
 
-    void goBehindComma()
+    void skipComma()
     {
         if (m_position == m_end)
-            m_isBehind = true;
+            m_isAtEnd = true;
         else
             ++m_position;
     }
 
     const QChar *m_position;
     const QChar *m_end;
-    bool m_isBehind = false;
+    bool m_isAtEnd = false;
 };
 
 } // namespace
@@ -124,7 +124,7 @@ void fromText(const QString &text, cable_struct *block)
         const int high = nibble(*next++);
         return quint8(high * 16 + nibble(*next++));
     };
-    // What the text is too short for keeps its untested value.
+    // Fields that are missing at the end of the text keep their untested values.
     forEachField(
         block,
         [&](quint8 &field) {
@@ -139,7 +139,7 @@ void fromText(const QString &text, cable_struct *block)
                 next = end;
             }
         });
-    // The lengths and the first group keep 65535, deliberately.
+    // The lengths and the first group deliberately keep 65535.
     for (auto *group : {&block->word_group_c, &block->word_group_d}) {
         for (qint32 &value : *group)
             value = value > 65534 ? -1 : value;

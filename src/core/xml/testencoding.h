@@ -4,16 +4,17 @@
 
 #include <QtCore/QString>
 
-/// The text forms of test data, as attributes hold them.
+/// The text forms of test data in attributes.
 namespace cabledoc {
 
 QString toText(const cable_struct &block);
 void fromText(const QString &text, cable_struct *block);
 QString toText(const TRUEPHY_PLOT_DATA &curve);
 void fromText(const QString &text, TRUEPHY_PLOT_DATA *curve);
-/// Four flags, "1" or "0" each.
+/// Returns four flags as "1" or "0" each.
 QString toText(const PairFlags &flags);
-/// False, and the flags from there on as they were, at the first character that is neither or missing.
+/// Reads four flags. Returns false at the first character that is missing or is neither "0" nor "1". The flags from
+/// there on stay as they are.
 bool fromText(const QString &text, PairFlags *flags);
 
 } // namespace cabledoc

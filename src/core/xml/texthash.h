@@ -6,8 +6,9 @@
 
 namespace cabledoc {
 
-/// A hash of texts that nobody can make collide, unlike Qt 5's, where texts that collide once do so with every seed.
-/// Names that come from files are therefore kept in a TextMap, or in order (QMap, std::map), never in QHash or QSet.
+/// A hash of texts for which nobody can make collisions. With Qt 5's hash, texts that collide once collide with every
+/// seed. Names that come from files are therefore kept in a TextMap or in order (QMap, std::map), never in a QHash or
+/// QSet.
 struct TextHash
 {
     std::size_t operator()(const QString &text) const;

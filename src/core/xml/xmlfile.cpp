@@ -18,8 +18,8 @@ bool isAscii(const QByteArray &bytes)
     return (all & 0x80) == 0;
 }
 
-/// The text of a file. The encoding that its XML declaration names does not count; Qt 5 would refuse a file for a name
-/// that it does not know. Blanks take the place of the name, so that positions stay as they are.
+/// Returns the text of a file. The encoding in its XML declaration has no effect. Qt 5 would refuse a file with an
+/// unknown encoding, so blanks replace it, which keeps all positions.
 QString decoded(const QByteArray &bytes)
 {
     static const QRegularExpression encoding(
@@ -32,7 +32,7 @@ QString decoded(const QByteArray &bytes)
     return text;
 }
 
-/// Takes the XML declaration, which a save never writes, out of the tree, so that the root comes first.
+/// Removes the XML declaration from the tree, so that the root is the first child. A save never writes a declaration.
 void removeDeclaration(QDomDocument *document)
 {
     const QDomNode first = document->firstChild();
@@ -45,7 +45,7 @@ bool isBlank(char character)
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-/// Takes CDATA sections of nothing but blanks out of the tree: Qt 5 leaves them out, Qt 6 does not.
+/// Removes CDATA sections that consist of blanks only. Qt 5 does not read them, Qt 6 does.
 void removeBlankSections(QDomNode node)
 {
     const QDomNode top = node;
@@ -62,8 +62,8 @@ void removeBlankSections(QDomNode node)
     }
 }
 
-/// Where a text ends that was cut off: in its last line that is not blank, behind what is there. The parser gives no
-/// column if the cut is at the end of a line. Neither a line nor a column for a blank text.
+/// Sets the problem's position to the end of a text that was cut off: after the last character that is not a blank. The
+/// parser gives no column if the text ends at the end of a line. Line and column are 0 for a blank text.
 void locateEnd(const QByteArray &bytes, XmlProblem *problem)
 {
     const auto end = std::find_if_not(bytes.crbegin(), bytes.crend(), isBlank).base();
@@ -91,7 +91,7 @@ ReadResult read(const QString &fileName, const QString &documentTypeName, qint64
     result.problem = scanXml(bytes);
     if (result.problem.message.isNull()) {
         QXmlStreamReader reader;
-        // The reader takes ASCII as it is, unless a declaration says something else.
+        // The reader accepts ASCII as it is, unless there is a declaration.
         if (isAscii(bytes) && !bytes.startsWith("<?xml"))
             reader.addData(bytes);
         else
@@ -104,7 +104,7 @@ ReadResult read(const QString &fileName, const QString &documentTypeName, qint64
     }
     if (!result.problem.message.isNull()) {
         result.status = ReadResult::NotParsed;
-        // A failed parse leaves half a tree behind.
+        // A failed parse leaves a part of the tree.
         result.document = QDomDocument(documentTypeName);
         if (result.problem.column == 0 || std::all_of(bytes.cbegin(), bytes.cend(), isBlank))
             locateEnd(bytes, &result.problem);

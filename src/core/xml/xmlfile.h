@@ -11,75 +11,89 @@
 
 #include <functional>
 
-/// The one way from a file to a tree and back. Files are Latin-1 text, indented by one space a level, without an XML
-/// declaration and without a document type. A declaration in a file that is read does not count, whatever encoding it
-/// names, and is not kept.
+/// The only way from a file to a tree and back. Files are Latin-1 text, indented by one space for each level, without
+/// an XML declaration and without a document type. A declaration in a file that is read has no effect, whatever
+/// encoding it names, and is not kept.
 namespace cabledoc::xmlfile {
 
 struct ReadResult
 {
+    /// Whether the file could be read.
     enum Status {
+        /// The document holds the file.
         Read,
-        NotOpened, ///< deviceError says why
-        NotParsed, ///< problem says why; line and column are 0 where the parser gave none
+        /// The file could not be opened. deviceError tells why.
+        NotOpened,
+        /// The file is not valid XML. problem tells why. Its line and column are 0 if the parser gave none.
+        NotParsed,
     };
     Status status = Read;
-    QDomDocument document; ///< whole, or without any content
+    /// The whole document, or a document without content.
+    QDomDocument document;
     QString deviceError;
     XmlProblem problem;
-    FileState state; ///< of the file that was read
+    /// State of the file that was read.
+    FileState state;
 };
 
-/// Reads a file of at most maximumSize bytes into a new document of that type name.
+/// Reads a file of at most maximumSize bytes into a new document with the given type name.
 ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize);
 
-/// In which order the attributes of an element are written. Those not named follow by name.
+/// The order in which the attributes of elements are written. All other attributes follow in the order of their names.
 struct AttributeOrder
 {
-    QHash<QString, QStringList> inContainer; ///< of the children of the container of that name
-    QHash<QString, QStringList> ofElement;   ///< of the element of that name
+    /// Attributes of the children of a container, by the name of the container.
+    QHash<QString, QStringList> inContainer;
+    /// Attributes of an element, by its name.
+    QHash<QString, QStringList> ofElement;
 };
 
-/// What becomes of characters beyond Latin-1 in texts and values.
+/// How characters beyond Latin-1 in texts and values are written.
 enum class BeyondLatin1 {
-    Replace,      ///< they become "?"
-    AsReferences, ///< they become references such as "&#8364;"
+    /// As "?".
+    Replace,
+    /// As references such as "&#8364;".
+    AsReferences,
 };
 
-/// How the writing of a document went.
+/// The result of writing a document.
 struct Outcome
 {
-    /// Characters that stand as "?" in the bytes: those that XML does not allow; and those outside Latin-1, in
-    /// comments, CDATA sections and names always, in texts and values if they are to be replaced.
+    /// Number of characters that were written as "?". These are the characters that XML does not allow, and those
+    /// beyond Latin-1: always in comments, CDATA sections and names, and in texts and values if they are to be
+    /// replaced.
     qint64 replacedCharacters = 0;
-    /// Why the text is not whole: read() would refuse it (no root or several, beyond the limits), or a piece of it was
-    /// not taken. Empty when it is whole.
+    /// Why the text is not complete, or empty if it is. Either read() would refuse it (no root, several roots, a limit
+    /// exceeded), or a piece of it was not accepted.
     QString error;
 };
 
-/// Takes a piece of a text. Returns the reason when it cannot, an empty text when it did.
+/// Accepts a piece of a text. Returns an empty string if this succeeds, or the reason why it failed.
 using Sink = std::function<QString(const QByteArray &piece)>;
 
-/// Passes on the text of a document in pieces of some megabytes. The same tree gives the same bytes in every process.
+/// Passes the text of a document to the sink, in pieces of some megabytes. The same tree gives the same bytes in every
+/// process.
 Outcome writeText(const QDomDocument &document, const AttributeOrder &order, const Sink &sink,
                   BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace);
 
-/// The same in one piece.
+/// The text of a document in one piece.
 struct Text : Outcome
 {
     QByteArray bytes;
 };
+/// Returns the text of a document in one piece.
 Text toText(const QDomDocument &document, const AttributeOrder &order,
             BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace);
 
 struct SaveOutcome : Outcome
 {
-    std::optional<FileState> state; ///< of the file, once the new content is in place
+    /// State of the file, once the new content is in place.
+    std::optional<FileState> state;
 };
 
-/// Replaces the content of a file by the text of a document, or creates it, if the file is the expected one. On any
-/// failure the old file is as it was. There is one exception: when the folder cannot be brought to the disk at the end,
-/// the new content is in place already. A link is followed; a device or a pipe is not replaced.
+/// Replaces the content of a file by the text of a document, or creates the file, if it is the expected one. If this
+/// fails, the old file stays as it is, with one exception: if the folder cannot be brought to the disk at the end, the
+/// new content is already in place. A link is followed. A device or a pipe is not replaced.
 SaveOutcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order,
                  BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace, const Expectation &expected = {});
 

@@ -15,7 +15,7 @@ bool continuesName(char16_t c)
     return startsName(c) || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.' || c == 0xB7;
 }
 
-/// Goes behind the character at a position, which may be a pair. Whether a file can hold it.
+/// Moves the position past a character, which may be a surrogate pair. Returns whether a file can hold the character.
 bool takeCharacter(const QString &text, int *position, bool withReferences)
 {
     const QChar first = text.at((*position)++);

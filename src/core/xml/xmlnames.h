@@ -4,30 +4,31 @@
 
 namespace cabledoc {
 
-/// The parser refuses names of more than 4,096 characters.
+/// Maximum length of a name. The parser refuses names of more than 4,096 characters.
 constexpr int maximumNameLength = 4000;
 
-/// Whether the text can name an element or attribute of a file: an XML name without a colon, of
-/// Latin-1 characters only, since names cannot be escaped, and not too long.
+/// Returns whether the text can be the name of an element or attribute in a file. It must be an XML name without a
+/// colon that is not too long. It may have Latin-1 characters only, because names cannot be escaped.
 bool isXmlName(const QString &text);
 
-/// Whether the files' encoding and XML 1.0 can both carry the character.
+/// Returns whether Latin-1 and XML 1.0 both allow the character.
 constexpr bool isStorable(char16_t character)
 {
     return character <= 0xFF && (character >= 0x20 || character == u'\t' || character == u'\n' || character == u'\r');
 }
 
-/// Whether a numeric reference can stand for a character beyond Latin-1: XML 1.0 allows it, and it is not half of one.
+/// Returns whether a character beyond Latin-1 can be written as a numeric reference. XML 1.0 must allow it, and it must
+/// not be a single surrogate.
 constexpr bool isReferable(char32_t character)
 {
     return character > 0xFF && (character < 0xD800 || character > 0xDFFF) && character != 0xFFFE && character != 0xFFFF;
 }
 
-/// The first character of the text that a file cannot hold, with numeric references or without; empty when it can hold
-/// all of it.
+/// Returns the first character of the text that a file cannot hold, with or without numeric references. Returns an
+/// empty string if there is none.
 QString firstLostCharacter(const QString &text, bool withReferences);
 
-/// The text as it is after a save and a load: "?" stands for what a file cannot hold.
+/// Returns the text as it is after a save and a load, with "?" for each character that a file cannot hold.
 QString savedText(const QString &text, bool withReferences);
 
 } // namespace cabledoc

@@ -10,14 +10,14 @@
 
 namespace {
 
-/// What files of other encodings begin with.
+/// The first bytes of files in other encodings.
 constexpr std::pair<const char *, const char *> marks[] = {
     {"\xEF\xBB\xBF", "UTF-8"},
     {"\xFE\xFF", "UTF-16"},
     {"\xFF\xFE", "UTF-16"},
 };
 
-/// Walks the markup of a text. Where the text is not well-formed the walk may go astray, but not before
+/// Walks through the markup of a text. If the text is not well-formed, the walk may take a wrong way, but not before
 /// the place at which the parser stops.
 class Scanner
 {
@@ -41,19 +41,20 @@ public:
                 return m_problem;
             }
         }
-        // The parser lets control characters pass in names.
+        // The parser does not notice control characters in names.
         m_position = firstForbidden();
         if (m_position != m_end)
-            report(QCoreApplication::translate("XmlFile", "There is a control character that XML does not allow."));
+            report(QCoreApplication::translate("XmlFile",
+                                               "The file contains a control character that XML does not allow."));
         else
             m_position = m_begin;
         while (m_problem.message.isNull() && goTo('<')) {
             if (skip("<!--"))
-                goBehind("-->");
+                skipPast("-->");
             else if (skip("<![CDATA["))
-                goBehind("]]>");
+                skipPast("]]>");
             else if (skip("<?"))
-                goBehind("?>");
+                skipPast("?>");
             else if (skip("</"))
                 --m_depth;
             else if (skip("<!"))
@@ -69,7 +70,7 @@ private:
 
     const char *firstForbidden() const
     {
-        // In blocks without a way out, which the compiler turns into a few instructions.
+        // In blocks without an early exit, which the compiler turns into a few instructions.
         constexpr std::ptrdiff_t blockSize = 4096;
         const char *block = m_begin;
         for (; m_end - block >= blockSize; block += blockSize) {
@@ -139,7 +140,7 @@ private:
         return m_position != m_end;
     }
 
-    void goBehind(const char *mark)
+    void skipPast(const char *mark)
     {
         if (goTo(mark))
             m_position += std::strlen(mark);

@@ -12,13 +12,16 @@ namespace cabledoc::xmlfile {
 
 namespace {
 
+/// What is escaped, depending on the place.
 enum class Escape {
-    Nothing, ///< comments, CDATA sections and names
+    /// In comments, CDATA sections and names: nothing.
+    Nothing,
     Text,
     AttributeValue,
 };
 
-/// What a character must be written as; null when it can stand as it is, or cannot be written at all.
+/// Returns the text with which a character must be written. Returns null if it can be written as it is, or cannot be
+/// written at all.
 constexpr const char *reference(char16_t character, Escape escape)
 {
     switch (character) {
@@ -32,7 +35,7 @@ constexpr const char *reference(char16_t character, Escape escape)
         return escape == Escape::Nothing ? nullptr : "&#13;";
     case u'"':
         return escape == Escape::AttributeValue ? "&quot;" : nullptr;
-    // As they stand in a value the parser would make blanks of them.
+    // The parser would read these as blanks if they were written as they are in a value.
     case u'\t':
         return escape == Escape::AttributeValue ? "&#9;" : nullptr;
     case u'\n':
@@ -44,7 +47,7 @@ constexpr const char *reference(char16_t character, Escape escape)
 
 using PlainCharacters = std::array<bool, 256>;
 
-/// Which of the Latin-1 characters can stand as they are.
+/// Returns which of the Latin-1 characters can be written as they are.
 template <Escape escape> constexpr PlainCharacters makePlainCharacters()
 {
     PlainCharacters isPlain{};
@@ -74,7 +77,7 @@ bool isCharacterData(const QDomNode &node)
     return node.isText() || node.isCDATASection();
 }
 
-/// Whether blanks between the children would change what the element holds.
+/// Returns whether blanks between the children would change the content of the element.
 bool isMixed(const QDomElement &element)
 {
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
@@ -94,7 +97,7 @@ public:
     {
     }
 
-    /// Goes through the tree without recursion, so that no depth can exhaust the stack.
+    /// Walks through the tree without recursion, so that no depth exhausts the stack.
     Outcome write(const QDomDocument &document)
     {
         int roots = 0;
@@ -130,8 +133,10 @@ private:
     struct OpenElement
     {
         QByteArray name;
-        bool isMixed;                  ///< itself or by one of its ancestors
-        const QStringList *childOrder; ///< of its children's attributes; null when there is none
+        /// Whether the element or one of its ancestors is mixed.
+        bool isMixed;
+        /// Order of its children's attributes, or null if there is none.
+        const QStringList *childOrder;
     };
 
     void passOn()
@@ -142,7 +147,7 @@ private:
 
     void start(const QDomNode &node)
     {
-        // The declaration is never written: the encoding is fixed, whatever an old file said.
+        // A declaration is never written. The encoding is fixed, even if an old file named another one.
         if (node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml"))
             return;
         if (!isCharacterData(node))
@@ -205,7 +210,7 @@ private:
             const QDomProcessingInstruction instruction = node.toProcessingInstruction();
             m_bytes += "<?";
             append(instruction.target(), Escape::Nothing);
-            // The parser lets some targets pass that it refuses with a blank behind them.
+            // The parser accepts some targets that it refuses with a blank after them.
             if (!instruction.data().isEmpty())
                 m_bytes += ' ';
             append(instruction.data(), Escape::Nothing);
@@ -225,7 +230,8 @@ private:
         int written = 0;
         if (order != nullptr) {
             for (const QString &name : *order) {
-                // One search tells whether there is a value and which: the default is known by its address.
+                // One search tells whether there is a value and returns it. The default value is recognised by its
+                // address.
                 static const QString missing(QLatin1String("missing"));
                 const QString value = element.attribute(name, missing);
                 if (value.constData() == missing.constData())
@@ -302,7 +308,7 @@ private:
         }
     }
 
-    /// Appends a character that cannot stand as it is and has no reference of its own.
+    /// Appends a character that cannot be written as it is and has no named reference.
     void appendOdd(char32_t character, Escape escape)
     {
         if (m_beyondLatin1 == BeyondLatin1::AsReferences && escape != Escape::Nothing && isReferable(character)) {
@@ -327,7 +333,8 @@ private:
     const Sink &m_sink;
     BeyondLatin1 m_beyondLatin1;
     QVector<OpenElement> m_open;
-    QByteArray m_bytes; ///< not yet passed on
+    /// Bytes that have not been passed on yet.
+    QByteArray m_bytes;
     Outcome m_outcome;
 };
 

@@ -1,7 +1,6 @@
 #include "jobattributes.h"
 
 #include "jobwords.h"
-#include "sharedattributes.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -72,11 +71,11 @@ const AttributeTable<TestResultsFields> &testResultsAttributes()
         attribute<&F::softwareVersion>(words::SoftwareVersion, WhenMissing::AddDefault),
         attribute<&F::serialNumber>(words::Serial, WhenMissing::AddDefault),
         attribute<&F::time>(words::Time),
-        attribute<&F::results>(QStringLiteral("data"), WhenMissing::AddDefault),
-        attribute<&F::bertErrors>(QStringLiteral("bert_errors"), WhenMissing::AddDefault),
-        attribute<&F::echo>(QStringLiteral("echo"), WhenMissing::AddDefault),
-        attribute<&F::next>(QStringLiteral("next"), WhenMissing::AddDefault),
-        attribute<&F::channel>(QStringLiteral("chan"), WhenMissing::AddDefault),
+        attribute<&F::results>(words::TestData, WhenMissing::AddDefault),
+        attribute<&F::bertErrors>(words::BertErrors, WhenMissing::AddDefault),
+        attribute<&F::echo>(words::Echo, WhenMissing::AddDefault),
+        attribute<&F::next>(words::Next, WhenMissing::AddDefault),
+        attribute<&F::channel>(words::Chan, WhenMissing::AddDefault),
     };
     return table;
 }
@@ -113,12 +112,18 @@ const AttributeTable<PortFields> &portAttributes()
     return table;
 }
 
-const AttributeTable<VertRunFields> &vertRunCablesAttributes()
+const AttributeTable<VertRunElementFields> &vertRunAttributes()
 {
-    using F = VertRunFields;
+    using F = VertRunElementFields;
     static const AttributeTable<F> table{
-        attribute<&F::connected>(words::Connected),
-        attribute<&F::disconnected>(words::Disconnected),
+        attribute<&F::id, F>(words::Id),
+        attribute<&F::x, F>(words::X),
+        attribute<&F::y, F>(words::Y),
+        attribute<&F::use, F>(words::Use),
+        attribute<&F::iconScale, F>(words::IconScale),
+        attribute<&F::dropHeight, F>(words::DropHeight),
+        attribute<&F::connected, F>(words::Connected),
+        attribute<&F::disconnected, F>(words::Disconnected),
     };
     return table;
 }
@@ -175,11 +180,9 @@ const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes()
 {
     using F = ActiveTestResultFields;
     static const AttributeTable<F> table{
-        attribute<&F::time>(words::Time),
-        attribute<&F::status>(words::Status),
-        attribute<&F::linkSpeed>(QStringLiteral("link_speed")),
-        attribute<&F::duplex>(QStringLiteral("duplex")),
-        attribute<&F::address>(QStringLiteral("address")),
+        attribute<&F::time>(words::Time),           attribute<&F::status>(words::Status),
+        attribute<&F::linkSpeed>(words::LinkSpeed), attribute<&F::duplex>(words::Duplex),
+        attribute<&F::address>(words::PeerAddress),
     };
     return table;
 }
@@ -198,30 +201,6 @@ QString storedCableUse(const QString &use)
     //: A word of the file format: it stays as it is.
     const QString television = QCoreApplication::translate("JobEditor", "TV", "short for television");
     return use == cableBox ? television : use;
-}
-
-const xmlfile::AttributeOrder &jobAttributeOrder()
-{
-    static const xmlfile::AttributeOrder order = [] {
-        xmlfile::AttributeOrder all = sharedAttributeOrder();
-        all.inContainer.insert(words::FloorList, floorAttributes().names());
-        all.inContainer.insert(words::SheetList, sheetAttributes().names());
-        all.inContainer.insert(words::RoomList, roomAttributes().names());
-        all.inContainer.insert(words::CableList, cableAttributes().names());
-        all.inContainer.insert(words::ConnectionList, connectionAttributes().names());
-        all.inContainer.insert(words::PortList, portAttributes().names());
-        all.inContainer.insert(words::VerticalRunList, portAttributes().names() + vertRunCablesAttributes().names());
-        all.inContainer.insert(words::PointList, pointAttributes().names());
-        all.inContainer.insert(words::VerticeList, pointAttributes().names());
-        all.inContainer.insert(words::FreeTextList, freeTextAttributes().names());
-        all.inContainer.insert(words::DeviceList, deviceAttributes().names());
-        all.inContainer.insert(words::ActivePortList, activePortAttributes().names());
-        all.ofElement.insert(words::ActiveTestResult, activeTestResultAttributes().names());
-        all.ofElement.insert(words::TestResults, testResultsAttributes().names());
-        all.ofElement.insert(words::SiteInfo, siteInfoAttributes());
-        return all;
-    }();
-    return order;
 }
 
 } // namespace cabledoc

@@ -15,15 +15,19 @@
 
 namespace cabledoc {
 
+/// What the element of a vertical run holds.
+struct VertRunElementFields : PortFields, VertRunFields
+{
+};
+
 const AttributeTable<FloorFields> &floorAttributes();
 const AttributeTable<SheetFields> &sheetAttributes();
 const AttributeTable<RoomFields> &roomAttributes();
 const AttributeTable<CableFields> &cableAttributes();
 const AttributeTable<TestResultsFields> &testResultsAttributes();
 const AttributeTable<DeviceConnectionFields> &connectionAttributes();
-/// Of ports, and of vertical runs but for their lists of cables.
 const AttributeTable<PortFields> &portAttributes();
-const AttributeTable<VertRunFields> &vertRunCablesAttributes();
+const AttributeTable<VertRunElementFields> &vertRunAttributes();
 /// Of points on floors and of bends on sheets.
 const AttributeTable<PointFields> &pointAttributes();
 const AttributeTable<FreeTextFields> &freeTextAttributes();
@@ -37,8 +41,5 @@ QString testStatus(const QDomElement &cable);
 const QStringList &siteInfoAttributes();
 /// What a new cable's use is stored as.
 QString storedCableUse(const QString &use);
-
-/// The order of the attributes of all elements of a job file.
-const xmlfile::AttributeOrder &jobAttributeOrder();
 
 } // namespace cabledoc

@@ -5,120 +5,32 @@
 
 #include <QtCore/QVector>
 
-using namespace cabledoc;
+#include <algorithm>
+
+namespace cabledoc {
 
 namespace {
 
 using Elements = QVector<QDomElement>;
 
-/// The container of that name in each of the elements.
-Elements containersIn(const Elements &parents, const QString &containerName)
+QDomElement holderOf(const QDomElement &element)
 {
-    Elements containers;
-    for (const QDomElement &parent : parents)
-        containers.append(parent.firstChildElement(containerName));
-    return containers;
+    return element.parentNode().parentNode().toElement();
 }
 
-QMap<QString, ContainerIndex> roomsIn(const Elements &floors)
+/// Returns whether the element comes last of all elements of its kind in document order.
+bool comesLast(QDomElement element, const ElementSchema *kind)
 {
-    QMap<QString, ContainerIndex> roomsOfFloor;
-    for (const QDomElement &floor : floors) {
-        ContainerIndex &rooms = roomsOfFloor[floor.tagName()];
-        for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList)))
-            rooms.append(room);
+    while (kind->holder != ElementKind::None) {
+        element = holderOf(element);
+        kind = &schemaOf(kind->holder);
+        if (!element.nextSiblingElement().isNull())
+            return false;
     }
-    return roomsOfFloor;
-}
-
-Elements roomsOf(const Elements &floors)
-{
-    Elements rooms;
-    for (const QDomElement &roomList : containersIn(floors, words::RoomList))
-        rooms += reachableChildren(roomList);
-    return rooms;
+    return true;
 }
 
 } // namespace
-
-void JobIndex::rebuild(ElementKind kind, const QDomElement &root)
-{
-    const auto list = [&root](const QString &name) { return root.firstChildElement(name); };
-    const auto floors = [&list] { return reachableChildren(list(words::FloorList)); };
-    const auto sheets = [&list] { return reachableChildren(list(words::SheetList)); };
-    Elements containers;
-    switch (kind) {
-    case ElementKind::Cables:
-        containers = {list(words::CableList)};
-        break;
-    case ElementKind::Connections:
-        containers = {list(words::ConnectionList)};
-        break;
-    case ElementKind::Sheets:
-        containers = {list(words::SheetList)};
-        break;
-    case ElementKind::Devices:
-        containers = containersIn(sheets(), words::DeviceList);
-        break;
-    case ElementKind::Vertices:
-        containers = containersIn(sheets(), words::VerticeList);
-        break;
-    case ElementKind::FreeTexts:
-        containers = containersIn(sheets(), words::FreeTextList);
-        break;
-    case ElementKind::Floors:
-        containers = {list(words::FloorList)};
-        break;
-    case ElementKind::Rooms:
-        containers = containersIn(floors(), words::RoomList);
-        roomsOfFloor = roomsIn(floors());
-        break;
-    case ElementKind::Ports:
-        containers = containersIn(roomsOf(floors()), words::PortList);
-        break;
-    case ElementKind::ActivePorts:
-        containers = {list(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList)};
-        break;
-    case ElementKind::VerticalRuns:
-        containers = containersIn(roomsOf(floors()), words::VerticalRunList);
-        break;
-    case ElementKind::Points:
-        containers = containersIn(floors(), words::PointList);
-        break;
-    case ElementKind::FloorFreeTexts:
-        containers = containersIn(floors(), words::FreeTextList);
-        break;
-    case ElementKind::Count:
-        return;
-    }
-    Elements inOrder;
-    for (const QDomElement &container : std::as_const(containers)) {
-        for (const QDomElement &element : ChildElements(container))
-            inOrder.append(element);
-    }
-    (*this)[kind].rebuild(inOrder);
-}
-
-ReferenceIndex &JobIndex::allReferences(const QDomElement &root)
-{
-    if (references)
-        return *references;
-    references.emplace();
-    const auto list = [&root](const QString &name) { return root.firstChildElement(name); };
-    Elements containers;
-    // Rooms and floors that share a tag with another one come into reach when that is removed.
-    for (const QDomElement &floor : ChildElements(list(words::FloorList))) {
-        for (const QDomElement &room : ChildElements(floor.firstChildElement(words::RoomList)))
-            containers.append(room.firstChildElement(words::VerticalRunList));
-    }
-    containers += {list(words::CableList), list(words::ConnectionList),
-                   list(words::ActiveNetworkTestList).firstChildElement(words::ActivePortList)};
-    for (const QDomElement &container : std::as_const(containers)) {
-        for (const QDomElement &element : ChildElements(container))
-            references->insert(element);
-    }
-    return *references;
-}
 
 CableLists::CableLists(const QDomElement &cableList)
 {
@@ -131,3 +43,223 @@ CableLists::CableLists(const QDomElement &cableList)
     for (const QDomElement &cable : ChildElements(cableList))
         tagsOfType[cable.attribute(words::Type)].append(*tag++);
 }
+
+JobIndex::JobIndex(const DocumentTree &tree)
+    : m_tree(tree)
+{
+    // Ids of cables have three digits at least: "Cable001".
+    kept(ElementKind::Cables) = ElementIndex(3);
+}
+
+void JobIndex::rebuild()
+{
+    rebuildCableLists();
+    for (const ElementSchema *kind : jobSchema())
+        rebuildNow(kind->kind);
+}
+
+void JobIndex::rebuild(ElementKind kind)
+{
+    m_references.reset();
+    rebuildNow(kind);
+}
+
+void JobIndex::rebuildCableLists()
+{
+    m_references.reset();
+    m_cables.emplace(cableKind().listIn(m_tree.root()));
+}
+
+void JobIndex::rebuildNow(ElementKind kind)
+{
+    m_isStale.reset(std::size_t(kind));
+    Elements elements;
+    for (const QDomElement &list : listsOf(schemaOf(kind), m_tree.root(), reachableChildren))
+        elements += allChildren(list);
+    kept(kind).rebuild(elements);
+    if (kind != ElementKind::Rooms)
+        return;
+    m_roomsOfFloor.clear();
+    for (const QDomElement &floor : reachableChildren(floorKind().listIn(m_tree.root()))) {
+        ContainerIndex &rooms = m_roomsOfFloor[floor.tagName()];
+        for (const QDomElement &room : ChildElements(roomKind().listIn(floor)))
+            rooms.append(room);
+    }
+}
+
+void JobIndex::forgetAll()
+{
+    m_isStale.set();
+    m_cables.reset();
+    m_references.reset();
+}
+
+void JobIndex::forgetElements()
+{
+    cables();
+    for (const ElementSchema *kind : jobSchema())
+        of(kind->kind).forgetElements();
+    m_roomsOfFloor.clear();
+    m_references.reset();
+}
+
+ElementIndex &JobIndex::of(ElementKind kind)
+{
+    if (isStale(kind))
+        rebuildNow(kind);
+    return kept(kind);
+}
+
+ContainerIndex *JobIndex::roomsOf(const QString &floorTag)
+{
+    of(ElementKind::Rooms);
+    const auto rooms = m_roomsOfFloor.find(floorTag);
+    return rooms == m_roomsOfFloor.end() ? nullptr : &*rooms;
+}
+
+const CableLists &JobIndex::cables()
+{
+    if (!m_cables)
+        m_cables.emplace(cableKind().listIn(m_tree.root()));
+    return *m_cables;
+}
+
+ReferenceIndex &JobIndex::references()
+{
+    if (m_references)
+        return *m_references;
+    m_references.emplace();
+    for (const ElementSchema *kind : jobSchema()) {
+        if (kind->references.isEmpty())
+            continue;
+        // Floors and rooms that share a tag with another one come into reach when that is removed.
+        for (const QDomElement &list : listsOf(*kind, m_tree.root(), allChildren)) {
+            for (const QDomElement &element : ChildElements(list))
+                m_references->insert(element);
+        }
+    }
+    return *m_references;
+}
+
+bool JobIndex::isReachable(const QDomElement &element, ElementKind kind)
+{
+    const QString tag = element.tagName();
+    const bool isFirst = of(kind).element(tag) == element
+                         || (of(kind).isRepeated(tag) && element.parentNode().firstChildElement(tag) == element);
+    const ElementKind holder = schemaOf(kind).holder;
+    return isFirst && (holder == ElementKind::None || isReachable(holderOf(element), holder));
+}
+
+void JobIndex::inserted(const QDomElement &element, ElementKind kind)
+{
+    const ElementSchema &schema = schemaOf(kind);
+    if (m_references && !schema.references.isEmpty())
+        m_references->insert(element);
+    if (kind == ElementKind::Cables)
+        m_cables.reset();
+    if (isStale(kind) || (schema.holder != ElementKind::None && !isReachable(holderOf(element), schema.holder)))
+        return;
+    if (kept(kind).containsTag(element.tagName()) && !comesLast(element, &schema)) {
+        setStale(kind);
+        return;
+    }
+    kept(kind).append(element);
+    if (kind == ElementKind::Rooms)
+        m_roomsOfFloor[holderOf(element).tagName()].append(element);
+}
+
+void JobIndex::moved(const QDomElement &element, ElementKind kind)
+{
+    if (kept(kind).isRepeated(element.tagName()))
+        setStale(kind);
+}
+
+void JobIndex::aboutToRemove(const QDomElement &element, ElementKind kind)
+{
+    if (opensWay(element, kind))
+        setStaleBelow(kind);
+    for (const ElementSchema *held : jobSchema()) {
+        if (held->holder != kind)
+            continue;
+        for (const QDomElement &child : ChildElements(held->listIn(element)))
+            aboutToRemove(child, held->kind);
+    }
+    if (m_references && !schemaOf(kind).references.isEmpty())
+        m_references->remove(element);
+    if (kind == ElementKind::Cables)
+        m_cables.reset();
+    if (isStale(kind))
+        return;
+    kept(kind).remove(element);
+    if (kind == ElementKind::Rooms)
+        m_roomsOfFloor[holderOf(element).tagName()].remove(element);
+    if (kind == ElementKind::Floors)
+        m_roomsOfFloor.remove(element.tagName());
+}
+
+/// Returns whether another element can be reached, with all that it holds, when this one is gone.
+bool JobIndex::opensWay(const QDomElement &element, ElementKind kind)
+{
+    const bool holdsElements = std::any_of(jobSchema().begin(), jobSchema().end(),
+                                           [kind](const ElementSchema *other) { return other->holder == kind; });
+    return holdsElements && (isStale(kind) || kept(kind).isRepeated(element.tagName()))
+           && !element.nextSiblingElement(element.tagName()).isNull();
+}
+
+/// Marks what elements of a kind hold.
+void JobIndex::setStaleBelow(ElementKind holder)
+{
+    for (const ElementSchema *kind : jobSchema()) {
+        if (kind->holder == holder) {
+            setStale(kind->kind);
+            setStaleBelow(kind->kind);
+        }
+    }
+}
+
+void JobIndex::aboutToSet(const QDomElement &element, const QString &attribute)
+{
+    if (m_references && namingAttributes().contains(attribute))
+        m_references->remove(element);
+    if (attribute == words::Id && kindOf(element) == ElementKind::Rooms && !isStale(ElementKind::Rooms))
+        m_roomsOfFloor[holderOf(element).tagName()].remove(element);
+}
+
+void JobIndex::wasSet(const QDomElement &element, const QString &attribute)
+{
+    if (m_references && namingAttributes().contains(attribute))
+        m_references->insert(element);
+    if (attribute != words::Id && attribute != words::Type)
+        return;
+    const ElementKind kind = kindOf(element);
+    if (kind == ElementKind::Cables)
+        m_cables.reset();
+    if (kind == ElementKind::None || attribute != words::Id || isStale(kind))
+        return;
+    if (kind == ElementKind::Rooms) {
+        ContainerIndex &rooms = m_roomsOfFloor[holderOf(element).tagName()];
+        if (!rooms.element(element.attribute(words::Id)).isNull()) {
+            // Only the tree can tell which room of that id is the first on the floor.
+            setStale(kind);
+            return;
+        }
+        rooms.append(element);
+    }
+    kept(kind).updateId(element);
+}
+
+bool JobIndex::matchesTree() const
+{
+    JobIndex asked = *this;
+    asked.cables();
+    asked.references();
+    for (const ElementSchema *kind : jobSchema())
+        asked.of(kind->kind);
+    JobIndex rebuilt(m_tree);
+    rebuilt.rebuild();
+    rebuilt.references();
+    return asked.m_elements == rebuilt.m_elements && asked.m_roomsOfFloor == rebuilt.m_roomsOfFloor
+           && asked.m_cables == rebuilt.m_cables && asked.m_references == rebuilt.m_references;
+}
+
+} // namespace cabledoc

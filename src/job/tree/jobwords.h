@@ -92,6 +92,9 @@ inline const QString ActiveTestResult = QStringLiteral("ActiveTest_Result");
 inline const QString ActiveTestValue = QStringLiteral("Value");
 inline const QString Name = QStringLiteral("name");
 inline const QString Value = QStringLiteral("value");
+inline const QString LinkSpeed = QStringLiteral("link_speed");
+inline const QString Duplex = QStringLiteral("duplex");
+inline const QString PeerAddress = QStringLiteral("address");
 
 // The results of a test
 inline const QString Time = QStringLiteral("time");
@@ -99,6 +102,11 @@ inline const QString TestResults = QStringLiteral("Test_Results");
 inline const QString Status = QStringLiteral("status");
 inline const QString SoftwareVersion = QStringLiteral("software_version");
 inline const QString Serial = QStringLiteral("serial");
+inline const QString TestData = QStringLiteral("data");
+inline const QString BertErrors = QStringLiteral("bert_errors");
+inline const QString Echo = QStringLiteral("echo");
+inline const QString Next = QStringLiteral("next");
+inline const QString Chan = QStringLiteral("chan");
 
 // Attributes of the site
 inline const QString Contact = QStringLiteral("contact");

@@ -1,40 +1,21 @@
 #include "referenceindex.h"
 
 #include "attributetext.h"
-#include "jobwords.h"
+#include "jobschema.h"
 
 #include <algorithm>
 
 namespace cabledoc {
 
-namespace {
-
-const QStringList &namingAttributes()
-{
-    static const QStringList names{words::To,        words::From,         words::Path,
-                                   words::Connected, words::Disconnected, words::Port};
-    return names;
-}
-
-} // namespace
-
 QStringList tagsNamedBy(const QDomElement &element)
 {
     QStringList tags;
-    for (const QString &attribute : namingAttributes()) {
-        QStringList entries;
-        fromText(element.attribute(attribute), &entries);
-        tags += entries;
-    }
+    for (const QString &attribute : namingAttributes())
+        tags += entriesIn(element.attribute(attribute));
     // removeDuplicates() would take Qt's hash of names that come from a file.
     tags.sort();
     tags.erase(std::unique(tags.begin(), tags.end()), tags.end());
     return tags;
-}
-
-bool namesTags(const QString &attribute)
-{
-    return namingAttributes().contains(attribute);
 }
 
 void ReferenceIndex::insert(const QDomElement &element)

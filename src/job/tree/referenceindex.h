@@ -12,8 +12,6 @@ namespace cabledoc {
 /// The tags that an element names in its attributes: a cable its ends and its path, a connection its ends, a
 /// vertical run its cables, an active port its port.
 QStringList tagsNamedBy(const QDomElement &element);
-/// Whether it is one of the attributes that name tags.
-bool namesTags(const QString &attribute);
 
 /// Which elements name a tag, so that what names an element can be found when the element goes.
 class ReferenceIndex

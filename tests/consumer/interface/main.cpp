@@ -15,8 +15,10 @@
 #include <cabledoc/schedule.h>
 #include <cabledoc/settingsstrings.h>
 #include <cabledoc/translations.h>
+#include <cabledoc/version.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QVersionNumber>
 
 #include <algorithm>
 #include <cstdio>
@@ -180,6 +182,9 @@ void namesOfOurOwn()
     const cabledoc::Record<cabledoc::PortFields> &record = vertRun;
     EXPECT(record.fields().iconScale == 1.0 && vertRun.connected().size() == 1);
     EXPECT(BKUtilities::getDistance({0.0, 0.0}, {3.0, 4.0}) == 5.0);
+    EXPECT(text(CABLEDOC_VERSION_STR) == text(PACKAGE_VERSION));
+    EXPECT(QVersionNumber(CABLEDOC_VERSION >> 16, CABLEDOC_VERSION >> 8 & 0xff, CABLEDOC_VERSION & 0xff)
+           == QVersionNumber::fromString(text(PACKAGE_VERSION)));
 }
 
 } // namespace

@@ -62,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(index.firstFreeTagNumber(prefix, 1), 5);
         index.remove(third);
         QCOMPARE(index.firstFreeTagNumber(prefix, 1), 3);
-        QCOMPARE(index.firstFreeIdNumber(QString(), 1), 1);
+        QCOMPARE(index.ids().firstFreeNumber(QString(), 1), 1);
     }
 
     void idsAreSharedAndChange()
@@ -72,15 +72,15 @@ private Q_SLOTS:
         const QDomElement b = element("b", "Plan 1");
         index.append(b);
         index.append(a);
-        QCOMPARE(index.tagOfId("Plan 1"), QString("a"));
-        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 2);
+        QCOMPARE(index.ids().firstTag("Plan 1"), QString("a"));
+        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 2);
         a.setAttribute("id", "Plan 2");
         index.updateId(a);
-        QCOMPARE(index.tagOfId("Plan 1"), QString("b"));
-        QCOMPARE(index.ids().join(','), QString("Plan 2,Plan 1"));
-        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 3);
+        QCOMPARE(index.ids().firstTag("Plan 1"), QString("b"));
+        QCOMPARE(index.idsByTag().join(','), QString("Plan 2,Plan 1"));
+        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 3);
         index.remove(b);
-        QCOMPARE(index.firstFreeIdNumber("Plan ", 1), 1);
+        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 1);
     }
 
     /// Whichever of the tags that share an id goes, the first of the others stands for it.
@@ -98,11 +98,11 @@ private Q_SLOTS:
             }
             QCOMPARE(index.lastTag(), QString("d"));
             for (const QString &tag : std::as_const(order)) {
-                QCOMPARE(index.tagOfId("Plan"), elements.firstKey());
+                QCOMPARE(index.ids().firstTag("Plan"), elements.firstKey());
                 QCOMPARE(index.lastTag(), elements.lastKey());
                 index.remove(elements.take(tag));
             }
-            QVERIFY(!index.containsId("Plan"));
+            QVERIFY(!index.ids().contains("Plan"));
             QCOMPARE(index.lastTag(), QString());
             QVERIFY(index == ElementIndex());
         } while (std::next_permutation(order.begin(), order.end()));
@@ -135,13 +135,13 @@ private Q_SLOTS:
         QCOMPARE(index.tags().size(), 1);
         QCOMPARE(index.element("t"), first);
         QVERIFY(index.isRepeated("t"));
-        QVERIFY(!index.containsId("2"));
+        QVERIFY(!index.ids().contains("2"));
         second.setAttribute("id", "3");
         index.updateId(second);
-        QVERIFY(!index.containsId("3"));
+        QVERIFY(!index.ids().contains("3"));
         index.remove(first);
         QCOMPARE(index.element("t"), second);
-        QCOMPARE(index.tagOfId("3"), QString("t"));
+        QCOMPARE(index.ids().firstTag("3"), QString("t"));
         QVERIFY(!index.isRepeated("t"));
         index.forgetElements();
         QVERIFY(index.containsTag("t"));

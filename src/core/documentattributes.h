@@ -1,0 +1,45 @@
+#pragma once
+
+#include "address.h"
+#include "attributetable.h"
+#include "bundledcable.h"
+#include "pagesettings.h"
+#include "printsettings.h"
+#include "scalesettings.h"
+#include "testdef.h"
+#include "xmlfile.h"
+
+#include <QtCore/QMap>
+
+namespace cabledoc {
+
+/// Returns the attributes of the contractor in the order in which the file has them.
+const QStringList &contractorInfoAttributes();
+const AttributeTable<AddressFields> &addressAttributes();
+const AttributeTable<TestDefFields> &testDefAttributes();
+
+/// The types of a bundle are elements of their own.
+const AttributeTable<BundledCableFields> &bundledCableAttributes();
+
+/// Returns the entries that have print settings, in the order in which a new document has them.
+const QStringList &printSettingsEntries();
+/// Returns the entries that have page and scale settings too.
+const QStringList &drawingSettingsEntries();
+/// Returns the print settings of an entry in a new document.
+PrintSettings initialPrintSettings(const QString &entry);
+const AttributeTable<PrintSettingsFields> &printSettingsAttributes();
+const AttributeTable<PageSettingsFields> &pageSettingsAttributes();
+const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes();
+
+/// The attributes of the elements in a file.
+struct FileAttributes
+{
+    QMap<QString, const AttributeList *> inList;    ///< of the elements in the list of that name
+    QMap<QString, const AttributeList *> ofElement; ///< of the elements of that name
+};
+/// Returns the attributes of all elements that both documents have.
+const FileAttributes &documentFileAttributes();
+/// Returns the order of these attributes, and of those of the contractor.
+xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes);
+
+} // namespace cabledoc

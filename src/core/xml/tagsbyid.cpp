@@ -1,0 +1,73 @@
+#include "tagsbyid.h"
+
+#include <algorithm>
+
+namespace cabledoc {
+
+void TagsById::insert(const QString &id, const QString &tag)
+{
+    m_names.insert(id);
+    if (isNumbered(id))
+        m_numbered.insert(tag);
+    const auto [first, isNew] = m_first.try_emplace(id, tag);
+    if (isNew)
+        return;
+    m_others[id].insert(std::max(tag, first->second));
+    first->second = std::min(tag, first->second);
+}
+
+void TagsById::remove(const QString &id, const QString &tag)
+{
+    if (isNumbered(id))
+        m_numbered.erase(tag);
+    const auto first = m_first.find(id);
+    const auto others = m_others.find(id);
+    if (others == m_others.end()) {
+        m_first.erase(first);
+        m_names.remove(id);
+        return;
+    }
+    if (first->second == tag)
+        first->second = others->second.extract(others->second.begin()).value();
+    else
+        others->second.erase(tag);
+    if (others->second.empty())
+        m_others.erase(others);
+}
+
+QString TagsById::firstTag(const QString &id) const
+{
+    const auto first = m_first.find(id);
+    return first == m_first.end() ? QString() : first->second;
+}
+
+qint64 TagsById::firstFreeNumber(const QString &prefix, qint64 from)
+{
+    return m_names.firstFree(prefix, from, [this](const QString &id) { return contains(id); });
+}
+
+bool TagsById::isNumbered(const QString &id) const
+{
+    return !m_prefix.isNull() && id.size() == m_prefix.size() + m_digits && id.startsWith(m_prefix)
+           && std::all_of(id.cend() - m_digits, id.cend(),
+                          [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+}
+
+QString TagsById::lastTagWithNumber(const QString &prefix)
+{
+    if (m_prefix.isNull() || m_prefix != prefix) {
+        m_prefix = prefix;
+        m_numbered.clear();
+        for (const auto &[id, tag] : m_first) {
+            if (isNumbered(id))
+                m_numbered.insert(tag);
+        }
+        for (const auto &[id, tags] : m_others) {
+            if (isNumbered(id))
+                m_numbered.insert(tags.begin(), tags.end());
+        }
+    }
+    return m_numbered.empty() ? QString() : *m_numbered.rbegin();
+}
+
+} // namespace cabledoc

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document.h"
+#include "jobeditor.h"
+#include "jobtree.h"
+
+namespace cabledoc {
+
+/// What the job document keeps, and what its subjects share.
+class JobEditorPrivate
+{
+public:
+    JobEditorPrivate(Document *jobDocument, JobTree *jobTree)
+        : document(*jobDocument)
+        , tree(*jobTree)
+    {
+    }
+
+    /// Returns the inside of a job document.
+    static JobEditorPrivate &of(const JobEditor &job) { return *job.d; }
+
+    /// Adds an element, as JobTree::add() does. Also returns a null element, with a text in error(), if a given tag
+    /// cannot be the name of an element.
+    template <typename Fields> QDomElement add(const Kind<Fields> &kind, const Fields &fields, int mode)
+    {
+        return addmode::keepsTag(mode) && !mayBeName(fields.element) ? QDomElement() : tree.add(kind, fields, mode);
+    }
+    /// Returns whether the text can be the name of an element or attribute. Sets error() if not.
+    bool mayBeName(const QString &name);
+    /// Returns whether a file can be saved under that name. Sets error() if not.
+    bool mayBeFile(const QString &filename, const QString &extension);
+    /// Returns whether an element of the kind has that text as its tag or as its id.
+    bool exists(ElementKind kind, const QString &text, bool byTag) const;
+    /// Returns the tags of the floors whose numbers lie between those of two others.
+    QStringList floorsBetween(const QString &tagA, const QString &tagB) const;
+
+    Document &document;
+    JobTree &tree;
+    QString defaultBktFile;
+    int release = 0;
+};
+
+} // namespace cabledoc

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "documentattributes.h"
+#include "jobattributes.h"
+
+#include <array>
+
+namespace cabledoc {
+
+/// The kinds of elements that have tags and ids.
+enum class ElementKind {
+    Cables,
+    Connections,
+    Sheets,
+    Devices,
+    Vertices,
+    FreeTexts, ///< on sheets
+    Floors,
+    Rooms,
+    Ports,
+    ActivePorts,
+    VerticalRuns,
+    Points,
+    FloorFreeTexts,
+    Count,
+    None = Count,
+};
+
+constexpr int kindCount = int(ElementKind::Count);
+
+/// When the list that holds the elements of a kind comes into being.
+enum class ListCreation {
+    WithHolder,          ///< with what holds it; without the list no element can be added
+    WithHolderOrElement, ///< with what holds it, or with the first element if it is missing
+    WithElement,         ///< with the first element
+};
+
+/// Attributes of a kind that hold tags of other elements.
+struct Reference
+{
+    enum WhenGone {
+        RemoveElement, ///< an element that names what is gone is removed too
+        ForgetTag,     ///< the tag is taken out of the list of tags
+    };
+    QStringList attributes;
+    QVector<ElementKind> targets;
+    WhenGone whenGone;
+
+    /// Returns the tags in the text of an attribute. A text with commas that stands for one tag leads nowhere.
+    QStringList tagsIn(const QString &text) const;
+};
+
+/// What writing a single attribute does if the element lacks it.
+enum class Setters {
+    AddAttributes,
+    ChangeAttributes, ///< nothing
+};
+
+/// What there is to know about a kind of element. Everything that adds, finds, reads, changes, copies, removes, checks
+/// or saves elements uses these rows.
+struct ElementSchema
+{
+    ElementKind kind;
+    ElementKind holder; ///< the kind of the elements that hold the lists; None for the root
+    QStringList list;   ///< the way from the holder to the list
+    ListCreation listCreation;
+    QString tagPrefix; ///< of generated tags
+    const AttributeList &attributes;
+    QVector<Reference> references;
+    Setters setters;
+
+    /// Returns the name of the list itself.
+    const QString &listName() const { return list.last(); }
+    /// Returns the list in an element of the holding kind, or a null element if it is missing.
+    QDomElement listIn(const QDomElement &parent) const;
+};
+
+/// The row of a kind, with the type of its record.
+template <typename FieldsType> struct Kind : ElementSchema
+{
+    using Fields = FieldsType;
+
+    Kind(ElementKind ownKind, ElementKind holderKind, const QStringList &wayToList, ListCreation creation,
+         const QString &prefix, const AttributeTable<Fields> &attributeTable,
+         const QVector<QString Fields::*> &holderTags = {}, const QVector<Reference> &namedElements = {},
+         Setters attributeSetters = Setters::AddAttributes)
+        : ElementSchema{ownKind, holderKind,     wayToList,     creation,
+                        prefix,  attributeTable, namedElements, attributeSetters}
+        , table(attributeTable)
+        , holders(holderTags)
+    {
+    }
+
+    const AttributeTable<Fields> &table;
+    QVector<QString Fields::*> holders; ///< the fields with the tags of what holds the element, the innermost first
+};
+
+const Kind<CableFields> &cableKind();
+const Kind<DeviceConnectionFields> &connectionKind();
+const Kind<SheetFields> &sheetKind();
+const Kind<DeviceFields> &deviceKind();
+const Kind<PointFields> &verticeKind();
+const Kind<FreeTextFields> &freeTextKind();
+const Kind<FloorFields> &floorKind();
+const Kind<RoomFields> &roomKind();
+const Kind<PortFields> &portKind();
+const Kind<ActivePortFields> &activePortKind();
+const Kind<VertRunElementFields> &vertRunKind();
+const Kind<PointFields> &pointKind();
+const Kind<FreeTextFields> &floorFreeTextKind();
+
+/// Returns the rows of all kinds in the order of ElementKind.
+const std::array<const ElementSchema *, kindCount> &jobSchema();
+const ElementSchema &schemaOf(ElementKind kind);
+
+/// Returns the kind of an element by its place in the tree, or None if it has none.
+ElementKind kindOf(const QDomElement &element);
+/// Returns the lists of a kind in document order. Which of the elements in a list are looked into depends on the
+/// function: allChildren() or reachableChildren().
+QVector<QDomElement> listsOf(const ElementSchema &kind, const QDomElement &root,
+                             QVector<QDomElement> (*childrenOf)(const QDomElement &list));
+/// Returns the names of the attributes that hold tags.
+const QStringList &namingAttributes();
+
+/// Returns the attributes of all elements in a job file.
+const FileAttributes &jobFileAttributes();
+/// Returns the order of the attributes in a job file.
+const xmlfile::AttributeOrder &jobAttributeOrder();
+
+} // namespace cabledoc
