@@ -1,11 +1,11 @@
 // Fuzzes job files. A file is either refused with a reason, or becomes a job that answers every query, and that is the
 // same after it has been saved and loaded.
 
-#include "everyquery.h"
 #include "fuzzing.h"
 
 #include "documentcheck.h"
 #include "jobeditorprobe.h"
+#include "operations.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -1,6 +1,6 @@
 #include "bkteditor.h"
-#include "everyquery.h"
 #include "jobeditorprobe.h"
+#include "operations.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>

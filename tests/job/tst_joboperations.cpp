@@ -1,103 +1,138 @@
+#include "bkteditor.h"
 #include "jobeditorprobe.h"
+#include "operations.h"
 #include "testcases.h"
 #include "testlanguage.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 
-/// What operations on a job's plan make of a job: of the elements themselves and of those that name them.
+/// What the operations of a job, and those of a template, answer and change. tests/data/README.md describes the form of
+/// the cases.
 class JobOperationsTest : public QObject
 {
     Q_OBJECT
 
 private:
+    const QVector<const char *> m_files{"cases/cables.txt",    "cases/copies.txt",   "cases/exchange.txt",
+                                        "cases/fields.txt",    "cases/floors.txt",   "cases/lengths.txt",
+                                        "cases/lifecycle.txt", "cases/queries.txt",  "cases/removals.txt",
+                                        "cases/rooms.txt",     "cases/templates.txt"};
     QTemporaryDir m_directory;
 
-    JobEditor &load(const QByteArray &content)
+    /// Opens the job and the template of a case, or one of them.
+    static void open(const QString &documents)
     {
-        writeFile(m_directory.filePath("site.job"), content);
-        if (!JobEditor::Instance().Load(m_directory.filePath("site.job")))
-            qFatal("%s", qPrintable(JobEditor::Instance().error()));
-        return JobEditor::Instance();
+        for (const QString &document : documents.split(QRegularExpression("(?=<Job>|<Bkt>)"))) {
+            const bool isJob = document.startsWith("<Job>");
+            const QString name = isJob ? "site.job" : "shop.bkt";
+            writeFile(name, document.toLatin1());
+            if (!document.isEmpty() && !(isJob ? JobEditor::Instance().Load(name) : BktEditor::Instance().Load(name)))
+                qFatal("%s: %s", qPrintable(JobEditor::Instance().error()), qPrintable(document));
+        }
     }
 
-    /// Does what a line tells: the name of an operation of JobEditor and its arguments, "-" for an empty one.
-    static void apply(JobEditor &job, const QString &line)
+    /// The texts of the documents that a case expects, as they would be saved now.
+    static QString savedTexts(const QString &expected)
     {
-        QStringList words = line.split(' ');
-        words.replaceInStrings(QRegularExpression("^-$"), "");
-        const auto word = [&words](int position) { return words.value(position); };
-        const auto number = [&words](int position) { return words.value(position).toInt(); };
-        const QMap<QString, QString> cableIds{{withGeneratedNames("Cable001"), words.value(3, "unasked")}};
-        const TestResults results("now", word(2), "2", "S", cable_struct::untested(), 1);
-        const QHash<QString, std::function<void()>> operations{
-            {"addCable", [&] { job.addCable(word(2), word(3), number(1)); }},
-            {"addFloor", [&] { job.addFloor(word(2), word(3), 8, QString(), number(1)); }},
-            {"addRoom", [&] { job.addRoom(Room(word(3), 1.9, 2, 3, 4, word(4), word(1), 5, 6, 0, 1, 2), number(2)); }},
-            {"copyFloor", [&] { job.copyFloor(word(1), word(2), cableIds, words.size() > 3); }},
-            {"copySheet", [&] { job.copySheet(word(1), word(2)); }},
-            {"getBackgroundOption", [&] { job.getBackgroundOption(word(1)); }},
-            {"getCable", [&] { job.getCable(word(1)); }},
-            {"getFloor", [&] { job.getFloor(word(1)); }},
-            {"getFloorBackgroundOrigin", [&] { job.getFloorBackgroundOrigin(word(1)); }},
-            {"getFloorCeilingHeight", [&] { job.getFloorCeilingHeight(word(1)); }},
-            {"getRoomById", [&] { job.getRoomById(word(1), word(2)); }},
-            {"getRoomByTag", [&] { job.getRoomByTag(word(1), word(2)); }},
-            {"removeCable", [&] { job.removeCable(word(1)); }},
-            {"removeDevice", [&] { job.removeDevice(word(1)); }},
-            {"removeFloor", [&] { job.removeFloor(word(1)); }},
-            {"removePoint", [&] { job.removePoint(word(1)); }},
-            {"removePort", [&] { job.removePort(word(1)); }},
-            {"removeRoom", [&] { job.removeRoom(word(1), word(2)); }},
-            {"removeSheet", [&] { job.removeSheet(word(1)); }},
-            {"removeVertRun", [&] { job.removeVertRun(word(1)); }},
-            {"removeVertice", [&] { job.removeVertice(word(1)); }},
-            {"setBackgroundOption", [&] { job.setBackgroundOption(word(1), word(2)); }},
-            {"setCableID", [&] { job.setCableID(word(1), word(2)); }},
-            {"setCableTestResults", [&] { job.setCableTestResults(word(1), results); }},
-            {"setFloorBackgroundPic", [&] { job.setFloorBackgroundPic(word(1), word(2), number(3), number(4)); }},
-            {"setFloorCeilingHeight", [&] { job.setFloorCeilingHeight(word(1), word(2).toDouble()); }},
-            {"setFloorId", [&] { job.setFloorId(word(1), word(2)); }},
-            {"setPortRoom", [&] { job.setPortRoom(word(1), word(2), word(3)); }},
-            {"setRoomLayer", [&] { job.setRoomLayer(word(1), word(2), number(3)); }},
-            {"setRoomName", [&] { job.setRoomName(word(1), word(2), word(3)); }},
-            {"setRoomNamePos", [&] { job.setRoomNamePos(word(1), word(2), QPoint(number(3), number(4))); }},
-            {"setRoomPos", [&] { job.setRoomPos(word(1), word(2), number(3), number(4), number(5), number(6)); }},
-            {"setSheetID", [&] { job.setSheetID(word(1), word(2)); }},
-            {"setShowRoomDimensions", [&] { job.setShowRoomDimensions(word(1), word(2), number(3)); }},
-            {"setShowRoomName", [&] { job.setShowRoomName(word(1), word(2), number(3)); }},
-            {"setVertRunRoom", [&] { job.setVertRunRoom(word(1), word(2), word(3)); }},
-        };
-        if (!operations.contains(words.first()))
-            qFatal("unknown: %s", qPrintable(line));
-        operations.value(words.first())();
+        QByteArray texts;
+        if (expected.contains("<Job>"))
+            texts += JobEditorProbe(JobEditor::Instance()).text();
+        if (expected.contains("<Bkt>") && BktEditor::Instance().saveAs("saved.bkt"))
+            texts += readFile("saved.bkt");
+        return QString::fromLatin1(texts);
+    }
+
+    /// The lines with messages as the test's language has them.
+    static QString translatedErrors(const QString &lines)
+    {
+        QStringList all = lines.split('\n');
+        for (QString &line : all) {
+            const QString call = callIn(line);
+            if (call.endsWith("error"))
+                line = call + " = " + translated(call == "error" ? "JobEditor" : "BktEditor", line.section(" = ", 1));
+        }
+        return all.join('\n');
     }
 
 private Q_SLOTS:
-    void cleanupTestCase() { JobEditor::Destroy(); }
-
-    void operations_data()
+    void initTestCase()
     {
-        addCases({"cases/cables.txt", "cases/copies.txt", "cases/floors.txt", "cases/removals.txt", "cases/rooms.txt"});
+        QVERIFY(QDir::setCurrent(m_directory.path()) && QDir().mkdir("data"));
+        for (const char *file : {"lengths.job", "site.job"})
+            writeFile(QString("data/") + file, withGeneratedNames(testData(file)));
     }
 
-    void operations()
+    void cleanup()
+    {
+        JobEditor::Destroy();
+        BktEditor::Destroy();
+    }
+
+    void cases_data() { addCases(m_files); }
+
+    void cases()
     {
         QFETCH(TestCase, testCase);
-        testCase.given = withGeneratedNames(testCase.given);
-        testCase.expected = withGeneratedNames(testCase.expected);
-        const QByteArray expected = JobEditorProbe(load(testCase.expected)).text();
-        const QByteArray content = testCase.given.mid(testCase.given.indexOf('<'));
-        JobEditor &job = load(content);
-        const JobEditorProbe probe(job);
-        QVERIFY(probe.indexesMatchTheTree());
-        const QByteArray before = probe.text();
-        const QStringList lines = QString(testCase.given).section('<', 0, 0).trimmed().split('\n');
-        for (const QString &line : lines) {
-            apply(job, line);
-            QVERIFY(probe.indexesMatchTheTree());
+        const QString given = QString::fromLatin1(withGeneratedNames(testCase.given));
+        const QString lines = translatedErrors(given.section(QRegularExpression("<(Job|Bkt)>"), 0, 0).trimmed());
+        QString expected = QString::fromLatin1(withGeneratedNames(testCase.expected));
+        QVERIFY2(expected.contains("<Job>") || !lines.contains("-> elements"), "the case does not show the job");
+        open(expected);
+        expected = savedTexts(expected);
+        cleanup();
+        open(given.section(QRegularExpression("(?=<(Job|Bkt)>)"), 1));
+        const JobEditorProbe probe(JobEditor::Instance());
+        QStringList transcript;
+        for (const QString &line : lines.split('\n')) {
+            transcript.append(transcriptOf(callIn(line)));
+            QVERIFY2(probe.root().isNull() || probe.indexesMatchTheTree(), qPrintable(line));
         }
-        QCOMPARE(QString(probe.text()), QString(expected));
-        QCOMPARE(job.fileChanged(), probe.text() != before);
+        COMPARE_TEXTS(transcript.join('\n'), lines, testCase.place());
+        COMPARE_TEXTS(savedTexts(expected), expected, testCase.place());
+    }
+
+    void everyOperationHasACase()
+    {
+        QString cases;
+        for (const char *file : m_files)
+            cases += testData(file);
+        for (const Callable &operation : operations())
+            QVERIFY2(cases.contains(QRegularExpression('\n' + operation.name + "[ \n]")), qPrintable(operation.name));
+    }
+
+    /// What a caller did to the tree counts after each of the rebuilds.
+    void rebuildsSeeTheChangesOfCallers()
+    {
+        using Rebuild = void (JobEditor::*)();
+        for (const Rebuild rebuild :
+             {&JobEditor::updateAllInternalLists, &JobEditor::populateCurrentCablesLists, &JobEditor::populateCableMap,
+              &JobEditor::populateCableTypeMap, &JobEditor::populateConnectionMap, &JobEditor::populateSheetMap,
+              &JobEditor::populateDeviceMap, &JobEditor::populateVerticeMap, &JobEditor::populateFreeTextMap,
+              &JobEditor::populateFloorMap, &JobEditor::populateRoomMap, &JobEditor::populatePortMap,
+              &JobEditor::populateActivePortMap, &JobEditor::populateVerticalRunMap, &JobEditor::populatePointMap,
+              &JobEditor::populateFloorFreeTextMap}) {
+            open("<Job><Version number='3.0'/><Cable_List><C1/></Cable_List><Floor_List><F1><Room_List>"
+                 "<R1><Port_List><P1/><P2/></Port_List></R1></Room_List></F1></Floor_List></Job>");
+            JobEditor &job = JobEditor::Instance();
+            job.removePort("P2");
+            job.getToCableList().firstChildElement().setAttribute("to", "P1");
+            (job.*rebuild)();
+            job.removePort("P1");
+            QCOMPARE(job.getCables(true), QStringList());
+        }
+    }
+
+    void floorsInBetween()
+    {
+        open("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"
+             "<FFloor_11/><FFloor_12/></Floor_List></Job>");
+        const JobEditorProbe probe(JobEditor::Instance());
+        // In the order of the tags, not of the numbers.
+        QCOMPARE(probe.floorsInBetween("FFloor_12", "FFloor_8").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
+        QCOMPARE(probe.floorsInBetween("FFloor_8", "FFloor_12").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
+        QVERIFY(probe.floorsInBetween("FFloor_9", "FFloor_10").isEmpty());
+        QVERIFY(probe.floorsInBetween("FFloor_9", "FFloor_9").isEmpty());
     }
 };
 
