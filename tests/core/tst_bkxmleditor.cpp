@@ -116,22 +116,6 @@ private Q_SLOTS:
         QVERIFY(none.isNull());
     }
 
-    void navigatesToContainers()
-    {
-        const OpenEditor empty("<r><Settings_List/></r>");
-        QVERIFY(empty.getToPrintSettingsList().isNull());
-        QVERIFY(empty.getToTestDefList().isNull());
-        const OpenEditor full("<r><PrintSettings_List/><TestDef_List n='1'/><BundledCable_List n='2'/>"
-                              "<Settings_List><PrintSettings_List n='3'/><PageSettings_List n='4'/>"
-                              "<ScaleSettings_List n='5'/></Settings_List></r>");
-        QStringList found;
-        for (const QDomElement &list :
-             {full.getToTestDefList(), full.getToBundledCableTypeList(), full.getToPrintSettingsList(),
-              full.getToPageSettingsList(), full.getToScaleSettingsList()})
-            found.append(list.attribute("n"));
-        QCOMPARE(found.join(' '), QString("1 2 3 4 5"));
-    }
-
     void flagsAsText()
     {
         const std::array<bool, 4> given{true, false, false, true};

@@ -61,24 +61,6 @@ private Q_SLOTS:
         QCOMPARE(readFile(name), withGeneratedNames(testData("new.job")));
     }
 
-    void newNamesTheFile()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(!job.New(QString()));
-        QCOMPARE(job.error(), JobEditor::tr("Null filename given to New(const &Qstring)"));
-        const QVector<QPair<QString, QString>> names{
-            {"site", "site.job"},
-            {"site.JOB", "site.JOB"},
-            {"site.job.bak", "site.job.bak.job"},
-            {QLatin1String(""), ".job"},
-        };
-        for (const auto &[given, expected] : names) {
-            QVERIFY(job.New(given));
-            QCOMPARE(job.filename(), expected);
-            job.Unload();
-        }
-    }
-
     void newUntitledTakesTheFirstFreeName()
     {
         JobEditor &job = JobEditor::Instance();
@@ -89,63 +71,6 @@ private Q_SLOTS:
         QCOMPARE(job.filename(), path("Untitled2.job"));
         QCOMPARE(job.getFloor("FFloor_1").ceilingHeight(), 9.5);
         QVERIFY(!job.fileChanged());
-    }
-
-    void newIsRefusedWhileAJobIsOpen()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New("open"));
-        job.addSheet(QString(), "Sheet ", 0);
-        const QByteArray before = JobEditorProbe(job).text();
-        QVERIFY(!job.New("other"));
-        QVERIFY(!job.error().isEmpty());
-        QCOMPARE(job.New(), QString());
-        QCOMPARE(job.filename(), QString("open.job"));
-        QCOMPARE(JobEditorProbe(job).text(), before);
-        QVERIFY(job.fileChanged());
-    }
-
-    void unloadKeepsNamesButNoElements()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New("old"));
-        job.addFloor(QString(), "Upper ", 8, QString(), 0);
-        job.addCable(QString(), QString(), 0);
-        job.Unload();
-        QCOMPARE(job.getCables(true), QStringList("Cable1"));
-        QCOMPARE(job.filename(), QString());
-        QCOMPARE(job.error(), QString("Unloading"));
-        QVERIFY(!job.fileChanged());
-        QVERIFY(job.floorExists("FFloor_2", true));
-        QCOMPARE(job.getFloor("FFloor_2").id(), QString());
-        QVERIFY(job.getRooms("FFloor_1", true).isEmpty());
-        QVERIFY(!job.roomExistsOnFloor("Undefined", "FFloor_1", false));
-        job.setFloorId("FFloor_2", "x");
-        job.removeFloor("FFloor_2");
-        QVERIFY(!job.fileChanged());
-        QVERIFY(!job.save());
-
-        QVERIFY(job.New("next"));
-        QCOMPARE(job.getFloorTags(), QStringList("FFloor_1"));
-        QCOMPARE(job.getSheetTags(), QStringList("SSheet_1"));
-    }
-
-    void loadsThatFindNothing()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New("open"));
-        const QByteArray before = JobEditorProbe(job).text();
-        QVERIFY(!job.Load(QString()));
-        QCOMPARE(job.error(), JobEditor::tr("Empty or null filename in JobEditor::Load"));
-        QCOMPARE(job.filename(), QString("open.job"));
-        const QString missing = path("missing.job");
-        QVERIFY(!job.Load(missing));
-        QCOMPARE(job.error(), JobEditor::tr("Job file %1 does not exist").arg(missing));
-        QCOMPARE(job.filename(), missing);
-        QVERIFY(!job.Load(m_directory->path()));
-        QVERIFY(!job.error().isEmpty());
-        QCOMPARE(JobEditorProbe(job).text(), before);
-        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
 
     void loadedFileStaysAsItWas()
@@ -163,23 +88,6 @@ private Q_SLOTS:
         QVERIFY(job.Load(name));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
         QCOMPARE(JobEditorProbe(job).text(), testData("site.job"));
-    }
-
-    void saveNeedsAName()
-    {
-        JobEditor &job = JobEditor::Instance();
-        QVERIFY(job.New("site"));
-        for (const QString &name : {QString(), QString(".job")}) {
-            job.setFilename(name);
-            job.setDirty(true);
-            job.error().clear();
-            QVERIFY(!job.save());
-            QCOMPARE(job.error(), JobEditor::tr("Filename is Empty"));
-            job.error().clear();
-            QVERIFY(!job.saveAs(name));
-            QCOMPARE(job.error(), JobEditor::tr("Filename is Empty"));
-            QVERIFY(job.fileChanged());
-        }
     }
 
     void saveAsMovesTheDocument()
@@ -211,25 +119,6 @@ private Q_SLOTS:
         QVERIFY(job.save());
         QVERIFY(job.Load(job.filename()));
         QCOMPARE(job.getSheetIdByTag("SSheet_2"), QString("?\u00f3d??"));
-    }
-
-    void fileNameChecks()
-    {
-        QVERIFY(JobEditor::checkJobExtension("/x/a.b.JoB"));
-        QVERIFY(!JobEditor::checkJobExtension("/x.job/a"));
-        QVERIFY(!JobEditor::checkJobExtension("a.job.bak"));
-        QVERIFY(JobEditor::checkUntitledJob("/x/untitled.job"));
-        QVERIFY(JobEditor::checkUntitledJob("UNTITLED7.job"));
-        QVERIFY(!JobEditor::checkUntitledJob("Untitle.job"));
-        QVERIFY(!JobEditor::checkUntitledJob("/untitled/my.untitled"));
-    }
-
-    void defaultTemplateIgnoresEmptyNames()
-    {
-        JobEditor &job = JobEditor::Instance();
-        job.setDefaultBktFile("a.bkt");
-        job.setDefaultBktFile(QString());
-        QCOMPARE(job.defaultBktFile(), QString("a.bkt"));
     }
 
     /// The constructor that takes a name may end the process: another one runs it.

@@ -43,11 +43,10 @@ QString callIn(const QString &line)
 
 QString answered(const QVector<Callable> &callables, const QString &lines)
 {
-    QStringList all = lines.split('\n');
+    QStringList all = lines.trimmed().split('\n');
     for (QString &line : all) {
         line = callIn(line);
-        if (!line.isEmpty())
-            line += " = " + answerTo(callables, wordsOf(line));
+        line += " = " + answerTo(callables, wordsOf(line)).replace("\n", "\\n");
     }
     return all.join('\n');
 }

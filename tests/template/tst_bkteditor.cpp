@@ -52,55 +52,6 @@ private Q_SLOTS:
         QCOMPARE(readFile(path("new.bkt")), testData("new.bkt"));
     }
 
-    void names()
-    {
-        BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(!bkt.New(QString()));
-        QCOMPARE(bkt.error(), BktEditor::tr("Unable to create template with NULL filename"));
-        QVERIFY(bkt.New(""));
-        for (const QString &name : {QString(), QString(".bkt")}) {
-            bkt.setFilename(name);
-            QVERIFY(!bkt.save());
-            QCOMPARE(bkt.error(), BktEditor::tr("Filename is empty."));
-            QVERIFY(!bkt.saveAs(name));
-            QCOMPARE(bkt.error(), BktEditor::tr("Unable to Save file (NULL)"));
-        }
-        QVERIFY(BktEditor::checkBktExtension("/x.job/shop.Bkt"));
-        QVERIFY(!BktEditor::checkBktExtension("shop.bkt.bak"));
-        QVERIFY(!BktEditor::checkBktExtension("bkt"));
-        QVERIFY(!BktEditor::checkBktExtension("shop.job"));
-    }
-
-    void saveAsWritesAnotherFile()
-    {
-        BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(bkt.New(path("first.bkt")));
-        bkt.setContractorTester("Ann");
-        QVERIFY(bkt.saveAs(path("second.bkt")));
-        QCOMPARE(bkt.filename(), path("first.bkt"));
-        QVERIFY(bkt.fileChanged());
-        QVERIFY(bkt.save());
-        QVERIFY(!bkt.fileChanged());
-        QCOMPARE(readFile(path("first.bkt")), readFile(path("second.bkt")));
-        QVERIFY(!bkt.saveAs(path("none/second.bkt")));
-        QVERIFY(!bkt.error().isEmpty());
-        QVERIFY(!bkt.saveAs(m_directory.path()));
-    }
-
-    void loadsThatFindNothing()
-    {
-        BktEditor &bkt = BktEditor::Instance();
-        QVERIFY(bkt.New(path("before.bkt")));
-        QVERIFY(!bkt.Load(QString()));
-        QCOMPARE(bkt.error(), BktEditor::tr("Empty or null filename in BktEditor::Load"));
-        QCOMPARE(bkt.filename(), path("before.bkt"));
-        QVERIFY(!bkt.Load(path("missing.bkt")));
-        QCOMPARE(bkt.error(), BktEditor::tr("Bkt file %1 does not exist").arg(path("missing.bkt")));
-        QVERIFY(!bkt.Load(m_directory.path()));
-        QVERIFY(!bkt.error().contains("missing"));
-        QCOMPARE(bkt.filename(), m_directory.path());
-    }
-
     void constructedByName()
     {
         const NamedTemplate fresh(path("fresh.bkt"));

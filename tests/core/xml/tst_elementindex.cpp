@@ -65,24 +65,6 @@ private Q_SLOTS:
         QCOMPARE(index.ids().firstFreeNumber(QString(), 1), 1);
     }
 
-    void idsAreSharedAndChange()
-    {
-        ElementIndex index;
-        QDomElement a = element("a", "Plan 1");
-        const QDomElement b = element("b", "Plan 1");
-        index.append(b);
-        index.append(a);
-        QCOMPARE(index.ids().firstTag("Plan 1"), QString("a"));
-        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 2);
-        a.setAttribute("id", "Plan 2");
-        index.updateId(a);
-        QCOMPARE(index.ids().firstTag("Plan 1"), QString("b"));
-        QCOMPARE(index.idsByTag().join(','), QString("Plan 2,Plan 1"));
-        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 3);
-        index.remove(b);
-        QCOMPARE(index.ids().firstFreeNumber("Plan ", 1), 1);
-    }
-
     /// Whichever of the tags that share an id goes, the first of the others stands for it.
     void firstTagOfAnId()
     {
@@ -123,29 +105,6 @@ private Q_SLOTS:
         index.remove(second);
         QVERIFY(index.element("Hall1").isNull());
         QCOMPARE(index.firstFreeIdNumber("Hall", 1), 1);
-    }
-
-    void firstOfATagCounts()
-    {
-        ElementIndex index;
-        const QDomElement first = element("t", "1");
-        QDomElement second = element("t", "2");
-        index.append(first);
-        index.append(second);
-        QCOMPARE(index.tags().size(), 1);
-        QCOMPARE(index.element("t"), first);
-        QVERIFY(index.isRepeated("t"));
-        QVERIFY(!index.ids().contains("2"));
-        second.setAttribute("id", "3");
-        index.updateId(second);
-        QVERIFY(!index.ids().contains("3"));
-        index.remove(first);
-        QCOMPARE(index.element("t"), second);
-        QCOMPARE(index.ids().firstTag("3"), QString("t"));
-        QVERIFY(!index.isRepeated("t"));
-        index.forgetElements();
-        QVERIFY(index.containsTag("t"));
-        QVERIFY(index.element("t").isNull());
     }
 };
 
