@@ -24,7 +24,7 @@ private Q_SLOTS:
                               << "9.5";
         QTest::newRow("empty") << QByteArray("[Settings]\n1=\n24=\n") << documents << "8";
         QTest::newRow("no height") << QByteArray("[Settings]\n24=high\n") << documents << "8";
-        QTest::newRow("below zero") << QByteArray("[Settings]\n24=-1\n") << documents << "8";
+        QTest::newRow("zero") << QByteArray("[Settings]\n24=0\n") << documents << "8";
         QTest::newRow("endless") << QByteArray("[Settings]\n24=inf\n") << documents << "8";
     }
 
