@@ -62,8 +62,10 @@ private Q_SLOTS:
         original.filename() = "name";
         original.error() = "failure";
         original.setDirty(true);
+        original.setCharacterReferences(true);
 
         OpenEditor copy(original);
+        QVERIFY(copy.characterReferences());
         QCOMPARE(copy.parent(), &parent);
         QCOMPARE(copy.filename(), QString("name"));
         QCOMPARE(copy.error(), QString("failure"));
