@@ -6,7 +6,7 @@
 
 using namespace cabledoc;
 
-/// What is found in a file.
+/// Tests what the check reports about files.
 class DocumentCheckTest : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A document whose inner operations are open to the test.
+/// A document whose protected operations the test can call.
 class OpenEditor : public BKXMLEditor
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A template by itself, beside the one of the process.
+/// A template beside the instance of the process.
 class NamedTemplate : public BktEditor
 {
 public:
