@@ -82,7 +82,7 @@ private Q_SLOTS:
         original.setParent(nullptr);
     }
 
-    void findsAmongSiblingsOnly()
+    void findsOnlySiblings()
     {
         const OpenEditor editor("<r><!--c--><a n='1'><b/></a><c/><a n='2'/></r>");
         const QDomNode start = editor.getDomNodeFirstChild();
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(!OpenEditor::hasChildElement("a", QDomNode()));
     }
 
-    void takesTheFirstNodeForTheRoot()
+    void firstNodeIsTheRoot()
     {
         const OpenEditor editor("<!--c--><r><a/></r>");
         QVERIFY(editor.getElement("a").isNull());

@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(!job.fileChanged());
     }
 
-    void whatCannotBeDoneAtAll()
+    void missingFilesAndLists()
     {
         QVERIFY(!importSchedule(openJob(), m_directory.filePath("missing.csv")).error.isEmpty());
         QVERIFY(!importSchedule(openJob(), m_directory.path()).error.isEmpty());
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(exportSchedule(job), schedule);
     }
 
-    void otherPropertiesOfAChangedCableStay()
+    void changedCableKeepsOtherProperties()
     {
         JobEditor &job = openJob(testData("site.job"));
         QCOMPARE(summary(import(exportSchedule(job))), QString("0 0 0 0 0"));

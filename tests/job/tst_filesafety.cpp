@@ -209,7 +209,7 @@ private Q_SLOTS:
         });
     }
 
-    void filesThatAreOnlyCreated()
+    void existingFilesAreNotReplaced()
     {
         forBoth([&](const QString &root, Document &document) {
             const QString there = path("there." + root.toLower());
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY(!job.save());
     }
 
-    void exportOntoTheJob()
+    void exportToTheFileOfTheJob()
     {
         const QString name = path("site.bkt"); // a job may have any name
         JobEditor &job = JobEditor::Instance();
@@ -266,7 +266,7 @@ private Q_SLOTS:
         });
     }
 
-    void namesStayWhereTheyWere()
+    void relativeNamesKeepTheirFolder()
     {
         const QString before = QDir::currentPath();
         const auto back = qScopeGuard([&before] { QDir::setCurrent(before); });

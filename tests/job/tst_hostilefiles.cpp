@@ -93,7 +93,7 @@ private Q_SLOTS:
         }
     }
 
-    void cutOffAtEveryByte()
+    void fileCutOffAtEveryByte()
     {
         const QByteArray text = testData("site.job");
         for (int size = 0; size < text.size(); ++size) {

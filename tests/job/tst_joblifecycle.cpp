@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void cleanup() { JobEditor::Destroy(); }
 
-    void instanceStartsEmptyAndEnds()
+    void instanceIsCreatedAndDestroyed()
     {
         JobEditor &job = JobEditor::Instance();
         QCOMPARE(&JobEditor::Instance(), &job);
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QVERIFY(JobEditor::Instance().getFloorTags().isEmpty());
     }
 
-    void newJobHasTheTreeOfTheFormat()
+    void newJobHasTheExpectedTree()
     {
         JobEditor &job = JobEditor::Instance();
         const QString name = path("new.job");
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(!job.fileChanged());
     }
 
-    void loadedFileStaysAsItWas()
+    void loadAndSaveKeepTheFile()
     {
         JobEditor &job = JobEditor::Instance();
         QVERIFY(job.New("before"));
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path("one.job")));
     }
 
-    void lostCharactersAreCounted()
+    void replacedCharactersAreReported()
     {
         JobEditor &job = JobEditor::Instance();
         QVERIFY(job.New(path("lost.job")));

@@ -102,7 +102,7 @@ private Q_SLOTS:
     }
 
     /// After each of the rebuilds, the index contains the changes that a caller has made to the tree.
-    void rebuildsSeeTheChangesOfCallers()
+    void rebuildsIncludeChangesOfCallers()
     {
         using Rebuild = void (JobEditor::*)();
         for (const Rebuild rebuild :

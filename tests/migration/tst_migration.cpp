@@ -187,7 +187,7 @@ private Q_SLOTS:
 
     /// Kills a conversion shortly after it has saved a version. The next load then gives the same file as without the
     /// kill.
-    void killedBetweenAndDuringSteps()
+    void killedWhileConverting()
     {
         const QString fileName = m_directory.filePath("killed.bkt");
         writeFile(fileName, bigTemplate());

@@ -32,7 +32,7 @@ private:
 private Q_SLOTS:
     void cleanup() { BktEditor::Destroy(); }
 
-    void newTemplateHasTheTreeOfTheFormat()
+    void newTemplateHasTheExpectedTree()
     {
         BktEditor &bkt = BktEditor::Instance();
         QCOMPARE(&BktEditor::Instance(), &bkt);

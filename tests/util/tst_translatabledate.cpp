@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(TranslatableDate::shortMonthToNumber(TranslatableDate::longMonthName(4)), 0);
     }
 
-    void formatsWithoutNamesAreThoseOfAnyDate()
+    void formatsWithoutNamesAreThoseOfQt()
     {
         const TranslatableDate date(1999, 9, 5);
         for (const char *format : {"d", "dd", "M", "MM", "yy", "yyyy", "dd.MM.yyyy", "d 'of' M", "", "x"})

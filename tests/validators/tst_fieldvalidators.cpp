@@ -52,7 +52,7 @@ private Q_SLOTS:
         COMPARE_TEXTS(answered(validators, expected), expected, testCase.place());
     }
 
-    void fileNamesAreFixedByUnderscores()
+    void fixupReplacesBlanksWithUnderscores()
     {
         QString name = "my  job";
         FileValidator(nullptr).fixup(name);

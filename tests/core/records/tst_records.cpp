@@ -157,7 +157,7 @@ private Q_SLOTS:
         original.setParent(nullptr);
     }
 
-    void resultsThatAreEmptiedAgain()
+    void resetOfTestResults()
     {
         TRUEPHY_PLOT_DATA curve{};
         curve.header[5] = 1;

@@ -213,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(attributeOf(m_to, capabilities), QByteArray());
     }
 
-    void whatIsBeingWrittenIsPrivate()
+    void unfinishedFileIsPrivate()
     {
         const mode_t before = umask(0);
         make(saver, saver.group, 0644);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         umask(before);
     }
 
-    void whatAFolderGivesToNewFilesIsTakenAway()
+    void defaultAccessListIsRemoved()
     {
         if (!setAttribute(QFile::encodeName(m_directory.path()), "system.posix_acl_default", accessList(0700, 7)))
             QSKIP("the file system has no access control lists");

@@ -62,7 +62,7 @@ private Q_SLOTS:
         }
     }
 
-    void charactersBeyondTheFormat()
+    void unsupportedCharacters()
     {
         QDomDocument document("Test");
         QDomElement root = document.createElement("a");
@@ -135,7 +135,7 @@ private Q_SLOTS:
         }
     }
 
-    void takesWhatTheLimitsAllow()
+    void acceptsTreesAtTheLimits()
     {
         const QByteArray content = nested(255, "<b/>" + elementWith(maximumAttributes));
         const xmlfile::ReadResult result = read(content);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(int(read(text.bytes).status), int(xmlfile::ReadResult::Read));
     }
 
-    void refusesTreesThatCouldNotBeRead()
+    void refusesTreesBeyondTheLimits()
     {
         QDomDocument document("Test");
         QVERIFY(!xmlfile::toText(document, NoOrder).error.isEmpty());
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::permissions(fileName), permissions);
     }
 
-    void refusesWhatIsNoDocument()
+    void refusesEmptyDocumentsAndFolders()
     {
         QVERIFY(!xmlfile::save(fileWith("kept"), QDomDocument(), NoOrder).error.isEmpty());
         QCOMPARE(readFile(m_directory.filePath("file.xml")), QByteArray("kept"));
