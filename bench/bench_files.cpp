@@ -280,7 +280,8 @@ int main(int argc, char *argv[])
                                      {"load" + size, "pugixmlLoad" + size},
                                      {"save" + size, "pugixmlSave" + size}});
     }
-    // The benchmarks run in turn, so that none has an advantage from the state of the memory or the disk.
+    // The repetitions of all benchmarks run in random order, so that none has an advantage from the state of the memory
+    // or the disk.
     std::vector<char *> arguments(argv + 1, argv + argc);
     char mixed[] = "--benchmark_enable_random_interleaving=true";
     arguments.insert(arguments.begin() + 1, mixed);

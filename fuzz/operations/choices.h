@@ -6,7 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The decisions of the fuzzer. Each choice takes a byte of the input. If there are no more bytes, it is the first one.
+/// The decisions of the fuzzer. Each decision takes a byte of the input. If there are no more bytes, it is the first
+/// choice.
 class Choices
 {
 public:

@@ -57,7 +57,8 @@ public:
     /// XML. If it is not XML, the tree is empty. Does not check the version. Fails for an empty name and keeps the old
     /// name and tree.
     bool read(const QString &name, const QString &documentTypeName, const LoadTexts &texts);
-    /// Must be called if the content that read() has read cannot be used. From then on save() fails.
+    /// Must be called if the content that read() has read cannot be used. save() then fails until takeName(), read() or
+    /// write() succeeds.
     void rejectFile();
     enum class Replace {
         ExpectedFile, ///< a known file only if its content is the one that the document knows

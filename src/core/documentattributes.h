@@ -23,7 +23,7 @@ const AttributeTable<BundledCableFields> &bundledCableAttributes();
 
 /// Returns the entries that have print settings, in the order in which a new document has them.
 const QStringList &printSettingsEntries();
-/// Returns the entries that have also page and scale settings.
+/// Returns the entries that also have page and scale settings.
 const QStringList &drawingSettingsEntries();
 /// Returns the print settings of an entry in a new document.
 PrintSettings initialPrintSettings(const QString &entry);

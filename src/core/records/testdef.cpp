@@ -19,7 +19,7 @@ bool isPair(int pair)
     return pair >= 0 && pair < pairCount;
 }
 
-/// The conditions that the rules of a definition are made of.
+/// The conditions in the rules of a test definition.
 class Conditions
 {
 public:

@@ -8,8 +8,8 @@ namespace cabledoc {
 
 /// The XML tree of a document, and the only class that changes it.
 ///
-/// Every change goes through one of the virtual functions below and marks the document as changed. A subclass that
-/// keeps something in step with the tree overrides them.
+/// Every change goes through one of the virtual functions below and marks the document as changed. A subclass overrides
+/// them if it has data that depend on the tree.
 class DocumentTree
 {
 public:

@@ -41,7 +41,7 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// A C function that takes an array of a struct.
+/// Returns the sum of numbers. Has the form of a C function that takes an array.
 qint32 sumOf(const qint32 *numbers, int count)
 {
     qint32 sum = 0;
