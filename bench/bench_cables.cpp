@@ -133,7 +133,7 @@ template <typename ReadFields> void readAll(benchmark::State &state, ReadFields 
     }
 }
 
-/// With one getter for each field.
+/// Reads all fields of each cable, with one getter for each field.
 void readAllFields(benchmark::State &state)
 {
     readAll(state, [](JobEditor &job, const QString &tag) {
@@ -170,7 +170,7 @@ int main(int argc, char *argv[])
         {"siblingWalk", siblingWalk},
     };
     std::vector<Ratio> ratios;
-    // One size after the other, because preparing a job takes longer than measuring in it.
+    // The sizes come one after the other, because preparing a job takes longer than measuring in it.
     for (const int cables : {smallJob, middleJob, bigJob}) {
         for (const auto &[name, operation] : operations)
             benchmark::RegisterBenchmark(name.c_str(), operation)->Arg(cables);

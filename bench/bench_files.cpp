@@ -54,7 +54,7 @@ QString text(const char *latin1, int number)
     return QString::fromLatin1(latin1).arg(number);
 }
 
-/// Makes floors with rooms and ports, two ports for each cable. All cables are tested.
+/// Makes a job with floors, rooms, ports and cables. Each cable has two ports of its own and test results.
 void make(int cables)
 {
     JobEditor::Destroy();
@@ -115,7 +115,7 @@ LeanDocument loadLean(const QString &fileName)
     return document;
 }
 
-/// Measures only the work. What it returns is destroyed afterwards.
+/// Measures the time of the work. The object that the work returns is destroyed outside of the measured time.
 template <typename Work> void measure(benchmark::State &state, Work work)
 {
     using Clock = std::chrono::steady_clock;
@@ -133,7 +133,7 @@ void load(benchmark::State &state)
     JobEditor::Destroy();
     measure(state, [&fileName] {
         loadJob(fileName);
-        // Destroyed outside of the measured time, like the others.
+        // The job is destroyed outside of the measured time, like the other trees.
         return std::shared_ptr<void>(nullptr, [](void *) { JobEditor::Destroy(); });
     });
 }
@@ -280,7 +280,8 @@ int main(int argc, char *argv[])
                                      {"load" + size, "pugixmlLoad" + size},
                                      {"save" + size, "pugixmlSave" + size}});
     }
-    // All in turn, so that none has an advantage from the state of the memory or the disk.
+    // The repetitions of all benchmarks run in random order, so that none has an advantage from the state of the memory
+    // or the disk.
     std::vector<char *> arguments(argv + 1, argv + argc);
     char mixed[] = "--benchmark_enable_random_interleaving=true";
     arguments.insert(arguments.begin() + 1, mixed);

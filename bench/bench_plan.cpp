@@ -66,7 +66,7 @@ void copyFloor(benchmark::State &state)
 }
 BENCHMARK(copyFloor)->Unit(benchmark::kMillisecond);
 
-/// The cables to the neighbours of a port are removed with it.
+/// Measures the removal of ports. The cables to the neighbours of a port are removed with it.
 void removePort(benchmark::State &state)
 {
     JobEditor &job = newJob();

@@ -78,8 +78,8 @@ private:
     std::map<std::string, double> m_seconds;
 };
 
-/// The main function of a benchmark. Runs all benchmarks, and then prints the ratios. Appends the times to the file
-/// named by CABLEDOC_BENCH_TIMES.
+/// Runs all benchmarks, and then prints the ratios. Appends the times to the file that CABLEDOC_BENCH_TIMES names.
+/// Returns the exit code of the program.
 inline int runBenchmarks(int argc, char *argv[], const std::vector<Ratio> &ratios)
 {
     benchmark::Initialize(&argc, argv);

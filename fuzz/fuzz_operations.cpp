@@ -55,7 +55,7 @@ namespace {
 
 constexpr int maximumSteps = 60;
 
-/// The first step, which does nothing.
+/// Does nothing. This is the first step.
 void nothing(Session *) {}
 
 void compareAll(Session *session)
@@ -69,7 +69,7 @@ void compareAll(Session *session)
 
 Operation someOperation(Choices *choices)
 {
-    // With their chances out of sixteen.
+    // The groups of operations, with their chances out of sixteen.
     static const std::pair<int, const Operations &(*)()> groups[] = {
         {6, elementOperations}, {4, planOperations}, {4, cableOperations}, {2, contentOperations}};
     int chance = choices->number(16);

@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Shared by all fuzzers. Each of them runs one input. libFuzzer makes the inputs.
+/// Functions that all fuzzers use. Each fuzzer runs one input. libFuzzer makes the inputs.
 
 /// Reports what is wrong, and ends the process.
 [[noreturn]] void fail(const char *what);

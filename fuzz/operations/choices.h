@@ -6,7 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The decisions of the fuzzer. Each choice takes a byte of the input. If there are no more bytes, it is the first one.
+/// The decisions of the fuzzer. Each decision takes a byte of the input. If there are no more bytes, it is the first
+/// choice.
 class Choices
 {
 public:
@@ -19,11 +20,12 @@ public:
     bool atEnd() const { return m_next == m_end; }
     /// Returns a number from 0 up to, but not including, the given one, which is at most 256.
     int number(int below);
-    /// Returns true once in the given number of times.
+    /// Returns true with a chance of one in the given number.
     bool oneIn(int times) { return number(times) == times - 1; }
     /// Returns one of the texts, or an empty text if there are none.
     QString oneOf(const QStringList &texts);
-    /// Returns one of the tags in most cases. In others returns a tag that may not be among them, or no tag at all.
+    /// Returns one of the tags in most cases. Otherwise returns a text that may not be one of them, or may not be a
+    /// tag.
     QString tag(const QStringList &tags);
     /// Returns a text for users, with all characters that XML escapes.
     QString id();

@@ -53,7 +53,7 @@ bool isTag(const QString &text);
 PlainElement &appendNew(Session *session, PlainElement &list, Kind kind, const Fields &fields, int mode);
 /// Adds the lists that a new element has.
 void addLists(PlainElement *element, Kind kind);
-/// Sets attributes.
+/// Writes the fields into the attributes of the element.
 void write(PlainElement *element, const Fields &fields);
 /// These perform operations of the manual on the file after the job has been changed.
 void copyFloor(Session *session, const QString &from, const QString &to, const QMap<QString, QString> &cableIds);

@@ -148,7 +148,7 @@ void storeSettings(BKXMLEditor &job, const Fields &fields, const QString &entry)
     (job.*put)(recordOf<Settings>(fields), entry);
 }
 
-/// In the order of plainSettings().
+/// The getters and setters of the settings, in the order of plainSettings().
 const struct
 {
     Fields (*get)(BKXMLEditor &, const QString &);
@@ -221,7 +221,7 @@ Fields randomTestDef(Session *session)
 {
     Fields fields = randomFields(session->choices, testDefAttributes());
     fields["id"] = someName(session, "TestDef_List");
-    // Stored without their fractions.
+    // These are whole numbers, because they are stored without their fractions.
     for (const char *length : {"length_constant", "max_length"})
         fields[length] = QString::number(session->choices.whole());
     return fields;

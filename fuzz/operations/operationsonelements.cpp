@@ -201,8 +201,8 @@ void chooseHolder(Session *session, Kind kind, Fields *fields)
         (*fields)["holder"] = isOnSheet ? session->choices.tag(file.tags(Kind::Sheets)) : (*fields)["floor"];
 }
 
-/// Returns the element that shall hold a new element, and its list. Returns null if it does not exist, or lacks a list
-/// that is not created.
+/// Returns the element that shall hold a new element in one of its lists. Returns null if it does not exist, or if it
+/// lacks the list and the operation does not add it.
 PlainElement *holderFor(PlainJob *file, Kind kind, const Fields &fields)
 {
     const QString list = plainKind(kind).list;
@@ -315,7 +315,7 @@ const std::vector<FieldSetter> &fieldSetters()
         {Kind::Connections, "from", set<&J::setConnectionFrom>},
         {Kind::Connections, "type",
          [](J &job, Name tag, const QString &text) {
-             // Given as a number if possible.
+             // The type is given as a number if the text is one.
              text == QString::number(text.toInt()) ? job.setConnectionType(tag, text.toInt())
                                                    : job.setConnectionType(tag, text);
          }},

@@ -28,7 +28,7 @@ std::vector<Place> firstOfEachTag(const std::vector<Place> &places)
     return first;
 }
 
-/// Returns the lists with the given name in elements.
+/// Returns the lists with the given name in the given elements.
 std::vector<Place> listsIn(const std::vector<Place> &holders, const QString &name)
 {
     std::vector<Place> lists;
@@ -277,7 +277,7 @@ void PlainJob::removeNaming(Kind kind, const QString &tag, const QStringList &at
     }
 }
 
-/// Takes a tag out of lists of tags.
+/// Removes a tag from the lists of tags in the given attributes.
 void PlainJob::forget(const std::vector<PlainElement *> &elements, const QString &tag, const QStringList &attributes)
 {
     for (PlainElement *element : elements) {
@@ -299,7 +299,7 @@ std::vector<PlainElement *> PlainJob::allVertRuns()
     return vertRuns;
 }
 
-/// Removes the references to an element that has been removed, unless another one has the same tag.
+/// Removes or changes the elements that name a removed element, unless another element has the same tag.
 void PlainJob::dropReferences(Kind kind, const QString &tag)
 {
     if (kind == Kind::Ports && !exists(Kind::Ports, tag, true))

@@ -23,7 +23,8 @@ public:
     }
 
     PlainElement &root() { return m_root; }
-    /// Returns the element at the end of a way of first children, or null if a step is missing.
+    /// Returns the element at the end of a path. Each name in the path means the first child with that name. Returns
+    /// null if an element of the path is missing.
     PlainElement *at(const QStringList &way);
     /// Returns the lists of a kind that can be reached.
     std::vector<Place> lists(Kind kind);
@@ -51,7 +52,7 @@ public:
     /// record if the element does not exist.
     Fields record(Kind kind, const Place &place);
 
-    /// Returns the room "Undefined" of a list of rooms.
+    /// Returns the room "Undefined" of a list of rooms. Adds it if it is missing.
     static PlainElement &undefinedRoom(PlainElement *roomList);
     /// These remove an element and everything that the manual says is removed with it.
     void remove(Kind kind, const QString &tag);

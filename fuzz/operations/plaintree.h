@@ -42,6 +42,6 @@ PlainElement parsePlain(const QByteArray &text);
 /// Returns the elements as an XML text in Latin-1.
 QByteArray plainText(const PlainElement &element);
 
-/// Returns the child that has the place of the list's next child in a tree that is equal up to there. Returns null if
-/// there is none. root is the root of the tree of the list.
+/// Returns the element of another tree at the place where the next child of the list would be. Returns null if there is
+/// none. The trees must be equal up to that place. root is the root of the tree that the list is in.
 const PlainElement *nextChildIn(const PlainElement &otherRoot, const PlainElement &root, const PlainElement &list);

@@ -204,7 +204,7 @@ QString canonical(Value value, const QString &text)
     case Value::Float:
         return plainNumber(double(text.toFloat()));
     case Value::Pairs: {
-        // As many as the text has.
+        // Flags that the text lacks are "1".
         QString flags = "1111";
         for (int i = 0; i < 4 && i < text.size() && (text.at(i) == '0' || text.at(i) == '1'); ++i)
             flags[i] = text.at(i);

@@ -37,7 +37,7 @@ struct PlainAttribute
 {
     QString name;
     Value value;
-    /// Text that counts if the attribute is missing.
+    /// Text that is used if the attribute is missing.
     QString missing;
     /// Which elements have the attribute.
     enum Use {
@@ -90,7 +90,7 @@ QString canonical(Value value, const QString &text);
 Fields fieldsOf(const PlainAttributes &attributes, const PlainElement *element);
 /// Returns the attributes of a new element.
 Fields newFields(const PlainAttributes &attributes, const Fields &fields);
-/// Adds the attributes that readers add.
+/// Adds the missing attributes that readers add.
 void complete(const PlainAttributes &attributes, PlainElement *element);
 /// Returns the entries of a text with commas.
 QStringList entriesOf(const QString &text);

@@ -4,7 +4,7 @@
 
 #include "jobeditor.h"
 
-/// Conversions between values and records of the library, texts and fields.
+/// Conversions of values and records of the library to texts and fields, and back.
 
 inline QString textOf(const QString &text)
 {

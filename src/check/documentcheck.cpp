@@ -27,7 +27,7 @@ QString pathOf(const QDomElement &element)
     return path.join(QLatin1Char('/'));
 }
 
-/// A document that is checked and not changed.
+/// A document that is only loaded to check it.
 class CheckedDocument : public BKXMLEditor
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
@@ -62,7 +62,7 @@ public:
 private:
     void report(const char *rule, const QDomElement &element, const QString &message)
     {
-        // An element that was just added because an older file lacks it has no line. This is not a finding.
+        // An element without a line was just added because an older file lacks it. Nothing is reported about it.
         if (element.lineNumber() > 0)
             m_report.findings.append({QLatin1String(rule), element.lineNumber(), pathOf(element), message});
     }
@@ -89,8 +89,8 @@ private:
 
     // Names
 
-    /// Checks the names of the children. Their tags must differ within the scope, which is a kind of element in the
-    /// whole document.
+    /// Checks the tags of the children. All tags within a scope must differ. A scope is a kind of element in the whole
+    /// document.
     void checkTags(const QDomElement &list, const QString &scope)
     {
         QMap<QString, int> &lines = m_linesOfTags[scope];
@@ -154,7 +154,7 @@ private:
     {
         TestDef definition(testDefAttributes().read(element));
         m_types.insert(definition.id());
-        // A maximum length that gives only a warning does not count.
+        // The maximum length is left out, because it only gives a warning.
         definition.setMaxLength(TestDefFields().maxLength);
         const QString verdict = definition.validDef();
         if (verdict != QLatin1String("GOOD"))
@@ -184,7 +184,7 @@ private:
         }
     }
 
-    /// Returns the name of the scope in which the tags of a kind must differ.
+    /// Returns the name of the scope of a kind.
     static QString scopeOf(const ElementSchema &kind)
     {
         return kind.holder == ElementKind::None ? kind.listName() : schemaOf(kind.holder).listName() + kind.listName();
@@ -199,7 +199,7 @@ private:
         checkIds(list);
     }
 
-    /// Returns what is said of a tag that leads nowhere.
+    /// Returns the message about a tag that no element has.
     static QString missingText(const Reference &reference)
     {
         if (reference.targets.contains(ElementKind::Points))
@@ -286,7 +286,7 @@ private:
     }
 
     CheckReport m_report;
-    /// Lines of the elements by their tags, by scope.
+    /// Lines of the elements by scope and tag.
     QMap<QString, QMap<QString, int>> m_linesOfTags;
     /// Cable types that have a test definition.
     std::set<QString> m_types;

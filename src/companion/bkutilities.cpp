@@ -58,8 +58,8 @@ float BKUtilities::roundToHalf(float value)
 
 float BKUtilities::roundToTenths(float value)
 {
-    // Multiplied as a float on purpose. The product of 0.35F, which is a little less than 0.35, is exactly 3.5. So a
-    // number that a person regards as a tie is a tie.
+    // This is deliberately a product of floats. 0.35F is a little less than 0.35, but its product is exactly 3.5. So a
+    // number that looks like a tie is rounded like a tie.
     return std::round(value * 10.0F) / 10.0F;
 }
 

@@ -31,7 +31,7 @@ Document &Document::operator=(const Document &other)
 {
     if (this == &other)
         return *this;
-    // The mark of a change tells of this object's own file and stays, as the settings do.
+    // The mark of a change belongs to this object's own file, so it stays. The settings stay too.
     filename = other.filename;
     error = other.error;
     m_tree->setDocument(other.m_tree->document());
@@ -91,7 +91,7 @@ bool Document::mayBeFileName(const QString &name)
 {
     if (!name.contains(QChar(0)))
         return true;
-    // The system would take the name to end there.
+    // The system would end the name at this character.
     error = tr("The file name contains a NUL character.");
     return false;
 }
@@ -123,7 +123,7 @@ bool Document::read(const QString &name, const QString &documentTypeName, const 
         error = texts.noName;
         return false;
     }
-    // Before anything is checked: a failed load leaves the new name in place.
+    // This comes before all checks, because a failed load leaves the new name in place.
     filename = name;
     m_files.takeName(name);
     rejectFile();

@@ -12,23 +12,25 @@ class Address;
 
 namespace cabledoc {
 
-/// What a document is made of: its tree, the file that it belongs to, and the text of its last failure.
+/// The parts of a document: its tree, the file that it belongs to, and the text of its last failure.
 class Document
 {
     Q_DECLARE_TR_FUNCTIONS(BKXMLEditor)
 
 public:
     explicit Document(std::unique_ptr<DocumentTree> tree);
-    /// Creates a document that shares the other's tree, file and error text, and is unchanged.
+    /// Creates a document that shares the other's tree and has its file, error text and settings. It is not marked as
+    /// changed.
     Document(const Document &other);
-    /// Shares the other's tree, file and error text. The mark of a change stays.
+    /// Shares the other's tree, and takes its file and error text. Keeps the settings and the mark of a change.
     Document &operator=(const Document &other);
 
     DocumentTree &tree() const { return *m_tree; }
 
     // Contractor and site
 
-    /// Adds an element with empty attributes and an empty "Address" to the parent. Adds what it lacks if it is there.
+    /// Adds an element with empty attributes and an empty "Address" to the parent. If the element exists, adds only the
+    /// attributes and the address that it lacks.
     void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
     /// Writes an attribute of a child of the root. Does nothing if there is no such child.
     void writeInfo(const QString &tagName, const QString &attribute, const QString &value);
@@ -40,40 +42,42 @@ public:
 
     // Files. Operations that return whether they succeeded set the error text if they fail.
 
-    /// What a load that fails tells the user. "%1" stands for the file name, "%2", "%3" and "%4" for the line, the
-    /// column and the parser's message.
+    /// The messages of a load that fails. "%1" is the file name. "%2", "%3" and "%4" are the line, the column and the
+    /// message of the parser.
     struct LoadTexts
     {
         QString noName;
         QString missing;
         QString badAtPosition;
-        QString bad; ///< if the parser gave no position
+        QString bad; ///< if there is no position
     };
     /// Gives a new document its name. Fails if no file can have that name.
     bool takeName(const QString &name);
-    /// Takes the name and replaces the tree by the content of that file, or by nothing if it is not XML. Does not look
-    /// at the version. Fails if the file cannot be read. An empty name changes nothing.
+    /// Takes the name, and replaces the tree with the content of the file. Fails if the file cannot be read or is not
+    /// XML. If it is not XML, the tree is empty. Does not check the version. Fails for an empty name and keeps the old
+    /// name and tree.
     bool read(const QString &name, const QString &documentTypeName, const LoadTexts &texts);
-    /// Is called if what read() read cannot be used after all.
+    /// Must be called if the content that read() has read cannot be used. save() then fails until takeName(), read() or
+    /// write() succeeds.
     void rejectFile();
     enum class Replace {
-        ExpectedFile, ///< a file that is as the document knows it
-        AnyFile,      ///< whatever another program made of it
+        ExpectedFile, ///< a known file only if its content is the one that the document knows
+        AnyFile,      ///< a known file with any content
     };
-    /// Writes the tree to a file. If it fails, the file and the mark of a change are as they were.
+    /// Writes the tree to a file, as xmlfile::save() does. Keeps the mark of a change.
     bool write(const QString &name, const xmlfile::AttributeOrder &order, Replace replace);
     /// Writes the tree to the document's own file and clears the mark of a change. Fails, with the given text, if the
-    /// document has no name that can be saved to. Fails if the last file could not be loaded.
+    /// name of the document is not a name for saving. Fails if the last load failed.
     bool save(const QString &extension, const xmlfile::AttributeOrder &order, Replace replace,
               const QString &noNameText);
-    /// Takes the name of the file that the document was written to.
+    /// Gives the document the name of the file that it was written to.
     void changeName(const QString &name);
-    /// Returns whether the name leads to the document's own file, in whatever spelling and through whatever link.
+    /// Returns whether the name leads to the document's own file. The name may be a link, or differ in spelling.
     bool isOwnFile(const QString &name) const;
 
-    /// Returns whether the file name has that extension, in any case.
+    /// Returns whether the file name has that extension, in upper or lower case.
     static bool hasExtension(const QString &name, const QString &extension);
-    /// Returns whether a file can be saved under that name. Neither an empty name nor the extension alone will do.
+    /// Returns whether a file can be saved under that name. The name must not be empty, and not be the extension alone.
     static bool isSaveName(const QString &name, const QString &extension);
 
     QString filename = QLatin1String("");

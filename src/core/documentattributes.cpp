@@ -73,7 +73,7 @@ const QStringList &drawingSettingsEntries()
 PrintSettings initialPrintSettings(const QString &entry)
 {
     PrintSettings settings;
-    // Only the two drawing views lie on their side.
+    // Only the two drawing views are in landscape.
     settings.setOrientation(drawingSettingsEntries().contains(entry) ? 1 : 0);
     return settings;
 }

@@ -18,12 +18,12 @@ const QStringList &contractorInfoAttributes();
 const AttributeTable<AddressFields> &addressAttributes();
 const AttributeTable<TestDefFields> &testDefAttributes();
 
-/// The types of a bundle are elements of their own.
+/// Returns the attributes of bundles. The cable types of a bundle are elements of their own.
 const AttributeTable<BundledCableFields> &bundledCableAttributes();
 
 /// Returns the entries that have print settings, in the order in which a new document has them.
 const QStringList &printSettingsEntries();
-/// Returns the entries that have page and scale settings too.
+/// Returns the entries that also have page and scale settings.
 const QStringList &drawingSettingsEntries();
 /// Returns the print settings of an entry in a new document.
 PrintSettings initialPrintSettings(const QString &entry);
@@ -34,12 +34,12 @@ const AttributeTable<ScaleSettingsFields> &scaleSettingsAttributes();
 /// The attributes of the elements in a file.
 struct FileAttributes
 {
-    QMap<QString, const AttributeList *> inList;    ///< of the elements in the list of that name
-    QMap<QString, const AttributeList *> ofElement; ///< of the elements of that name
+    QMap<QString, const AttributeList *> inList;    ///< attributes of the elements in a list, by the name of the list
+    QMap<QString, const AttributeList *> ofElement; ///< attributes of other elements, by their names
 };
 /// Returns the attributes of all elements that both documents have.
 const FileAttributes &documentFileAttributes();
-/// Returns the order of these attributes, and of those of the contractor.
+/// Returns the order of the given attributes and of the attributes of the contractor.
 xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes);
 
 } // namespace cabledoc

@@ -9,7 +9,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// The format keeps no more cable types of a bundle.
+/// Largest number of cable types that a bundle keeps in a file.
 constexpr int maximumTypes = 8;
 
 BundledCable bundleFrom(const QDomElement &element)

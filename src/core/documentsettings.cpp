@@ -37,7 +37,7 @@ const SettingsKind<ScaleSettings> &scaleKind()
     return kind;
 }
 
-/// Stores the settings of an entry, which is added if it is missing.
+/// Stores the settings of an entry. Adds the entry if it is missing. Does nothing if there is no entry of that name.
 template <typename Settings> void store(DocumentTree *tree, const QDomElement &list, const SettingsKind<Settings> &kind,
                                         const QString &name, const Settings &settings)
 {
@@ -50,7 +50,7 @@ template <typename Settings> void store(DocumentTree *tree, const QDomElement &l
         tree->write(entry, kind.attributes, settings.fields());
 }
 
-/// Returns the settings of an entry. Adds what is missing with its default.
+/// Returns the settings of an entry. Adds the entry or the attributes that are missing, with their defaults.
 template <typename Settings>
 Settings fetch(DocumentTree *tree, const QDomElement &list, const SettingsKind<Settings> &kind, const QString &name)
 {

@@ -8,7 +8,7 @@ namespace cabledoc {
 
 namespace {
 
-/// Makes rows of what the parser finds.
+/// Makes rows of the fields that the parser finds.
 class RowReader
 {
 public:
@@ -41,7 +41,7 @@ private:
 
     void endRow(int terminator)
     {
-        // The parser reports both characters of a line break.
+        // The parser reports each character of a line break "\r\n".
         const bool isSecondHalf = terminator == CSV_LF && m_lastTerminator == CSV_CR && m_row.fields.isEmpty();
         m_lastTerminator = isSecondHalf ? 0 : terminator;
         if (isSecondHalf)

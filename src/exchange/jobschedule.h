@@ -48,7 +48,7 @@ public:
 
     /// Returns the row of a cable.
     ScheduleRow row(const QDomElement &cable) const;
-    /// Returns the colour that a cable of the given type gets if its colour is the given text.
+    /// Returns the colour of a cable with the given text as its colour and the given type.
     QString color(const QString &text, const QString &type) const;
 
     /// Cables in document order.

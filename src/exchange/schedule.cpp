@@ -143,12 +143,13 @@ private:
     {
         if (m_isDry)
             return;
-        // The setters do not add an attribute that an older file lacks.
+        // The setters of cables do not add an attribute that an older file lacks.
         JobEditorPrivate::of(m_job).tree.addAttribute(cable, attribute, QString());
         (m_job.*setter)(cable.tagName(), text);
     }
 
-    // An end that the job lacks is added. In a dry run it counts as added from then on, but has no tag.
+    // Ends of cables. If the job lacks an end, the import adds it. In a dry run the end counts as added, but has no
+    // tag.
 
     QString endTag(const ScheduleRow &row, std::size_t floorColumn)
     {
@@ -205,7 +206,7 @@ private:
         return m_known.rooms[{end.floor, end.room}] = {floor.tag, tag, area, 0};
     }
 
-    /// Floors that the import has not added may lack a list of rooms.
+    /// Adds a list of rooms to a floor without one. Only floors that the import has not added can lack it.
     void ensureRoomList(const FloorPlace &floor)
     {
         if (m_job.getToRoomList(floor.tag).isNull())

@@ -164,7 +164,7 @@ private:
             report(row, m_fieldOf[floorColumn] + 1, m_noFloor);
     }
 
-    // Translated once, even if a million rows need them.
+    // These are translated once, even if a million rows need them.
     const QString m_noPort = tr("the end has a floor or room, but no port");
     const QString m_noFloor = tr("the end has a port, but no floor");
     const QString m_noId = tr("the cable has no id");
@@ -173,7 +173,7 @@ private:
     bool m_canHoldAll;
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
-    /// Field of each column that the file has.
+    /// Number of the field of each column that the file has.
     std::array<int, column::Count> m_fieldOf{};
     QMap<QString, int> m_rowOfId;
 };

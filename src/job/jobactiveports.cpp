@@ -16,7 +16,7 @@ ActiveTestResult readResult(const QDomElement &element)
     return ActiveTestResult(fields);
 }
 
-/// The first result of that time.
+/// Returns the first result with the given time, or a null element if there is none.
 QDomElement resultElement(const QDomElement &activePort, const QString &time)
 {
     for (const QDomElement &result : ChildElements(activePort)) {

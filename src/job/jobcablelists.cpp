@@ -8,7 +8,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// The tags of the cables that a condition holds for, in document order.
+/// Returns the tags of the cables for which a condition holds, in document order.
 template <typename Condition> QStringList cablesWhere(const QDomElement &cableList, Condition condition)
 {
     QStringList tags;

@@ -6,7 +6,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// Returns a generated tag: the first free number after that of the last cable.
+/// Returns a generated tag with the first free number after that of the last cable.
 QString newTag(const JobTree &tree)
 {
     ElementIndex &cables = tree.index().of(ElementKind::Cables);
@@ -21,7 +21,7 @@ QString newId(const JobTree &tree)
     ElementIndex &cables = tree.index().of(ElementKind::Cables);
     //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
     const QString prefix = JobEditor::tr("Cable");
-    // The last in the order of the tags, deliberately, not the highest number.
+    // This is deliberately the id of the last tag in string order, and not the highest number.
     const QString lastId = cables.id(cables.ids().lastTagWithNumber(prefix));
     return cables.ids().numberedId(prefix,
                                    cables.ids().firstFreeNumber(prefix, numberAfter(prefix, lastId) + qint64(1)));

@@ -8,7 +8,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// The name without the number at its end: copies get the same name with another number.
+/// Returns the name without the number at its end. A copy gets this name with another number.
 QString withoutNumber(QString name)
 {
     const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
@@ -17,8 +17,7 @@ QString withoutNumber(QString name)
     return name;
 }
 
-/// The first of "12", "12A", ..., "12Z", "12[", "12AA", "12AB", ... that is free. That the row goes on to "["
-/// is deliberate.
+/// Returns the first free id of "12", "12A", ..., "12Z", "12[", "12AA", "12AB", ... The "[" is deliberate.
 QString freeId(const ElementIndex &index, const QString &id)
 {
     QString base = id;
@@ -44,22 +43,22 @@ QStringList copiesOf(const QStringList &tags, const QMap<QString, QString> &copi
     return list;
 }
 
-/// The tags of what was copied, and those of the copies.
+/// The tags of copies by the tags of the originals.
 struct Copies
 {
     QMap<QString, QString> ports;
     QMap<QString, QString> vertRuns;
     QMap<QString, QString> points;
     QMap<QString, QString> cables;
-    QMap<QString, QString> bundleGroups; ///< their numbers
+    QMap<QString, QString> bundleGroups; ///< numbers of the groups
 
-    /// What a copied cable names: the copy if there is one, otherwise the same as before.
+    /// Returns the end of a copied cable: the copy of the original end if there is one, otherwise the original end.
     QString end(const QString &tag) const { return ports.value(tag, vertRuns.value(tag, tag)); }
     QString passed(const QString &tag) const { return points.value(tag, end(tag)); }
 };
 
-/// Copies the elements of a list to another floor or sheet, under new names. Returns their tags and those of the
-/// copies.
+/// Copies the elements of a list to another floor or sheet, under new names. Returns the tags of the copies by the tags
+/// of the originals.
 template <typename Fields>
 QMap<QString, QString> copyElements(JobTree *tree, const Kind<Fields> &kind, const QString &from, const QString &to)
 {
@@ -74,7 +73,8 @@ QMap<QString, QString> copyElements(JobTree *tree, const Kind<Fields> &kind, con
     return copies;
 }
 
-/// Copies the ports or vertical runs of a room to another room. Returns their tags and those of the copies.
+/// Copies the ports or vertical runs of a room to another room. Adds the tags of the copies by the tags of the
+/// originals.
 template <typename Fields> void copyPlaces(JobTree *tree, const Kind<Fields> &kind, const QDomElement &room,
                                            const QString &floorTag, const QString &roomTag,
                                            QMap<QString, QString> *copies)
@@ -89,7 +89,7 @@ template <typename Fields> void copyPlaces(JobTree *tree, const Kind<Fields> &ki
     }
 }
 
-/// Returns the tag of the copy of a room. A room of that id on the floor stands for it.
+/// Returns the tag of the room on the floor that has the id of the given room. Copies the given room if there is none.
 QString copyOfRoom(JobEditor *job, const QDomElement &room, const QString &floorTag)
 {
     JobTree &tree = JobEditorPrivate::of(*job).tree;
@@ -103,7 +103,7 @@ QString copyOfRoom(JobEditor *job, const QDomElement &room, const QString &floor
     return job->addRoom(Room(fields), addmode::GivenId);
 }
 
-/// Copies rooms with what is in them.
+/// Copies the rooms of a floor with their ports and vertical runs.
 void copyRooms(JobEditor *job, const QString &from, const QString &to, Copies *copies)
 {
     JobTree &tree = JobEditorPrivate::of(*job).tree;
@@ -117,7 +117,8 @@ void copyRooms(JobEditor *job, const QString &from, const QString &to, Copies *c
         copyPlaces(&tree, vertRunKind(), source, to, roomTag, &copies->vertRuns);
 }
 
-/// Copies cables, untested, under the ids that are given for theirs. Cables of one bundle group form a new group.
+/// Copies cables without their test results. A copy gets the id that is given for the id of the original, or a
+/// generated one. The copies of the cables of a bundle group form a new group.
 void copyCables(JobEditor *job, const QStringList &tags, const QMap<QString, QString> &ids, Copies *copies)
 {
     JobTree &tree = JobEditorPrivate::of(*job).tree;

@@ -6,7 +6,7 @@
 
 namespace cabledoc {
 
-/// What the job document keeps, and what its subjects share.
+/// The private data of the job document, and functions that its source files share.
 class JobEditorPrivate
 {
 public:
@@ -16,11 +16,11 @@ public:
     {
     }
 
-    /// Returns the inside of a job document.
+    /// Returns the private data of a job document.
     static JobEditorPrivate &of(const JobEditor &job) { return *job.d; }
 
-    /// Adds an element, as JobTree::add() does. Also returns a null element, with a text in error(), if a given tag
-    /// cannot be the name of an element.
+    /// Adds an element, as JobTree::add() does. Returns a null element and sets error() if a given tag cannot be the
+    /// name of an element.
     template <typename Fields> QDomElement add(const Kind<Fields> &kind, const Fields &fields, int mode)
     {
         return addmode::keepsTag(mode) && !mayBeName(fields.element) ? QDomElement() : tree.add(kind, fields, mode);
@@ -29,9 +29,9 @@ public:
     bool mayBeName(const QString &name);
     /// Returns whether a file can be saved under that name. Sets error() if not.
     bool mayBeFile(const QString &filename, const QString &extension);
-    /// Returns whether an element of the kind has that text as its tag or as its id.
+    /// Returns whether an element of the kind has that text as its tag, or as its id if byTag is false.
     bool exists(ElementKind kind, const QString &text, bool byTag) const;
-    /// Returns the tags of the floors whose numbers lie between those of two others.
+    /// Returns the tags of the floors whose numbers lie between the numbers of two floors.
     QStringList floorsBetween(const QString &tagA, const QString &tagB) const;
 
     Document &document;

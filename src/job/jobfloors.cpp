@@ -78,7 +78,7 @@ void JobEditor::setFloorBackgroundPic(const QString &tag, const QString &pic, in
 {
     d->tree.set(ElementKind::Floors, tag, words::Picture, pic);
     d->tree.set(ElementKind::Floors, tag, words::PictureX, toText(x));
-    // Required: the vertical origin keeps the value that it was first given.
+    // This is deliberate: the vertical origin keeps its first value.
     if (!d->tree.element(ElementKind::Floors, tag).hasAttribute(words::PictureY))
         d->tree.set(ElementKind::Floors, tag, words::PictureY, toText(y));
 }
@@ -101,7 +101,7 @@ void JobEditor::setBackgroundOption(const QString &tag, const QString &option)
 
 QString JobEditor::getFloorNumber(const QString &tag)
 {
-    // Sheets have no such case.
+    // An empty tag has a number only for floors, not for sheets.
     if (tag.isEmpty())
         return QStringLiteral("1");
     return getSheetNumber(tag);

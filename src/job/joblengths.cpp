@@ -10,7 +10,7 @@ namespace {
 
 constexpr double noLength = -1.0;
 
-/// Returns the feet that a pixel of the floor plans stands for, or 0 if they have no scale.
+/// Returns the length of a pixel of the floor plans in feet, or 0 if they have no scale.
 double feetInAPixel(const ScaleSettings &settings)
 {
     if (settings.style() != 1 && settings.style() != 2)
@@ -20,14 +20,14 @@ double feetInAPixel(const ScaleSettings &settings)
     return feetInAnInch / pixelsInAnInch;
 }
 
-/// Returns the place of a port or a vertical run: where a cable can end. It has no floor if there is none.
+/// Returns the place of the port or vertical run with the given tag. Its floor is empty if there is none.
 PortFields placeOf(JobTree *tree, const QString &tag)
 {
     const QDomElement port = tree->element(ElementKind::Ports, tag);
     return port.isNull() ? tree->read(vertRunKind(), tag) : tree->read(portKind(), port);
 }
 
-/// Returns the place of a point, a port or a vertical run: what a cable can pass.
+/// Returns the place of the point, port or vertical run with the given tag. Its floor is empty if there is none.
 PortFields passedPlace(JobTree *tree, const QString &tag)
 {
     if (!tree->contains(ElementKind::Points, tag))
@@ -41,8 +41,8 @@ PortFields passedPlace(JobTree *tree, const QString &tag)
     return place;
 }
 
-/// Returns the way from the ceiling of a floor to that of another one: through the storeys above the lower floor, up to
-/// and including the upper one.
+/// Returns the distance between the ceilings of two floors in feet. This is the height of the storeys above the lower
+/// floor, up to and including the upper one.
 double heightBetween(const JobEditorPrivate &d, const QString &tagA, const QString &tagB)
 {
     const int numberA = JobEditor::getFloorNumber(tagA).toInt();
@@ -51,7 +51,7 @@ double heightBetween(const JobEditorPrivate &d, const QString &tagA, const QStri
         return 0.0;
     double height = 0.0;
     const QStringList floors = d.floorsBetween(tagA, tagB) + QStringList(numberA < numberB ? tagB : tagA);
-    // An estimate does not add what floors of older files lack.
+    // An estimate does not add attributes that floors of older files lack.
     for (const QString &floor : floors)
         height += floorAttributes().read(d.tree.element(ElementKind::Floors, floor)).ceilingHeight;
     return height;
@@ -101,7 +101,7 @@ QMap<QString, double> JobEditor::estimateCableLengths(bool metric)
     const double scale = feetInAPixel(getScaleSettings(words::FloorPlanSettings));
     QMap<QString, double> lengths;
     for (const QDomElement &cable : ChildElements(getToCableList())) {
-        // Of cables that share a tag the first counts.
+        // If several cables have the same tag, the first one counts.
         if (!lengths.contains(cable.tagName()))
             lengths.insert(cable.tagName(), estimatedLength(d.get(), cable, scale, metric));
     }

@@ -18,7 +18,7 @@ QString withTrailingSlash(const QString &directory)
     return directory.endsWith(QLatin1Char('/')) ? directory : directory + QLatin1Char('/');
 }
 
-/// Adds what every job has directly under its root and this one lacks.
+/// Adds the elements under the root that every job has and that this one lacks.
 void addSkeleton(JobEditor *job, QDomElement root)
 {
     Document &document = JobEditorPrivate::of(*job).document;
@@ -34,7 +34,7 @@ void addSkeleton(JobEditor *job, QDomElement root)
     tree.ensure(words::ActivePortList, tree.ensure(words::ActiveNetworkTestList, root));
 }
 
-/// Gives a job of an older version what the operations of today expect of every job.
+/// Adds the elements that a job of an older version lacks and that operations expect in every job.
 void addWhatOlderJobsLack(JobEditor *job)
 {
     JobTree &tree = JobEditorPrivate::of(*job).tree;
@@ -52,7 +52,7 @@ void addWhatOlderJobsLack(JobEditor *job)
 void create(JobEditor *job, double ceilingHeight)
 {
     JobTree &tree = JobEditorPrivate::of(*job).tree;
-    // Unload() left the tags and ids of the job before, which must not count for the new one.
+    // Unload() kept the tags and ids of the last job. They must not count for the new one.
     tree.index().rebuild();
 
     addSkeleton(job, tree.append(words::Job, tree.document()));
@@ -67,7 +67,8 @@ void create(JobEditor *job, double ceilingHeight)
     tree.setChanged(false);
 }
 
-/// Fails if a job is open. A second root element beside the first could never be saved.
+/// Returns whether no job is open. Sets error() if one is open. A new job would become a second root element, which
+/// could not be saved.
 bool isClosed(Document *document)
 {
     if (!document->tree().document().hasChildNodes())
@@ -107,7 +108,7 @@ JobEditor::JobEditor(const QString &filename)
         qDebug("Filename given to JobEditor is a directory");
         error() = tr("Filename given to JobEditor is a directory");
     } else if (file.exists()) {
-        // Deliberate: a job named at construction loads, or the program ends.
+        // This is deliberate: the program ends if a job that is named at construction cannot be loaded.
         if (!JobEditor::Load(filename)) {
             qDebug("Load failed in JobEditor::JobEditor(const QString &filename)");
             std::exit(-1);
@@ -157,10 +158,10 @@ bool JobEditor::Load(const QString &filename)
         filename, words::Job,
         {tr("Empty or null filename in JobEditor::Load"), tr("Job file %1 does not exist"),
          tr("Error parsing job file %1\n on line %2,\n column %3,\n%4"), tr("Unable to parse job file %1")});
-    // The first child of the document has to be the root, even if it is a comment.
+    // The first child of the document must be the root element. A file with a comment before it is refused.
     const bool isJob = isRead && d->tree.root().tagName() == words::Job;
     const bool isOlder = isJob && version() != words::CurrentVersion;
-    // Nothing is written: the file keeps its version until the job is saved.
+    // The file is not written. It keeps its version until the job is saved.
     const bool isLoaded = isJob && convertToCurrentVersion([] { return true; });
     if (isLoaded && isOlder)
         addWhatOlderJobsLack(this);

@@ -5,8 +5,8 @@ using namespace cabledoc;
 
 namespace {
 
-/// Puts a cable into one of the two lists of a vertical run and takes it out of the other. An empty name of the list
-/// takes it out of both.
+/// Adds a cable to one of the two lists of a vertical run, and removes it from the other one. If the name of the list
+/// is empty, removes the cable from both.
 void putCableIntoVertRun(JobTree *tree, const QString &cableTag, const QString &tag, const QString &list)
 {
     for (const QString &attribute : {words::Connected, words::Disconnected}) {

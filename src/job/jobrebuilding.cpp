@@ -19,7 +19,7 @@ void JobEditor::populateCableMap()
 
 void JobEditor::populateCableTypeMap()
 {
-    // One walk makes all lists of cables.
+    // All lists of cables are rebuilt in one walk.
     populateCurrentCablesLists();
 }
 

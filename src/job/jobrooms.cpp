@@ -13,16 +13,16 @@ Room undefinedRoom()
     return room;
 }
 
-/// Returns a generated tag: the first free number after that of the last room.
+/// Returns a generated tag with the first free number after that of the last room.
 QString newTag(const JobTree &tree)
 {
     ElementIndex &rooms = tree.index().of(ElementKind::Rooms);
-    // The last tag in string order is "Room9" beside "Room10". The room that every floor has does not count.
+    // This is the last tag in string order, in which "Room9" comes after "Room10". The room "Undefined" does not count.
     const int last = numberAfter(words::RoomTagPrefix, rooms.lastTag(words::Undefined));
     return words::RoomTagPrefix + QString::number(rooms.firstFreeTagNumber(words::RoomTagPrefix, last + qint64(1)));
 }
 
-/// Returns a generated id: the prefix and the first free number after that of the last room on the floor.
+/// Returns a generated id with the prefix and the first free number after that of the last room on the floor.
 QString newId(const JobTree &tree, const QString &floorTag, const QString &prefix)
 {
     ContainerIndex *rooms = tree.index().roomsOf(floorTag);
@@ -112,7 +112,7 @@ void JobEditor::setRoomName(const QString &floorTag, const QString &id, const QS
     d->tree.setAttribute(d->tree.roomById(floorTag, id), words::Id, newId);
 }
 
-// The following setters complete the room of an older file, as getRoomById() does.
+// The following setters add the attributes that a room of an older file lacks, as getRoomById() does.
 
 void JobEditor::setRoomNamePos(const QString &floorTag, const QString &id, const QPoint &position)
 {

@@ -127,7 +127,7 @@ QString JobEditor::getJobNotesText() const
 
 QDomElement JobEditor::getToJobNotesList()
 {
-    // Deliberate: under the name of the notes, callers expect the list of connections.
+    // This is deliberate: callers expect the list of connections from this function.
     const QDomElement root = d->tree.document().documentElement();
     return root.isNull() ? root : d->tree.ensure(words::ConnectionList, root);
 }

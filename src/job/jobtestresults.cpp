@@ -10,7 +10,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// Feet, or metres, as lengths are shown: to the nearest tenth of a foot, but to the nearest half metre.
+/// Converts a length in feet to the length that is shown: feet rounded to tenths, or metres rounded to halves.
 float roundedLength(float feet, bool metric)
 {
     return metric ? BKUtilities::roundToHalf(float(feet / feetInAMeter)) : BKUtilities::roundToTenths(feet);
@@ -23,13 +23,13 @@ QDomElement cableOfTagOrId(const JobTree &tree, const QString &text)
     return cable.isNull() ? tree.element(ElementKind::Cables, tree.tagOfId(ElementKind::Cables, text)) : cable;
 }
 
-/// Returns the results of a cable, after adding what an older file lacks.
+/// Returns the results of a cable, after adding the attributes that an older file lacks.
 TestResults readResults(JobTree *tree, const QDomElement &cable)
 {
     return TestResults(tree->read(cable.firstChildElement(words::TestResults), testResultsAttributes()));
 }
 
-/// Returns a length reading in feet, by the test definition of the cable's type.
+/// Returns a length reading in feet, corrected by the length constant of the cable's type.
 float correctedLength(const JobEditor &job, int reading, const QDomElement &cable)
 {
     const int lengthConstant = job.getTestDef(cable.attribute(words::Type)).length_constant();
@@ -41,7 +41,7 @@ float correctedLength(const JobEditor &job, int reading, const QDomElement &cabl
 void JobEditor::setCableTestResults(const QString &cable, const TestResults &results)
 {
     const QDomElement element = cableOfTagOrId(d->tree, cable).firstChildElement(words::TestResults);
-    // The two that the earliest files lack are added. All others are changed only if they are there.
+    // The earliest files lack these two attributes, so they are added. All others are only changed if they exist.
     for (const QString &name : {words::SoftwareVersion, words::Serial})
         d->tree.addAttribute(element, name, QLatin1String(""));
     d->tree.change(element, testResultsAttributes(), results.fields());
@@ -74,6 +74,6 @@ float JobEditor::getMaxRoundedCableLength(const QString &cable, bool metric, boo
     if (!uncorrected)
         return roundedLength(correctedLength(*this, reading, element), metric);
     const float feet = reading < 0 ? 0.0F : float(reading);
-    // Whole metres, cut off and not rounded.
+    // Metres are truncated to whole ones, and not rounded.
     return metric ? float(std::trunc(feet / feetInAMeter)) : feet;
 }

@@ -16,7 +16,7 @@ using namespace cabledoc;
 
 namespace {
 
-/// The colour of a cable type that the system brings; black for another.
+/// Returns the colour of a built-in cable type, or black for another type.
 QString colorOfType(const QString &type)
 {
     static const QMap<QString, QString> colors{
@@ -45,8 +45,9 @@ void setVersion(DocumentTree *tree, const QDomElement &root, const QString &numb
     tree->setAttribute(root.firstChildElement(words::Version), words::Number, number);
 }
 
-/// Adds to the expected blocks what 1.4 brought. Up to 1.3 the element of a definition was named "T" and its
-/// type; it is removed and added under a tag of today, with all that it holds.
+/// Brings test definitions to version 1.4. Up to 1.3 the tag of a definition was "T" and its type. Each definition gets
+/// a generated tag and moves to the end of the list. Its expected block gets the fields that were added in 1.4. Its
+/// length constant is divided by the given number.
 void replaceDefinitions(DocumentTree *tree, const QDomElement &list, double lengthConstantDivisor)
 {
     QVector<QDomElement> definitions;
@@ -77,7 +78,8 @@ void replaceDefinitions(DocumentTree *tree, const QDomElement &list, double leng
     }
 }
 
-/// Every definition keeps its tag when that holds a number and is its own.
+/// Gives each definition a tag of its own. A definition keeps its tag if this has a digit from 1 to 9 and no definition
+/// before it has the same tag.
 void giveDefinitionsTheirOwnTags(DocumentTree *tree, const QDomElement &list)
 {
     static const QRegularExpression number(QStringLiteral("[1-9][0-9]{0,}"));
@@ -95,14 +97,14 @@ void giveDefinitionsTheirOwnTags(DocumentTree *tree, const QDomElement &list)
 
 void addColor(DocumentTree *tree, const QDomElement &definition)
 {
-    // Only what a file says is no default type is left black; the earliest files say nothing.
+    // A type is black only if the file says that it is not a default type. The earliest files do not say this.
     const bool isOwnType =
         definition.hasAttribute(words::DefaultType) && definition.attribute(words::DefaultType).toInt() == 0;
     tree->addAttribute(definition, words::Color,
                        isOwnType ? TestDefFields().color : colorOfType(definition.attribute(words::Id)));
 }
 
-/// The connector was a text of its own. Beside a comment that is there already it follows that.
+/// Moves the text of the connector to the end of the comment.
 void turnConnectorIntoComment(DocumentTree *tree, const QDomElement &definition)
 {
     QStringList remarks{definition.attribute(words::Comment), definition.attribute(words::Connector)};
@@ -155,7 +157,7 @@ bool BKXMLEditor::convert11To14(QDomElement *root, QDomNode *rootNode)
 bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
 {
     setVersion(&inside().tree(), *root, QStringLiteral("1.4"));
-    // The unit became ten times as large.
+    // In 1.4 the unit of the length constant is ten times as large.
     replaceDefinitions(&inside().tree(), root->firstChildElement(words::TestDefList), 10.0);
     return true;
 }
@@ -163,7 +165,7 @@ bool BKXMLEditor::convert12To14(QDomElement *root, QDomNode *)
 bool BKXMLEditor::convert13To14(QDomElement *root, QDomNode *)
 {
     setVersion(&inside().tree(), *root, QStringLiteral("1.4"));
-    // Deliberately without the division: 1.3 has the later unit already.
+    // This step does not divide, because 1.3 already has the unit of 1.4.
     replaceDefinitions(&inside().tree(), root->firstChildElement(words::TestDefList), 1.0);
     return true;
 }
@@ -217,7 +219,7 @@ bool BKXMLEditor::convert23To30(QDomElement *root, QDomNode *)
     setVersion(&inside().tree(), *root, words::CurrentVersion);
 
     inside().tree().ensure(words::TestDefList, *root);
-    // Cables with pairs 0 and 1 crossed, and those with all pairs crossed.
+    // The expected results of cables with pairs 0 and 1 crossed, and of cables with all pairs crossed.
     const QString firstPairsCrossed =
         QStringLiteral("FFFFFFFFFFFFFFFFFFFFFFFF0001000203FFFFFFFFFFFFFFFFFFFFFFFFFF0FFFFFFFF"
                        "FFFFFFFFFFFFFFFFFFFFFFFFF");

@@ -36,7 +36,7 @@ BktEditor::BktEditor(const QString &filename)
     if (!QFileInfo::exists(filename)) {
         New(filename);
     } else if (!Load(filename)) {
-        // Deliberate: a template named at construction loads, or the program ends.
+        // This is deliberate: the program ends if a template that is named at construction cannot be loaded.
         qDebug("Load failed in BktEditor::BktEditor(const QString &filename)");
         std::exit(-1);
     }

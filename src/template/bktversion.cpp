@@ -13,7 +13,7 @@ bool BktEditor::checkVersion()
 
 bool BktEditor::checkVersion(const std::function<bool()> &stepDone)
 {
-    // The three texts are for developers: Load() puts its own in their place.
+    // The three texts are for developers. Load() replaces them with its own text.
     if (!document().hasChildNodes()) {
         inside().error = QStringLiteral("_doc has no child nodes in BktEditor::checkVersion");
         return false;

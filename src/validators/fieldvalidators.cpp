@@ -42,7 +42,7 @@ QValidator::State FileValidator::validate(QString &input, int &) const
         return Invalid;
     //: Further characters may be added behind these.
     const QString forbidden = tr(";<>|&?$*\"", "forbidden characters in field");
-    // Not escaped, because a translation may contain a range.
+    // The characters are not escaped, because a translation may contain a range.
     const QRegularExpression anyForbidden(QLatin1Char('[') + forbidden + QLatin1Char(']'));
     return input.contains(anyForbidden) ? Invalid : Acceptable;
 }

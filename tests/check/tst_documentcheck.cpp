@@ -6,7 +6,7 @@
 
 using namespace cabledoc;
 
-/// What is found in a file.
+/// Tests what the check reports about files.
 class DocumentCheckTest : public QObject
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ private Q_SLOTS:
         COMPARE_TEXTS(summary(report).join('\n'), testCase.expectedText(), testCase.place());
     }
 
-    void newJobHasNothingWrong() { QCOMPARE(summary(check(testData("new.job"))), QStringList()); }
+    void newJobHasNoFindings() { QCOMPARE(summary(check(testData("new.job"))), QStringList()); }
 
     void filesThatCannotBeRead()
     {

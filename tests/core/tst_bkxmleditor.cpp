@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A document whose inner operations are open to the test.
+/// A document whose protected operations the test can call.
 class OpenEditor : public BKXMLEditor
 {
 public:
@@ -84,7 +84,7 @@ private Q_SLOTS:
         original.setParent(nullptr);
     }
 
-    void findsAmongSiblingsOnly()
+    void findsOnlySiblings()
     {
         const OpenEditor editor("<r><!--c--><a n='1'><b/></a><c/><a n='2'/></r>");
         const QDomNode start = editor.getDomNodeFirstChild();
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(!OpenEditor::hasChildElement("a", QDomNode()));
     }
 
-    void takesTheFirstNodeForTheRoot()
+    void firstNodeIsTheRoot()
     {
         const OpenEditor editor("<!--c--><r><a/></r>");
         QVERIFY(editor.getElement("a").isNull());

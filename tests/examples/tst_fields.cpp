@@ -6,7 +6,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
-/// A person types into the example's window.
+/// Types into the window of the example as a user does.
 class FieldsTest : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QVERIFY(edit != nullptr);
         QTest::keyClicks(edit, typed);
         QTEST(edit->text(), "shown");
-        // Leaving the field changes nothing any more.
+        // The return key does not change the text.
         QTest::keyClick(edit, Qt::Key_Return);
         QTEST(edit->text(), "shown");
     }
@@ -69,7 +69,7 @@ private Q_SLOTS:
         auto *type = window.findChild<QLineEdit *>("TypeValidator");
         QTest::keyClicks(type, "CAT6");
         QTest::keyClick(type, Qt::Key_Home);
-        // What is too much falls off at the end.
+        // The text is cut at its end if it becomes too long.
         QTest::keyClicks(type, "S/");
         QCOMPARE(type->text(), QString("S/CAT"));
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
         language->setCurrentIndex(0);
         QStringList shown;
         for (int i = 0; i < language->count(); ++i) {
-            // The window is told of the new language by an event.
+            // The window changes its language when it receives an event.
             QCoreApplication::processEvents();
             QStringList texts;
             for (const auto *label : window.findChildren<QLabel *>())

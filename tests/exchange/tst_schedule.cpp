@@ -13,7 +13,7 @@ const QByteArray heading = "id,from_floor,from_room,from_port,to_floor,to_room,t
 
 } // namespace
 
-/// Cable schedules as they go into jobs and come out of them.
+/// Tests the import and the export of cable schedules.
 class ScheduleTest : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,8 @@ private:
         return importSchedule(JobEditor::Instance(), name, dryRun);
     }
 
-    /// What the import adds and changes; the error or the places of the problems where it does not.
+    /// Returns the numbers of elements that the import adds and changes. Returns the error and the places of the
+    /// problems if there are any.
     static QString summary(const ScheduleReport &report)
     {
         QStringList places;
@@ -77,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(!job.fileChanged());
     }
 
-    void whatCannotBeDoneAtAll()
+    void missingFilesAndLists()
     {
         QVERIFY(!importSchedule(openJob(), m_directory.filePath("missing.csv")).error.isEmpty());
         QVERIFY(!importSchedule(openJob(), m_directory.path()).error.isEmpty());
@@ -88,7 +89,7 @@ private Q_SLOTS:
 
     void imports_data() { addCases({"cases/schedule-imports.txt"}); }
 
-    /// A job and a schedule; what the import counts, and the schedule of the job afterwards.
+    /// Each case is a job and a schedule. It expects the counts of the import and the schedule of the job afterwards.
     void imports()
     {
         QFETCH(TestCase, testCase);
@@ -124,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(exportSchedule(job), schedule);
     }
 
-    void otherPropertiesOfAChangedCableStay()
+    void changedCableKeepsOtherProperties()
     {
         JobEditor &job = openJob(testData("site.job"));
         QCOMPARE(summary(import(exportSchedule(job))), QString("0 0 0 0 0"));
@@ -136,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(cable.testResults().status(), QString("PASS"));
     }
 
-    /// New rooms and ports lie beside what is there.
+    /// New rooms and ports do not overlap others.
     void places()
     {
         JobEditor &job = openJob();

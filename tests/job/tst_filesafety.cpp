@@ -19,7 +19,7 @@ Q_DECLARE_METATYPE(Change)
 
 namespace {
 
-/// A job or the template, as far as they are alike.
+/// The functions of a job or of the template that both have.
 struct Document
 {
     BKXMLEditor &editor;
@@ -42,7 +42,7 @@ QByteArray content(const QString &root, const QString &tester)
         .toLatin1();
 }
 
-/// What another program does: it writes the content to a new file and moves that into place.
+/// Replaces a file as another program does. Writes the content to a new file and moves that into place.
 void replaceFile(const QString &fileName, const QByteArray &bytes)
 {
     writeFile(fileName + ".new", bytes);
@@ -51,7 +51,7 @@ void replaceFile(const QString &fileName, const QByteArray &bytes)
 
 } // namespace
 
-/// What is in a file is never lost without a word: not by a failed load, not by a second program.
+/// Tests that the content of a file is never lost without a message, neither by a failed load nor by a second program.
 class FileSafetyTest : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private:
 
     QString path(const QString &name) const { return m_directory->filePath(name); }
 
-    /// Runs a check for a job and for the template, each open and edited under the name "a".
+    /// Runs a check for a job and for the template. Both are loaded from a file "a" and then changed.
     void forBoth(const std::function<void(const QString &root, Document &document)> &check)
     {
         Document documents[] = {documentOf(JobEditor::Instance()), documentOf(BktEditor::Instance())};
@@ -121,7 +121,7 @@ private Q_SLOTS:
         }) << nothing;
     }
 
-    /// A file that could not be loaded is not replaced by what was open before.
+    /// A file that could not be loaded is not replaced by the document that was open before.
     void failedLoads()
     {
         QFETCH(Change, spoil);
@@ -178,14 +178,14 @@ private Q_SLOTS:
         row("emptied", false, [](const QString &name) { writeFile(name, ""); });
     }
 
-    /// A save does not take back what another program wrote meanwhile.
+    /// A save does not replace content that another program has written since the load or the last save.
     void changesByOthers()
     {
         QFETCH(Change, change);
         QFETCH(bool, isSaved);
         forBoth([&](const QString &, Document &document) {
             const QString name = document.editor.filename();
-            for (int round = 0; round < 2; ++round) { // after a load, and after a save
+            for (int round = 0; round < 2; ++round) { // first after a load, then after a save
                 change(name);
                 const QByteArray before = QFile::exists(name) ? readFile(name) : QByteArray();
                 QCOMPARE(document.save(), isSaved);
@@ -209,7 +209,7 @@ private Q_SLOTS:
         });
     }
 
-    void filesThatAreOnlyCreated()
+    void existingFilesAreNotReplaced()
     {
         forBoth([&](const QString &root, Document &document) {
             const QString there = path("there." + root.toLower());
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY(!job.save());
     }
 
-    void exportOntoTheJob()
+    void exportToTheFileOfTheJob()
     {
         const QString name = path("site.bkt"); // a job may have any name
         JobEditor &job = JobEditor::Instance();
@@ -266,7 +266,7 @@ private Q_SLOTS:
         });
     }
 
-    void namesStayWhereTheyWere()
+    void relativeNamesKeepTheirFolder()
     {
         const QString before = QDir::currentPath();
         const auto back = qScopeGuard([&before] { QDir::setCurrent(before); });

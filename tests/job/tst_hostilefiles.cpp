@@ -8,7 +8,7 @@
 
 namespace {
 
-/// How much bigger the big files are made than by default: CABLEDOC_TEST_SCALE.
+/// Returns how many times bigger than by default the big files are. CABLEDOC_TEST_SCALE sets this number.
 int scale()
 {
     bool isNumber = false;
@@ -16,13 +16,13 @@ int scale()
     return isNumber ? number : 1;
 }
 
-/// That many make a list long.
+/// Returns the number of elements in a long list.
 int many()
 {
     return 50000 * scale();
 }
 
-/// Many elements of that form, in which "%1" stands for the number of each.
+/// Returns many elements of the given form. In each of them its number replaces "%1".
 QByteArray elements(const QByteArray &form)
 {
     QByteArray all;
@@ -38,8 +38,8 @@ QByteArray job(const QByteArray &content)
 
 } // namespace
 
-/// Files that no program of ours wrote: each is refused with a reason, or becomes a job that answers every query and
-/// whose saved text is loaded as the same job. CTest ends a test that takes for ever.
+/// Tests files that our programs did not write. Each is refused with a reason, or becomes a job that answers every
+/// query and whose saved text is loaded as the same job. CTest ends a test that takes too long.
 class HostileFilesTest : public QObject
 {
     Q_OBJECT
@@ -47,14 +47,14 @@ class HostileFilesTest : public QObject
 private:
     QTemporaryDir m_directory;
 
-    /// Some file systems wait for the disk when a file is emptied and written again.
+    /// Writes a new file. Some file systems wait for the disk when an existing file is emptied and written again.
     static void writeNewFile(const QString &fileName, const QByteArray &content)
     {
         QFile::remove(fileName);
         writeFile(fileName, content);
     }
 
-    /// What is wrong with what becomes of the file; empty when nothing is.
+    /// Loads, queries, saves and loads the content. Returns what is wrong, or an empty string if nothing is.
     QString faultOf(const QByteArray &content, bool *isLoaded = nullptr)
     {
         const QString fileName = m_directory.filePath("hostile.job");
@@ -93,19 +93,19 @@ private Q_SLOTS:
         }
     }
 
-    void cutOffAtEveryByte()
+    void fileCutOffAtEveryByte()
     {
         const QByteArray text = testData("site.job");
         for (int size = 0; size < text.size(); ++size) {
             bool isLoaded = false;
             const QString fault = faultOf(text.left(size), &isLoaded);
             QVERIFY2(fault.isEmpty(), qPrintable(QString("%1 bytes: %2").arg(size).arg(fault)));
-            // Only the last line break may go.
+            // Only the line break at the end can be missing.
             QCOMPARE(isLoaded, size == text.size() - 1);
         }
     }
 
-    /// Each attribute with each of the values that are no number, or one out of range.
+    /// Tests each attribute with values that are not numbers or out of range.
     void oddValues()
     {
         const QByteArrayList values{
@@ -145,7 +145,7 @@ private Q_SLOTS:
             QTest::newRow(name) << job(content) << isLoaded;
         };
         row("cables", "<Cable_List>" + elements("<C%1 id='%1'/>") + "</Cable_List>", true);
-        // All the same to Qt 5's hash, with every seed, whichever of the two parts stands in a place.
+        // The two parts have the same hash in Qt 5 with every seed. So have all names that are made of them.
         constexpr int collisions = 50000;
         QByteArray cablesOfOneHash;
         QByteArray path;
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QTEST(isLoaded, "isLoaded");
     }
 
-    /// A job takes it over, and a second time adds nothing.
+    /// A job imports a big template. A second import adds nothing.
     void bigTemplate()
     {
         const QString fileName = m_directory.filePath("big.bkt");

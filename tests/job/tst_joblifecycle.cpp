@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void cleanup() { JobEditor::Destroy(); }
 
-    void instanceStartsEmptyAndEnds()
+    void instanceIsCreatedAndDestroyed()
     {
         JobEditor &job = JobEditor::Instance();
         QCOMPARE(&JobEditor::Instance(), &job);
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QVERIFY(JobEditor::Instance().getFloorTags().isEmpty());
     }
 
-    void newJobHasTheTreeOfTheFormat()
+    void newJobHasTheExpectedTree()
     {
         JobEditor &job = JobEditor::Instance();
         const QString name = path("new.job");
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(!job.fileChanged());
     }
 
-    void loadedFileStaysAsItWas()
+    void loadAndSaveKeepTheFile()
     {
         JobEditor &job = JobEditor::Instance();
         QVERIFY(job.New("before"));
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(!job.fileChanged());
         QVERIFY(job.save());
         QCOMPARE(readFile(name), testData("site.job"));
-        // A load replaces what was open.
+        // A load replaces the job that was open.
         QVERIFY(job.Load(name));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
         QCOMPARE(JobEditorProbe(job).text(), testData("site.job"));
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path("one.job")));
     }
 
-    void lostCharactersAreCounted()
+    void replacedCharactersAreReported()
     {
         JobEditor &job = JobEditor::Instance();
         QVERIFY(job.New(path("lost.job")));
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(job.getSheetIdByTag("SSheet_2"), QString("?\u00f3d??"));
     }
 
-    /// The constructor that takes a name may end the process: another one runs it.
+    /// The constructor that takes a name may end the process, so it runs in another process.
     void constructionByName_data()
     {
         QTest::addColumn<QString>("name");
@@ -154,7 +154,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     if (argc == 3 && qstrcmp(argv[1], "--construct") == 0) {
-        // Only Destroy() deletes a job document, and only the instance: this one ends with the process.
+        // Only Destroy() deletes a job document, and it deletes only the instance. This one ends with the process.
         static auto *job = new JobEditor(QFile::decodeName(argv[2]));
         std::printf("%s|%s", qPrintable(job->getFloorIds().join(',')), qPrintable(job->error()));
         return 0;

@@ -7,8 +7,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 
-/// What the operations of a job, and those of a template, answer and change. tests/data/README.md describes the form of
-/// the cases.
+/// Tests what the operations of a job and a template return and change. tests/data/README.md describes the form of the
+/// cases.
 class JobOperationsTest : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private:
         }
     }
 
-    /// The texts of the documents that a case expects, as they would be saved now.
+    /// Returns the texts of the documents that a case expects, as they would be saved now.
     static QString savedTexts(const QString &expected)
     {
         QByteArray texts;
@@ -43,7 +43,7 @@ private:
         return QString::fromLatin1(texts);
     }
 
-    /// The lines with messages as the test's language has them.
+    /// Returns the lines with their messages translated to the language of the test.
     static QString translatedErrors(const QString &lines)
     {
         QStringList all = lines.split('\n');
@@ -101,8 +101,8 @@ private Q_SLOTS:
             QVERIFY2(cases.contains(QRegularExpression('\n' + operation.name + "[ \n]")), qPrintable(operation.name));
     }
 
-    /// What a caller did to the tree counts after each of the rebuilds.
-    void rebuildsSeeTheChangesOfCallers()
+    /// After each of the rebuilds, the index contains the changes that a caller has made to the tree.
+    void rebuildsIncludeChangesOfCallers()
     {
         using Rebuild = void (JobEditor::*)();
         for (const Rebuild rebuild :
@@ -128,7 +128,7 @@ private Q_SLOTS:
         open("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"
              "<FFloor_11/><FFloor_12/></Floor_List></Job>");
         const JobEditorProbe probe(JobEditor::Instance());
-        // In the order of the tags, not of the numbers.
+        // The floors are in the order of their tags, not of their numbers.
         QCOMPARE(probe.floorsInBetween("FFloor_12", "FFloor_8").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
         QCOMPARE(probe.floorsInBetween("FFloor_8", "FFloor_12").join(','), QString("FFloor_10,FFloor_11,FFloor_9"));
         QVERIFY(probe.floorsInBetween("FFloor_9", "FFloor_10").isEmpty());

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Where the elements of a kind are: the lists on the way to them, with "*" for each element of the list before. The
-/// first of two elements that share a tag hides the other.
+/// A kind of elements. The path names the lists that lead to them, and "*" means each element of the list before. If
+/// two elements have the same tag, the first one hides the other.
 struct Kind
 {
     QString name;
@@ -33,7 +33,7 @@ const QVector<Kind> kinds{
     {"CONNECTION", "Connection_List", "Connection"},
 };
 
-/// The elements that a path leads to.
+/// Returns the elements at the end of a path.
 QVector<QDomElement> elementsAt(const QDomElement &root, const QString &path)
 {
     QVector<QDomElement> parents{root};
@@ -71,7 +71,7 @@ struct Names
 
 } // namespace
 
-/// Long random sequences of operations. After each of them every index has to equal its rebuild.
+/// Tests long random sequences of operations. After each operation every index must equal one that is rebuilt.
 class RandomOperationsTest : public QObject
 {
     Q_OBJECT
@@ -81,19 +81,19 @@ private:
 
     QTemporaryDir m_directory;
     std::mt19937 m_random;
-    QString m_floor; ///< the one that the present operation named
+    QString m_floor; ///< the floor that the current operation names
 
     int number(int below) { return std::uniform_int_distribution<int>(0, below - 1)(m_random); }
 
     QString oneOf(const QStringList &list) { return list.isEmpty() ? QString() : list.at(number(int(list.size()))); }
 
-    /// The path of a kind. Rooms are those on the floor that was named.
+    /// Returns the path of a kind. For rooms, this is the path on the floor that the operation names.
     QString pathOf(const Kind &kind) const
     {
         return kind.name == "ROOM" && !m_floor.isEmpty() ? "Floor_List/" + m_floor + "/Room_List" : kind.path;
     }
 
-    /// Something for a placeholder. Tags are mostly of elements that are there, sometimes of others or none.
+    /// Returns a random word for a placeholder. Most tags are those of existing elements.
     QString wordFor(const QString &placeholder, const QDomElement &root)
     {
         const QStringList otherTags{"", "none", "no name", "FFloor_2", "SSheet_3", "Room2", "Mine", "Undefined"};
@@ -132,7 +132,7 @@ private:
         return word;
     }
 
-    /// Does what a form tells, such as "addPoint FLOOR 1 2 tag=POINT id=ID MODE".
+    /// Calls an operation with random arguments. The form is a text such as "addPoint FLOOR 1 2 tag=POINT id=ID MODE".
     void apply(JobEditor &job, const QString &form)
     {
         const QDomElement root = JobEditorProbe(job).root();
@@ -165,7 +165,7 @@ private:
         }
     }
 
-    /// What the mode of an added element says of its names.
+    /// Checks that the names of an added element are those that the mode asks for.
     static void checkNames(const Kind &kind, const QDomElement &element, const QStringList &tags,
                            const QStringList &ids, const QString &givenTag, const QString &givenId, int mode,
                            const QString &answer)
@@ -194,13 +194,13 @@ private:
         }
     }
 
-    /// Without the references that led nowhere when they were made: to names that no element gets by itself.
+    /// Returns the references to generated tags. Other references may have been made to elements that never existed.
     static QStringList generatedOnly(const QStringList &references)
     {
         return references.filter(QRegularExpression(": (Port|VertRun|Point|Device|Vertice|Cable)[0-9]+$"));
     }
 
-    /// A form of an operation. The names of groups begin with their weights.
+    /// Returns a random form of an operation. The names of the groups of forms begin with their weights.
     QString someForm()
     {
         static const QVector<TestCase> groups = casesIn("cases/random-operations.txt");
@@ -237,7 +237,7 @@ private Q_SLOTS:
         for (int i = 0; i < stepsOfARun; ++i) {
             const QByteArray before = probe.text();
             const QString form = someForm();
-            // Each copy doubles what it copies.
+            // Each copy doubles the elements, so big jobs are not copied.
             if (form.startsWith("copy") && before.size() > 100000)
                 continue;
             job.setDirty(false);
@@ -245,7 +245,7 @@ private Q_SLOTS:
             const QString step = QString("step %1, %2").arg(i).arg(form);
             QVERIFY2(!QTest::currentTestFailed(), qPrintable(step));
             QVERIFY2(probe.indexesMatchTheTree(), qPrintable(step));
-            // The flag may be raised for a value that was there before, but never missing.
+            // The job may be marked as changed by an equal value. But a changed job must always be marked.
             QVERIFY2(job.fileChanged() || probe.text() == before, qPrintable(step));
             const QStringList dangling = generatedOnly(probe.danglingReferences());
             QVERIFY2(dangling.isEmpty(), qPrintable(step + ": " + dangling.join(' ')));

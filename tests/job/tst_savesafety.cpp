@@ -19,7 +19,7 @@ namespace {
 
 constexpr int floorsInJob = 300;
 
-/// Gives all floors a name that tells one state of the file from another.
+/// Gives all floors the same name, by which the states of the file differ.
 void nameFloors(JobEditor &job, const QString &name)
 {
     const QStringList tags = job.getFloorTags();
@@ -27,7 +27,7 @@ void nameFloors(JobEditor &job, const QString &name)
         job.setFloorId(tag, name);
 }
 
-/// What the process does that the tests kill: it saves two states of the file in turn.
+/// Saves two states of the file in turn. This runs in the process that the tests kill.
 [[noreturn]] void saveForever(const QString &fileName)
 {
     JobEditor &job = JobEditor::Instance();
@@ -42,8 +42,8 @@ void nameFloors(JobEditor &job, const QString &name)
     }
 }
 
-/// The process without the rights of the administrator, who may do everything, as long as this lives. It owns the files
-/// and folders named.
+/// Takes the rights of the administrator from the process as long as the object exists. The given files and folders
+/// belong to the ordinary user.
 class OrdinaryUser
 {
 public:
@@ -71,7 +71,8 @@ private:
     const bool m_isRoot = geteuid() == 0;
 };
 
-/// What is in a folder, or in the file that is in its place; nothing when neither is there.
+/// Returns the names and the contents of the files in a folder. Returns the content of the file if there is a file in
+/// place of the folder. Returns an empty array if there is neither.
 QByteArray contentOf(const QString &folder)
 {
     if (QFileInfo(folder).isFile())
@@ -88,8 +89,8 @@ QByteArray contentOf(const QString &folder)
 
 Q_DECLARE_METATYPE(std::function<void(const QString &)>)
 
-/// Whatever happens during a save, the file holds the old or the new content, whole, and the save says
-/// which.
+/// Tests that the file holds either the whole old or the whole new content, whatever happens during a save. Also tests
+/// that a save that fails reports it.
 class SaveSafetyTest : public QObject
 {
     Q_OBJECT
@@ -97,7 +98,7 @@ class SaveSafetyTest : public QObject
 private:
     QTemporaryDir m_directory;
 
-    /// Makes and saves a job, and changes it: the next save has something to lose.
+    /// Makes and saves a job, and changes it, so that the next save replaces a different content.
     void prepare(const QString &fileName)
     {
         JobEditor::Destroy();
@@ -125,7 +126,7 @@ private:
 private Q_SLOTS:
     void cleanupTestCase() { JobEditor::Destroy(); }
 
-    /// CABLEDOC_TEST_KILLS sets how often.
+    /// CABLEDOC_TEST_KILLS sets the number of kills.
     void killedWhileSaving()
     {
         const QString fileName = m_directory.filePath("killed.job");
@@ -179,7 +180,7 @@ private Q_SLOTS:
         QTest::newRow("rename") << int(failingcalls::Rename) << EACCES;
     }
 
-    /// One call after the other fails, until a save makes none that fails.
+    /// Makes the first call fail, then the second, and so on, until a save makes no call that fails.
     void failingCalls()
     {
         QFETCH(int, call);
@@ -202,7 +203,7 @@ private Q_SLOTS:
             QCOMPARE(job.fileChanged(), !isSaved);
             QCOMPARE(job.error().isEmpty(), isSaved);
             const QByteArray content = readFile(job.filename());
-            // When the folder cannot be brought to the disk the new content is in place, but may not stay there.
+            // If the folder cannot be synced, the new content is in place, but a power failure could undo this.
             QVERIFY(content == after || (!isSaved && content == before));
             QCOMPARE(QDir(m_directory.path()).entryList(QDir::Files), files);
             failures += isSaved ? 0 : 1;
@@ -244,7 +245,7 @@ private Q_SLOTS:
             [](const QString &file) { QVERIFY(QFile::remove(file) && QFile::link(file, file)); });
     }
 
-    /// What happens to the file or its folder between load and save.
+    /// Changes the file or its folder before the save.
     void places()
     {
         using Change = std::function<void(const QString &)>;
@@ -293,7 +294,7 @@ private Q_SLOTS:
         if (QTest::currentTestFailed())
             return;
         const QByteArray before = readFile(JobEditor::Instance().filename());
-        // The disk is filled until nothing more fits, and emptied page by page until the save succeeds.
+        // Fills the disk, and then empties it page by page until the save succeeds.
         QFile ballast(folder + "/ballast");
         QVERIFY(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         while (ballast.write(QByteArray(4096, 'x')) == 4096) {

@@ -19,7 +19,7 @@ struct Message
     QString translation;
 };
 
-/// The messages of a language file.
+/// Returns the messages of a language file.
 QVector<Message> messages(const QString &language)
 {
     QFile file(QString(CABLEDOC_LANGUAGE_FILES "/cabledoc_%1.ts").arg(language));
@@ -37,7 +37,7 @@ QVector<Message> messages(const QString &language)
     return all;
 }
 
-/// The places for values in a text, in the order of their numbers.
+/// Returns the places for values in a text, in the order of their numbers.
 QStringList placesIn(const QString &text)
 {
     QStringList places;
@@ -50,7 +50,7 @@ QStringList placesIn(const QString &text)
 
 } // namespace
 
-/// The languages of the texts, and what the program does in each of them.
+/// Tests the translations, and the behaviour of the library in each language.
 class TranslationsTest : public QObject
 {
     Q_OBJECT
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QTest::newRow("no locale") << QLocale::c() << true << "Monday";
     }
 
-    /// Each call takes the place of the one before.
+    /// Each call of installTranslations() replaces the language of the one before.
     void languageOfALocale()
     {
         QFETCH(QLocale, locale);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QTEST(QObject::tr("Monday", "TranslatableDate::longDayName()"), "monday");
     }
 
-    /// A value that a translation forgets would be lost; a line break would glue two messages together.
+    /// A value would be lost if its place were missing in a translation. A missing line break would join two messages.
     void translationsKeepValuesAndLineEnds()
     {
         for (const QString &language : {Languages[1], Languages[2], Languages[3]}) {
@@ -120,21 +120,21 @@ private Q_SLOTS:
                                 << "Feuille_1";
     }
 
-    /// Words that the library acts on.
+    /// Tests the translated words that change the behaviour of the library.
     void behaviour()
     {
         QFETCH(QString, language);
         useLanguage(QLocale(language));
         JobEditor::Destroy();
         JobEditor &job = JobEditor::Instance();
-        // The name of an untitled job stays what checkUntitledJob() knows.
+        // The name of an untitled job is not translated, because checkUntitledJob() only knows "Untitled".
         const QString untitled = job.New();
         QVERIFY2(untitled.endsWith("Untitled1.job") && JobEditor::checkUntitledJob(untitled), qPrintable(untitled));
         QTEST(job.getFloorIds().value(0), "floorId");
         QTEST(job.getSheetIds().value(0), "sheetId");
         QTEST(job.addCable("", "", "cable_box", "", 0), "cableId");
         QCOMPARE(job.getCableUse("Cable1"), QString("TV"));
-        // Names of before count in every language, and all of them come back from the file.
+        // Names that were generated in another language stay as they are, also after a load.
         useLanguage(QLocale("de"));
         QCOMPARE(job.addCable("", "", 0), QString(language == "de" ? "Kabel002" : "Kabel001"));
         QVERIFY(job.saveAs(m_directory.filePath(language + ".job")));
@@ -142,7 +142,7 @@ private Q_SLOTS:
         useLanguage(QLocale(language));
         QTEST(job.getCableID("Cable1"), "cableId");
         QTEST(job.getFloorIds().value(0), "floorId");
-        // Removing a floor takes its cables, whatever "all" is called.
+        // Removing a floor removes its cables, whatever the word for "all" is.
         const QString port = job.addPort("FFloor_1", "Undefined", 1, 1, "", "", "", 1, 1, 0);
         job.addCable("", "", "", port, 0);
         job.addFloor("", "", 8, "", 0);

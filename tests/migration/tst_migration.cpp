@@ -38,7 +38,7 @@ QByteArray versionOf(const QByteArray &content)
     return start < 0 ? QByteArray() : content.mid(start + 8, 3);
 }
 
-/// A template of version 1.1 that takes a while to convert.
+/// Returns a template of version 1.1 that takes some time to convert.
 QByteArray bigTemplate()
 {
     QByteArray content = "<Bkt>\n <Version number=\"1.1\"/>\n <TestDef_List>\n";
@@ -51,7 +51,7 @@ QByteArray bigTemplate()
 
 } // namespace
 
-/// What becomes of the files of earlier releases.
+/// Tests the conversion of files of earlier versions.
 class MigrationTest : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ class MigrationTest : public QObject
 private:
     QTemporaryDir m_directory;
 
-    /// Why a file is refused, in the test's language.
+    /// Returns the reason why a file is refused, in the language of the test.
     static QString reason(const QString &english, const QString &root, const QString &fileName)
     {
         if (english.contains("checkVersion"))
@@ -91,7 +91,7 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(name)) << name;
     }
 
-    /// Each file of tests/data/migration becomes what the file beside it says.
+    /// Each file of tests/data/migration becomes the expected file beside it.
     void olderFiles()
     {
         QFETCH(QString, name);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         writeFile(fileName, before);
 
         QVERIFY2(load(fileName), qPrintable(document(fileName).error()));
-        // Each step of a template's conversion reaches the disk; a job's none.
+        // The conversion of a template is saved at once. The conversion of a job is not.
         const bool isConvertedOnDisk = BktEditor::checkBktExtension(fileName) && versionOf(before) != "3.0";
         QCOMPARE(readFile(fileName), isConvertedOnDisk ? expected : before);
         QVERIFY(!JobEditor::Instance().fileChanged());
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
     void refusedFiles_data() { addCases({"cases/refused-files.txt"}); }
 
-    /// A file that cannot be loaded, as a job and as a template.
+    /// Loads each refused file as a job and as a template.
     void refusedFiles()
     {
         QFETCH(TestCase, testCase);
@@ -138,7 +138,7 @@ private Q_SLOTS:
                 error = root == "Job" ? JobEditor::tr("Incompatible version of job file %1").arg(fileName)
                                       : QString("Incompatible version of Bkt file");
             QCOMPARE(document(fileName).error(), error);
-            // What was not read whole is never written over the file that it came from.
+            // A file that could not be read is not replaced by a save.
             QVERIFY(isRead || !save(fileName));
             QCOMPARE(readFile(fileName), content);
         }
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(BktEditor::Instance().error(), QString("_doc has no child nodes in BktEditor::checkVersion"));
     }
 
-    /// The first step fits into the limit, the second, which adds the settings, does not.
+    /// The first step fits into the size limit. The second one adds the settings and does not fit.
     void stepThatCannotBeSaved()
     {
         const QString fileName = m_directory.filePath("limited.bkt");
@@ -185,9 +185,9 @@ private Q_SLOTS:
         QCOMPARE(readFile(fileName), testData("migration/template-1.1.expected.bkt"));
     }
 
-    /// Kills a conversion when it has come to a version, or a while later. What is on the disk then loads and
-    /// becomes the same as without the kill.
-    void killedBetweenAndDuringSteps()
+    /// Kills a conversion shortly after it has saved a version. The next load then gives the same file as without the
+    /// kill.
+    void killedWhileConverting()
     {
         const QString fileName = m_directory.filePath("killed.bkt");
         writeFile(fileName, bigTemplate());

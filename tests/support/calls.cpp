@@ -2,7 +2,8 @@
 
 namespace {
 
-/// Whether the function takes these arguments. Records are told from other texts by their "=".
+/// Returns whether the function has the given name and takes these arguments. An argument with "=" is a record and not
+/// a text.
 bool takes(const Callable &callable, const QString &name, const QStringList &arguments)
 {
     bool isTaken = callable.name == name && callable.arguments.size() == arguments.size();

@@ -3,7 +3,7 @@
 #include "valuetexts.h"
 
 /// Functions that cases call by their names. A line of a case is a name and its arguments, separated by blanks. All
-/// arguments are given. One with blanks stands in quotation marks, and "-" is an empty one.
+/// arguments are given. An argument with blanks is in quotation marks, and "-" is an empty argument.
 
 enum class ArgumentKind { Text, Flag, Number, Other };
 
@@ -11,7 +11,7 @@ struct Callable
 {
     QString name;
     QVector<ArgumentKind> arguments;
-    std::function<QString(const QStringList &)> call; ///< returns the answer: empty for none, "-" for an empty one
+    std::function<QString(const QStringList &)> call; ///< returns the answer, "-" if empty, or nothing if void
 };
 
 template <typename Argument> constexpr ArgumentKind kindOf()
@@ -39,14 +39,14 @@ Callable makeCallable(const char *name, Function function)
             }};
 }
 
-/// A function that needs no document.
+/// Returns a callable for a function without a document.
 template <typename Document = JobEditor, typename Result, typename... Arguments>
 Callable callable(const char *name, Result (*function)(Arguments...))
 {
     return makeCallable<Result, std::decay_t<Arguments>...>(name, function);
 }
 
-/// A member function of the one document of a class.
+/// Returns a callable for a member function of the instance of a document class.
 template <typename Document, typename Class, typename Result, typename... Arguments>
 Callable callable(const char *name, Result (Class::*function)(Arguments...))
 {
@@ -61,14 +61,14 @@ Callable callable(const char *name, Result (Class::*function)(Arguments...) cons
         name, [function](const auto &...values) -> Result { return (Document::Instance().*function)(values...); });
 }
 
-/// The words of a call.
+/// Returns the words of a call.
 QStringList wordsOf(const QString &call);
 
-/// Calls the function that the first word names with the others, and returns the answer.
+/// Calls the function with the first word as its name and the others as its arguments. Returns the answer.
 QString answerTo(const QVector<Callable> &callables, const QStringList &words);
 
-/// The call in a line of a case, without what is expected of it: "getPortUse P1" of "getPortUse P1 = data".
+/// Returns the call in a line of a case, without the expected answer: "getPortUse P1" of "getPortUse P1 = data".
 QString callIn(const QString &line);
 
-/// The lines of a case with the answers to their calls.
+/// Returns the lines of a case with the actual answers to their calls.
 QString answered(const QVector<Callable> &callables, const QString &lines);

@@ -65,7 +65,7 @@ extern "C" ssize_t write(int file, const void *data, size_t size)
     return -1;
 }
 
-/// A call that does nothing but fail when it shall.
+/// Passes a call on to the system, unless it has to fail.
 template <typename Function, typename... Arguments>
 auto failingCall(Call call, const char *name, Function *, Arguments... arguments)
 {

@@ -1,23 +1,24 @@
 #pragma once
 
-/// A library that a test links to stand between Qt and the system: it lets a call fail.
+/// A library that makes calls to the system fail. A test that links it calls the system through it.
 namespace failingcalls {
 
 enum Call {
-    Open, ///< of files by the library; Qt's own go another way
+    Open, ///< of files by the library; Qt opens its files in another way
     Read,
     Stat,  ///< of a name or an open file
-    Write, ///< to a file; those to standard output and standard error are left alone
+    Write, ///< to a file; standard output and standard error never fail
     Fsync,
     Rename,
     CallCount,
 };
 
-/// Lets the call of that number from now on, 1 for the next one, fail with that error, and those after it too. With
-/// error 0 a write is short by half and the next one fails for want of space. None fails with number 0.
+/// Makes the call with the given number and all calls after it fail with the given error. The next call has the number
+/// 1. With the number 0, no call fails. With the error 0, the call writes only half of its data, and the next one fails
+/// because the disk is full.
 void fail(Call call, int number, int error);
 
-/// How many calls were made since fail() was called last.
+/// Returns how many calls were made since the last call of fail().
 int made(Call call);
 
 } // namespace failingcalls

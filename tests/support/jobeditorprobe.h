@@ -6,7 +6,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QSet>
 
-/// What tests may see and do inside the job document.
+/// Gives tests access to the private data of the job document.
 class JobEditorProbe
 {
 public:
@@ -15,7 +15,7 @@ public:
     {
     }
 
-    /// The document as it would be saved.
+    /// Returns the text of the document as it would be saved.
     cabledoc::xmlfile::Text savedText() const
     {
         return cabledoc::xmlfile::toText(m_inside.tree.document(), cabledoc::jobAttributeOrder());
@@ -27,10 +27,10 @@ public:
         return m_inside.floorsBetween(tagA, tagB);
     }
 
-    /// Returns whether the index equals what a rebuild makes of the tree.
+    /// Returns whether the index equals one that is rebuilt from the tree.
     bool indexesMatchTheTree() const { return m_inside.tree.index().matchesTree(); }
 
-    /// What elements name that is not there, as "Cable1: Port7".
+    /// Returns the references to elements that do not exist, in the form "Cable1: Port7".
     QStringList danglingReferences() const
     {
         QHash<QString, QSet<QString>> tagsIn; // by list

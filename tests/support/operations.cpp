@@ -5,14 +5,14 @@
 
 namespace {
 
-/// The one of several functions that has this result and this first argument.
+/// Returns a callable for the overload with the given result and first argument.
 template <typename Class, typename Result, typename First, typename... Rest>
 Callable byFirst(const char *name, Result (Class::*function)(First, Rest...))
 {
     return callable<JobEditor>(name, function);
 }
 
-/// The one of several functions that has exactly this type.
+/// Returns a callable for the overload with exactly the given type.
 template <typename Function, typename Document = JobEditor>
 Callable exact(const char *name, Function Document::*function)
 {
@@ -128,7 +128,7 @@ OPERATIONS(
 
 namespace {
 
-/// The attributes of the element that begins in a line, with their values.
+/// Returns the attributes of the element that begins in a line, with their values.
 QStringList attributesIn(const QString &line)
 {
     static const QRegularExpression attribute("[^ =<]+=\"[^\"]*\"");
@@ -138,8 +138,8 @@ QStringList attributesIn(const QString &line)
     return attributes;
 }
 
-/// The tags of the lines that differ between two texts of a job, each with the attributes that are new. Long ones are
-/// cut.
+/// Returns the tags of the elements in the lines that differ between two texts of a job, each with its new or changed
+/// attributes. Cuts long attributes. Returns "elements" if the numbers of lines differ.
 QString changesBetween(const QByteArray &before, const QByteArray &after)
 {
     const QStringList oldLines = QString::fromLatin1(before).split('\n');
@@ -161,7 +161,7 @@ QString changesBetween(const QByteArray &before, const QByteArray &after)
     return changes;
 }
 
-/// Tags and ids of all kinds of elements, and names of none.
+/// Returns tags and ids of elements, and two names that no element has.
 QStringList someNames(const JobEditorProbe &probe)
 {
     constexpr int maximumNames = 24;

@@ -7,7 +7,7 @@
 #include <QtCore/QStringList>
 #include <QtTest/QtTest>
 
-/// A case of a file of cases: what is given, and what is expected of it.
+/// A case of a file of cases: the given input and the expected result.
 struct TestCase
 {
     QByteArray file;
@@ -20,7 +20,7 @@ struct TestCase
 };
 Q_DECLARE_METATYPE(TestCase)
 
-/// The line with each "\xHH" as the byte HH.
+/// Returns the line with the byte HH in place of each "\xHH".
 inline QByteArray withBytes(const QString &line)
 {
     static const QRegularExpression escape("\\\\x([0-9A-F]{2})");
@@ -30,7 +30,7 @@ inline QByteArray withBytes(const QString &line)
     return text.toLatin1();
 }
 
-/// The cases of a file in tests/data. Their form is described in tests/data/README.md.
+/// Returns the cases of a file in tests/data. tests/data/README.md describes their form.
 inline QVector<TestCase> casesIn(const char *fileName)
 {
     QVector<TestCase> cases;
@@ -51,7 +51,7 @@ inline QVector<TestCase> casesIn(const char *fileName)
     return cases;
 }
 
-/// Makes the cases of files the rows of a test.
+/// Adds the cases of the files as rows of a test.
 inline void addCases(const QVector<const char *> &fileNames)
 {
     QTest::addColumn<TestCase>("testCase");
@@ -61,15 +61,15 @@ inline void addCases(const QVector<const char *> &fileNames)
     }
 }
 
-/// The lines in which two texts differ, "-" before what was expected and "+" before what was found, with a few lines
-/// around them. Empty if the texts are equal.
+/// Returns the lines in which two texts differ, with a few lines around them. Expected lines begin with "-", and found
+/// lines with "+". Returns an empty string if the texts are equal.
 inline QString differenceBetween(const QString &expectedText, const QString &foundText)
 {
     if (expectedText == foundText)
         return QString();
     const QStringList expected = expectedText.split('\n');
     const QStringList found = foundText.split('\n');
-    // How many lines are common to what follows a line of each.
+    // Length of the longest common subsequence of the texts from the given lines on.
     QVector<QVector<int>> common(int(expected.size()) + 1, QVector<int>(int(found.size()) + 1, 0));
     for (int i = int(expected.size()) - 1; i >= 0; --i) {
         for (int j = int(found.size()) - 1; j >= 0; --j)
@@ -99,7 +99,7 @@ inline QString differenceBetween(const QString &expectedText, const QString &fou
     return shown;
 }
 
-/// Fails with the difference between two texts. The place says where the expected one stands.
+/// Fails and prints the difference if two texts differ. The place tells where the expected text is.
 #define COMPARE_TEXTS(found, expected, place)                                                                          \
     do {                                                                                                               \
         const QString difference = differenceBetween(expected, found);                                                 \

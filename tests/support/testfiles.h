@@ -17,7 +17,7 @@ inline void writeFile(const QString &fileName, const QByteArray &content)
         qFatal("cannot write %s", qPrintable(fileName));
 }
 
-/// Path of a file in tests/data.
+/// Returns the path of a file in tests/data.
 inline QString testDataPath(const char *name)
 {
     return QStringLiteral(CABLEDOC_TEST_DATA "/") + QString::fromLatin1(name);

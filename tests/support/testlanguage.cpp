@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Is asked for what the language files lack: ends the test when that is a text of ours.
+/// Receives the texts that the language files do not translate. Ends the test if one of them is a text of cabledoc.
 class LackingTexts : public QTranslator
 {
 public:
@@ -29,7 +29,7 @@ QTranslator &lackingTexts()
     return translator;
 }
 
-/// The language of the locale for a test that is run once more in another language.
+/// Sets the language of the locale if a test runs again in another language.
 void setUpLanguage()
 {
     if (!qEnvironmentVariableIsSet("CABLEDOC_TEST_LOCALE"))
@@ -44,7 +44,7 @@ void setUpLanguage()
 QByteArray withGeneratedNames(const QByteArray &text)
 {
     QString names = QString::fromLatin1(text);
-    // Tags are the same in all languages, and so are those of lists.
+    // Tags of elements and lists are the same in all languages.
     names.replace(QRegularExpression("(?<![</\\w])Cable(?=[0-9]{3})"), translated("JobEditor", "Cable"));
     names.replace(QRegularExpression("(?<![\\w])Floor_(?=[0-9])"), translated("JobEditor", "Floor_"));
     names.replace(QRegularExpression("(?<![\\w])Sheet_(?=[0-9])"), translated("JobEditor", "Sheet_"));

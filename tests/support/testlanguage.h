@@ -3,14 +3,14 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
 
-/// A text of ours as the test's language has it.
+/// Returns the translation of a text of cabledoc in the language of the test.
 inline QString translated(const char *context, const QString &text)
 {
     return QCoreApplication::translate(context, text.toUtf8().constData());
 }
 
-/// A text with the names that the library generates, "Cable001" or "Floor_1", as the test's language has them.
+/// Returns the text with generated names, such as "Cable001" or "Floor_1", in the language of the test.
 QByteArray withGeneratedNames(const QByteArray &text);
 
-/// From here on the test has the language of the locale, whatever it was started with.
+/// Sets the language of the test to that of the locale.
 void useLanguage(const QLocale &locale);

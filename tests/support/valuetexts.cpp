@@ -9,7 +9,7 @@ template <typename Record, typename Get, typename Set> Field<Record> field(const
             [set](Record *record, const QString &text) { std::invoke(set, record, valueOf<Value>(text)); }};
 }
 
-/// A field that is a record.
+/// Returns a field that is a record.
 template <typename Record, typename Get, typename Set> Field<Record> inner(const char *name, Get get, Set set)
 {
     const Field<Record> plain = field<Record>(name, get, set);
@@ -17,7 +17,7 @@ template <typename Record, typename Get, typename Set> Field<Record> inner(const
             [plain](Record *record, const QString &text) { plain.set(record, text.mid(1, text.size() - 2)); }};
 }
 
-/// A field of a definition with a digit for each of its four pairs.
+/// Returns a field of a test definition that has a digit for each of the four pairs.
 template <typename Get, typename Set> Field<TestDef> digits(const char *name, Get get, Set set)
 {
     const auto text = [get](const TestDef &definition) {
@@ -81,7 +81,7 @@ FIELDS_OF(TestDef, FIELD("id", id, setID), field<R>("expected", &R::expected, &R
               [](R *definition, int pair, int used) { definition->pair_in_use()[pair] = used == 1; }),
           FIELD("data_rate", data_rate, setDataRate), FIELD("SNR", SNR, setSNR), FIELD("skew", skew, setSkew),
           FIELD("shield", shield, setShield),
-          // Their getters round.
+          // The fields are read directly, because their getters round.
           field<R>(
               "max_length", [](const R &definition) { return definition.fields().maxLength; }, &R::setMaxLength),
           field<R>(

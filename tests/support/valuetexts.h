@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// Values as texts, so that tables of cases can give them and failing tests can show them:
+/// The text forms of values. Tables of cases use them, and failing tests show them:
 ///
 ///     1.5    true    noon            a number, a flag, a text
 ///     P1,P2                          a list; a position
@@ -14,9 +14,9 @@
 ///     id=Jack 1; x=2.5; y=3          a record; a field that is left out has its default
 ///     tester=Ann; address={city=X}   a record in a record; a list of records is {...}{...}
 ///
-/// A results block is as in files. A curve is one number, which all its samples are.
+/// A results block has the same form as in files. A curve is one number, which is the value of all its samples.
 
-/// A field of a record, named as the attribute of the file, and its accessors.
+/// A field of a record with its accessors. Its name is that of the attribute in the file.
 template <typename Record> struct Field
 {
     QString name;
@@ -24,7 +24,7 @@ template <typename Record> struct Field
     std::function<void(Record *, const QString &)> set;
 };
 
-/// The fields of a kind of record.
+/// Returns the fields of a kind of record.
 template <typename Record> const QVector<Field<Record>> &fieldsOf();
 
 using TextPairs = QVector<QPair<QString, QString>>;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A template by itself, beside the one of the process.
+/// A template beside the instance of the process.
 class NamedTemplate : public BktEditor
 {
 public:
@@ -32,7 +32,7 @@ private:
 private Q_SLOTS:
     void cleanup() { BktEditor::Destroy(); }
 
-    void newTemplateHasTheTreeOfTheFormat()
+    void newTemplateHasTheExpectedTree()
     {
         BktEditor &bkt = BktEditor::Instance();
         QCOMPARE(&BktEditor::Instance(), &bkt);

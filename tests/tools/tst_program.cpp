@@ -3,7 +3,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
-/// Runs the program as a person or a script does.
+/// Runs the program as a user or a script does.
 class ProgramTest : public QObject
 {
     Q_OBJECT

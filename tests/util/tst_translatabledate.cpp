@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTest::newRow("French") << QLocale("fr_FR");
     }
 
-    /// Every format code on each day of a year, with the long names that Qt knows by itself.
+    /// Tests every format code on each day of a year. The long names are compared with those of Qt.
     void languages()
     {
         QFETCH(QLocale, locale);
@@ -60,13 +60,13 @@ private Q_SLOTS:
 
     void shortMonths_data() { languages_data(); }
 
-    /// The short names are cut, but read by translations of their own.
+    /// Short names are cut from long names. But shortMonthToNumber() compares with translations of short names.
     void shortMonths()
     {
         QFETCH(QLocale, locale);
         useLanguage(locale);
         for (int month = 1; month <= 12; ++month) {
-            // Cut to three letters, June and July are the same in French.
+            // In French, the first three letters of June and July are the same.
             const bool isAmbiguous = locale.language() == QLocale::French && (month == 6 || month == 7);
             QCOMPARE(TranslatableDate::shortMonthToNumber(TranslatableDate::shortMonthName(month)),
                      isAmbiguous ? 0 : month);
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(TranslatableDate::shortMonthToNumber(TranslatableDate::longMonthName(4)), 0);
     }
 
-    void formatsWithoutNamesAreThoseOfAnyDate()
+    void formatsWithoutNamesAreThoseOfQt()
     {
         const TranslatableDate date(1999, 9, 5);
         for (const char *format : {"d", "dd", "M", "MM", "yy", "yyyy", "dd.MM.yyyy", "d 'of' M", "", "x"})

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What a field accepts of a text, and what it leaves of it.
+/// Returns a callable that validates a text. The answer tells whether the text is accepted, and what is left of it.
 template <typename Validator> Callable validator(const char *name)
 {
     return makeCallable<QString, QString>(name, [](QString text) {
@@ -17,7 +17,7 @@ template <typename Validator> Callable validator(const char *name)
     });
 }
 
-/// A language that allows and forbids more characters.
+/// A translation that allows and forbids more characters.
 class MoreCharacters : public QTranslator
 {
 public:
@@ -52,7 +52,7 @@ private Q_SLOTS:
         COMPARE_TEXTS(answered(validators, expected), expected, testCase.place());
     }
 
-    void fileNamesAreFixedByUnderscores()
+    void fixupReplacesBlanksWithUnderscores()
     {
         QString name = "my  job";
         FileValidator(nullptr).fixup(name);

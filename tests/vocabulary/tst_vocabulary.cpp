@@ -23,7 +23,7 @@ class VocabularyTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void storedWordsStay()
+    void storedWordsDoNotChange()
     {
         QCOMPARE(Vocabulary::portUses().words().join(' '), PortUses);
         QCOMPARE(Vocabulary::deviceTypes().words().join(' '), DeviceTypes);

@@ -1,6 +1,6 @@
 #include "command.h"
 
-// What the commands run: one function in each file of the folder commands/.
+// The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runExport, runImport, runInfo, runNew, runScheduleExport, runScheduleImport;
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int lockTimeout = 5000; // milliseconds
 
-/// Keeps names of all scripts, and never replaces a file that was not read.
+/// Sets up a document so that it keeps names in all scripts, and never replaces a file that it has not read.
 void setUp(BKXMLEditor *document, qint64 maximumSize)
 {
     document->setCharacterReferences(true);

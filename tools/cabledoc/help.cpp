@@ -11,7 +11,7 @@ constexpr int lineLength = 80;
 
 using Row = QPair<QString, QString>;
 
-/// Breaks the text into lines. All lines but the first begin with that many blanks.
+/// Breaks the text into lines. All lines but the first begin with the given number of blanks.
 QString wrapped(QString text, int indent)
 {
     const QRegularExpression line(QStringLiteral("(.{1,%1}) ").arg(lineLength - indent));

@@ -68,7 +68,8 @@ ExitCode run(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
-    // A write beyond the limit of file sizes shall fail with a message. Without this it ends the program.
+    // With this, a write beyond the limit of file sizes fails with a message. Without it, the write would end the
+    // program.
     std::signal(SIGXFSZ, SIG_IGN);
     // The debug messages of the library are for its developers.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));

@@ -9,7 +9,8 @@
 
 /// Prints a message to standard error, with the name of the program before it.
 void printMessage(const QString &message);
-/// Prints a message about a file and returns the exit code. The name of the file is put before a message without it.
+/// Prints a message about a file and returns the exit code. If the message does not contain the name of the file, the
+/// name is printed before it.
 ExitCode fail(ExitCode code, const QString &fileName, const QString &message);
 
 /// Prints data to standard output. Prints a message and returns CannotPrint if that fails.

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether all cells of the column below the heading are numbers or empty, and not all of them empty.
+/// Returns whether all cells of the column below the heading are numbers or empty. At least one must be a number.
 bool isNumeric(const QVector<QStringList> &rows, int column)
 {
     bool isFilled = false;

@@ -12,7 +12,7 @@ QStringList paperSizeNames();
 /// (1). Returns noDimensions() for any other name or orientation.
 QSizeF paperDimensions(const QString &name, int orientation);
 
-/// Returns -1.0 by -1.0, which stands for an unknown size.
+/// Returns -1.0 by -1.0, the size of an unknown paper.
 QSizeF noDimensions();
 
 } // namespace cabledoc

@@ -19,7 +19,7 @@ bool isPair(int pair)
     return pair >= 0 && pair < pairCount;
 }
 
-/// The conditions in the rules of a definition.
+/// The conditions in the rules of a test definition.
 class Conditions
 {
 public:
@@ -46,8 +46,8 @@ public:
         return false;
     }
 
-    /// Returns whether all pairs are straight, or pairs 0 and 1 are crossed, or these and also pairs 2 and 3 are
-    /// crossed.
+    /// Returns whether all pairs are straight, only pairs 0 and 1 are crossed, or both pairs 0 and 1 and pairs 2 and 3
+    /// are crossed.
     bool allPairsWired() const
     {
         return firstPairsWired() && (isWired(2, 2, 3) || (!isWired(0, 0, 1) && isWired(2, 3, 2)));
@@ -227,9 +227,9 @@ QString TestDef::validDef() const
         return tr("Can't map 2 pairs on near end to\nsame pair on far end.");
     if (!qtcompat::isColorName(color()))
         return tr("Invalid color.");
-    // This is a warning only. It is reported if nothing is wrong.
+    // This is only a warning. It is reported if there is no error.
     if (m_fields.maxLength == -1.0F || m_fields.maxLength > 330.0F)
         return tr("SNR and BERT tests may fail with\ncable length greater than 330ft (100m).");
-    // Not translated, because callers compare it.
+    // The word is not translated, because callers compare it.
     return QStringLiteral("GOOD");
 }

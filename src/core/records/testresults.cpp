@@ -11,7 +11,7 @@ TestResults::TestResults(const Fields &fields)
 TestResults::TestResults(const QString &time, const QString &status, const cable_struct &results, int bertErrors)
     : TestResults(time, status, QString(), QString(), results, bertErrors)
 {
-    // Intended: the first argument is not kept.
+    // This is deliberate: the first argument is not kept.
     m_fields.time.clear();
 }
 

@@ -24,7 +24,7 @@ enum class WhenMissing {
 struct AttributeRow
 {
     QString name;
-    /// Text that counts if the attribute is missing.
+    /// Text that is used if the attribute is missing.
     QString defaultText;
     WhenMissing whenMissing;
     QString (*text)(const void *fields);              ///< null if writing a record leaves the attribute alone
@@ -32,7 +32,7 @@ struct AttributeRow
     bool (*isValid)(const QString &text);             ///< whether the field can hold the number in the text
 };
 
-/// The same for records with these fields.
+/// An attribute of a kind of element whose records have these fields.
 template <typename Fields> struct Attribute : AttributeRow
 {
 };
@@ -56,8 +56,8 @@ template <auto Field> bool holdsNumber(const QString &text)
     return holdsNumber(text, decltype(pointerTo(Field))(nullptr));
 }
 
-/// The attribute that holds a field of the record. Its default is that of the field. Fields may be derived from the
-/// struct that has the field.
+/// Returns the row of an attribute that holds a field of the record. The default of the attribute is the default of the
+/// field. Fields may be derived from the struct that has the field.
 template <auto Field, typename Fields = decltype(fieldsOf(Field))>
 Attribute<Fields> attribute(const QString &name, WhenMissing whenMissing = WhenMissing::UseDefault)
 {
@@ -67,7 +67,7 @@ Attribute<Fields> attribute(const QString &name, WhenMissing whenMissing = WhenM
              holdsNumber<Field>}};
 }
 
-/// The attribute that holds a number, which loses its fraction when it is written.
+/// Returns the row of an attribute that holds a number. The number loses its fraction when it is written.
 template <auto Field, typename Fields = decltype(fieldsOf(Field))>
 Attribute<Fields> truncatedNumber(const QString &name)
 {
@@ -77,7 +77,8 @@ Attribute<Fields> truncatedNumber(const QString &name)
     return row;
 }
 
-/// The attribute that holds a field which is a double in the record and a whole number in the file.
+/// Returns the row of an attribute that holds a field. The field is a double in the record and a whole number in the
+/// file.
 template <auto Field, typename Fields = decltype(fieldsOf(Field))> Attribute<Fields> wholeNumber(const QString &name)
 {
     Attribute<Fields> row = truncatedNumber<Field>(name);
@@ -86,7 +87,7 @@ template <auto Field, typename Fields = decltype(fieldsOf(Field))> Attribute<Fie
     return row;
 }
 
-/// The attribute that holds a field which is read with the record, but which new elements lack.
+/// Returns the row of an attribute that is read with the record, but not written with it. New elements lack it.
 template <auto Field> auto readOnly(const QString &name)
 {
     auto row = attribute<Field>(name);
@@ -94,7 +95,8 @@ template <auto Field> auto readOnly(const QString &name)
     return row;
 }
 
-/// An attribute that no record holds and that new elements lack. The first operation that needs it adds it.
+/// Returns the row of an attribute that no record holds. New elements lack it. The first operation that needs it adds
+/// it.
 template <typename Fields> Attribute<Fields> onDemand(const QString &name, const QString &defaultText)
 {
     return {{name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }}};
@@ -108,7 +110,7 @@ public:
     QStringList names() const;
     /// Returns the default of the attribute with the given name, or an empty text if the list lacks it.
     QString defaultText(const QString &name) const;
-    /// Returns the attributes of the element whose fields cannot hold the numbers in them.
+    /// Returns the names of the attributes of the element whose numbers their fields cannot hold.
     QStringList invalidNumbers(const QDomElement &element) const;
 
 protected:
@@ -117,8 +119,8 @@ protected:
     QVector<AttributeRow> m_rows;
 };
 
-/// The attributes of one kind of element, and the fields of its record. All that creates, reads, completes, checks or
-/// saves such an element uses this table. A new field is one more row.
+/// The attributes of one kind of element, and the fields of its record. All code that creates, reads, completes, checks
+/// or saves such an element uses this table. A new field needs one more row.
 template <typename FieldsType> class AttributeTable : public AttributeList
 {
 public:

@@ -39,7 +39,7 @@ inline bool holdsNumber(const QString &, const void *)
     return true;
 }
 
-/// Returns the entries of a list, which are separated by commas. An empty text has none.
+/// Returns the entries of a list, which are separated by commas. An empty text has no entries.
 QStringList entriesIn(const QString &text);
 inline void fromText(const QString &text, QStringList *entries)
 {

@@ -58,8 +58,7 @@ QDomElement childWithId(const QDomElement &parent, const QString &id);
 /// Returns the first child element of each "id". These are the elements that a search by id can find.
 QVector<QDomElement> childrenWithId(const QDomElement &parent);
 
-/// The names of an element's children. They are read once, so that adding many children does not take a walk over all
-/// others for each.
+/// The names of an element's children. They are read once, so that adding a child does not walk over all the others.
 class ChildNames
 {
 public:
@@ -68,7 +67,7 @@ public:
     bool containsId(const QString &id) const { return m_ids.count(id) != 0; }
     /// Returns the prefix with the smallest number from 1 on that makes a tag that no child has.
     QString firstFreeTag(const QString &prefix);
-    /// Adds the names of a child. To be called when the child has been added to the element.
+    /// Adds the names of a child. Must be called after the child has been added to the element.
     void insert(const QDomElement &child);
 
 private:

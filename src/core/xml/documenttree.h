@@ -8,43 +8,44 @@ namespace cabledoc {
 
 /// The XML tree of a document, and the only class that changes it.
 ///
-/// Every change goes through one of the virtual functions below and marks the document as changed. A subclass that
-/// keeps something in step with the tree overrides them.
+/// Every change goes through one of the virtual functions below and marks the document as changed. A subclass overrides
+/// them if it has data that depend on the tree.
 class DocumentTree
 {
 public:
-    /// Creates an empty tree, which is not changed.
+    /// Creates an empty tree. It is not marked as changed.
     explicit DocumentTree(const QString &documentTypeName);
-    /// Creates a handle to the other's tree, which is not changed.
+    /// Creates an object that shares the tree of the other one. It is not marked as changed.
     DocumentTree(const DocumentTree &other);
     DocumentTree &operator=(const DocumentTree &) = delete;
     virtual ~DocumentTree();
 
     const QDomDocument &document() const { return m_document; }
-    /// Replaces the whole tree. Leaves the mark of a change as it is.
+    /// Replaces the whole tree. Does not change whether the tree is marked as changed.
     virtual void setDocument(const QDomDocument &document);
-    /// Returns the first child of the document. It is taken for the root element, whatever it is.
+    /// Returns the first child of the document as the root element. Returns a null element if this child is not an
+    /// element.
     QDomElement root() const;
     /// Returns the first child of the root with the given name, or a null element if there is none.
     QDomElement child(const QString &tagName) const;
 
-    /// Returns whether the tree was changed since it was last created, loaded or saved.
+    /// Returns whether the tree is marked as changed since it was created, loaded or saved.
     bool isChanged() const { return m_isChanged; }
     void setChanged(bool isChanged) { m_isChanged = isChanged; }
 
-    // Changing. The functions do nothing if the element is null.
+    // Changes. The functions do nothing if the element is null.
 
     /// Writes an attribute. Creates it if it is missing.
     virtual void setAttribute(QDomElement element, const QString &name, const QString &value);
     virtual void removeAttribute(QDomElement element, const QString &name);
     virtual void setTagName(QDomElement element, const QString &tagName);
-    /// Inserts an element that create() returned behind the other children of the parent.
+    /// Appends an element that create() returned to the children of the parent.
     virtual void insert(const QDomElement &element, QDomNode parent);
-    /// Takes a node from its parent and appends it to another one.
+    /// Moves a node to the end of the children of another parent.
     virtual void move(const QDomNode &node, QDomNode parent);
     virtual void remove(const QDomElement &element);
 
-    // Changing, made of the functions above
+    // Changes that call the functions above
 
     /// Appends a new element without attributes to the parent, and returns it.
     QDomElement append(const QString &tagName, const QDomNode &parent);
@@ -58,9 +59,9 @@ public:
     }
     /// Returns the first child element of the parent with the given name. Appends it if there is none.
     QDomElement ensure(const QString &tagName, const QDomNode &parent);
-    /// Writes an attribute that the element has. Does nothing if it lacks it.
+    /// Writes an attribute. Does nothing if the element lacks it.
     void changeAttribute(const QDomElement &element, const QString &name, const QString &value);
-    /// Writes an attribute that the element lacks. Does nothing if it has it.
+    /// Adds an attribute. Does nothing if the element already has it.
     void addAttribute(const QDomElement &element, const QString &name, const QString &value);
     /// Writes the fields of a record into the attributes of an element where they differ.
     template <typename Fields>
@@ -76,8 +77,7 @@ public:
     }
     /// Adds the attributes that the element lacks and that are marked WhenMissing::AddDefault.
     void complete(const QDomElement &element, const AttributeList &attributes);
-    /// Completes an element, as readers of whole records do, and returns its fields. Returns the defaults if it is
-    /// null.
+    /// Completes an element and returns its fields. Returns the defaults if the element is null.
     template <typename Fields> Fields read(const QDomElement &element, const AttributeTable<Fields> &table)
     {
         complete(element, table);

@@ -15,11 +15,11 @@
 namespace cabledoc {
 
 /// Finds the elements of one kind by tag and by id. Each search takes the same time among ten elements and among a
-/// hundred thousand. An order is kept once it has been asked for, and changes then take a time that grows with the
-/// logarithm of the number of elements.
+/// hundred thousand. The index keeps an order of the tags from the first call that needs it. From then on the time of a
+/// change grows with the logarithm of the number of elements.
 ///
-/// A tag should be unique. If a file has it several times, the first element in document order counts, and the others
-/// wait. When it is removed, the next one takes its place.
+/// A tag should be unique. If several elements have the same tag, searches find the first one in document order. When
+/// that is removed, the next one takes its place.
 class ElementIndex
 {
 public:
@@ -30,7 +30,7 @@ public:
     {
     }
 
-    /// Replaces the content of the index by the given elements, which must be in document order.
+    /// Replaces the content of the index with the given elements, which must be in document order.
     void rebuild(const QVector<QDomElement> &elements);
     /// Adds an element. It must come after all other elements with its tag in document order.
     void append(const QDomElement &element);
@@ -42,7 +42,7 @@ public:
     void forgetElements();
 
     bool containsTag(const QString &tag) const { return m_entries.count(tag) != 0; }
-    /// Finds tags by ids.
+    /// Returns the index that finds tags by ids.
     TagsById &ids() { return m_ids; }
     const TagsById &ids() const { return m_ids; }
     /// Returns the element with the given tag, or a null element if there is none.
@@ -51,14 +51,14 @@ public:
     bool isRepeated(const QString &tag) const { return m_waiting.count(tag) != 0; }
     /// Returns the id of the element with the given tag, or an empty string if there is none.
     QString id(const QString &tag) const;
-    /// Returns all tags in string order. They are sorted again with each call.
+    /// Returns all tags in string order. Each call sorts them again.
     QStringList tags() const;
     /// Returns the ids of all tags, in the order of the tags.
     QStringList idsByTag() const;
     /// Returns the last tag in string order except for the ignored one, or an empty string if there is none.
     QString lastTag(const QString &ignored = QString());
 
-    /// Returns the smallest number, at least from, that makes an unused tag with the prefix.
+    /// Returns the smallest number that is at least from and makes an unused tag with the prefix.
     qint64 firstFreeTagNumber(const QString &prefix, qint64 from);
 
     bool operator==(const ElementIndex &other) const;
@@ -89,10 +89,10 @@ public:
     void append(const QDomElement &element);
     /// Returns the first element in document order with the given id, or a null element if there is none.
     QDomElement element(const QString &id) const;
-    /// Returns the last id in string order, without those of elements with the ignored tag. Returns an empty string if
-    /// there is none.
+    /// Returns the last id in string order. Leaves out elements with the ignored tag. Returns an empty string if there
+    /// is no id.
     QString lastId(const QString &ignoredTag) const;
-    /// Returns the smallest number, at least from, that makes an unused id with the prefix.
+    /// Returns the smallest number that is at least from and makes an unused id with the prefix.
     qint64 firstFreeIdNumber(const QString &prefix, qint64 from);
     void remove(const QDomElement &element);
 

@@ -14,7 +14,8 @@ namespace {
 
 /// The system keeps the access control list of a file under this name.
 const char accessList[] = "system.posix_acl_access";
-/// The capabilities of a program. A save drops them, as it drops the bits that give a program rights.
+/// The capabilities of a program. A save drops them, as it drops the bits that give a program the rights of its owner
+/// or group.
 const char capabilities[] = "security.capability";
 
 constexpr mode_t ownerBits = S_IRWXU;

@@ -19,8 +19,8 @@ namespace cabledoc {
 
 namespace {
 
-/// Returns the name at which the links that begin with the given name end. There may be no file with that name. Returns
-/// an empty name, with errno set, if the links do not end.
+/// Follows the symbolic links that begin with the given name. Returns the name at their end. There may be no file with
+/// that name. Returns an empty name, with errno set, if there are too many links.
 QByteArray endOfLinks(QByteArray name)
 {
     constexpr int maximumLinks = 40; // the limit of the system
@@ -36,8 +36,8 @@ QByteArray endOfLinks(QByteArray name)
     return QByteArray();
 }
 
-/// Makes changes of names in the folder survive a power failure. A folder that may not be read cannot be synced. The
-/// file itself is safe even then.
+/// Makes changes of names in the folder survive a power failure. Does nothing if the folder may not be read. The file
+/// itself is safe even then.
 QString syncFolder(const QByteArray &folder)
 {
     const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -48,7 +48,7 @@ QString syncFolder(const QByteArray &folder)
     return error;
 }
 
-/// Renames a file to a name that no file has. Fails if there is one.
+/// Renames a file. Fails if a file with the new name exists.
 bool renameToNewName(const QByteArray &from, const QByteArray &to)
 {
 #ifdef RENAME_NOREPLACE
@@ -57,7 +57,7 @@ bool renameToNewName(const QByteArray &from, const QByteArray &to)
     if (errno != EINVAL && errno != ENOSYS)
         return false;
 #endif
-    // Some file systems cannot do this in one step.
+    // Some file systems cannot rename and check the new name in one step.
     if (::link(from.constData(), to.constData()) != 0)
         return false;
     ::unlink(from.constData());
@@ -97,7 +97,7 @@ QString FileReplacement::open()
 
 QString FileReplacement::createCopy()
 {
-    // A new file gets the permissions that the folder gives. A copy of an existing file is private until it gets the
+    // A new file gets the default permissions of new files. A copy of an existing file is private until it gets the
     // permissions of the old file at the end.
     const mode_t mode = m_isNew ? 0666 : 0600;
     constexpr int attempts = 100;
@@ -125,7 +125,7 @@ QString FileReplacement::write(const QByteArray &piece)
         written += more < 0 ? 0 : more;
     }
 #ifdef SYNC_FILE_RANGE_WRITE
-    // The disk starts writing now, while the rest of the text is made. The sync at the end reports failures.
+    // The disk starts writing now, while the rest of the content is made. The sync at the end reports failures.
     ::sync_file_range(m_handle, 0, 0, SYNC_FILE_RANGE_WRITE);
 #endif
     m_hash.add(piece);

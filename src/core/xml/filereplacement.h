@@ -14,17 +14,17 @@ struct Expectation
     enum Kind {
         /// Any file.
         Anything,
-        /// A file with the content of known, or no file.
+        /// A file with the content that known describes, or no file.
         KnownContent,
-        /// No file: the file must not exist.
+        /// Nothing. The file must not exist.
         NoFile,
     };
     Kind kind = Anything;
     FileState known;
 };
 
-/// Replaces the content of a file. The new content is written beside the file, and moved into its place when it is
-/// safely on the disk.
+/// Replaces the content of a file. The new content is written to a file beside it. That file is moved into place when
+/// it is safely on the disk.
 ///
 /// Symbolic links to the file stay. As far as the system allows it, the file keeps its group, its permissions, its
 /// access control list and its extended attributes. It also keeps its owner if the administrator saves. If the group or
@@ -50,8 +50,8 @@ public:
     /// Moves the new content into place. Fails if the file is not the expected one.
     QString commit(const Expectation &expected);
 
-    /// Returns the state of the file once the new content is in place, or nothing before. The new content can be in
-    /// place even if commit() failed: then the folder could not be brought to the disk.
+    /// Returns the state of the file after the new content was moved into place, or nothing before that. If commit()
+    /// failed only because the folder could not be synced, the new content is in place.
     const std::optional<FileState> &state() const { return m_state; }
 
 private:

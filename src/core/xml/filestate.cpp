@@ -26,7 +26,7 @@ namespace {
 class OpenFile
 {
 public:
-    // Opened without waiting, because a pipe would block the call until somebody writes to it.
+    // Opens the file without waiting. Otherwise a pipe would block the call until somebody writes to it.
     explicit OpenFile(const QString &fileName)
         : m_handle(::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
     {
@@ -41,7 +41,7 @@ public:
     bool isOpen() const { return m_handle >= 0; }
     bool readStatus(struct stat *status) const { return ::fstat(m_handle, status) == 0; }
 
-    /// Appends the rest of the file. Returns false if it cannot be read.
+    /// Appends the rest of the file to the bytes. Returns false if it cannot be read.
     bool readAll(QByteArray *bytes) const
     {
         using Size = decltype(bytes->size());
@@ -133,7 +133,7 @@ FileContent readContent(const QString &fileName, qint64 maximumSize)
     // This is the status before reading. If somebody writes during or after the reading, the status of the file differs
     // from it.
     content.state.status = FileStatus(status);
-    // One byte more than expected, so that the first round finds the end.
+    // Reserves the memory for the whole file at once.
     content.bytes.reserve(decltype(content.bytes.size())(status.st_size) + 1);
     if (!file.readAll(&content.bytes)) {
         content.error = systemError();

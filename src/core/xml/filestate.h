@@ -38,8 +38,8 @@ struct FileState
     quint64 hash = 0;
 };
 
-/// Makes the hash of a content that comes in pieces. This takes no more time than copying them. The hash does not
-/// protect against somebody who wants two contents to have the same one.
+/// Computes the hash of a content that comes in pieces. This takes no more time than copying the pieces. The hash does
+/// not protect against somebody who constructs two contents with the same hash.
 class ContentHash
 {
 public:
@@ -59,18 +59,19 @@ struct FileContent
 {
     QByteArray bytes;
     FileState state;
-    /// Why the file cannot be read, or empty if it could.
+    /// Why the file could not be read, or empty if it was read.
     QString error;
 };
 
-/// Reads a regular file of at most maximumSize bytes. Refuses all other files. If the file is too large, the error
-/// tells how much memory a document of that size would need.
+/// Reads a regular file of at most maximumSize bytes. Refuses all other files. If the file is too large, the error says
+/// how much memory a document of that size would need.
 FileContent readContent(const QString &fileName, qint64 maximumSize);
 
 /// Returns whether the file still has the content of the given state. Reads the content only if the status differs.
 bool hasContent(const QString &fileName, const FileState &state);
 
-/// Returns whether both names lead to the same file, also through links or in different spellings.
+/// Returns whether both names lead to the same file. The names may be links, or differ in spelling. If neither file
+/// exists, returns whether they would be the same file.
 bool isSameFile(const QString &a, const QString &b);
 
 /// Returns the system's message about the last call that failed.

@@ -13,7 +13,7 @@ class KnownFiles
 public:
     /// Forgets everything, and remembers where the name leads now.
     void takeName(const QString &name);
-    /// Remembers another name, which is the document's from now on.
+    /// Changes the name of the document, and remembers where it leads now. Keeps the states.
     void changeName(const QString &name);
     /// Returns the absolute path of a name. The path of the document's own name stays the same if the process changes
     /// its folder.
@@ -21,10 +21,10 @@ public:
 
     /// Remembers the state of a file that was read or written.
     void remember(const QString &path, const FileState &state) { m_states.insert(path, state); }
-    /// Remembers a file that could not be read, whose content is not known.
+    /// Remembers a file that could not be read. Its content is not known.
     void rememberUnread(const QString &path) { m_states.insert(path, FileState()); }
 
-    /// Returns whether the file was read or written, or could not be read.
+    /// Returns whether the file was remembered, even if it could not be read.
     bool knows(const QString &path) const { return m_states.contains(path); }
     /// Returns the state of a file, or an empty state if its content is not known.
     FileState state(const QString &path) const { return m_states.value(path); }

@@ -6,11 +6,12 @@ namespace cabledoc {
 
 namespace {
 
-/// Generated numbers never have more digits.
+/// Largest number of digits of a generated number.
 constexpr int maximumDigits = 18;
 
 /// Calls use with each way to read the name as a prefix and a number. The number has at least the given count of
-/// digits, and more only without leading zeros. "B12" is "B" and 12, and with one digit also "B1" and 2.
+/// digits. If it has more, it has no leading zeros. For example, "B12" is "B" and 12, and if one digit is enough, it is
+/// also "B1" and 2.
 template <typename Use> void forEachReading(const QString &name, int minimumDigits, Use use)
 {
     qint64 number = 0;
@@ -31,7 +32,7 @@ template <typename Use> void forEachReading(const QString &name, int minimumDigi
 int numberAfter(const QString &prefix, const QString &name)
 {
     const auto position = name.lastIndexOf(prefix);
-    // The position of the last empty text depends on the version of Qt.
+    // The position of an empty prefix would depend on the version of Qt.
     if (position < 0 || prefix.isEmpty())
         return 0;
     return std::max(0, name.mid(position + prefix.size()).toInt());
@@ -137,7 +138,7 @@ QString LastName::last(const Gather &gather, const QString &ignored)
 {
     if (!m_names) {
         QStringList names = gather();
-        names.sort(); // a set is made of sorted names without searching for the place of each
+        names.sort(); // a set takes sorted names without searching for the place of each
         m_names.emplace(names.cbegin(), names.cend());
     }
     auto last = m_names->crbegin();

@@ -10,7 +10,8 @@
 
 namespace cabledoc {
 
-/// A set of numbers, kept as intervals. The first number outside of the set is found without counting.
+/// A set of numbers, kept as intervals. The first number outside of the set is found without trying all numbers before
+/// it.
 class NumberSet
 {
 public:
@@ -24,12 +25,12 @@ private:
     std::map<qint64, qint64> m_intervals;
 };
 
-/// Returns the number after the last occurrence of the prefix in a name, such as 5 for "Zone" and "Zone 5". It is read
-/// like QString::toInt() does. Returns 0 if there is no number, or if it is negative or too large.
+/// Returns the number after the last occurrence of the prefix in a name, such as 5 for "Zone" and "Zone 5". The number
+/// is read as QString::toInt() reads it. Returns 0 if there is no number, or if it is negative or too large.
 int numberAfter(const QString &prefix, const QString &name);
 
 /// Finds unused names that consist of a prefix and a number, such as "Room12". Remembers the numbers of each prefix
-/// that are in use, so that none is tried twice.
+/// that are in use, so that it tries no number twice.
 class NumberedNames
 {
 public:
@@ -41,26 +42,26 @@ public:
 
     /// Returns the name with the given prefix and number.
     QString name(const QString &prefix, qint64 number) const;
-    /// Marks a name as used. To be called for each name that comes into use.
+    /// Marks a name as used. Must be called for each name that comes into use.
     void insert(const QString &name);
-    /// Marks a name as unused. To be called for each name that goes out of use.
+    /// Marks a name as unused. Must be called for each name that goes out of use.
     void remove(const QString &name);
 
     using IsTaken = std::function<bool(const QString &name)>;
 
-    /// Returns the smallest number, at least from, that makes an unused name with the prefix.
+    /// Returns the smallest number that is at least from and makes an unused name with the prefix.
     qint64 firstFree(const QString &prefix, qint64 from, const IsTaken &isTaken);
 
 private:
     void update(const QString &name, void (NumberSet::*change)(qint64));
 
     int m_digits;
-    /// Numbers in use by their prefixes.
+    /// Numbers in use, by prefix.
     QMap<QString, NumberSet> m_taken;
 };
 
-/// Finds the last of the used names in string order. The names are gathered with the first question, and kept up to
-/// date from then on.
+/// Finds the last of the used names in string order. The first call of last() collects the names. From then on they are
+/// kept up to date.
 class LastName
 {
 public:

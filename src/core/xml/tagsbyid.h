@@ -10,11 +10,11 @@
 
 namespace cabledoc {
 
-/// Finds the tags of ids. Several tags may have the same id.
+/// Finds tags by their ids. Several tags may have the same id.
 class TagsById
 {
 public:
-    /// Numbers in generated ids have at least the given count of digits.
+    /// Creates an empty index. Numbers in generated ids have at least the given count of digits.
     explicit TagsById(int idDigits)
         : m_digits(idDigits)
         , m_names(idDigits)
@@ -31,7 +31,7 @@ public:
 
     /// Returns the id with the given prefix and number.
     QString numberedId(const QString &prefix, qint64 number) const { return m_names.name(prefix, number); }
-    /// Returns the smallest number, at least from, that makes an unused id with the prefix.
+    /// Returns the smallest number that is at least from and makes an unused id with the prefix.
     qint64 firstFreeNumber(const QString &prefix, qint64 from);
     /// Returns the last tag, in string order, whose id consists of the prefix and the minimum number of digits, or an
     /// empty string if there is none.
@@ -51,7 +51,8 @@ private:
     NumberedNames m_names;
     /// Prefix of the last call of lastTagWithNumber(), or null if there was none.
     QString m_prefix;
-    /// Ids that have this prefix and a number, by tag. A tag that lost its id stays until it is the last one.
+    /// Ids that consist of this prefix and a number, by tag. A tag that has lost its id is removed only when it is the
+    /// last.
     std::map<QString, QString> m_numbered;
 };
 

@@ -33,7 +33,8 @@ void forEachField(Block *block, ByteUse useByte, WordUse useWord)
     words(block->word_group_d);
 }
 
-/// Only upper-case digits give their values. Files hold no others, and the values of others must not change.
+/// Returns the value of a hexadecimal digit in upper case. Files hold no other characters. The result for another
+/// character must not change.
 int nibble(QChar character)
 {
     const int code = character.unicode();
@@ -73,8 +74,8 @@ public:
 private:
     static bool isDigit(QChar character) { return unsigned(character.unicode()) - u'0' <= 9U; }
 
-    /// Reads a number that is not up to nine digits with or without a minus: one with more digits, blanks or other
-    /// signs, or no number.
+    /// Reads a text that is not one to nine digits with or without a minus. It has more digits, blanks or another sign,
+    /// or is not a number.
     qint32 oddNumber(const QChar *start)
     {
         while (m_position != m_end && *m_position != QLatin1Char(','))

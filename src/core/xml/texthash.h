@@ -6,9 +6,9 @@
 
 namespace cabledoc {
 
-/// A hash of texts for which nobody can make collisions. With Qt 5's hash, texts that collide once collide with every
-/// seed. Names that come from files are therefore kept in a TextMap or in order (QMap, std::map), never in a QHash or
-/// QSet.
+/// A hash function for texts. Nobody can construct texts that collide in it. In Qt 5's own hash function, texts can
+/// collide with every seed. Names that come from files are therefore kept in a TextMap or a sorted map (QMap,
+/// std::map), never in a QHash or QSet.
 struct TextHash
 {
     std::size_t operator()(const QString &text) const;

@@ -47,7 +47,7 @@ inline const QString TestSchedSettings = QStringLiteral("TestSched_Settings");
 inline const QString DetailedCableSettings = QStringLiteral("DetailedCable_Settings");
 inline const QString JobNotesSettings = QStringLiteral("JobNotes_Settings");
 inline const QString ActiveNetworkTestResultsSettings = QStringLiteral("ActiveNetworkTestResults_Settings");
-/// What the settings of the inventory were named up to version 2.3.
+/// Name of the settings of the inventory in versions up to 2.3.
 inline const QString NetworkDevicesSettings = QStringLiteral("NetworkDevices_Settings");
 
 // Generated tags: one of these and a number

@@ -18,8 +18,8 @@ bool isAscii(const QByteArray &bytes)
     return (all & 0x80) == 0;
 }
 
-/// Returns the text of a file. The encoding in its XML declaration has no effect. Qt 5 would refuse a file with an
-/// unknown encoding, so blanks replace it, which keeps all positions.
+/// Returns the text of a file. The encoding in its XML declaration has no effect. Blanks replace it, because Qt 5 would
+/// refuse an unknown encoding. All positions stay the same.
 QString decoded(const QByteArray &bytes)
 {
     static const QRegularExpression encoding(
@@ -45,7 +45,7 @@ bool isBlank(char character)
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-/// Removes CDATA sections that consist of blanks only. Qt 5 does not read them, Qt 6 does.
+/// Removes CDATA sections that consist of blanks only. Qt 6 reads them, but Qt 5 does not.
 void removeBlankSections(QDomNode node)
 {
     const QDomNode top = node;
@@ -62,8 +62,9 @@ void removeBlankSections(QDomNode node)
     }
 }
 
-/// Sets the problem's position to the end of a text that was cut off: after the last character that is not a blank. The
-/// parser gives no column if the text ends at the end of a line. Line and column are 0 for a blank text.
+/// Sets the position of the problem to the end of a text that was cut off. This is the place after the last character
+/// that is not a blank. The parser gives no column if the text ends at the end of a line. Line and column are 0 for a
+/// blank text.
 void locateEnd(const QByteArray &bytes, XmlProblem *problem)
 {
     const auto end = std::find_if_not(bytes.crbegin(), bytes.crend(), isBlank).base();

@@ -12,7 +12,7 @@
 #include <functional>
 
 /// The only way from a file to a tree and back. Files are Latin-1 text, indented by one space for each level, without
-/// an XML declaration and without a document type. A declaration in a file that is read has no effect, whatever
+/// an XML declaration and without a document type. When a file is read, an XML declaration has no effect, whatever
 /// encoding it names, and is not kept.
 namespace cabledoc::xmlfile {
 
@@ -24,7 +24,8 @@ struct ReadResult
         Read,
         /// The file could not be opened. deviceError tells why.
         NotOpened,
-        /// The file is not valid XML. problem tells why. Its line and column are 0 if the parser gave none.
+        /// The file is not valid XML, or exceeds a limit. problem tells why. Its line and column are 0 if the file is
+        /// blank.
         NotParsed,
     };
     Status status = Read;
@@ -59,12 +60,12 @@ enum class BeyondLatin1 {
 /// The result of writing a document.
 struct Outcome
 {
-    /// Number of characters that were written as "?". These are the characters that XML does not allow, and those
-    /// beyond Latin-1: always in comments, CDATA sections and names, and in texts and values if they are to be
-    /// replaced.
+    /// Number of characters that were written as "?". These are the characters that XML does not allow, and characters
+    /// beyond Latin-1. The latter are always replaced in comments, CDATA sections and names, and in texts and values
+    /// only with BeyondLatin1::Replace.
     qint64 replacedCharacters = 0;
-    /// Why the text is not complete, or empty if it is. Either read() would refuse it (no root, several roots, a limit
-    /// exceeded), or a piece of it was not accepted.
+    /// Why the text is not complete, or empty if it is. Writing stops if read() would refuse the text (no root, several
+    /// roots, a limit exceeded), or if the sink does not accept a piece.
     QString error;
 };
 
@@ -87,13 +88,13 @@ Text toText(const QDomDocument &document, const AttributeOrder &order,
 
 struct SaveOutcome : Outcome
 {
-    /// State of the file, once the new content is in place.
+    /// State of the file, or nothing if the new content is not in place.
     std::optional<FileState> state;
 };
 
-/// Replaces the content of a file by the text of a document, or creates the file, if it is the expected one. If this
-/// fails, the old file stays as it is, with one exception: if the folder cannot be brought to the disk at the end, the
-/// new content is already in place. A link is followed. A device or a pipe is not replaced.
+/// Replaces the content of a file with the text of a document, or creates the file. Fails if the file is not the
+/// expected one, or if it is a device or a pipe. If this fails, the old file stays as it is, with one exception: if
+/// only the folder cannot be synced at the end, the new content is already in place. Follows symbolic links.
 SaveOutcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order,
                  BeyondLatin1 beyondLatin1 = BeyondLatin1::Replace, const Expectation &expected = {});
 

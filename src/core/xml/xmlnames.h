@@ -8,7 +8,7 @@ namespace cabledoc {
 constexpr int maximumNameLength = 4000;
 
 /// Returns whether the text can be the name of an element or attribute in a file. It must be an XML name without a
-/// colon that is not too long. It may have Latin-1 characters only, because names cannot be escaped.
+/// colon that is not too long. It may only have Latin-1 characters, because names cannot be escaped.
 bool isXmlName(const QString &text);
 
 /// Returns whether Latin-1 and XML 1.0 both allow the character.

@@ -17,8 +17,8 @@ constexpr std::pair<const char *, const char *> marks[] = {
     {"\xFF\xFE", "UTF-16"},
 };
 
-/// Walks through the markup of a text. If the text is not well-formed, the walk may take a wrong way, but not before
-/// the place at which the parser stops.
+/// Walks through the markup of a text. If the text is not well-formed, the walk may misread it, but only after the
+/// place at which the parser stops.
 class Scanner
 {
 public:
@@ -70,7 +70,7 @@ private:
 
     const char *firstForbidden() const
     {
-        // In blocks without an early exit, which the compiler turns into a few instructions.
+        // The loop over a block has no early exit, so that the compiler can make it fast.
         constexpr std::ptrdiff_t blockSize = 4096;
         const char *block = m_begin;
         for (; m_end - block >= blockSize; block += blockSize) {

@@ -12,16 +12,16 @@ namespace cabledoc::xmlfile {
 
 namespace {
 
-/// What is escaped, depending on the place.
+/// Which characters are escaped. This depends on the place.
 enum class Escape {
-    /// In comments, CDATA sections and names: nothing.
+    /// No characters, in comments, CDATA sections and names.
     Nothing,
     Text,
     AttributeValue,
 };
 
-/// Returns the text with which a character must be written. Returns null if it can be written as it is, or cannot be
-/// written at all.
+/// Returns the reference with which a character must be written. Returns null if it can be written as it is, or if it
+/// needs appendOdd().
 constexpr const char *reference(char16_t character, Escape escape)
 {
     switch (character) {
@@ -97,7 +97,7 @@ public:
     {
     }
 
-    /// Walks through the tree without recursion, so that no depth exhausts the stack.
+    /// Writes the document. Walks through the tree without recursion, so that a deep tree does not exhaust the stack.
     Outcome write(const QDomDocument &document)
     {
         int roots = 0;
@@ -210,7 +210,7 @@ private:
             const QDomProcessingInstruction instruction = node.toProcessingInstruction();
             m_bytes += "<?";
             append(instruction.target(), Escape::Nothing);
-            // The parser accepts some targets that it refuses with a blank after them.
+            // The parser accepts some targets only if no blank follows them.
             if (!instruction.data().isEmpty())
                 m_bytes += ' ';
             append(instruction.data(), Escape::Nothing);
@@ -230,7 +230,7 @@ private:
         int written = 0;
         if (order != nullptr) {
             for (const QString &name : *order) {
-                // One search tells whether there is a value and returns it. The default value is recognised by its
+                // One search returns the value and tells whether there is one. The default value is recognised by its
                 // address.
                 static const QString missing(QLatin1String("missing"));
                 const QString value = element.attribute(name, missing);

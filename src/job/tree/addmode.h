@@ -1,7 +1,7 @@
 #pragma once
 
-/// The mode that ends the operations which add an element: whose names count. Any other value generates
-/// both.
+/// The mode is the last argument of the operations that add an element. It says which of the given tag and id are kept.
+/// With any other value, both names are generated.
 namespace cabledoc::addmode {
 
 constexpr int GivenId = 1;

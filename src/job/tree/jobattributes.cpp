@@ -195,7 +195,7 @@ const QStringList &siteInfoAttributes()
 
 QString storedCableUse(const QString &use)
 {
-    // Intended: what is planned as a cable box is stored as television.
+    // This is deliberate: the use "cable box" is stored as "television".
     //: A word of the file format: it stays as it is.
     const QString cableBox = QCoreApplication::translate("JobEditor", "cable_box", "use name for Cable Box (Cblbx)");
     //: A word of the file format: it stays as it is.

@@ -15,7 +15,7 @@
 
 namespace cabledoc {
 
-/// What the element of a vertical run holds.
+/// The fields of the element of a vertical run.
 struct VertRunElementFields : PortFields, VertRunFields
 {
 };
@@ -28,18 +28,19 @@ const AttributeTable<TestResultsFields> &testResultsAttributes();
 const AttributeTable<DeviceConnectionFields> &connectionAttributes();
 const AttributeTable<PortFields> &portAttributes();
 const AttributeTable<VertRunElementFields> &vertRunAttributes();
-/// Of points on floors and of bends on sheets.
+/// Returns the attributes of points on floors and of bends on sheets.
 const AttributeTable<PointFields> &pointAttributes();
 const AttributeTable<FreeTextFields> &freeTextAttributes();
 const AttributeTable<DeviceFields> &deviceAttributes();
-/// But for the results, which are elements of their own.
+/// Returns the attributes of active ports. Their test results are elements of their own.
 const AttributeTable<ActivePortFields> &activePortAttributes();
-/// But for the values, which are elements of their own.
+/// Returns the attributes of the test results of active ports. The values in a result are elements of their own.
 const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes();
-/// The status of a cable's test; "UNTESTED" for a cable that has no results or whose results lack a status.
+/// Returns the status of a cable's test. Returns "UNTESTED" if the cable has no results, or if the results lack a
+/// status.
 QString testStatus(const QDomElement &cable);
 const QStringList &siteInfoAttributes();
-/// What a new cable's use is stored as.
+/// Returns the text that is stored for the use of a cable.
 QString storedCableUse(const QString &use);
 
 } // namespace cabledoc

@@ -18,7 +18,7 @@ QDomElement holderOf(const QDomElement &element)
     return element.parentNode().parentNode().toElement();
 }
 
-/// Returns whether the element comes last of all elements of its kind in document order.
+/// Returns whether an element at the end of its list comes last of all elements of its kind in document order.
 bool comesLast(QDomElement element, const ElementSchema *kind)
 {
     while (kind->holder != ElementKind::None) {
@@ -38,7 +38,7 @@ CableLists::CableLists(const QDomElement &cableList)
         tags.append(cable.tagName());
         ids.append(cable.attribute(words::Id));
     }
-    // In big jobs a second walk is faster than a second attribute in the first.
+    // In big jobs a second walk is faster than reading a second attribute in the first walk.
     auto tag = tags.cbegin();
     for (const QDomElement &cable : ChildElements(cableList))
         tagsOfType[cable.attribute(words::Type)].append(*tag++);
@@ -47,7 +47,7 @@ CableLists::CableLists(const QDomElement &cableList)
 JobIndex::JobIndex(const DocumentTree &tree)
     : m_tree(tree)
 {
-    // Ids of cables have three digits at least: "Cable001".
+    // The numbers in ids of cables have at least three digits, as in "Cable001".
     kept(ElementKind::Cables) = ElementIndex(3);
 }
 
@@ -132,7 +132,8 @@ ReferenceIndex &JobIndex::references()
     for (const ElementSchema *kind : jobSchema()) {
         if (kind->references.isEmpty())
             continue;
-        // Floors and rooms that share a tag with another one come into reach when that is removed.
+        // This includes floors and rooms that cannot be reached because another one before them has their tag. They can
+        // be reached when that is removed.
         for (const QDomElement &list : listsOf(*kind, m_tree.root(), allChildren)) {
             for (const QDomElement &element : ChildElements(list))
                 m_references->insert(element);
@@ -197,7 +198,7 @@ void JobIndex::aboutToRemove(const QDomElement &element, ElementKind kind)
         m_roomsOfFloor.remove(element.tagName());
 }
 
-/// Returns whether another element can be reached, with all that it holds, when this one is gone.
+/// Returns whether the removal of this element makes another one reachable that holds elements.
 bool JobIndex::opensWay(const QDomElement &element, ElementKind kind)
 {
     const bool holdsElements = std::any_of(jobSchema().begin(), jobSchema().end(),
@@ -206,7 +207,7 @@ bool JobIndex::opensWay(const QDomElement &element, ElementKind kind)
            && !element.nextSiblingElement(element.tagName()).isNull();
 }
 
-/// Marks what elements of a kind hold.
+/// Marks all kinds as stale whose elements are held by elements of the given kind.
 void JobIndex::setStaleBelow(ElementKind holder)
 {
     for (const ElementSchema *kind : jobSchema()) {
@@ -241,7 +242,7 @@ void JobIndex::wasSet(const QDomElement &element, ElementKind kind, const QStrin
     if (kind == ElementKind::Rooms) {
         ContainerIndex &rooms = m_roomsOfFloor[holderOf(element).tagName()];
         if (!rooms.element(element.attribute(words::Id)).isNull()) {
-            // Only the tree can tell which room of that id is the first on the floor.
+            // Only the tree can tell which room with that id is the first on the floor.
             setStale(kind);
             return;
         }

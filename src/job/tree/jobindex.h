@@ -28,50 +28,51 @@ struct CableLists
     }
 };
 
-/// What a job knows beside its tree, so that nothing walks the tree to find an element. All of it can be made from the
-/// tree at any time. The tree tells it of each change.
+/// The index of a job. It finds elements without a walk through the tree. It can be rebuilt from the tree at any time.
+/// JobTree reports each change of the tree to it.
 class JobIndex
 {
 public:
     explicit JobIndex(const DocumentTree &tree);
 
-    /// Makes everything from the tree.
+    /// Rebuilds everything from the tree.
     void rebuild();
-    /// Makes what is known of one kind from the tree, and lets removals see anew what elements name.
+    /// Rebuilds the index of one kind from the tree. The index of references is rebuilt when it is next needed.
     void rebuild(ElementKind kind);
-    /// Makes the lists of cables from the tree, and lets removals see anew what elements name.
+    /// Rebuilds the lists of cables from the tree. The index of references is rebuilt when it is next needed.
     void rebuildCableLists();
-    /// Forgets everything. It is made from the tree with the next question.
+    /// Forgets everything. Each part is rebuilt from the tree when it is next needed.
     void forgetAll();
-    /// Forgets the elements, whose tree is about to end. Tags, ids and lists stay.
+    /// Releases the elements, whose tree is about to be destroyed. Tags, ids and lists of cables stay.
     void forgetElements();
 
-    // What is known
+    // Queries
 
     ElementIndex &of(ElementKind kind);
-    /// Returns the rooms of a floor, whose ids are unique on the floor only, or null if the floor cannot be found.
+    /// Returns the index of the rooms of a floor, or null if the floor cannot be found. The ids of rooms are unique
+    /// only on their floor.
     ContainerIndex *roomsOf(const QString &floorTag);
     const CableLists &cables();
-    /// Returns which elements name a tag.
+    /// Returns the index that finds the elements that name a tag.
     ReferenceIndex &references();
-    /// Returns whether an element can be found by the tags of what holds it. Of elements in one list that share a tag
-    /// only the first can.
+    /// Returns whether an element can be found by its tag and the tags of the elements that hold it. If several
+    /// elements in a list have the same tag, only the first one can be found.
     bool isReachable(const QDomElement &element, ElementKind kind);
 
-    // What changes
+    // Changes
 
-    /// To be called after an element was inserted or moved.
+    /// Must be called after an element was inserted or moved.
     void inserted(const QDomElement &element, ElementKind kind);
     void moved(const QDomElement &element, ElementKind kind);
-    /// To be called before an element is removed with all that it holds.
+    /// Must be called before an element is removed with all elements that it holds.
     void aboutToRemove(const QDomElement &element, ElementKind kind);
     /// Returns whether the index depends on an attribute of that name.
     static bool dependsOn(const QString &attribute);
-    /// To be called before and after an attribute that the index depends on is written.
+    /// Must be called before and after an attribute is written that the index depends on.
     void aboutToSet(const QDomElement &element, ElementKind kind, const QString &attribute);
     void wasSet(const QDomElement &element, ElementKind kind, const QString &attribute);
 
-    /// Returns whether this is what a rebuild makes of the tree.
+    /// Returns whether the index equals one that is rebuilt from the tree.
     bool matchesTree() const;
 
 private:
@@ -85,13 +86,13 @@ private:
     const DocumentTree &m_tree;
     std::array<ElementIndex, kindCount> m_elements;
     QMap<QString, ContainerIndex> m_roomsOfFloor; ///< by floor tag
-    /// The kinds that are made anew with the next question for them, and need not be kept in step until then. Only the
-    /// tree can tell which of several elements with a tag is the first.
+    /// The kinds whose index is out of date. It is rebuilt when it is next needed, and changes do not update it until
+    /// then. A kind becomes stale if only the tree can tell which of several elements with the same tag comes first.
     std::bitset<kindCount> m_isStale;
-    /// A change of the cables drops the lists. The next question makes them anew, at the cost of the answer. So adding
-    /// or removing one cable does not cost all the others.
+    /// A change of the cables drops the lists. They are rebuilt when they are next needed. So adding or removing a
+    /// cable does not walk over all the others.
     std::optional<CableLists> m_cables;
-    std::optional<ReferenceIndex> m_references; ///< made with the first question
+    std::optional<ReferenceIndex> m_references; ///< built when it is first needed
 };
 
 } // namespace cabledoc

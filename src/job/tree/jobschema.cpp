@@ -153,7 +153,7 @@ ElementKind kindOf(const QDomElement &element)
         QDomNode holder = element;
         for (int level = 0; level <= row->list.size(); ++level)
             holder = holder.parentNode();
-        // Sheets and floors both have a list of texts.
+        // The name of the list is not enough, because sheets and floors both have a list of texts.
         const bool isHolder = row->holder == ElementKind::None ? holder.parentNode().isDocument()
                                                                : kindOf(holder.toElement()) == row->holder;
         if (isHolder)

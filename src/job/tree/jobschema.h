@@ -28,10 +28,10 @@ enum class ElementKind {
 
 constexpr int kindCount = int(ElementKind::Count);
 
-/// When the list that holds the elements of a kind comes into being.
+/// When the list that holds the elements of a kind is created.
 enum class ListCreation {
-    WithHolder,          ///< with what holds it; without the list no element can be added
-    WithHolderOrElement, ///< with what holds it, or with the first element if it is missing
+    WithHolder,          ///< with its holder; without the list no element can be added
+    WithHolderOrElement, ///< with its holder, or with the first element if it is missing
     WithElement,         ///< with the first element
 };
 
@@ -39,30 +39,31 @@ enum class ListCreation {
 struct Reference
 {
     enum WhenGone {
-        RemoveElement, ///< an element that names what is gone is removed too
-        ForgetTag,     ///< the tag is taken out of the list of tags
+        RemoveElement, ///< an element that names a removed element is removed too
+        ForgetTag,     ///< the tag is removed from the list of tags
     };
     QStringList attributes;
     QVector<ElementKind> targets;
     WhenGone whenGone;
 
-    /// Returns the tags in the text of an attribute. A text with commas that stands for one tag leads nowhere.
+    /// Returns the tags in the text of an attribute. Only attributes with ForgetTag can hold several tags. In others, a
+    /// text with commas counts as one tag.
     QStringList tagsIn(const QString &text) const;
 };
 
-/// What writing a single attribute does if the element lacks it.
+/// What the setter of a single attribute does if the element lacks it.
 enum class Setters {
     AddAttributes,
-    ChangeAttributes, ///< nothing
+    ChangeAttributes, ///< does nothing
 };
 
-/// What there is to know about a kind of element. Everything that adds, finds, reads, changes, copies, removes, checks
-/// or saves elements uses these rows.
+/// The properties of a kind of element. All code that adds, finds, reads, changes, copies, removes, checks or saves
+/// elements uses these rows.
 struct ElementSchema
 {
     ElementKind kind;
     ElementKind holder; ///< the kind of the elements that hold the lists; None for the root
-    QStringList list;   ///< the way from the holder to the list
+    QStringList list;   ///< the names of the elements from the holder down to the list
     ListCreation listCreation;
     QString tagPrefix; ///< of generated tags
     const AttributeList &attributes;
@@ -92,7 +93,7 @@ template <typename FieldsType> struct Kind : ElementSchema
     }
 
     const AttributeTable<Fields> &table;
-    QVector<QString Fields::*> holders; ///< the fields with the tags of what holds the element, the innermost first
+    QVector<QString Fields::*> holders; ///< the fields with the tags of the holders, the innermost first
 };
 
 const Kind<CableFields> &cableKind();
@@ -113,10 +114,10 @@ const Kind<FreeTextFields> &floorFreeTextKind();
 const std::array<const ElementSchema *, kindCount> &jobSchema();
 const ElementSchema &schemaOf(ElementKind kind);
 
-/// Returns the kind of an element by its place in the tree, or None if it has none.
+/// Returns the kind of an element by its place in the tree, or None if no kind has that place.
 ElementKind kindOf(const QDomElement &element);
-/// Returns the lists of a kind in document order. Which of the elements in a list are looked into depends on the
-/// function: allChildren() or reachableChildren().
+/// Returns the lists of a kind in document order. childrenOf is allChildren() or reachableChildren(). It selects the
+/// elements whose lists are returned.
 QVector<QDomElement> listsOf(const ElementSchema &kind, const QDomElement &root,
                              QVector<QDomElement> (*childrenOf)(const QDomElement &list));
 /// Returns the names of the attributes that hold tags.

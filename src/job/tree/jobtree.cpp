@@ -33,7 +33,7 @@ QDomElement JobTree::room(const QString &floorTag, const QString &tag) const
     const QDomElement room = element(ElementKind::Rooms, tag);
     if (!rooms.isNull() && room.parentNode() == rooms)
         return room;
-    // The index leads to the first room of a tag. The room "Undefined", for example, is there on every floor.
+    // The index finds only the first room with a tag, but there is a room "Undefined" on every floor, for example.
     return m_index.of(ElementKind::Rooms).isRepeated(tag) ? rooms.firstChildElement(tag) : QDomElement();
 }
 
@@ -52,13 +52,13 @@ QDomElement JobTree::holder(const ElementSchema &kind, const QStringList &tags) 
 {
     if (kind.holder == ElementKind::None)
         return root();
-    // Rooms are found on their floor.
+    // The tag of a room may not be unique, so the room is searched on its floor.
     return kind.holder == ElementKind::Rooms ? room(tags.at(1), tags.at(0)) : element(kind.holder, tags.at(0));
 }
 
 // Adding
 
-/// Returns the list for a new element. Adds it if it is missing, unless it comes with its holder only.
+/// Returns the list for a new element. Adds the list if it is missing, unless it is only created with its holder.
 QDomElement JobTree::listForNew(const ElementSchema &kind, const QDomElement &holder)
 {
     const QDomElement list = kind.listIn(holder);
@@ -157,7 +157,7 @@ void JobTree::remove(const QDomElement &element)
         dropReferences(element, kind);
 }
 
-/// Sees to what names the removed element, or one that it holds.
+/// Removes or changes the elements that name the removed element or an element that it holds.
 void JobTree::dropReferences(const QDomElement &element, ElementKind kind)
 {
     dropReferencesTo(element.tagName(), kind);
@@ -174,7 +174,7 @@ void JobTree::dropReferencesTo(const QString &tag, ElementKind kind)
     const auto isThere = [&](ElementKind target) { return contains(target, tag); };
     for (const ElementSchema *naming : jobSchema()) {
         for (const Reference &reference : naming->references) {
-            // Another element of the tag may stand in for the removed one.
+            // If another element has the same tag, references to the tag stay.
             if (!reference.targets.contains(kind)
                 || std::any_of(reference.targets.begin(), reference.targets.end(), isThere))
                 continue;
@@ -205,7 +205,7 @@ QVector<QDomElement> JobTree::elementsNaming(const QString &tag, const ElementSc
     return elements;
 }
 
-/// Takes a tag out of the lists of tags in the attributes of an element.
+/// Removes a tag from the lists of tags in the attributes of an element.
 void JobTree::forgetTag(const QString &tag, const QDomElement &element, const QStringList &attributes)
 {
     for (const QString &attribute : attributes) {

@@ -6,23 +6,23 @@
 
 namespace cabledoc {
 
-/// The tree of a job, and the only class that changes it. It keeps the index in step. When an element is removed, it
-/// removes or changes what names it, so that no name leads nowhere.
+/// The tree of a job, and the only class that changes it. It keeps the index up to date. When it removes an element, it
+/// also removes or changes the elements that name it.
 class JobTree : public DocumentTree
 {
 public:
     JobTree();
 
-    /// Returns what the job knows beside its tree.
+    /// Returns the index of the job.
     JobIndex &index() const { return m_index; }
-    /// Empties the tree. Tags, ids and lists of cables are known until the index is rebuilt.
+    /// Empties the tree. The index keeps the tags, the ids and the lists of cables until it is rebuilt.
     void unload();
 
-    // Finding. Each returns a null element or an empty text if there is none.
+    // Finding. The functions return a null element or an empty text if the element does not exist.
 
     QDomElement element(ElementKind kind, const QString &tag) const { return m_index.of(kind).element(tag); }
     QString id(ElementKind kind, const QString &tag) const { return m_index.of(kind).id(tag); }
-    /// Returns the first tag, in string order, that has the id.
+    /// Returns the first tag, in string order, with the given id.
     QString tagOfId(ElementKind kind, const QString &id) const { return m_index.of(kind).ids().firstTag(id); }
     bool contains(ElementKind kind, const QString &tag) const { return m_index.of(kind).containsTag(tag); }
     /// Returns an attribute of the element with the given tag.
@@ -31,32 +31,34 @@ public:
         return element(kind, tag).attribute(name);
     }
     QDomElement room(const QString &floorTag, const QString &tag) const;
-    /// Returns the first room of that id on the floor in document order.
+    /// Returns the first room, in document order, with the given id on the floor.
     QDomElement roomById(const QString &floorTag, const QString &id) const;
-    /// Returns the list of a kind in what holds it, which is given by its tags, the innermost first.
+    /// Returns the list of a kind in the element that holds it. The tags lead to this element, the innermost first.
     QDomElement list(const ElementSchema &kind, const QStringList &holders = {}) const;
 
     // Records
 
     using DocumentTree::read;
-    /// Returns what an element holds, after adding what an older file lacks. Returns the defaults if it is null.
+    /// Returns the fields of an element, after adding the attributes that an older file lacks. Returns the defaults if
+    /// the element is null.
     template <typename Fields> Fields read(const Kind<Fields> &kind, const QDomElement &element);
-    /// Returns what the element with the given tag holds.
+    /// Returns the fields of the element with the given tag.
     template <typename Fields> Fields read(const Kind<Fields> &kind, const QString &tag)
     {
         return read(kind, element(kind.kind, tag));
     }
-    /// Adds an element to its list, under the tag and id that the mode asks for. Returns a null element, and changes
-    /// nothing, if there is no place for it.
+    /// Adds an element to its list. The mode tells whether its tag and its id are generated. Returns a null element,
+    /// and changes nothing, if there is no list for it.
     template <typename Fields> QDomElement add(const Kind<Fields> &kind, Fields fields, int mode);
-    /// Gives an element the lists that come with it and that it lacks.
+    /// Adds the lists that are created with an element of the kind and that this element lacks.
     void addLists(const QDomElement &element, ElementKind kind);
-    /// Returns the room "Undefined" of a floor. Adds it if it is missing. It has no attributes but its id.
+    /// Returns the room "Undefined" of a floor. Adds it if it is missing. Its id is then its only attribute.
     QDomElement undefinedRoom(const QDomElement &floor);
 
     // Changing
 
-    /// Writes an attribute of the element with the given tag.
+    /// Writes an attribute of the element with the given tag. The schema tells whether this adds an attribute that is
+    /// missing.
     void set(ElementKind kind, const QString &tag, const QString &name, const QString &value);
     /// Removes the element with the given tag.
     void remove(ElementKind kind, const QString &tag) { remove(element(kind, tag)); }
@@ -79,7 +81,7 @@ private:
     QVector<QDomElement> elementsNaming(const QString &tag, const ElementSchema &kind, const Reference &reference);
     void forgetTag(const QString &tag, const QDomElement &element, const QStringList &attributes);
 
-    mutable JobIndex m_index; ///< is brought up to date when it is asked
+    mutable JobIndex m_index; ///< queries bring it up to date
 };
 
 template <typename Fields> Fields JobTree::read(const Kind<Fields> &kind, const QDomElement &element)

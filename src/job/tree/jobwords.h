@@ -22,12 +22,12 @@ inline const QString PortList = QStringLiteral("Port_List");
 inline const QString VerticalRunList = QStringLiteral("VerticalRun_List");
 inline const QString PointList = QStringLiteral("Point_List");
 
-// Containers in sheets; floors have a list of texts too
+// Containers in sheets. Floors have a list of texts too.
 inline const QString DeviceList = QStringLiteral("Device_List");
 inline const QString VerticeList = QStringLiteral("Vertice_List");
 inline const QString FreeTextList = QStringLiteral("FreeText_List");
 
-// Generated tags are one of these and a number
+// Generated tags: one of these and a number
 inline const QString FloorTagPrefix = QStringLiteral("FFloor_");
 inline const QString SheetTagPrefix = QStringLiteral("SSheet_");
 inline const QString RoomTagPrefix = QStringLiteral("Room");
@@ -42,7 +42,7 @@ inline const QString VerticeTagPrefix = QStringLiteral("Vertice");
 inline const QString FreeTextTagPrefix = QStringLiteral("Text");
 inline const QString ActivePortTagPrefix = QStringLiteral("ActivePort");
 
-/// Tag and id of the room that every floor has for what lies in no drawn room.
+/// Tag and id of the room that every floor has for ports and vertical runs outside of drawn rooms.
 inline const QString Undefined = QStringLiteral("Undefined");
 
 // Attributes of floors beyond those of the record
@@ -86,7 +86,7 @@ inline const QString FontSize = QStringLiteral("font_size");
 inline const QString Bold = QStringLiteral("bold");
 inline const QString Italic = QStringLiteral("italic");
 
-// Ports in the working network and what was tested there
+// Active ports and their test results
 inline const QString Port = QStringLiteral("port");
 inline const QString ActiveTestResult = QStringLiteral("ActiveTest_Result");
 inline const QString ActiveTestValue = QStringLiteral("Value");

@@ -12,7 +12,7 @@ QStringList tagsNamedBy(const QDomElement &element)
     QStringList tags;
     for (const QString &attribute : namingAttributes())
         tags += entriesIn(element.attribute(attribute));
-    // removeDuplicates() would take Qt's hash of names that come from a file.
+    // removeDuplicates() would use Qt's hash for names that come from a file.
     tags.sort();
     tags.erase(std::unique(tags.begin(), tags.end()), tags.end());
     return tags;
@@ -47,7 +47,7 @@ QVector<QDomElement> ReferenceIndex::elementsNaming(const QString &tag) const
 
 bool ReferenceIndex::operator==(const ReferenceIndex &other) const
 {
-    // Elements that share their tag and what they name have no order among them.
+    // Elements with the same tag that name the same tag may be in any order.
     return std::is_permutation(m_elements.begin(), m_elements.end(), other.m_elements.begin(), other.m_elements.end());
 }
 

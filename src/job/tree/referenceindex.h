@@ -9,23 +9,23 @@
 
 namespace cabledoc {
 
-/// The tags that an element names in its attributes: a cable its ends and its path, a connection its ends, a
-/// vertical run its cables, an active port its port.
+/// Returns the tags that an element names in its attributes. A cable names its ends and the places on its path, a
+/// connection its ends, a vertical run its cables, and an active port its port.
 QStringList tagsNamedBy(const QDomElement &element);
 
-/// Which elements name a tag, so that what names an element can be found when the element goes.
+/// Finds the elements that name a tag. When an element is removed, these have to be removed or changed too.
 class ReferenceIndex
 {
 public:
     void insert(const QDomElement &element);
-    /// To be called before the element changes what it names.
+    /// Must be called before the element is removed or an attribute changes that names tags.
     void remove(const QDomElement &element);
     QVector<QDomElement> elementsNaming(const QString &tag) const;
 
     bool operator==(const ReferenceIndex &other) const;
 
 private:
-    std::multimap<std::pair<QString, QString>, QDomElement> m_elements; ///< by the named tag and their own
+    std::multimap<std::pair<QString, QString>, QDomElement> m_elements; ///< by the named tag and their own tag
 };
 
 } // namespace cabledoc

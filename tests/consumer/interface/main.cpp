@@ -1,5 +1,5 @@
-// What applications rely on when they are compiled: each block is a way to call the library. Ends with 1, and the line,
-// when an answer is not the expected one.
+// Tests what applications rely on when they are compiled. Each block is a way to call the library. If an answer is not
+// the expected one, the program prints the line and returns 1.
 
 #include <cabledoc/BktEditor>
 #include <cabledoc/DeviceValidator>
@@ -41,7 +41,7 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// A C function that takes a member.
+/// Returns the sum of numbers. Has the form of a C function that takes an array.
 qint32 sumOf(const qint32 *numbers, int count)
 {
     qint32 sum = 0;
@@ -142,12 +142,12 @@ void jobs()
     EXPECT(job.roomExistsOnFloor(room, floor, true) && job.roomExistsOnFloor(floor, room, true));
     EXPECT(job.roomExistsOnFloor(text("Lab"), floor, false) && job.roomExistsOnFloor(floor, text("Lab"), false));
     EXPECT(!job.roomExistsOnFloor(floor, floor, true) && !job.roomExistsOnFloor(room, text("none"), true));
-    // A room with the tag of a floor: the order is room, floor.
+    // A room with the tag of a floor shows that the order of the arguments is room, floor.
     const QString upper = job.addFloor(QString(), text("Upper"), 8.0, QString(), 1);
     job.addRoom(floor, 0, 0, 1, 1, upper, text("Odd"), 0, 0, 3, 3, 3, 2);
     EXPECT(job.roomExistsOnFloor(upper, floor, true) && !job.roomExistsOnFloor(floor, upper, true));
 
-    // What addCable() returns can be handed on.
+    // The id that addCable() returns can be passed to other operations.
     TestDef definition(text("Wire"));
     definition.setLengthConstant(100.0F);
     job.addTestDef(definition);
@@ -159,7 +159,7 @@ void jobs()
     EXPECT(job.getCableTestResults(id).status() == text("PASS") && job.getCableStatus(text("Cable1")) == text("PASS"));
     EXPECT(job.getRoundedCableLength(id, 0, false) == 120.0F
            && job.getMaxRoundedCableLength(id, false, false) == 120.0F);
-    // A cable whose tag is another one's id comes first.
+    // If the text is the tag of one cable and the id of another, the tag counts.
     job.addCable(id, text("Other"), 2);
     EXPECT(job.getCableTestResults(id).status() == text("UNTESTED"));
     EXPECT(job.getMaxRoundedCableLength(id, false, true) == 0.0F);

@@ -4,14 +4,15 @@
 
 namespace {
 
-/// A member function of the record that is the first argument.
+/// Returns a callable for a member function. The first argument of a call is the record.
 template <typename Record, typename Result, typename... Arguments>
 Callable ofRecord(const char *name, Result (Record::*function)(Arguments...) const)
 {
     return makeCallable<Result, Record, std::decay_t<Arguments>...>(name, std::mem_fn(function));
 }
 
-/// The record that is the first argument after a call of its member function.
+/// Returns a callable for a member function that changes the record. The first argument of a call is the record. The
+/// answer is the changed record.
 template <typename Record, typename... Arguments>
 Callable changed(const char *name, void (Record::*function)(Arguments...))
 {
@@ -22,13 +23,13 @@ Callable changed(const char *name, void (Record::*function)(Arguments...))
                                                                     });
 }
 
-/// A constructor.
+/// Returns a callable for a constructor.
 template <typename Record, typename... Arguments> Callable made(const char *name)
 {
     return makeCallable<Record, Arguments...>(name, [](const auto &...values) { return Record(values...); });
 }
 
-/// Calls a function with all numbers of a block in the order of its members.
+/// Calls the function with all numbers of the block in the order of its members.
 template <typename Function> void forNumbersOf(cable_struct *block, Function function)
 {
     const auto forAll = [&function](auto &numbers) { std::for_each(std::begin(numbers), std::end(numbers), function); };
@@ -59,8 +60,8 @@ QString textOfNumbers(const QStringList &numbers)
     return BKXMLEditor::dataToString(block);
 }
 
-/// The first and the last sample, the count, and how many numbers of the header are 0. A curve that is whole has the
-/// text that it was read from.
+/// Returns the first and the last sample of a curve, its count, and how many numbers of its header are 0. The last
+/// entry is "whole" if the curve is written as the text that it was read from, and otherwise the written text.
 QStringList curveIn(const QString &text)
 {
     const TRUEPHY_PLOT_DATA curve = BKXMLEditor::responseStringToData(text);
@@ -85,7 +86,7 @@ int shortestLength(const QStringList &lengths)
 
 } // namespace
 
-/// What records compute.
+/// Tests the functions of records.
 class RecordsTest : public QObject
 {
     Q_OBJECT
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QFETCH(TestCase, testCase);
         QStringList expected = QString(testCase.given).trimmed().split('\n');
         for (QString &line : expected) {
-            // What is good is not translated: callers compare it.
+            // The verdict "GOOD" is not translated, because callers compare it.
             const QString verdict = line.section(" = ", 1).replace("\\n", "\n");
             if (line.startsWith("validDef ") && verdict != "GOOD")
                 line = callIn(line) + " = " + translated("TestDef", verdict).replace("\n", "\\n");
@@ -156,7 +157,7 @@ private Q_SLOTS:
         original.setParent(nullptr);
     }
 
-    void resultsThatAreEmptiedAgain()
+    void resetOfTestResults()
     {
         TRUEPHY_PLOT_DATA curve{};
         curve.header[5] = 1;

@@ -23,7 +23,7 @@ private:
     }
 
 private Q_SLOTS:
-    /// The intervals answer as a plain set of numbers does.
+    /// Compares a NumberSet with a plain set of numbers.
     void numberSetAgainstPlainSet()
     {
         std::mt19937 random(1);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(index.firstFreeTagNumber(prefix, 10), 11);
         // "T10" is also "T1" and 0.
         QCOMPARE(index.firstFreeTagNumber("T1", 0), 1);
-        // From here on the numbers are kept in step.
+        // From here on the index keeps the numbers up to date.
         const QDomElement third = element("T3", "Plan 1");
         index.append(third);
         QCOMPARE(index.firstFreeTagNumber(prefix, 1), 5);
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(index.ids().firstFreeNumber(QString(), 1), 1);
     }
 
-    /// Whichever of the tags that share an id goes, the first of the others stands for it.
+    /// Removes tags with the same id in all orders. The index always finds the first of the tags that are left.
     void firstTagOfAnId()
     {
         const QStringList tags{"c", "a", "d", "b"};

@@ -22,14 +22,15 @@ struct User
     gid_t group;
 };
 
-// The one who saves, the other owner, a member of the group of files, one whom lists name, and one without any part.
+// The user who saves, another owner of files, a member of the group of files, the user whom access control lists name,
+// and a user without any of these roles.
 const User saver{1002, 2002};
 const User stranger{1001, 2001};
 const User member{1003, 3003};
 const User named{1005, 2005};
 const User outsider{1004, 2004};
 
-/// The process is that user as long as this lives.
+/// Makes the process run as the given user as long as the object exists.
 class As
 {
 public:
@@ -47,7 +48,8 @@ public:
     Q_DISABLE_COPY(As)
 };
 
-/// A list for the named user, in the form in which the system keeps it: entries of a kind, permissions and an id.
+/// Returns an access control list with an entry for the named user, in the form in which the system keeps it. Each
+/// entry has a kind, permissions and an id.
 QByteArray accessList(mode_t mode, int namedUserMay)
 {
     struct Entry
@@ -103,7 +105,7 @@ mode_t modeOf(const QByteArray &file)
 
 } // namespace
 
-/// What a file that replaces another one keeps of its access.
+/// Tests which access rights a file takes over from the file that it replaces.
 class FileAccessTest : public QObject
 {
     Q_OBJECT
@@ -121,7 +123,7 @@ private:
         QCOMPARE(chmod(m_from.constData(), mode), 0);
     }
 
-    /// Gives a new file of the present user the access of the other.
+    /// Creates a file as the current user and copies the access rights of the other file to it.
     bool copyToNewFile()
     {
         QFile::remove(m_to);
@@ -156,7 +158,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Whatever the permissions are, and whatever of them can be kept.
+    /// Tests all permissions to read and write.
     void nobodyGainsAccess()
     {
         QFETCH(bool, isOwner);
@@ -164,7 +166,7 @@ private Q_SLOTS:
         QFETCH(int, namedUserMay);
         for (mode_t mode = 0; mode <= 0666; ++mode) {
             if ((mode & 0111) != 0)
-                continue; // running a file is not in question
+                continue; // permissions to run the file are not tested
             make(isOwner ? saver : stranger, isMember ? saver.group : member.group, mode);
             if (namedUserMay >= 0 && !setAttribute(m_from, listName, accessList(mode, namedUserMay)))
                 QSKIP("the file system has no access control lists");
@@ -174,7 +176,7 @@ private Q_SLOTS:
                 QVERIFY(copyToNewFile());
             }
             std::set<uid_t> after = readersOf(m_to);
-            after.erase(saver.id); // who wrote it
+            after.erase(saver.id); // the user who saved the file may read it
             const QByteArray what = QByteArray::number(mode, 8) + " became " + QByteArray::number(modeOf(m_to), 8);
             QVERIFY2(std::includes(before.begin(), before.end(), after.begin(), after.end()), what);
             if (isOwner && isMember) {
@@ -211,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(attributeOf(m_to, capabilities), QByteArray());
     }
 
-    void whatIsBeingWrittenIsPrivate()
+    void unfinishedFileIsPrivate()
     {
         const mode_t before = umask(0);
         make(saver, saver.group, 0644);
@@ -223,7 +225,7 @@ private Q_SLOTS:
         umask(before);
     }
 
-    void whatAFolderGivesToNewFilesIsTakenAway()
+    void defaultAccessListIsRemoved()
     {
         if (!setAttribute(QFile::encodeName(m_directory.path()), "system.posix_acl_default", accessList(0700, 7)))
             QSKIP("the file system has no access control lists");

@@ -25,7 +25,7 @@ private:
         return m_directory.filePath("file.xml");
     }
 
-    /// An element with that many attributes.
+    /// Returns an element with the given number of attributes.
     static QByteArray elementWith(int attributes)
     {
         QByteArray element = "<b";
@@ -34,7 +34,7 @@ private:
         return element + "/>";
     }
 
-    /// A tree of that many levels around a text.
+    /// Returns a tree with the given number of levels around a text.
     static QByteArray nested(int levels, const QByteArray &text = QByteArray())
     {
         return QByteArray("<a>").repeated(levels) + text + QByteArray("</a>").repeated(levels);
@@ -48,7 +48,7 @@ private:
 private Q_SLOTS:
     void roundTrip_data() { addCases({"cases/xml.txt"}); }
 
-    /// What is read is written in the one form of our files, and read and written again stays as it is.
+    /// Reads and writes each given text and its expected text. Both are written as the expected text.
     void roundTrip()
     {
         QFETCH(TestCase, testCase);
@@ -62,12 +62,12 @@ private Q_SLOTS:
         }
     }
 
-    void charactersBeyondTheFormat()
+    void unsupportedCharacters()
     {
         QDomDocument document("Test");
         QDomElement root = document.createElement("a");
         document.appendChild(root);
-        // A letter beyond Latin-1, an emoji, half an emoji, two control characters.
+        // The value is a letter beyond Latin-1, an emoji, half an emoji and two control characters.
         QString value = "\u0161\U0001F600|";
         value += QChar(0xD83D);
         value += '\x01';
@@ -135,7 +135,7 @@ private Q_SLOTS:
         }
     }
 
-    void takesWhatTheLimitsAllow()
+    void acceptsTreesAtTheLimits()
     {
         const QByteArray content = nested(255, "<b/>" + elementWith(maximumAttributes));
         const xmlfile::ReadResult result = read(content);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(int(read(text.bytes).status), int(xmlfile::ReadResult::Read));
     }
 
-    void refusesTreesThatCouldNotBeRead()
+    void refusesTreesBeyondTheLimits()
     {
         QDomDocument document("Test");
         QVERIFY(!xmlfile::toText(document, NoOrder).error.isEmpty());
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::permissions(fileName), permissions);
     }
 
-    void refusesWhatIsNoDocument()
+    void refusesEmptyDocumentsAndFolders()
     {
         QVERIFY(!xmlfile::save(fileWith("kept"), QDomDocument(), NoOrder).error.isEmpty());
         QCOMPARE(readFile(m_directory.filePath("file.xml")), QByteArray("kept"));

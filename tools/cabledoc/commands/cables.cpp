@@ -21,7 +21,7 @@ QJsonObject describeCable(JobEditor &job, const QString &tag, bool metric)
 {
     QJsonValue length;
     if (job.getCableTestResults(tag).cableLength() >= 0) {
-        // As a double the float 16.7 would be 16.700000762939453.
+        // A direct conversion to double would make 16.700000762939453 of the float 16.7.
         length = QString::number(double(job.getMaxRoundedCableLength(tag, metric, false)), 'g', 7).toDouble();
     }
     return {{QStringLiteral("id"), job.getCableID(tag)},

@@ -30,7 +30,7 @@ ExitCode runCheck(const CommandLine &line)
 {
     const QString fileName = line.argument(0);
     CheckOptions options;
-    options.characterReferences = true; // as all commands save
+    options.characterReferences = true; // all commands save in this way
     options.maximumFileSize = line.maximumSize();
     const CheckReport report = checkFile(fileName, options);
     if (!report.error.isEmpty())

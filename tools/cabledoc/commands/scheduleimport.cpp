@@ -70,7 +70,7 @@ ExitCode runScheduleImport(const CommandLine &line)
             printProblems(schedule, report.problems);
         return CannotLoad;
     }
-    // A dry run has not changed the job.
+    // This does nothing after a dry run, because the job is unchanged.
     if (const ExitCode error = saveChangedJob())
         return error;
     return printsJson ? printReport(schedule, report, isDryRun) : printCounts(report, isDryRun);
