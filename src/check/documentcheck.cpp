@@ -38,6 +38,7 @@ public:
     {
         setCharacterReferences(options.characterReferences);
         setMaximumFileSize(options.maximumFileSize);
+        inside().lineNumbers = xmlfile::LineNumbers::Read;
     }
 
     CheckReport check(const QString &filename)

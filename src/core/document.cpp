@@ -19,6 +19,7 @@ Document::Document(const Document &other)
     : filename(other.filename)
     , error(other.error)
     , maximumFileSize(other.maximumFileSize)
+    , lineNumbers(other.lineNumbers)
     , writesReferences(other.writesReferences)
     , replacesUnknownFiles(other.replacesUnknownFiles)
     , m_tree(std::make_unique<DocumentTree>(*other.m_tree))
@@ -134,7 +135,7 @@ bool Document::read(const QString &name, const QString &documentTypeName, const 
         error = texts.missing.arg(name);
         return false;
     }
-    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, maximumFileSize);
+    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, maximumFileSize, lineNumbers);
     if (result.status == xmlfile::ReadResult::NotOpened) {
         error = result.deviceError;
         return false;

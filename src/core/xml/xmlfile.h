@@ -37,8 +37,16 @@ struct ReadResult
     FileState state;
 };
 
-/// Reads a file of at most maximumSize bytes into a new document with the given type name.
-ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize);
+/// Whether the nodes of a tree have line numbers. Reading them takes much longer.
+enum class LineNumbers {
+    Read,
+    Leave,
+};
+
+/// Reads a file of at most maximumSize bytes into a new document. If it cannot be read, the document has the given type
+/// name.
+ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize,
+                LineNumbers lineNumbers = LineNumbers::Leave);
 
 /// The order in which the attributes of elements are written. All other attributes follow in the order of their names.
 struct AttributeOrder

@@ -1,4 +1,5 @@
 #include "testcases.h"
+#include "treebuilder.h"
 #include "xmlfile.h"
 
 #include <QtCore/QFileInfo>
@@ -40,6 +41,21 @@ private:
         return QByteArray("<a>").repeated(levels) + text + QByteArray("</a>").repeated(levels);
     }
 
+    /// The nodes below a node, one in a line, with their values.
+    static QStringList nodesBelow(const QDomNode &parent)
+    {
+        QStringList nodes;
+        for (QDomNode node = parent.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            QStringList values;
+            for (int i = 0; i < node.attributes().count(); ++i)
+                values.append(node.attributes().item(i).nodeName() + '=' + node.attributes().item(i).nodeValue());
+            values.sort();
+            nodes.append(QString("%1 %2: %3").arg(node.nodeType()).arg(node.nodeName(), node.nodeValue()));
+            nodes += values + nodesBelow(node) + QStringList("end");
+        }
+        return nodes;
+    }
+
     xmlfile::ReadResult read(const QByteArray &content) const
     {
         return xmlfile::read(fileWith(content), "Test", 1 << 30);
@@ -59,6 +75,26 @@ private Q_SLOTS:
             const xmlfile::ReadResult result = read(text);
             QCOMPARE(result.problem.message, QString());
             QCOMPARE(xmlfile::toText(result.document, order).bytes, testCase.expected);
+        }
+    }
+
+    void fastReader_data() { addCases({"cases/fast-reader.txt"}); }
+
+    /// Each line is a text. Both readers make the same tree of it, or only Qt's parser makes one, or none does.
+    void fastReader()
+    {
+        QFETCH(TestCase, testCase);
+        const QStringList lines = QString::fromLatin1(testCase.given).split('\n');
+        for (QString line : lines.mid(0, lines.size() - 1)) {
+            const QByteArray text = line.replace("\\n", "\n").replace("\\t", "\t").replace("\\r", "\r").toLatin1();
+            QDomDocument built{QString()};
+            QDomDocument parsed;
+            const bool isBuilt = buildTree(text, &built);
+            const bool isParsed = parseTree(text, &parsed).message.isNull();
+            QVERIFY2(isBuilt == (testCase.name == "read by both"), text.constData());
+            QVERIFY2(isParsed == (testCase.name != "refused by both"), text.constData());
+            if (isBuilt)
+                COMPARE_TEXTS(nodesBelow(built).join('\n'), nodesBelow(parsed).join('\n'), line);
         }
     }
 

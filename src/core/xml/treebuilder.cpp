@@ -1,0 +1,164 @@
+#include "treebuilder.h"
+
+#include "qtcompat.h"
+#include "xmlscan.h"
+#include "xmltokens.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+namespace cabledoc {
+
+namespace {
+
+/// Short texts that a file repeats, such as the names of attributes. They share their memory.
+class SharedTexts
+{
+public:
+    QString text(std::string_view bytes)
+    {
+        const QLatin1String latin1(bytes.data(), int(bytes.size()));
+        if (bytes.size() > longestShared)
+            return latin1;
+        std::size_t hash = bytes.size();
+        for (const char byte : bytes)
+            hash = hash * 31 + quint8(byte);
+        QString &shared = m_texts[hash % m_texts.size()];
+        if (shared != latin1)
+            shared = latin1;
+        return shared;
+    }
+
+    QString text(const XmlPiece &piece) { return piece.hasReferences ? piece.toString() : text(piece.bytes); }
+
+private:
+    static constexpr std::size_t longestShared = 32;
+
+    std::array<QString, 4096> m_texts;
+};
+
+bool isAscii(const QByteArray &bytes)
+{
+    char all = 0;
+    for (const char byte : bytes)
+        all = char(all | byte);
+    return (all & 0x80) == 0;
+}
+
+/// Returns the text of a file. The encoding in its XML declaration has no effect. Blanks replace it, because Qt 5 would
+/// refuse an unknown encoding. All positions stay the same.
+QString decoded(const QByteArray &bytes)
+{
+    static const QRegularExpression encoding(
+        QStringLiteral("^<\\?xml\\s[^>]*?(\\sencoding\\s*=\\s*(?:\"[A-Za-z][\\w.-]*\"|'[A-Za-z][\\w.-]*'))[^>]*>"));
+    QString text = QString::fromLatin1(bytes);
+    const QRegularExpressionMatch match = encoding.match(text);
+    if (match.hasMatch())
+        text.replace(match.capturedStart(1), match.capturedLength(1),
+                     QString(match.capturedLength(1), QLatin1Char(' ')));
+    return text;
+}
+
+/// Removes the XML declaration from the tree, so that the root is the first child. A save never writes a declaration.
+void removeDeclaration(QDomDocument *document)
+{
+    const QDomNode first = document->firstChild();
+    if (first.isProcessingInstruction() && first.nodeName() == QLatin1String("xml"))
+        document->removeChild(first);
+}
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+/// Removes CDATA sections that consist of blanks only. Qt 6 reads them, but Qt 5 does not.
+void removeBlankSections(QDomNode node)
+{
+    const QDomNode top = node;
+    while (!node.isNull()) {
+        const QString value = node.nodeValue();
+        QDomNode next = node.firstChild();
+        for (QDomNode ancestor = node; next.isNull() && ancestor != top; ancestor = ancestor.parentNode())
+            next = ancestor.nextSibling();
+        if (node.isCDATASection() && std::all_of(value.cbegin(), value.cend(), [](QChar character) {
+                return character.unicode() < 0x80 && isBlank(char(character.unicode()));
+            }))
+            node.parentNode().removeChild(node);
+        node = next;
+    }
+}
+
+/// Sets the position of the problem to the end of a text that was cut off. This is the place after the last character
+/// that is not a blank. The parser gives no column if the text ends at the end of a line. Line and column are 0 for a
+/// blank text.
+void locateEnd(const QByteArray &bytes, XmlProblem *problem)
+{
+    const auto end = std::find_if_not(bytes.crbegin(), bytes.crend(), isBlank).base();
+    problem->line = end == bytes.cbegin() ? 0 : 1 + int(std::count(bytes.cbegin(), end, '\n'));
+    problem->column = int(end - std::find(std::make_reverse_iterator(end), bytes.crend(), '\n').base());
+    problem->column += end == bytes.cbegin() ? 0 : 1;
+}
+
+} // namespace
+
+bool buildTree(const QByteArray &text, QDomDocument *document)
+{
+    // Another policy changes what is read.
+    if (QDomImplementation::invalidDataPolicy() != QDomImplementation::AcceptInvalidChars)
+        return false;
+    XmlTokens tokens(text);
+    SharedTexts texts;
+    QDomNode parent = *document;
+    for (;;) {
+        switch (tokens.next()) {
+        case XmlTokens::StartElement: {
+            QDomElement element = document->createElement(texts.text(tokens.name()));
+            for (const XmlTokens::Attribute &attribute : tokens.attributes())
+                element.setAttribute(texts.text(attribute.name), texts.text(attribute.value));
+            parent.appendChild(element);
+            parent = element;
+            break;
+        }
+        case XmlTokens::EndElement:
+            parent = parent.parentNode();
+            break;
+        case XmlTokens::Characters:
+            parent.appendChild(document->createTextNode(tokens.piece().toString()));
+            break;
+        case XmlTokens::Comment:
+            parent.appendChild(document->createComment(tokens.piece().toString()));
+            break;
+        case XmlTokens::End:
+            return true;
+        case XmlTokens::Unknown:
+            return false;
+        }
+    }
+}
+
+XmlProblem parseTree(const QByteArray &text, QDomDocument *document)
+{
+    XmlProblem problem = scanXml(text);
+    if (problem.message.isNull()) {
+        QXmlStreamReader reader;
+        // The reader accepts ASCII as it is, unless there is a declaration.
+        if (isAscii(text) && !text.startsWith("<?xml"))
+            reader.addData(text);
+        else
+            reader.addData(decoded(text));
+        reader.setNamespaceProcessing(false);
+        problem = qtcompat::setContent(document, &reader);
+        removeDeclaration(document);
+        if (text.contains("<![CDATA["))
+            removeBlankSections(*document);
+    }
+    const bool hasPlace = problem.column != 0 && !std::all_of(text.cbegin(), text.cend(), isBlank);
+    if (!problem.message.isNull() && !hasPlace)
+        locateEnd(text, &problem);
+    return problem;
+}
+
+} // namespace cabledoc

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <string_view>
+#include <vector>
+
+namespace cabledoc {
+
+/// A piece of an XML text: a value or characters.
+struct XmlPiece
+{
+    std::string_view bytes;
+    bool hasReferences = false;
+
+    /// Returns the characters, with those for which references stand.
+    QString toString() const;
+};
+
+/// Reads an XML text in the form in which a save writes it, token by token. It accepts nothing that Qt's parser
+/// refuses, and it knows less: document types, CDATA sections, processing instructions, carriage returns, names beyond
+/// ASCII, and blanks in unusual places make it stop with the token Unknown. Qt's parser then has to read the text, and
+/// says what is wrong with it if anything is.
+class XmlTokens
+{
+public:
+    enum Token {
+        StartElement,
+        EndElement, ///< also follows the start of an empty element
+        Characters, ///< the characters between two tags, if they are not blanks only
+        Comment,
+        End, ///< the whole text was read
+        Unknown,
+    };
+
+    struct Attribute
+    {
+        std::string_view name;
+        XmlPiece value;
+    };
+
+    /// The text must live as long as the object.
+    explicit XmlTokens(const QByteArray &text);
+
+    /// Reads the next token. After End and Unknown there is none.
+    Token next();
+
+    // What the present token holds
+
+    /// Returns the name of the element that starts.
+    std::string_view name() const { return m_name; }
+    /// Returns the attributes of the element that starts.
+    const std::vector<Attribute> &attributes() const { return m_attributes; }
+    /// Returns the characters or the comment.
+    const XmlPiece &piece() const { return m_piece; }
+    /// Returns the line in which the start tag ends, as Qt's parser gives it. The first line is 1.
+    int line();
+
+private:
+    Token markup();
+    Token startTag();
+    Token endTag();
+    Token comment();
+    Token characters();
+    bool readName(std::string_view *name);
+    bool readAttribute();
+    bool skipReference();
+    bool hasRepeatedAttribute();
+    void skipBlanks();
+    bool skip(std::string_view mark);
+
+    const char *m_position;
+    const char *m_end;
+    const char *m_counted; ///< the place up to which lines were counted
+    int m_line = 1;
+    bool m_isEmptyElement = false;
+    bool m_hasRoot = false;
+    std::string_view m_name;
+    std::vector<Attribute> m_attributes;
+    std::vector<std::string_view> m_sortedNames;
+    std::vector<std::string_view> m_openElements;
+    XmlPiece m_piece;
+};
+
+} // namespace cabledoc
