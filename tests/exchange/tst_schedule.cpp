@@ -145,6 +145,10 @@ private Q_SLOTS:
         const QByteArray cables = "A1,Floor_1,Lab,1,Floor_1,Hall,1,\nA2,Floor_1,Lab,2,Floor_1,Store,1,\n";
         import(heading + withGeneratedNames(cables));
         import(heading + withGeneratedNames("A3,Floor_1,Lab,3,,,,\n"));
+        import(heading.chopped(6) + withGeneratedNames("use\nA4,Floor_1,,1,Floor_1,,2,voice\n"));
+        const QStringList portsWithoutRoom = job.getPorts("FFloor_1", "Undefined", true);
+        QCOMPARE(job.getPortUse(portsWithoutRoom.value(0)), QString("voice"));
+        QCOMPARE(job.getPortPos(portsWithoutRoom.value(1)), QPointF(48, 12));
         QVector<QRectF> areas;
         for (const char *id : {"Lab", "Hall", "Store"}) {
             const Room room = job.getRoomById("FFloor_1", id);
