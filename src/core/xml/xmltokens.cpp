@@ -19,6 +19,7 @@ enum : quint8 {
     InValue = 4,      ///< stands for itself in a value, apart from quotation marks
     InCharacters = 8, ///< stands for itself between tags
     Blank = 16,
+    LooksBlank = 32, ///< a blank for Qt, which drops texts of nothing else
 };
 
 constexpr std::array<quint8, 256> makeClasses()
@@ -32,7 +33,9 @@ constexpr std::array<quint8, 256> makeClasses()
         if (isLetter || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.')
             all |= ContinuesName;
         if (byte == ' ' || byte == '\n' || byte == '\t')
-            all |= Blank;
+            all |= Blank | LooksBlank;
+        if (byte == 0x85 || byte == 0xA0)
+            all |= LooksBlank;
         const bool isPlain = byte >= 0x20 && byte != '<' && byte != '&';
         if (isPlain && byte != '"' && byte != '\'')
             all |= InValue;
@@ -211,7 +214,7 @@ XmlTokens::Token XmlTokens::characters()
         // "]]>" may not stand here.
         if (!is(*m_position, InCharacters) && (*m_position != ']' || skip("]]>")))
             return Unknown;
-        isBlank = isBlank && is(*m_position, Blank);
+        isBlank = isBlank && is(*m_position, LooksBlank);
         ++m_position;
     }
     m_piece.bytes = {start, std::size_t(m_position - start)};
