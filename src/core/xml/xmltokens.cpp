@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 namespace cabledoc {
 
@@ -206,9 +205,11 @@ XmlTokens::Token XmlTokens::characters()
     m_piece.hasReferences = false;
     while (m_position != m_end && *m_position != '<') {
         if (*m_position == '&') {
-            if (!skipReference())
+            const std::optional<char32_t> character = readReference();
+            if (!character)
                 return Unknown;
             m_piece.hasReferences = true;
+            isBlank = isBlank && (*character > u'~' || *character <= u' ');
             continue;
         }
         // "]]>" may not stand here.
@@ -243,7 +244,7 @@ bool XmlTokens::readAttribute()
     const char *const start = m_position;
     while (m_position != m_end && *m_position != quote) {
         if (*m_position == '&') {
-            if (!skipReference())
+            if (!readReference())
                 return false;
             attribute.value.hasReferences = true;
         } else if (is(*m_position, InValue) || *m_position == '"' || *m_position == '\'') {
@@ -260,11 +261,13 @@ bool XmlTokens::readAttribute()
     return true;
 }
 
-bool XmlTokens::skipReference()
+std::optional<char32_t> XmlTokens::readReference()
 {
     const std::optional<Reference> reference = referenceAt({m_position + 1, std::size_t(m_end - m_position - 1)});
-    m_position += reference ? 1 + reference->length : 0;
-    return reference.has_value();
+    if (!reference)
+        return std::nullopt;
+    m_position += 1 + reference->length;
+    return reference->character;
 }
 
 bool XmlTokens::hasRepeatedAttribute()

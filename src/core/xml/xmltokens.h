@@ -3,6 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -65,7 +66,7 @@ private:
     Token characters();
     bool readName(std::string_view *name);
     bool readAttribute();
-    bool skipReference();
+    std::optional<char32_t> readReference();
     bool hasRepeatedAttribute();
     void skipBlanks();
     bool skip(std::string_view mark);
