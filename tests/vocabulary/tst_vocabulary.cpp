@@ -33,7 +33,12 @@ private Q_SLOTS:
     {
         useLanguage(QLocale::c());
         QCOMPARE(Vocabulary::portUses().name("cable_box"), QString("Cable box"));
-        QCOMPARE(Vocabulary::deviceTypes().name("panel"), QString("Patch panel"));
+        QStringList names;
+        for (const QString &type : Vocabulary::deviceTypes().words())
+            names.append(Vocabulary::deviceTypes().name(type));
+        QCOMPARE(names.join(','),
+                 QString("Computer,Laptop,Server,Printer,Phone,Switch,Router,Modem,Access point,Television,"
+                         "Camera,Speaker,Patch panel,Rack,Other"));
         useLanguage(QLocale("de"));
         QCOMPARE(Vocabulary::portUses().name("cable_box"), QString("Kabelreceiver"));
         QCOMPARE(Vocabulary::deviceTypes().name("panel"), QString("Rangierfeld"));

@@ -29,6 +29,25 @@ template <typename Record, typename... Arguments> Callable made(const char *name
     return makeCallable<Record, Arguments...>(name, [](const auto &...values) { return Record(values...); });
 }
 
+/// Returns all fields of a record with nothing in it.
+template <typename Record> QString defaults()
+{
+    QStringList fields;
+    for (const Field<Record> &field : fieldsOf<Record>())
+        fields.append(field.name + '=' + field.get(Record()));
+    return fields.join("; ");
+}
+
+/// Two functions for each kind of record. One returns the defaults, the other one what it is given.
+template <typename... Records> QVector<Callable> recordFunctions(const QStringList &names)
+{
+    QVector<Callable> functions;
+    auto name = names.cbegin();
+    ((functions << callable(qPrintable(*name), defaults<Records>) << made<Records, Records>(qPrintable(*name)), ++name),
+     ...);
+    return functions;
+}
+
 /// Calls the function with all numbers of the block in the order of its members.
 template <typename Function> void forNumbersOf(cable_struct *block, Function function)
 {
@@ -96,6 +115,7 @@ private:
         made<PrintSettings, QString, int, int, int, int, int>("PrintSettings"),
         made<PageSettings, QString, QString, int, int, int, double, double>("PageSettings"),
         made<ScaleSettings, QString, QString, int, int, double, double, int>("ScaleSettings"),
+        made<ActiveTestResult, QString, QString, int, QString, QString, TextPairs>("ActiveTestResult"),
         made<TestResults, QString, QString, cable_struct, int>("TestResults"),
         made<TestResults, QString, QString, QString, QString, cable_struct, int>("TestResults"),
         ofRecord("PrintSettings.getPageWidthDimension", &PrintSettings::getPageWidthDimension),
@@ -131,7 +151,15 @@ private Q_SLOTS:
             if (line.startsWith("validDef ") && verdict != "GOOD")
                 line = callIn(line) + " = " + translated("TestDef", verdict).replace("\n", "\\n");
         }
-        COMPARE_TEXTS(answered(m_functions, testCase.given), expected.join('\n'), testCase.place());
+        const auto records =
+            recordFunctions<Address, ContractorData, SiteData, PrintSettings, PageSettings, ScaleSettings, BundledCable,
+                            TestDef, TestResults, Floor, Sheet, Room, Port, VertRun, Point, Vertice, FreeText, Device,
+                            DeviceConnection, ActiveTestResult, ActivePort, Cable>(
+                QString("Address ContractorData SiteData PrintSettings PageSettings ScaleSettings BundledCable TestDef "
+                        "TestResults Floor Sheet Room Port VertRun Point Vertice FreeText Device DeviceConnection "
+                        "ActiveTestResult ActivePort Cable")
+                    .split(' '));
+        COMPARE_TEXTS(answered(m_functions + records, testCase.given), expected.join('\n'), testCase.place());
     }
 
     void everyPaperHasASize()
