@@ -19,8 +19,7 @@ QString newTag(const JobTree &tree)
 QString newId(const JobTree &tree)
 {
     ElementIndex &cables = tree.index().of(ElementKind::Cables);
-    //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
-    const QString prefix = JobEditor::tr("Cable");
+    const QString prefix = JobEditorPrivate::cableIdPrefix();
     // This is deliberately the id of the last tag in string order, and not the highest number.
     const QString lastId = cables.id(cables.ids().lastTagWithNumber(prefix));
     return cables.ids().numberedId(prefix,
@@ -28,6 +27,12 @@ QString newId(const JobTree &tree)
 }
 
 } // namespace
+
+QString JobEditorPrivate::cableIdPrefix()
+{
+    //: What generated ids of cables begin with, such as "Cable001"; no characters beyond Latin-1.
+    return JobEditor::tr("Cable");
+}
 
 // Adding and removing
 

@@ -19,6 +19,8 @@ public:
     /// Returns the private data of a job document.
     static JobEditorPrivate &of(const JobEditor &job) { return *job.d; }
 
+    /// Returns what generated ids of cables begin with, in the present language.
+    static QString cableIdPrefix();
     /// Adds an element, as JobTree::add() does. Returns a null element and sets error() if a given tag cannot be the
     /// name of an element.
     template <typename Fields> QDomElement add(const Kind<Fields> &kind, const Fields &fields, int mode)

@@ -95,7 +95,7 @@ void JobEditor::Destroy()
 }
 
 JobEditor::JobEditor()
-    : BKXMLEditor(std::make_unique<Document>(std::make_unique<JobTree>()))
+    : BKXMLEditor(std::make_unique<Document>(std::make_unique<JobTree>(JobEditorPrivate::cableIdPrefix())))
     , d(std::make_unique<JobEditorPrivate>(&inside(), static_cast<JobTree *>(&inside().tree())))
 {
 }

@@ -25,7 +25,7 @@ template <typename Map> QStringList namesIn(const Map &map)
 
 void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
-    *this = ElementIndex(m_idDigits);
+    *this = ElementIndex(m_tagPrefix, m_idPrefix, m_idDigits);
     m_entries.reserve(std::size_t(elements.size()));
     m_ids.reserve(std::size_t(elements.size()));
     for (const QDomElement &element : elements)
@@ -116,7 +116,12 @@ QStringList ElementIndex::idsByTag() const
 
 QString ElementIndex::lastTag(const QString &ignored)
 {
-    return m_lastTag.last([this] { return namesIn(m_entries); }, ignored);
+    return m_lastTag.last(
+        [this](const auto &use) {
+            for (const auto &[tag, entry] : m_entries)
+                use(tag);
+        },
+        ignored);
 }
 
 qint64 ElementIndex::firstFreeTagNumber(const QString &prefix, qint64 from)

@@ -23,11 +23,15 @@ namespace cabledoc {
 class ElementIndex
 {
 public:
-    /// Creates an empty index. Numbers in generated ids have at least the given count of digits.
-    explicit ElementIndex(int idDigits = 1)
-        : m_idDigits(idDigits)
-        , m_ids(idDigits)
+    /// Creates an empty index. Generated tags and ids consist of these prefixes and a number, which has at least the
+    /// given count of digits in an id. Other prefixes can be asked for too.
+    explicit ElementIndex(const QString &tagPrefix = QString(), const QString &idPrefix = QString(), int idDigits = 1)
+        : m_tagPrefix(tagPrefix)
+        , m_idPrefix(idPrefix)
+        , m_idDigits(idDigits)
+        , m_ids(idPrefix, idDigits)
     {
+        m_tagNames.watch(tagPrefix);
     }
 
     /// Replaces the content of the index with the given elements, which must be in document order.
@@ -76,6 +80,8 @@ private:
     TextMap<Entry> m_entries;
     /// Other elements of each tag, in document order.
     TextMap<std::list<QDomElement>> m_waiting;
+    QString m_tagPrefix;
+    QString m_idPrefix;
     int m_idDigits;
     NumberedNames m_tagNames;
     LastName m_lastTag;

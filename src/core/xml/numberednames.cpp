@@ -9,10 +9,13 @@ namespace {
 /// Largest number of digits of a generated number.
 constexpr int maximumDigits = 18;
 
+/// So many of the last names are known at least, unless some of them have been removed.
+constexpr int knownLastNames = 1000;
+
 /// Calls use with each way to read the name as a prefix and a number. The number has at least the given count of
 /// digits. If it has more, it has no leading zeros. For example, "B12" is "B" and 12, and if one digit is enough, it is
 /// also "B1" and 2.
-template <typename Use> void forEachReading(const QString &name, int minimumDigits, Use use)
+template <typename Use> void forEachReading(QStringView name, int minimumDigits, Use use)
 {
     qint64 number = 0;
     qint64 placeValue = 1;
@@ -23,7 +26,7 @@ template <typename Use> void forEachReading(const QString &name, int minimumDigi
         number += (character - u'0') * placeValue;
         placeValue *= 10;
         if (digits == minimumDigits || (digits > minimumDigits && character != u'0'))
-            use(name.left(name.size() - digits), number);
+            use(name.chopped(digits), number);
     }
 }
 
@@ -102,12 +105,12 @@ void NumberedNames::remove(const QString &name)
 
 void NumberedNames::update(const QString &name, void (NumberSet::*change)(qint64))
 {
-    if (m_taken.isEmpty())
+    if (m_taken.empty())
         return;
-    forEachReading(name, m_digits, [this, change](const QString &prefix, qint64 number) {
+    forEachReading(name, m_digits, [this, change](QStringView prefix, qint64 number) {
         const auto taken = m_taken.find(prefix);
         if (taken != m_taken.end())
-            ((*taken).*change)(number);
+            (taken->second.*change)(number);
     });
 }
 
@@ -124,27 +127,38 @@ qint64 NumberedNames::firstFree(const QString &prefix, qint64 from, const IsTake
 
 void LastName::insert(const QString &name)
 {
-    if (m_names)
-        m_names->insert(name);
+    if (!m_isComplete && (m_last.empty() || name < *m_last.begin()))
+        return;
+    m_last.insert(name);
+    if (m_last.size() > 2 * knownLastNames) {
+        m_last.erase(m_last.begin(), std::next(m_last.begin(), knownLastNames));
+        m_isComplete = false;
+    }
 }
 
 void LastName::remove(const QString &name)
 {
-    if (m_names)
-        m_names->erase(name);
+    m_last.erase(name);
 }
 
-QString LastName::last(const Gather &gather, const QString &ignored)
+void LastName::forget()
 {
-    if (!m_names) {
-        QStringList names = gather();
-        names.sort(); // a set takes sorted names without searching for the place of each
-        m_names.emplace(names.cbegin(), names.cend());
+    m_last.clear();
+    m_isComplete = false;
+}
+
+QString LastName::last(const ForEachName &forEachName, const QString &ignored)
+{
+    // The ignored name may be one of them.
+    if (!m_isComplete && m_last.size() < 2) {
+        m_last.clear();
+        m_isComplete = true;
+        forEachName([this](const QString &name) { insert(name); });
     }
-    auto last = m_names->crbegin();
-    if (last != m_names->crend() && *last == ignored)
+    auto last = m_last.crbegin();
+    if (last != m_last.crend() && *last == ignored)
         ++last;
-    return last == m_names->crend() ? QString() : *last;
+    return last == m_last.crend() ? QString() : *last;
 }
 
 } // namespace cabledoc

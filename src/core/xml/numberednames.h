@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QtCore/QMap>
-#include <QtCore/QStringList>
+#include <QtCore/QString>
 
 #include <functional>
 #include <map>
-#include <optional>
 #include <set>
 
 namespace cabledoc {
@@ -40,6 +38,10 @@ public:
     {
     }
 
+    /// Marks all names with the prefix as unused. From here on their numbers are remembered as they come into use.
+    /// Saves the first call of firstFree() the time to find them.
+    void watch(const QString &prefix) { m_taken[prefix] = NumberSet(); }
+
     /// Returns the name with the given prefix and number.
     QString name(const QString &prefix, qint64 number) const;
     /// Marks a name as used. Must be called for each name that comes into use.
@@ -57,24 +59,30 @@ private:
 
     int m_digits;
     /// Numbers in use, by prefix.
-    QMap<QString, NumberSet> m_taken;
+    std::map<QString, NumberSet, std::less<>> m_taken;
 };
 
-/// Finds the last of the used names in string order. The first call of last() collects the names. From then on they are
-/// kept up to date.
+/// Finds the last of the used names in string order. It knows some of the last ones, and looks through all names when
+/// these have been removed.
 class LastName
 {
 public:
+    /// Must be called for each name that comes into use.
     void insert(const QString &name);
+    /// Must be called for each name that goes out of use.
     void remove(const QString &name);
+    /// Is called if names are in use that were not inserted.
+    void forget();
 
-    using Gather = std::function<QStringList()>;
+    /// Calls the function with each used name.
+    using ForEachName = std::function<void(const std::function<void(const QString &name)> &use)>;
 
     /// Returns the last name other than the ignored one, or an empty string if there is none.
-    QString last(const Gather &gather, const QString &ignored);
+    QString last(const ForEachName &forEachName, const QString &ignored = QString());
 
 private:
-    std::optional<std::set<QString>> m_names;
+    std::set<QString> m_last; ///< the first of these, and all used names after it
+    bool m_isComplete = true; ///< whether these are all used names
 };
 
 } // namespace cabledoc

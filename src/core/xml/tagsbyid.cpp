@@ -8,7 +8,7 @@ void TagsById::insert(const QString &id, const QString &tag)
 {
     m_names.insert(id);
     if (isNumbered(id))
-        m_numbered[tag] = id;
+        m_numbered.insert(tag);
     const auto [first, isNew] = m_first.try_emplace(id, tag);
     if (isNew)
         return;
@@ -18,6 +18,8 @@ void TagsById::insert(const QString &id, const QString &tag)
 
 void TagsById::remove(const QString &id, const QString &tag)
 {
+    if (isNumbered(id))
+        m_numbered.remove(tag);
     const auto first = m_first.find(id);
     const auto others = m_others.find(id);
     if (others == m_others.end()) {
@@ -31,12 +33,6 @@ void TagsById::remove(const QString &id, const QString &tag)
         others->second.erase(tag);
     if (others->second.empty())
         m_others.erase(others);
-}
-
-bool TagsById::contains(const QString &id, const QString &tag) const
-{
-    const auto others = m_others.find(id);
-    return firstTag(id) == tag || (others != m_others.end() && others->second.count(tag) != 0);
 }
 
 QString TagsById::firstTag(const QString &id) const
@@ -59,27 +55,20 @@ bool TagsById::isNumbered(const QString &id) const
 
 QString TagsById::lastTagWithNumber(const QString &prefix)
 {
-    if (m_prefix.isNull() || m_prefix != prefix) {
+    if (m_prefix != prefix) {
         m_prefix = prefix;
-        m_numbered.clear();
+        m_numbered.forget();
+    }
+    return m_numbered.last([this](const auto &use) {
         for (const auto &[id, tag] : m_first) {
             if (isNumbered(id))
-                m_numbered[tag] = id;
+                use(tag);
         }
         for (const auto &[id, tags] : m_others) {
-            for (const QString &tag : tags) {
-                if (isNumbered(id))
-                    m_numbered[tag] = id;
-            }
+            if (isNumbered(id))
+                std::for_each(tags.begin(), tags.end(), use);
         }
-    }
-    while (!m_numbered.empty()) {
-        const auto last = std::prev(m_numbered.end());
-        if (contains(last->second, last->first))
-            return last->first;
-        m_numbered.erase(last);
-    }
-    return QString();
+    });
 }
 
 } // namespace cabledoc

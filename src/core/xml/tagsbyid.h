@@ -5,7 +5,6 @@
 
 #include <QtCore/QString>
 
-#include <map>
 #include <set>
 
 namespace cabledoc {
@@ -14,11 +13,14 @@ namespace cabledoc {
 class TagsById
 {
 public:
-    /// Creates an empty index. Numbers in generated ids have at least the given count of digits.
-    explicit TagsById(int idDigits)
-        : m_digits(idDigits)
-        , m_names(idDigits)
+    /// Creates an empty index. Generated ids consist of the prefix and a number with at least the given count of
+    /// digits.
+    TagsById(const QString &prefix, int digits)
+        : m_digits(digits)
+        , m_names(digits)
+        , m_prefix(prefix)
     {
+        m_names.watch(prefix);
     }
 
     void reserve(std::size_t count) { m_first.reserve(count); }
@@ -40,7 +42,6 @@ public:
     bool operator==(const TagsById &other) const { return m_first == other.m_first && m_others == other.m_others; }
 
 private:
-    bool contains(const QString &id, const QString &tag) const;
     bool isNumbered(const QString &id) const;
 
     /// First tag of each id, in string order.
@@ -49,11 +50,10 @@ private:
     TextMap<std::set<QString>> m_others;
     int m_digits;
     NumberedNames m_names;
-    /// Prefix of the last call of lastTagWithNumber(), or null if there was none.
+    /// The prefix that lastTagWithNumber() was last called with.
     QString m_prefix;
-    /// Ids that consist of this prefix and a number, by tag. A tag that has lost its id is removed only when it is the
-    /// last.
-    std::map<QString, QString> m_numbered;
+    /// Tags whose ids have this prefix and a number.
+    LastName m_numbered;
 };
 
 } // namespace cabledoc

@@ -44,11 +44,14 @@ CableLists::CableLists(const QDomElement &cableList)
         tagsOfType[cable.attribute(words::Type)].append(*tag++);
 }
 
-JobIndex::JobIndex(const DocumentTree &tree)
+JobIndex::JobIndex(const DocumentTree &tree, const QString &cableIdPrefix)
     : m_tree(tree)
+    , m_cableIdPrefix(cableIdPrefix)
 {
+    for (const ElementSchema *kind : jobSchema())
+        kept(kind->kind) = ElementIndex(kind->tagPrefix);
     // The numbers in ids of cables have at least three digits, as in "Cable001".
-    kept(ElementKind::Cables) = ElementIndex(3);
+    kept(ElementKind::Cables) = ElementIndex(words::CableTagPrefix, cableIdPrefix, 3);
 }
 
 void JobIndex::rebuild()
@@ -258,7 +261,7 @@ bool JobIndex::matchesTree() const
     asked.references();
     for (const ElementSchema *kind : jobSchema())
         asked.of(kind->kind);
-    JobIndex rebuilt(m_tree);
+    JobIndex rebuilt(m_tree, m_cableIdPrefix);
     rebuilt.rebuild();
     rebuilt.references();
     return asked.m_elements == rebuilt.m_elements && asked.m_roomsOfFloor == rebuilt.m_roomsOfFloor

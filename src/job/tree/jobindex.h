@@ -33,7 +33,7 @@ struct CableLists
 class JobIndex
 {
 public:
-    explicit JobIndex(const DocumentTree &tree);
+    JobIndex(const DocumentTree &tree, const QString &cableIdPrefix);
 
     /// Rebuilds everything from the tree.
     void rebuild();
@@ -84,6 +84,7 @@ private:
     bool opensWay(const QDomElement &element, ElementKind kind);
 
     const DocumentTree &m_tree;
+    QString m_cableIdPrefix;
     std::array<ElementIndex, kindCount> m_elements;
     QMap<QString, ContainerIndex> m_roomsOfFloor; ///< by floor tag
     /// The kinds whose index is out of date. It is rebuilt when it is next needed, and changes do not update it until

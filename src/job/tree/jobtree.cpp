@@ -7,9 +7,9 @@
 
 namespace cabledoc {
 
-JobTree::JobTree()
+JobTree::JobTree(const QString &cableIdPrefix)
     : DocumentTree(words::Job)
-    , m_index(*this)
+    , m_index(*this, cableIdPrefix)
 {
 }
 

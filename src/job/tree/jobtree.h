@@ -11,7 +11,8 @@ namespace cabledoc {
 class JobTree : public DocumentTree
 {
 public:
-    JobTree();
+    /// Generated ids of cables are expected to begin with the given prefix. Others take longer to find.
+    explicit JobTree(const QString &cableIdPrefix);
 
     /// Returns the index of the job.
     JobIndex &index() const { return m_index; }
