@@ -83,6 +83,9 @@ template <typename Fields> void copyPlaces(JobTree *tree, const Kind<Fields> &ki
     for (const QDomElement &element : elements) {
         Fields fields = tree->read(kind, element);
         fields.id = freeId(tree->index().of(kind.kind), fields.id);
+        // The cables of a vertical run are not copied yet.
+        if constexpr (std::is_same_v<Fields, VertRunElementFields>)
+            fields.connected = fields.disconnected = QStringList();
         fields.room = roomTag;
         fields.floor = floorTag;
         copies->insert(element.tagName(), tree->add(kind, fields, addmode::GivenId).tagName());
