@@ -15,10 +15,10 @@ namespace {
 enum : quint8 {
     StartsName = 1,
     ContinuesName = 2,
-    InValue = 4,      ///< stands for itself in a value, apart from quotation marks
-    InCharacters = 8, ///< stands for itself between tags
+    InValue = 4,      ///< may be part of a value as it is. Quotation marks may too, if the other kind encloses it.
+    InCharacters = 8, ///< may be between tags as it is
     Blank = 16,
-    LooksBlank = 32, ///< a blank for Qt, which drops texts of nothing else
+    LooksBlank = 32, ///< a blank for Qt, which drops texts that have no other characters
 };
 
 constexpr std::array<quint8, 256> makeClasses()
@@ -212,7 +212,7 @@ XmlTokens::Token XmlTokens::characters()
             isBlank = isBlank && (*character > u'~' || *character <= u' ');
             continue;
         }
-        // "]]>" may not stand here.
+        // XML does not allow "]]>" here.
         if (!is(*m_position, InCharacters) && (*m_position != ']' || skip("]]>")))
             return Unknown;
         isBlank = isBlank && is(*m_position, LooksBlank);

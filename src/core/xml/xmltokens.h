@@ -15,14 +15,14 @@ struct XmlPiece
     std::string_view bytes;
     bool hasReferences = false;
 
-    /// Returns the characters, with those for which references stand.
+    /// Returns the characters, with references replaced by what they mean.
     QString toString() const;
 };
 
-/// Reads an XML text in the form in which a save writes it, token by token. It accepts nothing that Qt's parser
-/// refuses, and it knows less: document types, CDATA sections, processing instructions, carriage returns, names beyond
-/// ASCII, and blanks in unusual places make it stop with the token Unknown. Qt's parser then has to read the text, and
-/// says what is wrong with it if anything is.
+/// Reads an XML text in the form of a save, token by token. It refuses everything that Qt's parser refuses. It also
+/// stops, with the token Unknown, at what a save rarely writes: document types, CDATA sections, processing
+/// instructions, carriage returns, names beyond ASCII, and blanks in unusual places. Then Qt's parser has to read the
+/// text, or tell what is wrong with it.
 class XmlTokens
 {
 public:
