@@ -120,7 +120,6 @@ QString XmlPiece::toString() const
 XmlTokens::XmlTokens(const QByteArray &text)
     : m_position(text.constData())
     , m_end(m_position + text.size())
-    , m_counted(m_position)
 {
 }
 
@@ -139,13 +138,6 @@ XmlTokens::Token XmlTokens::next()
         return markup();
     m_position = start;
     return characters();
-}
-
-int XmlTokens::line()
-{
-    m_line += int(std::count(m_counted, m_position, '\n'));
-    m_counted = m_position;
-    return m_line;
 }
 
 XmlTokens::Token XmlTokens::markup()
@@ -209,6 +201,7 @@ XmlTokens::Token XmlTokens::characters()
             if (!character)
                 return Unknown;
             m_piece.hasReferences = true;
+            // Qt decides whether the others are blanks.
             isBlank = isBlank && (*character > u'~' || *character <= u' ');
             continue;
         }

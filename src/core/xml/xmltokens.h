@@ -55,8 +55,6 @@ public:
     const std::vector<Attribute> &attributes() const { return m_attributes; }
     /// Returns the characters or the comment.
     const XmlPiece &piece() const { return m_piece; }
-    /// Returns the line in which the start tag ends, as Qt's parser gives it. The first line is 1.
-    int line();
 
 private:
     Token markup();
@@ -73,8 +71,6 @@ private:
 
     const char *m_position;
     const char *m_end;
-    const char *m_counted; ///< the place up to which lines were counted
-    int m_line = 1;
     bool m_isEmptyElement = false;
     bool m_hasRoot = false;
     std::string_view m_name;
