@@ -1,59 +1,80 @@
 #include "documentcheck.h"
 
 #include "bkxmleditor.h"
-#include "childelements.h"
 #include "document.h"
 #include "jobschema.h"
 #include "jobwords.h"
 #include "messagetext.h"
+#include "texthash.h"
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QMap>
-#include <QtXml/QDomAttr>
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 using namespace cabledoc;
 
 namespace {
 
-QString pathOf(const QDomElement &element)
+QString pathOf(FlatNode element)
 {
     QStringList path;
-    for (QDomNode node = element; node.parentNode().isElement(); node = node.parentNode())
-        path.prepend(excerpt(node.nodeName()));
+    for (; !element.parent().isNull(); element = element.parent())
+        path.prepend(excerpt(element.tagName()));
     return path.join(QLatin1Char('/'));
 }
 
-/// A document that is only loaded to check it.
-class CheckedDocument : public BKXMLEditor
+/// A document that is only loaded to check what the tree of a current file cannot show.
+class LoadedDocument : public BKXMLEditor
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
 
 public:
-    explicit CheckedDocument(const CheckOptions &options)
+    LoadedDocument(const QString &filename, const CheckOptions &options)
         : BKXMLEditor(QString())
     {
-        setCharacterReferences(options.characterReferences);
         setMaximumFileSize(options.maximumFileSize);
         inside().lineNumbers = xmlfile::LineNumbers::Read;
+        m_isRead = inside().read(filename, QString(),
+                                 {tr("A file name is needed"), tr("%1 does not exist"),
+                                  tr("%1, line %2, column %3: %4"), tr("%1 is not an XML file")});
+    }
+
+    /// Returns why the file could not be read, or an empty text if it was read.
+    QString readingError() { return m_isRead ? QString() : inside().error; }
+    FlatTree tree() const { return FlatTree::fromDocument(document()); }
+    /// Brings the document to the current version. Returns whether this succeeds.
+    bool convert()
+    {
+        return convertToCurrentVersion([] { return true; });
+    }
+
+private:
+    bool m_isRead = false;
+};
+
+/// The check of one file.
+class DocumentCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
+
+public:
+    explicit DocumentCheck(const CheckOptions &options)
+        : m_options(options)
+    {
     }
 
     CheckReport check(const QString &filename)
     {
-        if (!inside().read(filename, QString(),
-                           {tr("A file name is needed"), tr("%1 does not exist"), tr("%1, line %2, column %3: %4"),
-                            tr("%1 is not an XML file")})) {
-            m_report.error = inside().error;
-            return m_report;
-        }
-        if (mayBeChecked()) {
-            checkShared();
-            if (document().firstChild().nodeName() == words::Job)
-                checkJob();
-            checkContents();
+        if (const auto tree = xmlfile::readCurrent(filename, rootNames(), m_options.maximumFileSize)) {
+            checkTree(*tree);
+        } else {
+            LoadedDocument document(filename, m_options);
+            m_report.error = document.readingError();
+            if (m_report.error.isEmpty() && mayBeConverted(document.tree(), &document))
+                checkTree(document.tree());
         }
         std::stable_sort(m_report.findings.begin(), m_report.findings.end(),
                          [](const Finding &a, const Finding &b) { return a.line < b.line; });
@@ -61,99 +82,122 @@ public:
     }
 
 private:
-    void report(const char *rule, const QDomElement &element, const QString &message)
+    static const QStringList &rootNames()
     {
-        // An element without a line was just added because an older file lacks it. Nothing is reported about it.
-        if (element.lineNumber() > 0)
-            m_report.findings.append({QLatin1String(rule), element.lineNumber(), pathOf(element), message});
+        static const QStringList names{words::Job, words::Bkt};
+        return names;
     }
 
-    bool mayBeChecked()
+    void report(const char *rule, FlatNode element, const QString &message)
     {
-        const QDomElement root = document().firstChild().toElement();
-        if (root.tagName() != words::Job && root.tagName() != words::Bkt) {
-            report("unknown-root", document().documentElement(),
+        // An element without a line was just added because an older file lacks it. Nothing is reported about it.
+        if (element.line() > 0)
+            m_report.findings.append({QLatin1String(rule), element.line(), pathOf(element), message});
+    }
+
+    /// Brings a document with that tree to the current version. Reports why if it cannot be checked.
+    bool mayBeConverted(const FlatTree &tree, LoadedDocument *document)
+    {
+        const FlatNode root = tree.root();
+        if (!rootNames().contains(root.tagName())) {
+            report("unknown-root", tree.documentElement(),
                    tr("the file does not begin with the element \"%1\" or \"%2\"").arg(words::Job, words::Bkt));
             return false;
         }
-        const QString found = version();
-        const QDomElement element = getElement(words::Version);
-        if (!convertToCurrentVersion([] { return true; })) {
-            report("unknown-version", element.isNull() ? root : element,
+        const FlatNode version = root.firstChildElement(words::Version);
+        const QString found = attribute(version, words::Number);
+        if (!document->convert()) {
+            report("unknown-version", version.isNull() ? root : version,
                    tr("\"%1\" is not a known version").arg(excerpt(found)));
             return false;
         }
         if (found != words::CurrentVersion)
-            report("old-version", element, tr("version %1 is older than %2").arg(found, words::CurrentVersion));
+            report("old-version", version, tr("version %1 is older than %2").arg(found, words::CurrentVersion));
         return true;
+    }
+
+    void checkTree(const FlatTree &tree)
+    {
+        const FlatNode root = tree.root();
+        checkShared(root);
+        if (root.hasName(words::Job))
+            checkJob(root);
+        checkContentsOf(root, nullptr);
+    }
+
+    QString attribute(FlatNode element, const QString &name)
+    {
+        m_attributes.read(element);
+        return m_attributes.attribute(name);
     }
 
     // Names
 
-    /// Checks the tags of the children. All tags within a scope must differ. A scope is a kind of element in the whole
-    /// document.
-    void checkTags(const QDomElement &list, const QString &scope)
+    /// Lines of elements by their tags or ids.
+    using Lines = TextMap<int>;
+
+    /// Checks the tags of the children. All tags that enter the same lines must differ.
+    void checkTags(FlatNode list, Lines *lines)
     {
-        QMap<QString, int> &lines = m_linesOfTags[scope];
-        for (const QDomElement &element : ChildElements(list)) {
-            if (lines.contains(element.tagName()))
+        for (const FlatNode &element : FlatChildren(list)) {
+            const auto [known, isNew] = lines->try_emplace(element.tagName(), element.line());
+            if (!isNew)
                 report("duplicate-tag", element,
-                       tr("it has the same tag as the element in line %1").arg(lines.value(element.tagName())));
-            else
-                lines.insert(element.tagName(), element.lineNumber());
+                       tr("it has the same tag as the element in line %1").arg(known->second));
         }
     }
 
-    void checkIds(const QDomElement &list)
+    void checkIds(FlatNode list)
     {
-        QMap<QString, int> lines;
-        for (const QDomElement &element : ChildElements(list)) {
-            const QString id = getElementId(element);
+        Lines lines;
+        for (const FlatNode &element : FlatChildren(list)) {
+            const QString id = attribute(element, words::Id);
             if (id.isEmpty())
                 continue;
-            if (lines.contains(id))
+            const auto [known, isNew] = lines.try_emplace(id, element.line());
+            if (!isNew)
                 report("duplicate-id", element,
-                       tr("it has the same id \"%1\" as the element in line %2").arg(excerpt(id)).arg(lines.value(id)));
-            else
-                lines.insert(id, element.lineNumber());
+                       tr("it has the same id \"%1\" as the element in line %2").arg(excerpt(id)).arg(known->second));
         }
     }
 
-    void checkNames(const QDomElement &list)
+    void checkTagsAlone(FlatNode list)
     {
-        checkTags(list, list.tagName());
-        checkIds(list);
+        Lines lines;
+        checkTags(list, &lines);
     }
 
-    void reportMissing(const QDomElement &element, const QString &message)
-    {
-        report("missing-reference", element, message);
-    }
+    void reportMissing(FlatNode element, const QString &message) { report("missing-reference", element, message); }
 
     // Elements of both documents
 
-    void checkShared()
+    void checkShared(FlatNode root)
     {
-        checkTags(document().documentElement(), QString());
-        for (const QDomElement &list : {getToPrintSettingsList(), getToPageSettingsList(), getToScaleSettingsList()})
-            checkTags(list, list.tagName());
+        checkTagsAlone(root);
+        const FlatNode settings = root.firstChildElement(words::SettingsList);
+        for (const QString &list : {words::PrintSettingsList, words::PageSettingsList, words::ScaleSettingsList})
+            checkTagsAlone(settings.firstChildElement(list));
 
-        checkNames(getToTestDefList());
-        for (const QDomElement &element : ChildElements(getToTestDefList()))
+        const FlatNode definitions = root.firstChildElement(words::TestDefList);
+        checkTagsAlone(definitions);
+        checkIds(definitions);
+        for (const FlatNode &element : FlatChildren(definitions))
             checkDefinition(element);
 
-        checkNames(getToBundledCableTypeList());
-        for (const QDomElement &bundle : ChildElements(getToBundledCableTypeList())) {
-            const QStringList types = childIds(bundle.firstChildElement(words::BundledCableTypeList));
-            for (const QString &type : types)
-                checkType(bundle, type);
-            m_bundles.insert(getElementId(bundle));
+        const FlatNode bundles = root.firstChildElement(words::BundledCableList);
+        checkTagsAlone(bundles);
+        checkIds(bundles);
+        for (const FlatNode &bundle : FlatChildren(bundles)) {
+            for (const FlatNode &type : FlatChildren(bundle.firstChildElement(words::BundledCableTypeList)))
+                checkType(bundle, attribute(type, words::Id));
+            m_bundles.insert(attribute(bundle, words::Id));
         }
     }
 
-    void checkDefinition(const QDomElement &element)
+    void checkDefinition(FlatNode element)
     {
-        TestDef definition(testDefAttributes().read(element));
+        m_attributes.read(element);
+        TestDef definition(testDefAttributes().read(m_attributes));
         m_types.insert(definition.id());
         // The maximum length is left out, because it only gives a warning.
         definition.setMaxLength(TestDefFields().maxLength);
@@ -162,7 +206,7 @@ private:
             report("invalid-definition", element, tr("\"%1\": %2").arg(excerpt(definition.id()), verdict.simplified()));
     }
 
-    void checkType(const QDomElement &element, const QString &type)
+    void checkType(FlatNode element, const QString &type)
     {
         if (!type.isEmpty() && m_types.count(type) == 0)
             reportMissing(element, tr("there is no test definition \"%1\"").arg(excerpt(type)));
@@ -170,35 +214,39 @@ private:
 
     // Elements of jobs
 
-    void checkJob()
+    void checkJob(FlatNode root)
     {
-        const QDomElement root = document().documentElement();
         for (const ElementSchema *kind : jobSchema()) {
-            for (const QDomElement &list : listsOf(*kind, root, allChildren))
-                checkNamesOf(*kind, list);
+            for (const FlatNode &list : listsOf(*kind, root)) {
+                // Every floor has a room "Undefined" of its own.
+                if (kind->kind == ElementKind::Rooms)
+                    linesOf(kind->kind).erase(words::Undefined);
+                checkTags(list, &linesOf(kind->kind));
+                checkIds(list);
+            }
         }
         for (const ElementSchema *kind : jobSchema()) {
-            for (const QDomElement &list : listsOf(*kind, root, allChildren)) {
-                for (const QDomElement &element : ChildElements(list))
+            for (const FlatNode &list : listsOf(*kind, root)) {
+                for (const FlatNode &element : FlatChildren(list))
                     checkReferences(*kind, element);
             }
         }
     }
 
-    /// Returns the name of the scope of a kind.
-    static QString scopeOf(const ElementSchema &kind)
+    /// Returns all lists of a kind.
+    static std::vector<FlatNode> listsOf(const ElementSchema &kind, FlatNode root)
     {
-        return kind.holder == ElementKind::None ? kind.listName() : schemaOf(kind.holder).listName() + kind.listName();
+        if (kind.holder == ElementKind::None)
+            return {kind.listIn(root)};
+        std::vector<FlatNode> lists;
+        for (const FlatNode &holderList : listsOf(schemaOf(kind.holder), root)) {
+            for (const FlatNode &holder : FlatChildren(holderList))
+                lists.push_back(kind.listIn(holder));
+        }
+        return lists;
     }
 
-    void checkNamesOf(const ElementSchema &kind, const QDomElement &list)
-    {
-        // Every floor has a room "Undefined" of its own.
-        if (kind.kind == ElementKind::Rooms)
-            m_linesOfTags[scopeOf(kind)].remove(words::Undefined);
-        checkTags(list, scopeOf(kind));
-        checkIds(list);
-    }
+    Lines &linesOf(ElementKind kind) { return m_linesOfTags[std::size_t(kind)]; }
 
     /// Returns the message about a tag that no element has.
     static QString missingText(const Reference &reference)
@@ -214,15 +262,15 @@ private:
         return tr("\"%1\": there is no cable \"%2\"");
     }
 
-    void checkReferences(const ElementSchema &kind, const QDomElement &element)
+    void checkReferences(const ElementSchema &kind, FlatNode element)
     {
+        m_attributes.read(element);
         for (const Reference &reference : kind.references) {
             for (const QString &attribute : reference.attributes) {
-                for (const QString &tag : reference.tagsIn(element.attribute(attribute))) {
+                for (const QString &tag : reference.tagsIn(m_attributes.attribute(attribute))) {
                     const bool isThere =
-                        std::any_of(reference.targets.begin(), reference.targets.end(), [&](ElementKind target) {
-                            return m_linesOfTags.value(scopeOf(schemaOf(target))).contains(tag);
-                        });
+                        std::any_of(reference.targets.begin(), reference.targets.end(),
+                                    [&](ElementKind target) { return linesOf(target).count(tag) != 0; });
                     if (!isThere)
                         reportMissing(element, missingText(reference).arg(attribute, excerpt(tag)));
                 }
@@ -230,65 +278,62 @@ private:
         }
         if (kind.kind != ElementKind::Cables)
             return;
-        checkType(element, element.attribute(words::Type));
-        const QString bundle = element.attribute(words::BundleName);
+        checkType(element, m_attributes.attribute(words::Type));
+        const QString bundle = m_attributes.attribute(words::BundleName);
         if (!bundle.isEmpty() && m_bundles.count(bundle) == 0)
             reportMissing(element, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
     }
 
     // Characters and numbers
 
-    void checkContents()
+    /// Checks an element and all that it holds. The attributes are those of the elements in its list.
+    void checkContentsOf(FlatNode element, const AttributeList *attributes)
     {
-        QDomNode node = document().documentElement();
-        while (!node.isNull()) {
-            checkContentsOf(node);
-            if (node.hasChildNodes()) {
-                node = node.firstChild();
-                continue;
-            }
-            while (node.nextSibling().isNull() && !node.parentNode().isNull())
-                node = node.parentNode();
-            node = node.nextSibling();
+        m_attributes.read(element);
+        for (const XmlTokens::Attribute &attribute : m_attributes.all()) {
+            // A file is Latin-1 text, so only references lead to characters that it cannot hold.
+            if (attribute.value.hasReferences)
+                checkText(element, XmlPiece{attribute.name}.toString(), attribute.value.toString());
+        }
+        const QString name = element.tagName();
+        checkNumbers(element, attributes);
+        checkNumbers(element, jobFileAttributes().ofElement.value(name));
+        const AttributeList *attributesOfChildren = jobFileAttributes().inList.value(name);
+        for (FlatNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+            if (child.isElement())
+                checkContentsOf(child, attributesOfChildren);
+            else
+                checkText(element, tr("text"), child.text());
         }
     }
 
-    void checkContentsOf(const QDomNode &node)
+    void checkNumbers(FlatNode element, const AttributeList *attributes)
     {
-        const QDomElement element = node.toElement();
-        if (element.isNull()) {
-            checkText(node.parentNode().toElement(), tr("text"), node.nodeValue());
+        if (attributes == nullptr)
             return;
-        }
-        const QDomNamedNodeMap attributes = element.attributes();
-        for (int i = 0; i < attributes.count(); ++i) {
-            const QDomAttr attribute = attributes.item(i).toAttr();
-            checkText(element, attribute.name(), attribute.value());
-        }
-        checkNumbers(element, jobFileAttributes().inList.value(node.parentNode().nodeName()));
-        checkNumbers(element, jobFileAttributes().ofElement.value(node.nodeName()));
-    }
-
-    void checkNumbers(const QDomElement &element, const AttributeList *attributes)
-    {
-        const QStringList names = attributes == nullptr ? QStringList() : attributes->invalidNumbers(element);
-        for (const QString &name : names) {
-            report("invalid-number", element,
-                   tr("\"%1\": \"%2\" is not a usable number").arg(name, excerpt(element.attribute(name))));
+        for (const AttributeRow &row : attributes->rows()) {
+            if (row.isValid == nullptr)
+                continue;
+            const QString value = m_attributes.attribute(row.name);
+            if (!row.isValid(value))
+                report("invalid-number", element,
+                       tr("\"%1\": \"%2\" is not a usable number").arg(row.name, excerpt(value)));
         }
     }
 
-    void checkText(const QDomElement &element, const QString &name, const QString &text)
+    void checkText(FlatNode element, const QString &name, const QString &text)
     {
-        const QString lost = firstLostCharacter(text, characterReferences());
+        const QString lost = firstLostCharacter(text, m_options.characterReferences);
         if (!lost.isEmpty())
             report("lost-character", element,
                    tr("\"%1\" contains \"%2\", which a save cannot write").arg(excerpt(name), lost));
     }
 
+    CheckOptions m_options;
     CheckReport m_report;
-    /// Lines of the elements by scope and tag.
-    QMap<QString, QMap<QString, int>> m_linesOfTags;
+    SharedTexts m_texts;
+    FlatAttributes m_attributes{&m_texts};
+    std::array<Lines, kindCount> m_linesOfTags;
     /// Cable types that have a test definition.
     std::set<QString> m_types;
     std::set<QString> m_bundles;
@@ -298,5 +343,5 @@ private:
 
 CheckReport cabledoc::checkFile(const QString &filename, const CheckOptions &options)
 {
-    return CheckedDocument(options).check(filename);
+    return DocumentCheck(options).check(filename);
 }

@@ -43,11 +43,11 @@ Document &Document::operator=(const Document &other)
 
 // Contractor and site
 
-void Document::addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent)
+void Document::addInfo(const QString &tagName, const AttributeList &attributes, const QDomElement &parent)
 {
     const QDomElement element = m_tree->ensure(tagName, parent);
-    for (const QString &attribute : attributes)
-        m_tree->addAttribute(element, attribute, QLatin1String(""));
+    for (const AttributeRow &attribute : attributes.rows())
+        m_tree->addAttribute(element, attribute.name, QLatin1String(""));
     if (element.firstChildElement(words::Address).isNull())
         m_tree->append(words::Address, element, addressAttributes(), AddressFields());
 }

@@ -31,7 +31,7 @@ public:
 
     /// Adds an element with empty attributes and an empty "Address" to the parent. If the element exists, adds only the
     /// attributes and the address that it lacks.
-    void addInfo(const QString &tagName, const QStringList &attributes, const QDomElement &parent);
+    void addInfo(const QString &tagName, const AttributeList &attributes, const QDomElement &parent);
     /// Writes an attribute of a child of the root. Does nothing if there is no such child.
     void writeInfo(const QString &tagName, const QString &attribute, const QString &value);
     /// Returns an attribute of a child of the root, or a null text if one of them is missing.

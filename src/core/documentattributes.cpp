@@ -4,10 +4,15 @@
 
 namespace cabledoc {
 
-const QStringList &contractorInfoAttributes()
+const AttributeTable<ContractorDataFields> &contractorInfoAttributes()
 {
-    static const QStringList names{words::Tester, words::Company, words::Email, words::Phone, words::Logo};
-    return names;
+    using F = ContractorDataFields;
+    static const AttributeTable<F> table{
+        attribute<&F::tester>(words::Tester), attribute<&F::company>(words::Company),
+        attribute<&F::email>(words::Email),   attribute<&F::phone>(words::Phone),
+        attribute<&F::logo>(words::Logo),
+    };
+    return table;
 }
 
 const AttributeTable<AddressFields> &addressAttributes()
@@ -130,7 +135,7 @@ const FileAttributes &documentFileAttributes()
          {words::PrintSettingsList, &printSettingsAttributes()},
          {words::PageSettingsList, &pageSettingsAttributes()},
          {words::ScaleSettingsList, &scaleSettingsAttributes()}},
-        {{words::Address, &addressAttributes()}},
+        {{words::Address, &addressAttributes()}, {words::ContractorInfo, &contractorInfoAttributes()}},
     };
     return attributes;
 }
@@ -142,7 +147,6 @@ xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes)
         order.inContainer.insert(list.key(), list.value()->names());
     for (auto element = attributes.ofElement.cbegin(); element != attributes.ofElement.cend(); ++element)
         order.ofElement.insert(element.key(), element.value()->names());
-    order.ofElement.insert(words::ContractorInfo, contractorInfoAttributes());
     return order;
 }
 

@@ -3,6 +3,7 @@
 #include "address.h"
 #include "attributetable.h"
 #include "bundledcable.h"
+#include "contractordata.h"
 #include "pagesettings.h"
 #include "printsettings.h"
 #include "scalesettings.h"
@@ -13,8 +14,8 @@
 
 namespace cabledoc {
 
-/// Returns the attributes of the contractor in the order in which the file has them.
-const QStringList &contractorInfoAttributes();
+/// Returns the attributes of the contractor. The address is an element of its own.
+const AttributeTable<ContractorDataFields> &contractorInfoAttributes();
 const AttributeTable<AddressFields> &addressAttributes();
 const AttributeTable<TestDefFields> &testDefAttributes();
 
@@ -39,7 +40,7 @@ struct FileAttributes
 };
 /// Returns the attributes of all elements that both documents have.
 const FileAttributes &documentFileAttributes();
-/// Returns the order of the given attributes and of the attributes of the contractor.
+/// Returns the order of the given attributes.
 xmlfile::AttributeOrder attributeOrder(const FileAttributes &attributes);
 
 } // namespace cabledoc

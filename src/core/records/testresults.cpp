@@ -29,7 +29,7 @@ TestResults::TestResults(const QString &time, const QString &status, const QStri
 TestResults::TestResults(const QString &time, const QString &softwareVersion, const QString &serialNumber,
                          const QString &status, int bertErrors, const cable_struct &results,
                          const TRUEPHY_PLOT_DATA &next, const TRUEPHY_PLOT_DATA &echo, const TRUEPHY_PLOT_DATA &channel)
-    : Record({time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel})
+    : Record({{time, softwareVersion, serialNumber, status, bertErrors, results}, next, echo, channel})
 {
 }
 
@@ -49,9 +49,14 @@ void TestResults::initializeResponsePlotData()
 
 int TestResults::cableLength() const
 {
+    return cabledoc::shortestReading(m_fields.results);
+}
+
+int cabledoc::shortestReading(const cable_struct &results)
+{
     constexpr int notMeasured = 60000;
     int shortest = notMeasured;
-    for (const qint32 length : m_fields.results.pair_length) {
+    for (const qint32 length : results.pair_length) {
         if (length > 0 && length < shortest)
             shortest = length;
     }

@@ -8,8 +8,8 @@
 
 namespace cabledoc {
 
-/// The fields of a TestResults.
-struct TestResultsFields
+/// The fields of a TestResults without the response curves.
+struct MeasurementFields
 {
     /// Time of the test.
     QString time;
@@ -23,6 +23,21 @@ struct TestResultsFields
     int bertErrors = -1;
     /// Wire map and measurements of the pairs.
     cable_struct results = cable_struct::untested();
+};
+
+/// Returns all fields. Records are compared by them.
+inline auto members(const MeasurementFields &fields)
+{
+    const auto &[time, softwareVersion, serialNumber, status, bertErrors, results] = fields;
+    return std::tie(time, softwareVersion, serialNumber, status, bertErrors, results);
+}
+
+/// Returns the shortest length reading of all pairs that is above 0 and below 60000, or -1 if there is none.
+CABLEDOC_EXPORT int shortestReading(const cable_struct &results);
+
+/// The fields of a TestResults.
+struct TestResultsFields : MeasurementFields
+{
     /// Curve of the near-end crosstalk.
     TRUEPHY_PLOT_DATA next = {};
     /// Curve of the echo.
@@ -34,8 +49,8 @@ struct TestResultsFields
 /// Returns all fields. Records are compared by them.
 inline auto members(const TestResultsFields &fields)
 {
-    const auto &[time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel] = fields;
-    return std::tie(time, softwareVersion, serialNumber, status, bertErrors, results, next, echo, channel);
+    return std::tuple_cat(members(static_cast<const MeasurementFields &>(fields)),
+                          std::tie(fields.next, fields.echo, fields.channel));
 }
 
 } // namespace cabledoc

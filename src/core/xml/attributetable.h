@@ -9,6 +9,7 @@
 #include <QtXml/QDomElement>
 
 #include <initializer_list>
+#include <type_traits>
 
 namespace cabledoc {
 
@@ -29,7 +30,7 @@ struct AttributeRow
     WhenMissing whenMissing;
     QString (*text)(const void *fields);              ///< null if writing a record leaves the attribute alone
     void (*parse)(const QString &text, void *fields); ///< null if reading a record leaves the field alone
-    bool (*isValid)(const QString &text);             ///< whether the field can hold the number in the text
+    bool (*isValid)(const QString &text);             ///< whether the field holds the number, null if it holds any text
 };
 
 /// An attribute of a kind of element whose records have these fields.
@@ -50,10 +51,15 @@ template <auto Field, typename Fields> auto &fieldIn(void *fields)
     return static_cast<Fields *>(fields)->*Field;
 }
 
-/// Returns whether the field of the record can hold the number in the text.
-template <auto Field> bool holdsNumber(const QString &text)
+/// Returns the function that tells whether the field of the record can hold the number in a text. Returns null if the
+/// field can hold any text.
+template <auto Field> constexpr auto numberTest() -> bool (*)(const QString &text)
 {
-    return holdsNumber(text, decltype(pointerTo(Field))(nullptr));
+    using Value = std::remove_const_t<std::remove_pointer_t<decltype(pointerTo(Field))>>;
+    if constexpr (std::is_arithmetic_v<Value> && !std::is_same_v<Value, bool>)
+        return [](const QString &text) { return holdsNumber(text, static_cast<const Value *>(nullptr)); };
+    else
+        return nullptr;
 }
 
 /// Returns the row of an attribute that holds a field of the record. The default of the attribute is the default of the
@@ -64,7 +70,7 @@ Attribute<Fields> attribute(const QString &name, WhenMissing whenMissing = WhenM
     return {{name, toText(Fields().*Field), whenMissing,
              [](const void *fields) { return toText(fieldIn<Field, Fields>(fields)); },
              [](const QString &text, void *fields) { fromText(text, &fieldIn<Field, Fields>(fields)); },
-             holdsNumber<Field>}};
+             numberTest<Field>()}};
 }
 
 /// Returns the row of an attribute that holds a number. The number loses its fraction when it is written.
@@ -88,9 +94,9 @@ template <auto Field, typename Fields = decltype(fieldsOf(Field))> Attribute<Fie
 }
 
 /// Returns the row of an attribute that is read with the record, but not written with it. New elements lack it.
-template <auto Field> auto readOnly(const QString &name)
+template <auto Field, typename Fields = decltype(fieldsOf(Field))> Attribute<Fields> readOnly(const QString &name)
 {
-    auto row = attribute<Field>(name);
+    Attribute<Fields> row = attribute<Field, Fields>(name);
     row.text = nullptr;
     return row;
 }
@@ -99,7 +105,7 @@ template <auto Field> auto readOnly(const QString &name)
 /// it.
 template <typename Fields> Attribute<Fields> onDemand(const QString &name, const QString &defaultText)
 {
-    return {{name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, [](const QString &) { return true; }}};
+    return {{name, defaultText, WhenMissing::UseDefault, nullptr, nullptr, nullptr}};
 }
 
 /// The attributes of one kind of element, in the order in which the file has them.
@@ -110,11 +116,15 @@ public:
     QStringList names() const;
     /// Returns the default of the attribute with the given name, or an empty text if the list lacks it.
     QString defaultText(const QString &name) const;
-    /// Returns the names of the attributes of the element whose numbers their fields cannot hold.
-    QStringList invalidNumbers(const QDomElement &element) const;
 
 protected:
-    void readInto(void *fields, const QDomElement &element) const;
+    template <typename Element> void readInto(void *fields, const Element &element) const
+    {
+        for (const AttributeRow &row : m_rows) {
+            if (row.parse != nullptr && element.hasAttribute(row.name))
+                row.parse(element.attribute(row.name), fields);
+        }
+    }
 
     QVector<AttributeRow> m_rows;
 };
@@ -126,19 +136,25 @@ template <typename FieldsType> class AttributeTable : public AttributeList
 public:
     using Fields = FieldsType;
 
-    AttributeTable(std::initializer_list<Attribute<Fields>> attributes)
+    AttributeTable(std::initializer_list<Attribute<Fields>> attributes) { append(attributes); }
+
+    /// Adds attributes after the others.
+    void append(std::initializer_list<Attribute<Fields>> attributes)
     {
         for (const Attribute<Fields> &attribute : attributes)
             m_rows.append(attribute);
     }
 
-    /// Returns the fields that the element holds, with defaults for those that it lacks.
-    Fields read(const QDomElement &element) const
+    /// Returns the fields that the element holds, with defaults for those that it lacks. The element is a QDomElement,
+    /// or the FlatAttributes of one.
+    template <typename Element> Fields read(const Element &element) const
     {
         Fields fields;
         readInto(&fields, element);
         return fields;
     }
+    /// Reads the fields that the element holds. The others stay as they are.
+    template <typename Element> void read(Fields *fields, const Element &element) const { readInto(fields, element); }
 };
 
 } // namespace cabledoc

@@ -4,8 +4,33 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 
 namespace cabledoc {
+
+namespace {
+
+/// Reads a number in the plain form that nearly all files have: digits, with a sign or a point at most. Returns false
+/// if the text has another form or the number is too large. This takes a small part of the time of Qt's functions, and
+/// the value is the same.
+template <typename Number> bool isPlainNumber(const QString &text, Number *value)
+{
+    std::array<char, 24> bytes{};
+    if (text.isEmpty() || std::size_t(text.size()) > bytes.size())
+        return false;
+    char *end = bytes.data();
+    for (const QChar character : text) {
+        const char16_t unit = character.unicode();
+        const bool isFirst = end == bytes.data();
+        if (!(unit >= u'0' && unit <= u'9') && !(unit == u'-' && isFirst) && !(unit == u'.' && !isFirst))
+            return false;
+        *end++ = char(unit);
+    }
+    const auto [rest, error] = std::from_chars(bytes.data(), end, *value);
+    return error == std::errc() && rest == end && *(end - 1) != '.';
+}
+
+} // namespace
 
 QString toText(int value)
 {
@@ -34,7 +59,8 @@ QString toText(double value)
 
 void fromText(const QString &text, int *value)
 {
-    *value = text.toInt();
+    if (!isPlainNumber(text, value))
+        *value = text.toInt();
 }
 
 void fromText(const QString &text, float *value)
@@ -49,7 +75,8 @@ void fromText(const QString &text, bool *value)
 
 void fromText(const QString &text, double *value)
 {
-    *value = text.toDouble();
+    if (!isPlainNumber(text, value))
+        *value = text.toDouble();
 }
 
 bool holdsNumber(const QString &text, const int *)

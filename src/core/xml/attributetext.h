@@ -29,15 +29,10 @@ void fromText(const QString &text, double *value);
 /// Reads a flag. The value is true only if the text is "1".
 void fromText(const QString &text, bool *value);
 
-/// Returns whether the text is empty or a number that a value of this kind can hold. Strings and lists can hold any
-/// text.
+/// Returns whether the text is empty or a number that a value of this kind can hold.
 bool holdsNumber(const QString &text, const int *);
 bool holdsNumber(const QString &text, const float *);
 bool holdsNumber(const QString &text, const double *);
-inline bool holdsNumber(const QString &, const void *)
-{
-    return true;
-}
 
 /// Returns the entries of a list, which are separated by commas. An empty text has no entries.
 QStringList entriesIn(const QString &text);

@@ -1,43 +1,16 @@
 #include "treebuilder.h"
 
 #include "qtcompat.h"
+#include "sharedtexts.h"
 #include "xmlscan.h"
-#include "xmltokens.h"
 
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
-#include <array>
 
 namespace cabledoc {
 
 namespace {
-
-/// Short texts that a file repeats, such as the names of attributes. They share their memory.
-class SharedTexts
-{
-public:
-    QString text(std::string_view bytes)
-    {
-        const QLatin1String latin1(bytes.data(), int(bytes.size()));
-        if (bytes.size() > longestShared)
-            return latin1;
-        std::size_t hash = bytes.size();
-        for (const char byte : bytes)
-            hash = hash * 31 + quint8(byte);
-        QString &shared = m_texts[hash % m_texts.size()];
-        if (shared != latin1)
-            shared = latin1;
-        return shared;
-    }
-
-    QString text(const XmlPiece &piece) { return piece.hasReferences ? piece.toString() : text(piece.bytes); }
-
-private:
-    static constexpr std::size_t longestShared = 32;
-
-    std::array<QString, 4096> m_texts;
-};
 
 bool isAscii(const QByteArray &bytes)
 {

@@ -1,6 +1,7 @@
 #include "xmlfile.h"
 
 #include "treebuilder.h"
+#include "words.h"
 
 namespace cabledoc::xmlfile {
 
@@ -31,6 +32,18 @@ ReadResult read(const QString &fileName, const QString &documentTypeName, qint64
         result.document = QDomDocument(documentTypeName);
     }
     return result;
+}
+
+std::optional<FlatTree> readCurrent(const QString &fileName, const QStringList &rootNames, qint64 maximumSize)
+{
+    const FileContent content = readContent(fileName, maximumSize);
+    std::optional<FlatTree> tree = content.error.isEmpty() ? FlatTree::fromText(content.bytes) : std::nullopt;
+    if (!tree)
+        return std::nullopt;
+    FlatAttributes version;
+    version.read(tree->root().firstChildElement(words::Version));
+    const bool isCurrent = version.attribute(words::Number) == words::CurrentVersion;
+    return isCurrent && rootNames.contains(tree->root().tagName()) ? std::move(tree) : std::nullopt;
 }
 
 SaveOutcome save(const QString &fileName, const QDomDocument &document, const AttributeOrder &order,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filereplacement.h"
+#include "flattree.h"
 #include "xmlscan.h"
 
 #include <QtCore/QByteArray>
@@ -47,6 +48,10 @@ enum class LineNumbers {
 /// name.
 ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize,
                 LineNumbers lineNumbers = LineNumbers::Leave);
+
+/// Reads a file of the current version whose root has one of the given names. Returns nothing if the file is not of
+/// that kind, does not have the form of a save, or cannot be read. Then read() has to read it, or tell why it cannot.
+std::optional<FlatTree> readCurrent(const QString &fileName, const QStringList &rootNames, qint64 maximumSize);
 
 /// The order in which the attributes of elements are written. All other attributes follow in the order of their names.
 struct AttributeOrder

@@ -79,10 +79,7 @@ std::optional<Reference> numericReference(std::string_view text)
     if (!std::all_of(number.begin(), number.end(), [](char c) { return is(c, ContinuesName) && c != '-' && c != '_'; }))
         return std::nullopt;
     const char32_t character = QByteArray(number.data(), int(number.size())).toUInt(&isNumber, isHexadecimal ? 16 : 10);
-    if (!isNumber || character > 0x10FFFF
-        || !(character <= 0xFF ? isStorable(char16_t(character)) : isReferable(character)))
-        return std::nullopt;
-    return Reference{character, end + 1};
+    return isNumber && character <= 0x10FFFF ? std::optional<Reference>({character, end + 1}) : std::nullopt;
 }
 
 std::optional<Reference> referenceAt(std::string_view text)
@@ -94,6 +91,11 @@ std::optional<Reference> referenceAt(std::string_view text)
             return Reference{char32_t(named.character), named.name.size()};
     }
     return std::nullopt;
+}
+
+bool mayBeReferred(char32_t character)
+{
+    return character <= 0xFF ? isStorable(char16_t(character)) : isReferable(character);
 }
 
 } // namespace
@@ -111,7 +113,10 @@ QString XmlPiece::toString() const
         if (rest.empty())
             break;
         const std::optional<Reference> reference = referenceAt(rest.substr(1));
-        text += QString::fromUcs4(&reference->character, 1);
+        if (reference->character > 0xFFFF)
+            text += QString::fromUcs4(&reference->character, 1);
+        else
+            text += QChar(ushort(reference->character));
         rest.remove_prefix(1 + reference->length);
     }
     return text;
@@ -162,7 +167,7 @@ XmlTokens::Token XmlTokens::startTag()
         const char *const end = m_position;
         skipBlanks();
         m_isEmptyElement = skip("/>");
-        if (m_isEmptyElement || skip(">"))
+        if (m_isEmptyElement || skip('>'))
             return hasRepeatedAttribute() ? Unknown : StartElement;
         const bool isFollowing = m_position != end && int(m_attributes.size()) < maximumAttributes;
         if (!isFollowing || !readAttribute())
@@ -172,7 +177,7 @@ XmlTokens::Token XmlTokens::startTag()
 
 XmlTokens::Token XmlTokens::endTag()
 {
-    if (m_openElements.empty() || !skip(m_openElements.back()) || !skip(">"))
+    if (m_openElements.empty() || !skip(m_openElements.back()) || !skip('>'))
         return Unknown;
     m_openElements.pop_back();
     return EndElement;
@@ -229,7 +234,7 @@ bool XmlTokens::readName(std::string_view *name)
 bool XmlTokens::readAttribute()
 {
     Attribute attribute;
-    if (!readName(&attribute.name) || !skip("=") || m_position == m_end)
+    if (!readName(&attribute.name) || !skip('=') || m_position == m_end)
         return false;
     const char quote = *m_position++;
     if (quote != '"' && quote != '\'')
@@ -257,7 +262,7 @@ bool XmlTokens::readAttribute()
 std::optional<char32_t> XmlTokens::readReference()
 {
     const std::optional<Reference> reference = referenceAt({m_position + 1, std::size_t(m_end - m_position - 1)});
-    if (!reference)
+    if (!reference || !mayBeReferred(reference->character))
         return std::nullopt;
     m_position += 1 + reference->length;
     return reference->character;
@@ -265,6 +270,16 @@ std::optional<char32_t> XmlTokens::readReference()
 
 bool XmlTokens::hasRepeatedAttribute()
 {
+    constexpr std::size_t few = 24;
+    if (m_attributes.size() <= few) {
+        // Most names already differ in their lengths, so this takes less time than sorting.
+        for (auto attribute = m_attributes.cbegin(); attribute != m_attributes.cend(); ++attribute) {
+            const auto isSame = [attribute](const Attribute &other) { return other.name == attribute->name; };
+            if (std::any_of(m_attributes.cbegin(), attribute, isSame))
+                return true;
+        }
+        return false;
+    }
     m_sortedNames.clear();
     for (const Attribute &attribute : m_attributes)
         m_sortedNames.push_back(attribute.name);
@@ -276,6 +291,14 @@ void XmlTokens::skipBlanks()
 {
     while (m_position != m_end && is(*m_position, Blank))
         ++m_position;
+}
+
+bool XmlTokens::skip(char mark)
+{
+    if (m_position == m_end || *m_position != mark)
+        return false;
+    ++m_position;
+    return true;
 }
 
 bool XmlTokens::skip(std::string_view mark)

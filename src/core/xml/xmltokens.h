@@ -3,11 +3,21 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace cabledoc {
+
+/// Returns whether both texts have the same characters.
+inline bool isEqual(const QString &text, std::string_view latin1)
+{
+    if (std::size_t(text.size()) != latin1.size())
+        return false;
+    const auto isSame = [](QChar character, char byte) { return character.unicode() == quint8(byte); };
+    return std::equal(text.cbegin(), text.cend(), latin1.begin(), isSame);
+}
 
 /// A piece of an XML text: a value or characters.
 struct XmlPiece
@@ -67,6 +77,7 @@ private:
     std::optional<char32_t> readReference();
     bool hasRepeatedAttribute();
     void skipBlanks();
+    bool skip(char mark);
     bool skip(std::string_view mark);
 
     const char *m_position;

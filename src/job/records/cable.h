@@ -8,8 +8,8 @@
 
 namespace cabledoc {
 
-/// The fields of a Cable.
-struct CableFields
+/// The fields of a Cable before its test.
+struct PlannedCableFields
 {
     /// Tag of the cable.
     QString element;
@@ -23,8 +23,6 @@ struct CableFields
     QString from;
     /// Cable type, which is the name of its test definition.
     QString type;
-    /// Results of the test of the cable.
-    TestResults testResults;
     /// Tags of the points, ports and vertical runs that the cable passes on its way from one end to the other.
     QStringList path;
     /// Name of the bundle, or empty for a cable that is not in a bundle.
@@ -40,12 +38,24 @@ struct CableFields
 };
 
 /// Returns all fields. Records are compared by them.
+inline auto members(const PlannedCableFields &fields)
+{
+    const auto &[element, id, use, to, from, type, path, bundleName, bundleNum, bundleGroupNum, color, defaultType] =
+        fields;
+    return std::tie(element, id, use, to, from, type, path, bundleName, bundleNum, bundleGroupNum, color, defaultType);
+}
+
+/// The fields of a Cable.
+struct CableFields : PlannedCableFields
+{
+    /// Results of the test of the cable.
+    TestResults testResults;
+};
+
+/// Returns all fields. Records are compared by them.
 inline auto members(const CableFields &fields)
 {
-    const auto &[element, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color,
-                 defaultType] = fields;
-    return std::tie(element, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color,
-                    defaultType);
+    return std::tuple_cat(members(static_cast<const PlannedCableFields &>(fields)), std::tie(fields.testResults));
 }
 
 } // namespace cabledoc
@@ -68,8 +78,8 @@ public:
     Cable(const QString &tag, const QString &id, const QString &use, const QString &to, const QString &from,
           const QString &type, const TestResults &testResults, const QStringList &path, const QString &bundleName,
           const QString &bundleNum, const QString &bundleGroupNum, const QString &color)
-        : Record(Fields{tag, id, use, to, from, type, testResults, path, bundleName, bundleNum, bundleGroupNum, color,
-                        false})
+        : Record(Fields{{tag, id, use, to, from, type, path, bundleName, bundleNum, bundleGroupNum, color, false},
+                        testResults})
     {
     }
 

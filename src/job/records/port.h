@@ -117,6 +117,18 @@ inline auto members(const VertRunFields &fields)
     return std::tie(connected, disconnected);
 }
 
+/// All fields of a VertRun.
+struct VertRunElementFields : PortFields, VertRunFields
+{
+};
+
+/// Returns all fields.
+inline auto members(const VertRunElementFields &fields)
+{
+    return std::tuple_cat(members(static_cast<const PortFields &>(fields)),
+                          members(static_cast<const VertRunFields &>(fields)));
+}
+
 } // namespace cabledoc
 
 /// A vertical run: a shaft through which cables pass from floor to floor. It is drawn on the plan of one floor, and

@@ -6,6 +6,39 @@
 
 namespace cabledoc {
 
+namespace {
+
+template <typename F> AttributeTable<F> cableTable()
+{
+    return {
+        attribute<&F::id, F>(words::Id),
+        attribute<&F::use, F>(words::Use),
+        attribute<&F::to, F>(words::To),
+        attribute<&F::from, F>(words::From),
+        attribute<&F::type, F>(words::Type),
+        attribute<&F::bundleName, F>(words::BundleName),
+        attribute<&F::bundleNum, F>(words::BundleNum),
+        attribute<&F::bundleGroupNum, F>(words::BundleGroupNum),
+        attribute<&F::color, F>(words::Color),
+        attribute<&F::path, F>(words::Path),
+        readOnly<&F::defaultType, F>(words::DefaultType),
+    };
+}
+
+template <typename F> AttributeTable<F> measurementTable()
+{
+    return {
+        attribute<&F::status, F>(words::Status),
+        attribute<&F::softwareVersion, F>(words::SoftwareVersion, WhenMissing::AddDefault),
+        attribute<&F::serialNumber, F>(words::Serial, WhenMissing::AddDefault),
+        attribute<&F::time, F>(words::Time),
+        attribute<&F::results, F>(words::TestData, WhenMissing::AddDefault),
+        attribute<&F::bertErrors, F>(words::BertErrors, WhenMissing::AddDefault),
+    };
+}
+
+} // namespace
+
 const AttributeTable<FloorFields> &floorAttributes()
 {
     using F = FloorFields;
@@ -46,37 +79,32 @@ const AttributeTable<RoomFields> &roomAttributes()
 
 const AttributeTable<CableFields> &cableAttributes()
 {
-    using F = CableFields;
-    static const AttributeTable<F> table{
-        attribute<&F::id>(words::Id),
-        attribute<&F::use>(words::Use),
-        attribute<&F::to>(words::To),
-        attribute<&F::from>(words::From),
-        attribute<&F::type>(words::Type),
-        attribute<&F::bundleName>(words::BundleName),
-        attribute<&F::bundleNum>(words::BundleNum),
-        attribute<&F::bundleGroupNum>(words::BundleGroupNum),
-        attribute<&F::color>(words::Color),
-        attribute<&F::path>(words::Path),
-        readOnly<&F::defaultType>(words::DefaultType),
-    };
+    static const auto table = cableTable<CableFields>();
+    return table;
+}
+
+const AttributeTable<PlannedCableFields> &plannedCableAttributes()
+{
+    static const auto table = cableTable<PlannedCableFields>();
+    return table;
+}
+
+const AttributeTable<MeasurementFields> &measurementAttributes()
+{
+    static const auto table = measurementTable<MeasurementFields>();
     return table;
 }
 
 const AttributeTable<TestResultsFields> &testResultsAttributes()
 {
     using F = TestResultsFields;
-    static const AttributeTable<F> table{
-        attribute<&F::status>(words::Status),
-        attribute<&F::softwareVersion>(words::SoftwareVersion, WhenMissing::AddDefault),
-        attribute<&F::serialNumber>(words::Serial, WhenMissing::AddDefault),
-        attribute<&F::time>(words::Time),
-        attribute<&F::results>(words::TestData, WhenMissing::AddDefault),
-        attribute<&F::bertErrors>(words::BertErrors, WhenMissing::AddDefault),
-        attribute<&F::echo>(words::Echo, WhenMissing::AddDefault),
-        attribute<&F::next>(words::Next, WhenMissing::AddDefault),
-        attribute<&F::channel>(words::Chan, WhenMissing::AddDefault),
-    };
+    static const AttributeTable<F> table = [] {
+        AttributeTable<F> all = measurementTable<F>();
+        all.append({attribute<&F::echo>(words::Echo, WhenMissing::AddDefault),
+                    attribute<&F::next>(words::Next, WhenMissing::AddDefault),
+                    attribute<&F::channel>(words::Chan, WhenMissing::AddDefault)});
+        return all;
+    }();
     return table;
 }
 
@@ -187,10 +215,15 @@ const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes()
     return table;
 }
 
-const QStringList &siteInfoAttributes()
+const AttributeTable<SiteDataFields> &siteInfoAttributes()
 {
-    static const QStringList names{words::Phone, words::JobID, words::Company, words::Email, words::Contact};
-    return names;
+    using F = SiteDataFields;
+    static const AttributeTable<F> table{
+        attribute<&F::phone>(words::Phone),     attribute<&F::jobID>(words::JobID),
+        attribute<&F::company>(words::Company), attribute<&F::email>(words::Email),
+        attribute<&F::contact>(words::Contact),
+    };
+    return table;
 }
 
 QString storedCableUse(const QString &use)

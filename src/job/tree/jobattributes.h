@@ -11,20 +11,18 @@
 #include "port.h"
 #include "room.h"
 #include "sheet.h"
+#include "sitedata.h"
 #include "xmlfile.h"
 
 namespace cabledoc {
-
-/// The fields of the element of a vertical run.
-struct VertRunElementFields : PortFields, VertRunFields
-{
-};
 
 const AttributeTable<FloorFields> &floorAttributes();
 const AttributeTable<SheetFields> &sheetAttributes();
 const AttributeTable<RoomFields> &roomAttributes();
 const AttributeTable<CableFields> &cableAttributes();
+const AttributeTable<PlannedCableFields> &plannedCableAttributes();
 const AttributeTable<TestResultsFields> &testResultsAttributes();
+const AttributeTable<MeasurementFields> &measurementAttributes();
 const AttributeTable<DeviceConnectionFields> &connectionAttributes();
 const AttributeTable<PortFields> &portAttributes();
 const AttributeTable<VertRunElementFields> &vertRunAttributes();
@@ -39,7 +37,8 @@ const AttributeTable<ActiveTestResultFields> &activeTestResultAttributes();
 /// Returns the status of a cable's test. Returns "UNTESTED" if the cable has no results, or if the results lack a
 /// status.
 QString testStatus(const QDomElement &cable);
-const QStringList &siteInfoAttributes();
+/// Returns the attributes of the site. Its address is an element of its own.
+const AttributeTable<SiteDataFields> &siteInfoAttributes();
 /// Returns the text that is stored for the use of a cable.
 QString storedCableUse(const QString &use);
 

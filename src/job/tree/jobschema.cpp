@@ -2,6 +2,8 @@
 
 #include "jobwords.h"
 
+#include <algorithm>
+
 namespace cabledoc {
 
 using Element = ElementKind;
@@ -136,12 +138,11 @@ QStringList Reference::tagsIn(const QString &text) const
     return text.isEmpty() ? QStringList() : QStringList(text);
 }
 
-QDomElement ElementSchema::listIn(const QDomElement &parent) const
+const QVector<ElementKind> &ElementSchema::targetsOf(const QString &attribute) const
 {
-    QDomElement element = parent;
-    for (const QString &name : list)
-        element = element.firstChildElement(name);
-    return element;
+    return std::find_if(references.cbegin(), references.cend(),
+                        [&attribute](const Reference &reference) { return reference.attributes.contains(attribute); })
+        ->targets;
 }
 
 ElementKind kindOf(const QDomElement &element)
@@ -197,6 +198,7 @@ const FileAttributes &jobFileAttributes()
             all.inList.insert(row->listName(), &row->attributes);
         all.ofElement.insert(words::ActiveTestResult, &activeTestResultAttributes());
         all.ofElement.insert(words::TestResults, &testResultsAttributes());
+        all.ofElement.insert(words::SiteInfo, &siteInfoAttributes());
         return all;
     }();
     return attributes;
@@ -204,11 +206,7 @@ const FileAttributes &jobFileAttributes()
 
 const xmlfile::AttributeOrder &jobAttributeOrder()
 {
-    static const xmlfile::AttributeOrder order = [] {
-        xmlfile::AttributeOrder all = attributeOrder(jobFileAttributes());
-        all.ofElement.insert(words::SiteInfo, siteInfoAttributes());
-        return all;
-    }();
+    static const xmlfile::AttributeOrder order = attributeOrder(jobFileAttributes());
     return order;
 }
 

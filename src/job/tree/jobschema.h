@@ -1,30 +1,12 @@
 #pragma once
 
 #include "documentattributes.h"
+#include "elementkind.h"
 #include "jobattributes.h"
 
 #include <array>
 
 namespace cabledoc {
-
-/// The kinds of elements that have tags and ids.
-enum class ElementKind {
-    Cables,
-    Connections,
-    Sheets,
-    Devices,
-    Vertices,
-    FreeTexts, ///< on sheets
-    Floors,
-    Rooms,
-    Ports,
-    ActivePorts,
-    VerticalRuns,
-    Points,
-    FloorFreeTexts,
-    Count,
-    None = Count,
-};
 
 constexpr int kindCount = int(ElementKind::Count);
 
@@ -72,8 +54,16 @@ struct ElementSchema
 
     /// Returns the name of the list itself.
     const QString &listName() const { return list.last(); }
-    /// Returns the list in an element of the holding kind, or a null element if it is missing.
-    QDomElement listIn(const QDomElement &parent) const;
+    /// Returns the list in an element of the holding kind, or a null element if it is missing. The element is a
+    /// QDomElement or a FlatNode.
+    template <typename Element> Element listIn(Element parent) const
+    {
+        for (const QString &name : list)
+            parent = parent.firstChildElement(name);
+        return parent;
+    }
+    /// Returns the kinds of elements that an attribute names. Their order is that of the search for a tag.
+    const QVector<ElementKind> &targetsOf(const QString &attribute) const;
 };
 
 /// The row of a kind, with the type of its record.
