@@ -19,6 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     }
     expect(!job.fileChanged(), "a load changes nothing");
+    expectEqualSnapshots(job, fileName);
     expect(probe.indexesMatchTheTree(), "the indexes equal their rebuild after a load");
     callEveryQuery(job);
     expect(probe.indexesMatchTheTree(), "the indexes equal their rebuild after all queries");

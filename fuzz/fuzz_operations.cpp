@@ -64,6 +64,7 @@ void compareAll(Session *session)
     compareElements(session->job, &session->file);
     compareCables(session->job, &session->file);
     compareContents(session->job, &session->file);
+    compareSnapshot(session->job, &session->file);
     expect(JobEditorProbe(session->job).text() == text, "these queries change nothing");
 }
 
@@ -100,5 +101,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             compareAll(&session);
     }
     compareAll(&session);
+    job.setCharacterReferences(true);
+    expect(job.saveAs(fileName), "the job can be saved");
+    expectEqualSnapshots(job, fileName);
     return 0;
 }

@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <cstdint>
 
+class JobEditor;
+
 /// Functions that all fuzzers use. Each fuzzer runs one input. libFuzzer makes the inputs.
 
 /// Reports what is wrong, and ends the process.
@@ -26,3 +28,6 @@ QString inputFile(const char *name, const std::uint8_t *data, std::size_t size);
 
 /// Returns whether two trees have the same content in the same order. The order of attributes does not count.
 bool equalTrees(const QDomNode &a, const QDomNode &b);
+
+/// Expects that the snapshot of a job equals that of the file from which it was loaded or to which it was saved.
+void expectEqualSnapshots(const JobEditor &job, const QString &fileName);

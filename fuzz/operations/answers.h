@@ -13,3 +13,5 @@ void compareElements(const JobEditor &job, PlainJob *file);
 void compareCables(const JobEditor &job, PlainJob *file);
 /// Compares the contractor, the site, notes, releases, test definitions and bundles.
 void compareContents(const JobEditor &job, PlainJob *file);
+/// Compares a snapshot of the job.
+void compareSnapshot(const JobEditor &document, PlainJob *file);

@@ -19,6 +19,11 @@ public:
     /// Returns the private data of a job document.
     static JobEditorPrivate &of(const JobEditor &job) { return *job.d; }
 
+    /// Returns a new empty document.
+    static std::shared_ptr<JobEditor> newDocument()
+    {
+        return std::shared_ptr<JobEditor>(new JobEditor, [](JobEditor *job) { delete job; });
+    }
     /// Returns what generated ids of cables begin with, in the present language.
     static QString cableIdPrefix();
     /// Adds an element, as JobTree::add() does. Returns a null element and sets error() if a given tag cannot be the

@@ -1,4 +1,4 @@
-#include "bkutilities.h"
+#include "cablelength.h"
 #include "jobeditor_p.h"
 #include "jobwords.h"
 #include "units.h"
@@ -9,12 +9,6 @@
 using namespace cabledoc;
 
 namespace {
-
-/// Converts a length in feet to the length that is shown: feet rounded to tenths, or metres rounded to halves.
-float roundedLength(float feet, bool metric)
-{
-    return metric ? BKUtilities::roundToHalf(float(feet / feetInAMeter)) : BKUtilities::roundToTenths(feet);
-}
 
 /// Returns the cable with the given tag or, if there is none, the first one with that id.
 QDomElement cableOfTagOrId(const JobTree &tree, const QString &text)
@@ -30,10 +24,9 @@ TestResults readResults(JobTree *tree, const QDomElement &cable)
 }
 
 /// Returns a length reading in feet, corrected by the length constant of the cable's type.
-float correctedLength(const JobEditor &job, int reading, const QDomElement &cable)
+float lengthOf(const JobEditor &job, int reading, const QDomElement &cable)
 {
-    const int lengthConstant = job.getTestDef(cable.attribute(words::Type)).length_constant();
-    return float(reading / (lengthConstant / 100.0));
+    return correctedLength(reading, job.getTestDef(cable.attribute(words::Type)).length_constant());
 }
 
 } // namespace
@@ -64,7 +57,7 @@ float JobEditor::getRoundedCableLength(const QString &cable, int pair, bool metr
     const cable_struct results = readResults(&d->tree, element).results();
     if (pair < 0 || pair >= int(std::size(results.pair_length)))
         return 0.0F;
-    return roundedLength(correctedLength(*this, results.pair_length[pair], element), metric);
+    return shownLength(lengthOf(*this, results.pair_length[pair], element), metric);
 }
 
 float JobEditor::getMaxRoundedCableLength(const QString &cable, bool metric, bool uncorrected)
@@ -72,7 +65,7 @@ float JobEditor::getMaxRoundedCableLength(const QString &cable, bool metric, boo
     const QDomElement element = cableOfTagOrId(d->tree, cable);
     const int reading = readResults(&d->tree, element).cableLength();
     if (!uncorrected)
-        return roundedLength(correctedLength(*this, reading, element), metric);
+        return shownLength(lengthOf(*this, reading, element), metric);
     const float feet = reading < 0 ? 0.0F : float(reading);
     // Metres are truncated to whole ones, and not rounded.
     return metric ? float(std::trunc(feet / feetInAMeter)) : feet;

@@ -1,4 +1,5 @@
 #include "jobeditorprobe.h"
+#include "jobsnapshot.h"
 #include "operations.h"
 #include "testcases.h"
 
@@ -252,6 +253,7 @@ private Q_SLOTS:
         }
         const QByteArray text = probe.text();
         QVERIFY(job.save());
+        QVERIFY(cabledoc::JobSnapshot::read(name) == cabledoc::JobSnapshot(job));
         QVERIFY2(job.Load(name), qPrintable(job.error()));
         QCOMPARE(probe.text(), text);
         QCOMPARE(readFile(name), text);
