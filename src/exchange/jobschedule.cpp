@@ -1,13 +1,12 @@
 #include "jobschedule.h"
 
-#include "childelements.h"
 #include "jobattributes.h"
-#include "jobeditor.h"
 #include "jobwords.h"
 #include "qtcompat.h"
 #include "xmlnames.h"
 
 #include <algorithm>
+#include <set>
 
 namespace cabledoc {
 
@@ -17,131 +16,127 @@ namespace {
 /// for numbers.
 constexpr double maximumBottom = 1e6;
 
-QDomElement floorList(const JobEditor &job)
-{
-    return job.getToCableList().parentNode().firstChildElement(words::FloorList);
-}
-
-QRectF areaOf(const QDomElement &room)
-{
-    const RoomFields fields = roomAttributes().read(room);
-    return {fields.x, fields.y, fields.width, fields.height};
-}
-
 } // namespace
 
-bool JobSchedule::hasLists(const JobEditor &job)
-{
-    return !floorList(job).isNull();
-}
-
-JobSchedule::JobSchedule(const JobEditor &job)
+JobSchedule::JobSchedule(const JobSnapshot &job, bool characterReferences)
     : m_job(job)
+    , m_characterReferences(characterReferences)
 {
     findRooms();
-    // A tag that a port and a vertical run share leads to the port.
-    findEnds(words::PortList);
-    findEnds(words::VerticalRunList);
+    m_endOfPort = endsOf(job.ports(), ElementKind::Ports);
+    m_endOfRun = endsOf(job.verticalRuns(), ElementKind::VerticalRuns);
     findCables();
-    const QVector<TestDef> definitions = job.getTestDefs();
-    for (const TestDef &definition : definitions)
-        m_colorOfType.insert(definition.id(), definition.color());
 }
 
 void JobSchedule::findRooms()
 {
-    const QVector<QDomElement> reachable = reachableChildren(floorList(m_job));
-    for (const QDomElement &floor : reachable)
-        findRoomsOf(floor);
+    m_nameOfRoom.resize(m_job.rooms().size());
+    int position = 0;
+    for (const snapshot::Floor &floor : m_job.floors()) {
+        if (m_job.positionOfTag(ElementKind::Floors, floor.element) == position++)
+            findRoomsOf(floor);
+    }
 }
 
-void JobSchedule::findRoomsOf(const QDomElement &floor)
+void JobSchedule::findRoomsOf(const snapshot::Floor &floor)
 {
-    const QString floorId = storedText(floor, words::Id);
+    const QString floorId = storedText(floor.id);
     if (!floors.contains(floorId))
-        floors.insert(floorId, {floor.tagName(), floor, 0.0, 0});
+        floors.insert(floorId, {floor.element, 0.0, 0});
     double &bottom = floors[floorId].bottom;
-    const QVector<QDomElement> reachable = reachableChildren(floor.firstChildElement(words::RoomList));
-    for (const QDomElement &room : reachable) {
+    std::set<QString> tags;
+    for (int position = floor.rooms.first; position < floor.rooms.end(); ++position) {
+        const snapshot::Room &room = m_job.rooms().at(position);
+        if (!tags.insert(room.element).second)
+            continue;
         const QString name = roomName(room);
-        const QRectF area = areaOf(room);
-        rooms.insert({{floorId, name}, {floor.tagName(), room.tagName(), area, 0}});
+        const QRectF area(room.x, room.y, room.width, room.height);
+        const auto place = rooms.insert({{floorId, name}, {floor.element, room.element, area, 0}}).first;
+        place->second.ports += room.ports.count + room.verticalRuns.count;
         bottom = std::clamp(area.bottom(), bottom, maximumBottom);
-        m_rooms.append({room, {floorId, name, QString()}});
+        m_nameOfRoom[position] = {floorId, name, QString()};
     }
 }
 
-void JobSchedule::findEnds(const QString &listName)
+/// Returns the ends at ports or vertical runs. They are empty where an end has no name.
+template <typename Elements> QVector<CableEnd> JobSchedule::endsOf(const Elements &elements, ElementKind kind)
 {
-    for (const FoundRoom &room : std::as_const(m_rooms)) {
-        for (const QDomElement &element : ChildElements(room.element.firstChildElement(listName))) {
-            CableEnd end = room.name;
-            end.port = storedText(element, words::Id);
-            ++rooms[{end.floor, end.room}].ports;
-            addEnd(element.tagName(), end);
-        }
+    QVector<CableEnd> ends;
+    for (const auto &element : elements) {
+        CableEnd end = m_nameOfRoom.at(element.holder);
+        end.port = storedText(element.id);
+        const bool hasName = !end.floor.isEmpty() && !end.port.isEmpty();
+        // A tag that a port and a vertical run share leads to the port.
+        const bool isFound =
+            m_job.positionOfTag(kind, element.element) == int(ends.size())
+            && (kind == ElementKind::Ports || m_job.positionOfTag(ElementKind::Ports, element.element) < 0);
+        ends.append(hasName ? end : CableEnd());
+        if (hasName && isFound)
+            tagOfEnd.insert({end, element.element});
     }
-}
-
-void JobSchedule::addEnd(const QString &tag, const CableEnd &end)
-{
-    if (m_endOfTag.contains(tag))
-        return;
-    const bool hasName = !end.floor.isEmpty() && !end.port.isEmpty();
-    m_endOfTag.insert(tag, hasName ? end : CableEnd());
-    if (hasName)
-        tagOfEnd.insert({end, tag});
+    return ends;
 }
 
 void JobSchedule::findCables()
 {
-    const QVector<QDomElement> reachable = reachableChildren(m_job.getToCableList());
-    for (const QDomElement &cable : reachable) {
-        const QString id = storedText(cable, words::Id);
-        if (id.isEmpty() || cableOfId.contains(id))
+    int position = 0;
+    for (const snapshot::Cable &cable : m_job.cables()) {
+        const int number = position++;
+        const QString id = storedText(cable.id);
+        if (id.isEmpty() || cableOfId.contains(id) || m_job.positionOfTag(ElementKind::Cables, cable.element) != number)
             continue;
-        cableOfId.insert(id, cable);
-        cables.append(cable);
+        cableOfId.insert(id, number);
+        cables.append(number);
     }
 }
 
-/// Returns the attribute as a save would write it.
-QString JobSchedule::storedText(const QDomElement &element, const QString &attribute) const
+/// Returns the text as a save would write it.
+QString JobSchedule::storedText(const QString &text) const
 {
-    return savedText(element.attribute(attribute), m_job.characterReferences());
+    return savedText(text, m_characterReferences);
 }
 
-QString JobSchedule::roomName(const QDomElement &room) const
+/// Returns the id of a room, or an empty string for "Undefined".
+QString JobSchedule::roomName(const snapshot::Room &room) const
 {
-    const QString id = storedText(room, words::Id);
-    return room.tagName() == words::Undefined || id == words::Undefined ? QString() : id;
+    const QString id = storedText(room.id);
+    return room.element == words::Undefined || id == words::Undefined ? QString() : id;
 }
 
-ScheduleRow JobSchedule::row(const QDomElement &cable) const
+CableEnd JobSchedule::endAt(const snapshot::Target &target) const
 {
-    const CableEnd from = m_endOfTag.value(cable.attribute(words::From));
-    const CableEnd to = m_endOfTag.value(cable.attribute(words::To));
-    const QString type = storedText(cable, words::Type);
-    return {storedText(cable, words::Id),
+    if (!target.exists())
+        return CableEnd();
+    return (target.kind == ElementKind::Ports ? m_endOfPort : m_endOfRun).at(target.position);
+}
+
+ScheduleRow JobSchedule::row(int position) const
+{
+    const snapshot::Cable &cable = m_job.cables().at(position);
+    const CableEnd from = endAt(cable.fromTarget);
+    const CableEnd to = endAt(cable.toTarget);
+    const QString type = storedText(cable.type);
+    return {storedText(cable.id),
             type,
-            storedCableUse(storedText(cable, words::Use)),
+            storedCableUse(storedText(cable.use)),
             from.floor,
             from.room,
             from.port,
             to.floor,
             to.room,
             to.port,
-            storedText(cable, words::BundleName),
-            storedText(cable, words::BundleNum),
-            storedText(cable, words::BundleGroupNum),
-            color(storedText(cable, words::Color), type)};
+            storedText(cable.bundleName),
+            storedText(cable.bundleNum),
+            storedText(cable.bundleGroupNum),
+            color(storedText(cable.color), type)};
 }
 
 QString JobSchedule::color(const QString &text, const QString &type) const
 {
     if (qtcompat::isColorName(text))
         return text;
-    const QString ofType = m_colorOfType.value(type);
+    const int definition = m_job.definitionOfName(type);
+    const QString ofType = definition < 0 ? QString() : m_job.definitions().at(definition).color;
     return qtcompat::isColorName(ofType) ? ofType : TestDefFields().color;
 }
 

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "jobsnapshot.h"
 #include "schedulerow.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
-#include <QtXml/QDomElement>
 
 #include <map>
 #include <utility>
-
-class JobEditor;
 
 namespace cabledoc {
 
@@ -18,8 +16,6 @@ namespace cabledoc {
 struct FloorPlace
 {
     QString tag;
-    /// The floor's element, or a null element if the import has just added the floor.
-    QDomElement element;
     /// Bottom edge of the lowest room, in plan pixels.
     double bottom = 0.0;
     int newRooms = 0;
@@ -41,20 +37,20 @@ struct RoomPlace
 class JobSchedule
 {
 public:
-    /// Returns whether the job has lists of floors and of cables.
-    static bool hasLists(const JobEditor &job);
+    /// The flag tells how the job will be saved, see BKXMLEditor::setCharacterReferences().
+    JobSchedule(const JobSnapshot &job, bool characterReferences);
 
-    explicit JobSchedule(const JobEditor &job);
-
-    /// Returns the row of a cable.
-    ScheduleRow row(const QDomElement &cable) const;
+    /// Returns the row of the cable at a position in the job.
+    ScheduleRow row(int cable) const;
     /// Returns the colour of a cable with the given text as its colour and the given type.
     QString color(const QString &text, const QString &type) const;
+    /// Returns the tag of the cable at a position in the job.
+    const QString &tagOf(int cable) const { return m_job.cables().at(cable).element; }
 
-    /// Cables in document order.
-    QVector<QDomElement> cables;
-    /// Cables by their ids.
-    QMap<QString, QDomElement> cableOfId;
+    /// Positions of cables in document order.
+    QVector<int> cables;
+    /// Positions of cables by their ids.
+    QMap<QString, int> cableOfId;
     /// Floors by their ids.
     QMap<QString, FloorPlace> floors;
     /// Rooms by the id of the floor and their own id.
@@ -63,26 +59,19 @@ public:
     std::map<CableEnd, QString> tagOfEnd;
 
 private:
-    struct FoundRoom
-    {
-        QDomElement element;
-        /// Name of the room as an end without a port.
-        CableEnd name;
-    };
-
-    QString storedText(const QDomElement &element, const QString &attribute) const;
-    /// Returns the id of a room, or an empty string for "Undefined".
-    QString roomName(const QDomElement &room) const;
+    QString storedText(const QString &text) const;
+    QString roomName(const snapshot::Room &room) const;
     void findRooms();
-    void findRoomsOf(const QDomElement &floor);
-    void findEnds(const QString &listName);
-    void addEnd(const QString &tag, const CableEnd &end);
+    void findRoomsOf(const snapshot::Floor &floor);
+    template <typename Elements> QVector<CableEnd> endsOf(const Elements &elements, ElementKind kind);
+    CableEnd endAt(const snapshot::Target &target) const;
     void findCables();
 
-    const JobEditor &m_job;
-    QVector<FoundRoom> m_rooms;
-    QMap<QString, CableEnd> m_endOfTag;
-    QMap<QString, QString> m_colorOfType;
+    JobSnapshot m_job;
+    bool m_characterReferences;
+    QVector<CableEnd> m_nameOfRoom; ///< the name of each room as an end without a port
+    QVector<CableEnd> m_endOfPort;
+    QVector<CableEnd> m_endOfRun;
 };
 
 } // namespace cabledoc

@@ -79,7 +79,7 @@ public:
     ScheduleImport(JobEditor &job, bool dryRun)
         : m_job(job)
         , m_isDry(dryRun)
-        , m_known(job)
+        , m_known(JobSnapshot(job), job.characterReferences())
         , m_firstFloor(job.getFloorTags().value(0))
     {
     }
@@ -94,18 +94,18 @@ public:
 private:
     void import(ScheduleRow row, const std::bitset<column::Count> &has)
     {
-        const QDomElement cable = m_known.cableOfId.value(row[column::Id]);
-        const ScheduleRow before = cable.isNull() ? ScheduleRow() : m_known.row(cable);
+        const int cable = m_known.cableOfId.value(row[column::Id], -1);
+        const ScheduleRow before = cable < 0 ? ScheduleRow() : m_known.row(cable);
         for (std::size_t column = 0; column < column::Count; ++column) {
             if (!has[column])
                 row[column] = before[column];
         }
         row[column::Use] = storedCableUse(row[column::Use]);
         row[column::Color] = m_known.color(row[column::Color], row[column::Type]);
-        if (cable.isNull())
+        if (cable < 0)
             addCable(row);
         else if (row != before)
-            changeCable(cable, row, before);
+            changeCable(m_known.tagOf(cable), row, before);
     }
 
     void addCable(const ScheduleRow &row)
@@ -125,7 +125,7 @@ private:
             m_job.addCable(Cable(fields), addmode::GivenId);
     }
 
-    void changeCable(const QDomElement &cable, const ScheduleRow &row, const ScheduleRow &before)
+    void changeCable(const QString &cable, const ScheduleRow &row, const ScheduleRow &before)
     {
         ++m_report.changed;
         for (const TextField &field : textFields()) {
@@ -138,14 +138,15 @@ private:
             set(cable, words::To, endTag(row, column::ToFloor), &JobEditor::setCableTo);
     }
 
-    void set(const QDomElement &cable, const QString &attribute, const QString &text,
+    void set(const QString &cable, const QString &attribute, const QString &text,
              void (JobEditor::*setter)(const QString &, const QString &))
     {
         if (m_isDry)
             return;
         // The setters of cables do not add an attribute that an older file lacks.
-        JobEditorPrivate::of(m_job).tree.addAttribute(cable, attribute, QString());
-        (m_job.*setter)(cable.tagName(), text);
+        JobTree &tree = JobEditorPrivate::of(m_job).tree;
+        tree.addAttribute(tree.element(ElementKind::Cables, cable), attribute, QString());
+        (m_job.*setter)(cable, text);
     }
 
     // Ends of cables. If the job lacks an end, the import adds it. In a dry run the end counts as added, but has no
@@ -209,8 +210,9 @@ private:
     /// Adds a list of rooms to a floor without one. Only floors that the import has not added can lack it.
     void ensureRoomList(const FloorPlace &floor)
     {
+        JobTree &tree = JobEditorPrivate::of(m_job).tree;
         if (m_job.getToRoomList(floor.tag).isNull())
-            JobEditorPrivate::of(m_job).tree.append(words::RoomList, floor.element);
+            tree.append(words::RoomList, tree.element(ElementKind::Floors, floor.tag));
     }
 
     FloorPlace &floorPlace(const QString &id)
@@ -223,7 +225,7 @@ private:
                                     : m_job.addFloor(QString(), id, m_job.getFloorCeilingHeight(m_firstFloor),
                                                      QString(), addmode::GivenId);
         m_known.rooms[{id, QString()}] = {tag, words::Undefined, QRectF(), 0};
-        return *m_known.floors.insert(id, {tag, QDomElement(), 0.0, 0});
+        return *m_known.floors.insert(id, {tag, 0.0, 0});
     }
 
     JobEditor &m_job;
@@ -233,6 +235,21 @@ private:
     ScheduleReport m_report;
 };
 
+QByteArray textOf(const JobSchedule &schedule)
+{
+    QVector<QByteArray> fields;
+    for (const ColumnName &column : columnNames)
+        fields.append(column.name);
+    QByteArray text = csvLine(fields);
+    for (const int cable : schedule.cables) {
+        fields.clear();
+        for (const QString &field : schedule.row(cable))
+            fields.append(field.toUtf8());
+        text += csvLine(fields);
+    }
+    return text;
+}
+
 } // namespace
 
 ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
@@ -241,7 +258,8 @@ ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName,
     ScheduleReport report;
     report.error = file.error;
     report.problems = file.problems;
-    if (report.error.isEmpty() && !JobSchedule::hasLists(job))
+    const QDomElement root = job.getToCableList().parentNode().toElement();
+    if (report.error.isEmpty() && floorKind().listIn(root).isNull())
         report.error = QCoreApplication::translate("Schedule", "%1 has no list of cables or no list of floors")
                            .arg(job.filename());
     if (!report.error.isEmpty() || !report.problems.isEmpty())
@@ -251,16 +269,10 @@ ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName,
 
 QByteArray cabledoc::exportSchedule(const JobEditor &job)
 {
-    QVector<QByteArray> fields;
-    for (const ColumnName &column : columnNames)
-        fields.append(column.name);
-    QByteArray text = csvLine(fields);
-    const JobSchedule schedule(job);
-    for (const QDomElement &cable : schedule.cables) {
-        fields.clear();
-        for (const QString &field : schedule.row(cable))
-            fields.append(field.toUtf8());
-        text += csvLine(fields);
-    }
-    return text;
+    return textOf(JobSchedule(JobSnapshot(job), job.characterReferences()));
+}
+
+QByteArray cabledoc::exportSchedule(const JobSnapshot &job)
+{
+    return textOf(JobSchedule(job, true));
 }

@@ -10,6 +10,8 @@ class JobEditor;
 
 namespace cabledoc {
 
+class JobSnapshot;
+
 /// Something in a cable schedule that prevents its import.
 struct ScheduleProblem
 {
@@ -85,5 +87,8 @@ CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fil
 /// The result can always be imported. Importing it into a job without cables and exporting that job again gives the
 /// same bytes.
 CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job);
+/// Returns the cable schedule of a job that was read as a snapshot. Characters that a save with character references
+/// would write as "?" are "?" here too.
+CABLEDOC_EXPORT QByteArray exportSchedule(const JobSnapshot &job);
 
 } // namespace cabledoc
