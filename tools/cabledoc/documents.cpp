@@ -1,9 +1,11 @@
 #include "documents.h"
 
+#include "commandline.h"
 #include "output.h"
 
 #include <cabledoc/bkteditor.h>
 #include <cabledoc/jobeditor.h>
+#include <cabledoc/jobsnapshot.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
@@ -54,6 +56,12 @@ void setUpDocuments(qint64 maximumSize)
 {
     setUp(&JobEditor::Instance(), maximumSize);
     setUp(&BktEditor::Instance(), maximumSize);
+}
+
+ExitCode readJob(const CommandLine &line, cabledoc::JobSnapshot *job)
+{
+    *job = cabledoc::JobSnapshot::read(line.argument(0), line.maximumSize());
+    return job->error().isEmpty() ? Done : fail(CannotLoad, line.argument(0), job->error());
 }
 
 ExitCode loadJob(const QString &fileName)

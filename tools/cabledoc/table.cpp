@@ -1,19 +1,21 @@
 #include "table.h"
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QStringList>
-#include <QtCore/QVariant>
-
 #include <algorithm>
 
 namespace {
 
-/// Returns whether all cells of the column below the heading are numbers or empty. At least one must be a number.
-bool isNumeric(const QVector<QStringList> &rows, int column)
+/// Returns the text of a cell in one line.
+QString textOf(const QVariant &cell)
+{
+    return cell.toString().simplified();
+}
+
+/// Returns whether all cells of the column are numbers or empty. At least one must be a number.
+bool isNumeric(const Table &table, int column)
 {
     bool isFilled = false;
-    const bool isClean = std::all_of(rows.cbegin() + 1, rows.cend(), [&](const QStringList &row) {
-        const QString &cell = row.at(column);
+    const bool isClean = std::all_of(table.rows.cbegin(), table.rows.cend(), [&](const QVariantList &row) {
+        const QString cell = textOf(row.at(column));
         bool isNumber = false;
         cell.toDouble(&isNumber);
         isFilled = isFilled || isNumber;
@@ -22,46 +24,59 @@ bool isNumeric(const QVector<QStringList> &rows, int column)
     return isClean && isFilled;
 }
 
-/// Returns the cells of the table, with the headings in the first row.
-QVector<QStringList> cellsOf(const QJsonArray &objects, const QVector<Column> &columns)
+int widthOf(const Table &table, int column)
 {
-    QStringList headings;
-    for (const Column &column : columns)
-        headings.append(column.heading);
-    QVector<QStringList> rows{headings};
-    for (const QJsonValue object : objects) {
-        QStringList row;
-        for (const Column &column : columns)
-            row.append(object.toObject().value(QLatin1String(column.key)).toVariant().toString().simplified());
-        rows.append(row);
-    }
-    return rows;
+    qsizetype width = table.columns.at(column).heading.size();
+    for (const QVariantList &row : table.rows)
+        width = std::max<qsizetype>(width, textOf(row.at(column)).size());
+    return int(width);
 }
 
 } // namespace
 
-QString tableOf(const QJsonArray &objects, const QVector<Column> &columns)
+QString textOf(const Table &table)
 {
-    const QVector<QStringList> rows = cellsOf(objects, columns);
-    QVector<int> widths(columns.size(), 0);
-    QVector<bool> numeric(columns.size(), false);
-    for (int column = 0; column < columns.size(); ++column) {
-        for (const QStringList &row : rows)
-            widths[column] = std::max(widths[column], int(row.at(column).size()));
-        numeric[column] = isNumeric(rows, column);
+    struct TextColumn
+    {
+        int number;
+        int width;
+        bool isNumeric;
+    };
+    QVector<TextColumn> columns;
+    for (int number = 0; number < table.columns.size(); ++number) {
+        if (!table.columns.at(number).heading.isEmpty())
+            columns.append({number, widthOf(table, number), isNumeric(table, number)});
     }
-
     QString text;
-    for (const QStringList &row : rows) {
-        QString line;
-        for (int column = 0; column < columns.size(); ++column) {
-            const QString &cell = row.at(column);
-            line += numeric.at(column) ? cell.rightJustified(widths.at(column)) : cell.leftJustified(widths.at(column));
-            line += QLatin1String("  ");
+    const auto appendLine = [&](const auto &cellOf) {
+        for (const TextColumn &column : std::as_const(columns)) {
+            const QString cell = cellOf(column.number);
+            text += column.isNumeric ? cell.rightJustified(column.width) : cell.leftJustified(column.width);
+            text += QLatin1String("  ");
         }
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        text += line + QLatin1Char('\n');
-    }
+        while (text.endsWith(QLatin1Char(' ')))
+            text.chop(1);
+        text += QLatin1Char('\n');
+    };
+    appendLine([&table](int column) { return table.columns.at(column).heading; });
+    for (const QVariantList &row : table.rows)
+        appendLine([&row](int column) { return textOf(row.at(column)); });
     return text;
+}
+
+QJsonObject objectOf(const Table &table, int row)
+{
+    QJsonObject object;
+    for (int column = 0; column < table.columns.size(); ++column)
+        object.insert(QLatin1String(table.columns.at(column).key),
+                      QJsonValue::fromVariant(table.rows.at(row).at(column)));
+    return object;
+}
+
+QJsonArray arrayOf(const Table &table)
+{
+    QJsonArray array;
+    for (int row = 0; row < table.rows.size(); ++row)
+        array.append(objectOf(table, row));
+    return array;
 }

@@ -1,16 +1,29 @@
 #pragma once
 
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
 #include <QtCore/QString>
+#include <QtCore/QVariant>
 #include <QtCore/QVector>
 
-/// The key of a value in JSON objects, and the heading of its column.
+/// A column of a table: its name in JSON, and its translated heading. A column without a heading is only in JSON.
 struct Column
 {
     const char *key;
     QString heading;
 };
 
-/// Returns the objects as lines of text: the headings, and one row for each object. Columns are aligned and two blanks
-/// apart. Columns of numbers are aligned to the right. Line breaks in a value become blanks.
-QString tableOf(const QJsonArray &objects, const QVector<Column> &columns);
+/// A table that the program prints as text or as JSON. A cell that is not valid is empty.
+struct Table
+{
+    QVector<Column> columns;
+    QVector<QVariantList> rows;
+};
+
+/// Returns the table as text, with one line for the headings and one for each row. Columns of numbers are aligned to
+/// the right.
+QString textOf(const Table &table);
+/// Returns a row as an object.
+QJsonObject objectOf(const Table &table, int row);
+/// Returns the rows as objects.
+QJsonArray arrayOf(const Table &table);

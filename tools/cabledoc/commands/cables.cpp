@@ -3,62 +3,63 @@
 #include "output.h"
 #include "table.h"
 
-#include <cabledoc/jobeditor.h>
+#include <cabledoc/jobsnapshot.h>
+
+using cabledoc::ElementKind;
+using cabledoc::JobSnapshot;
+using cabledoc::snapshot::Target;
 
 namespace {
 
 /// Returns the name of a port or vertical run, or the tag if the job does not have it.
-QString endName(const JobEditor &job, const QString &tag)
+QString endName(const JobSnapshot &job, const Target &end, const QString &tag)
 {
-    if (job.portExists(tag, true))
-        return job.getPortIdByTag(tag);
-    if (job.vertRunExists(tag, true))
-        return job.getVertRunIdByTag(tag);
-    return tag;
+    if (!end.exists())
+        return tag;
+    return end.kind == ElementKind::Ports ? job.ports().at(end.position).id : job.verticalRuns().at(end.position).id;
 }
 
-QJsonObject describeCable(JobEditor &job, const QString &tag, bool metric)
+QVariant lengthOf(const JobSnapshot &job, int cable, bool metric)
 {
-    QJsonValue length;
-    if (job.getCableTestResults(tag).cableLength() >= 0) {
-        // A direct conversion to double would make 16.700000762939453 of the float 16.7.
-        length = QString::number(double(job.getMaxRoundedCableLength(tag, metric, false)), 'g', 7).toDouble();
+    const float length = job.measuredLength(cable, metric);
+    // A direct conversion to double would make 16.700000762939453 of the float 16.7.
+    return length < 0 ? QVariant() : QString::number(double(length), 'g', 7).toDouble();
+}
+
+Table tableOfCables(const JobSnapshot &job, bool metric)
+{
+    Table table{{
+                    {"id", Program::tr("Cable")},
+                    {"tag", QString()},
+                    {"type", Program::tr("Type")},
+                    {"use", Program::tr("Use")},
+                    {"from", Program::tr("From")},
+                    {"to", Program::tr("To")},
+                    {"status", Program::tr("Status")},
+                    {"length", metric ? Program::tr("Length (m)") : Program::tr("Length (ft)")},
+                },
+                {}};
+    int position = 0;
+    for (const auto &cable : job.cables()) {
+        table.rows.append({cable.id, cable.element, cable.type, cable.use, endName(job, cable.fromTarget, cable.from),
+                           endName(job, cable.toTarget, cable.to), cable.test.status,
+                           lengthOf(job, position++, metric)});
     }
-    return {{QStringLiteral("id"), job.getCableID(tag)},
-            {QStringLiteral("tag"), tag},
-            {QStringLiteral("type"), job.getCableType(tag)},
-            {QStringLiteral("use"), job.getCableUse(tag)},
-            {QStringLiteral("from"), endName(job, job.getCableFrom(tag))},
-            {QStringLiteral("to"), endName(job, job.getCableTo(tag))},
-            {QStringLiteral("status"), job.getCableStatus(tag)},
-            {QStringLiteral("length"), length}};
+    return table;
 }
 
 } // namespace
 
 ExitCode runCables(const CommandLine &line)
 {
-    if (const ExitCode error = loadJob(line.argument(0)))
+    JobSnapshot job;
+    if (const ExitCode error = readJob(line, &job))
         return error;
     const bool metric = line.isSet("metric");
-    JobEditor &job = JobEditor::Instance();
-    QJsonArray cables;
-    const QStringList tags = job.getCables(true);
-    for (const QString &tag : tags)
-        cables.append(describeCable(job, tag, metric));
-
-    if (line.isSet("json")) {
-        return printJson({{QStringLiteral("lengthUnit"), metric ? QStringLiteral("m") : QStringLiteral("ft")},
-                          {QStringLiteral("cables"), cables}});
-    }
-    const QVector<Column> columns{
-        {"id", Program::tr("Cable")},
-        {"type", Program::tr("Type")},
-        {"use", Program::tr("Use")},
-        {"from", Program::tr("From")},
-        {"to", Program::tr("To")},
-        {"status", Program::tr("Status")},
-        {"length", metric ? Program::tr("Length (m)") : Program::tr("Length (ft)")},
-    };
-    return printText(tableOf(cables, columns));
+    const Table table = tableOfCables(job, metric);
+    if (!line.isSet("json"))
+        return printText(textOf(table));
+    return printJson({{QStringLiteral("lengthUnit"), metric ? QStringLiteral("m") : QStringLiteral("ft")}},
+                     QStringLiteral("cables"), int(table.rows.size()),
+                     [&table](int row) { return objectOf(table, row); });
 }

@@ -3,107 +3,98 @@
 #include "output.h"
 #include "table.h"
 
-#include <cabledoc/jobeditor.h>
+#include <cabledoc/jobsnapshot.h>
 
-#include <QtCore/QMap>
+using cabledoc::JobSnapshot;
 
 namespace {
 
-QJsonObject describeFloor(JobEditor &job, const QString &tag)
+Table tableOfFloors(const JobSnapshot &job)
 {
-    const Floor floor = job.getFloor(tag);
-    int rooms = 0;
-    int ports = 0;
-    int verticalRuns = 0;
-    const QStringList roomTags = job.getRooms(tag, true);
-    for (const QString &room : roomTags) {
-        // Every floor has the room "Undefined", which is not drawn.
-        rooms += room == QLatin1String("Undefined") ? 0 : 1;
-        ports += int(job.getPorts(tag, room, true).size());
-        verticalRuns += int(job.getVertRuns(tag, room, true).size());
+    Table table{{
+                    {"id", Program::tr("Floor")},
+                    {"tag", Program::tr("Tag")},
+                    {"ceilingHeight", Program::tr("Ceiling")},
+                    {"rooms", Program::tr("Rooms")},
+                    {"ports", Program::tr("Ports")},
+                    {"verticalRuns", Program::tr("Vertical runs")},
+                    {"points", Program::tr("Points")},
+                    {"texts", Program::tr("Texts")},
+                },
+                {}};
+    for (const auto &floor : job.floors()) {
+        int rooms = 0;
+        int ports = 0;
+        int verticalRuns = 0;
+        for (int number = floor.rooms.first; number < floor.rooms.end(); ++number) {
+            const auto &room = job.rooms().at(number);
+            // Every floor has the room "Undefined", which is not drawn.
+            rooms += room.element == QLatin1String("Undefined") ? 0 : 1;
+            ports += room.ports.count;
+            verticalRuns += room.verticalRuns.count;
+        }
+        table.rows.append({floor.id, floor.element, floor.ceilingHeight, rooms, ports, verticalRuns, floor.points.count,
+                           floor.texts.count});
     }
-    return {{QStringLiteral("id"), floor.id()},
-            {QStringLiteral("tag"), tag},
-            {QStringLiteral("ceilingHeight"), floor.ceilingHeight()},
-            {QStringLiteral("rooms"), rooms},
-            {QStringLiteral("ports"), ports},
-            {QStringLiteral("verticalRuns"), verticalRuns},
-            {QStringLiteral("points"), int(job.getPoints(tag, true).size())},
-            {QStringLiteral("texts"), int(job.getFloorFreeTexts(tag, true).size())}};
+    return table;
 }
 
-QJsonObject describeSheet(JobEditor &job, const QString &tag)
+Table tableOfSheets(const JobSnapshot &job)
 {
-    return {{QStringLiteral("id"), job.getSheetIdByTag(tag)},
-            {QStringLiteral("tag"), tag},
-            {QStringLiteral("devices"), int(job.getDevices(tag, true).size())},
-            {QStringLiteral("points"), int(job.getVertices(tag, true).size())},
-            {QStringLiteral("texts"), int(job.getFreeTexts(tag, true).size())}};
+    Table table{{
+                    {"id", Program::tr("Sheet")},
+                    {"tag", Program::tr("Tag")},
+                    {"devices", Program::tr("Devices")},
+                    {"points", Program::tr("Points")},
+                    {"texts", Program::tr("Texts")},
+                },
+                {}};
+    for (const auto &sheet : job.sheets())
+        table.rows.append({sheet.id, sheet.element, sheet.devices.count, sheet.bends.count, sheet.texts.count});
+    return table;
 }
 
-QJsonObject describeJob(JobEditor &job)
+Table tableOfStatuses(const JobSnapshot &job)
 {
-    QJsonArray floors;
-    const QStringList floorTags = job.getFloorTags();
-    for (const QString &tag : floorTags)
-        floors.append(describeFloor(job, tag));
-    QJsonArray sheets;
-    const QStringList sheetTags = job.getSheetTags();
-    for (const QString &tag : sheetTags)
-        sheets.append(describeSheet(job, tag));
-    const QStringList cables = job.getCables(true);
     QMap<QString, int> cablesOfStatus;
-    for (const QString &cable : cables)
-        ++cablesOfStatus[job.getCableStatus(cable)];
-    QJsonArray statuses;
+    for (const auto &cable : job.cables())
+        ++cablesOfStatus[cable.test.status];
+    Table table{{{"status", Program::tr("Test status")}, {"cables", Program::tr("Cables")}}, {}};
     for (auto status = cablesOfStatus.cbegin(); status != cablesOfStatus.cend(); ++status)
-        statuses.append(
-            QJsonObject{{QStringLiteral("status"), status.key()}, {QStringLiteral("cables"), status.value()}});
-    return {{QStringLiteral("file"), job.filename()},
-            {QStringLiteral("floors"), floors},
-            {QStringLiteral("sheets"), sheets},
-            {QStringLiteral("cables"), int(cables.size())},
-            {QStringLiteral("cablesByStatus"), statuses},
-            {QStringLiteral("connections"), int(job.getConnections(true).size())},
-            {QStringLiteral("activePorts"), int(job.getActivePorts(true).size())}};
+        table.rows.append({status.key(), status.value()});
+    return table;
 }
 
-QString tablesOf(const QJsonObject &job)
+Table tableOfCounts(const JobSnapshot &job)
 {
-    const QVector<Column> floorColumns{
-        {"id", Program::tr("Floor")},
-        {"tag", Program::tr("Tag")},
-        {"ceilingHeight", Program::tr("Ceiling")},
-        {"rooms", Program::tr("Rooms")},
-        {"ports", Program::tr("Ports")},
-        {"verticalRuns", Program::tr("Vertical runs")},
-        {"points", Program::tr("Points")},
-        {"texts", Program::tr("Texts")},
-    };
-    const QVector<Column> sheetColumns{
-        {"id", Program::tr("Sheet")},      {"tag", Program::tr("Tag")},     {"devices", Program::tr("Devices")},
-        {"points", Program::tr("Points")}, {"texts", Program::tr("Texts")},
-    };
-    const QVector<Column> statusColumns{{"status", Program::tr("Test status")}, {"cables", Program::tr("Cables")}};
-    const QVector<Column> cableColumns{{"cables", Program::tr("Cables")},
-                                       {"connections", Program::tr("Connections")},
-                                       {"activePorts", Program::tr("Active ports")}};
-
-    QStringList tables{tableOf(job.value(QStringLiteral("floors")).toArray(), floorColumns),
-                       tableOf(job.value(QStringLiteral("sheets")).toArray(), sheetColumns)};
-    const QJsonArray statuses = job.value(QStringLiteral("cablesByStatus")).toArray();
-    if (!statuses.isEmpty())
-        tables.append(tableOf(statuses, statusColumns));
-    tables.append(tableOf({job}, cableColumns));
-    return tables.join(QLatin1Char('\n'));
+    return {{{"cables", Program::tr("Cables")},
+             {"connections", Program::tr("Connections")},
+             {"activePorts", Program::tr("Active ports")}},
+            {{int(job.cables().size()), int(job.connections().size()), int(job.activePorts().size())}}};
 }
 
 } // namespace
 
 ExitCode runInfo(const CommandLine &line)
 {
-    if (const ExitCode error = loadJob(line.argument(0)))
+    JobSnapshot job;
+    if (const ExitCode error = readJob(line, &job))
         return error;
-    const QJsonObject description = describeJob(JobEditor::Instance());
-    return line.isSet("json") ? printJson(description) : printText(tablesOf(description));
+    const Table floors = tableOfFloors(job);
+    const Table sheets = tableOfSheets(job);
+    const Table statuses = tableOfStatuses(job);
+    const Table counts = tableOfCounts(job);
+    if (!line.isSet("json")) {
+        QStringList tables{textOf(floors), textOf(sheets)};
+        if (!statuses.rows.isEmpty())
+            tables.append(textOf(statuses));
+        tables.append(textOf(counts));
+        return printText(tables.join(QLatin1Char('\n')));
+    }
+    QJsonObject object = objectOf(counts, 0);
+    object.insert(QStringLiteral("file"), line.argument(0));
+    object.insert(QStringLiteral("floors"), arrayOf(floors));
+    object.insert(QStringLiteral("sheets"), arrayOf(sheets));
+    object.insert(QStringLiteral("cablesByStatus"), arrayOf(statuses));
+    return printJson(object);
 }

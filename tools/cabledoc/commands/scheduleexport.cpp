@@ -2,12 +2,13 @@
 #include "documents.h"
 #include "output.h"
 
-#include <cabledoc/jobeditor.h>
+#include <cabledoc/jobsnapshot.h>
 #include <cabledoc/schedule.h>
 
 ExitCode runScheduleExport(const CommandLine &line)
 {
-    if (const ExitCode error = loadJob(line.argument(0)))
+    cabledoc::JobSnapshot job;
+    if (const ExitCode error = readJob(line, &job))
         return error;
-    return printData(cabledoc::exportSchedule(JobEditor::Instance()));
+    return printData(cabledoc::exportSchedule(job));
 }
