@@ -220,7 +220,7 @@ private:
             for (const FlatNode &list : listsOf(*kind, root)) {
                 // Every floor has a room "Undefined" of its own.
                 if (kind->kind == ElementKind::Rooms)
-                    linesOf(kind->kind).erase(words::Undefined);
+                    linesOf(kind->kind).unordered_erase(words::Undefined);
                 checkTags(list, &linesOf(kind->kind));
                 checkIds(list);
             }

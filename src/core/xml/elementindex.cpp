@@ -34,23 +34,23 @@ void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 
 void ElementIndex::append(const QDomElement &element)
 {
-    const auto [entry, isNew] = m_entries.try_emplace(element.tagName());
+    auto [entry, isNew] = m_entries.try_emplace(element.tagName());
     if (!isNew) {
         m_waiting[entry->first].push_back(element);
         return;
     }
     m_tagNames.insert(entry->first);
     m_lastTag.insert(entry->first);
-    entry->second = {idOf(element), element};
+    entry.value() = {idOf(element), element};
     m_ids.insert(entry->second.id, entry->first);
 }
 
 void ElementIndex::remove(const QDomElement &element)
 {
-    const auto entry = m_entries.find(element.tagName());
+    auto entry = m_entries.find(element.tagName());
     if (entry == m_entries.end())
         return;
-    const auto waiting = m_waiting.find(entry->first);
+    auto waiting = m_waiting.find(entry->first);
     if (entry->second.element == element) {
         m_ids.remove(entry->second.id, entry->first);
         if (waiting == m_waiting.end()) {
@@ -60,11 +60,11 @@ void ElementIndex::remove(const QDomElement &element)
             return;
         }
         const QDomElement next = waiting->second.front();
-        waiting->second.pop_front();
-        entry->second = {idOf(next), next};
+        waiting.value().pop_front();
+        entry.value() = {idOf(next), next};
         m_ids.insert(entry->second.id, entry->first);
     } else if (waiting != m_waiting.end()) {
-        waiting->second.remove(element);
+        waiting.value().remove(element);
     }
     if (waiting != m_waiting.end() && waiting->second.empty())
         m_waiting.erase(waiting);
@@ -72,18 +72,18 @@ void ElementIndex::remove(const QDomElement &element)
 
 void ElementIndex::updateId(const QDomElement &element)
 {
-    const auto entry = m_entries.find(element.tagName());
+    auto entry = m_entries.find(element.tagName());
     if (entry == m_entries.end() || entry->second.element != element)
         return;
     m_ids.remove(entry->second.id, entry->first);
-    entry->second.id = idOf(element);
+    entry.value().id = idOf(element);
     m_ids.insert(entry->second.id, entry->first);
 }
 
 void ElementIndex::forgetElements()
 {
-    for (auto &[tag, entry] : m_entries)
-        entry.element = QDomElement();
+    for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
+        entry.value().element = QDomElement();
     m_waiting.clear();
 }
 

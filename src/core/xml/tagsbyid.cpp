@@ -9,28 +9,28 @@ void TagsById::insert(const QString &id, const QString &tag)
     m_names.insert(id);
     if (isNumbered(id))
         m_numbered.insert(tag);
-    const auto [first, isNew] = m_first.try_emplace(id, tag);
+    auto [first, isNew] = m_first.try_emplace(id, tag);
     if (isNew)
         return;
     m_others[id].insert(std::max(tag, first->second));
-    first->second = std::min(tag, first->second);
+    first.value() = std::min(tag, first->second);
 }
 
 void TagsById::remove(const QString &id, const QString &tag)
 {
     if (isNumbered(id))
         m_numbered.remove(tag);
-    const auto first = m_first.find(id);
-    const auto others = m_others.find(id);
+    auto first = m_first.find(id);
+    auto others = m_others.find(id);
     if (others == m_others.end()) {
         m_first.erase(first);
         m_names.remove(id);
         return;
     }
     if (first->second == tag)
-        first->second = others->second.extract(others->second.begin()).value();
+        first.value() = others.value().extract(others->second.begin()).value();
     else
-        others->second.erase(tag);
+        others.value().erase(tag);
     if (others->second.empty())
         m_others.erase(others);
 }
