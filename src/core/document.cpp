@@ -135,7 +135,7 @@ bool Document::read(const QString &name, const QString &documentTypeName, const 
         error = texts.missing.arg(name);
         return false;
     }
-    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, maximumFileSize, lineNumbers);
+    const xmlfile::ReadResult result = xmlfile::read(path, documentTypeName, maximumFileSize, lineNumbers, &notes);
     if (result.status == xmlfile::ReadResult::NotOpened) {
         error = result.deviceError;
         return false;

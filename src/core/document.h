@@ -85,6 +85,7 @@ public:
 
     qint64 maximumFileSize;
     xmlfile::LineNumbers lineNumbers = xmlfile::LineNumbers::Leave; ///< of the nodes that read() makes
+    ListNotes notes;                                                ///< what read() notes
     qint64 replacedCharacters = 0;                                  ///< of the last write
     bool writesReferences = false;
     bool replacesUnknownFiles = true;

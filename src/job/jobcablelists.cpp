@@ -2,85 +2,63 @@
 #include "jobeditor_p.h"
 #include "jobwords.h"
 
-#include <set>
-
 using namespace cabledoc;
 
 namespace {
 
-/// Returns the tags of the cables for which a condition holds, in document order.
-template <typename Condition> QStringList cablesWhere(const QDomElement &cableList, Condition condition)
+QStringList cablesWith(CableTable *cables, CableColumn column, const QString &value)
 {
-    QStringList tags;
-    for (const QDomElement &cable : ChildElements(cableList)) {
-        if (condition(cable))
-            tags.append(cable.tagName());
-    }
-    return tags;
-}
-
-QStringList cablesWith(const QDomElement &cableList, const QString &attribute, const QString &value)
-{
-    return cablesWhere(cableList, [&](const QDomElement &cable) {
-        return cable.hasAttribute(attribute) && cable.attribute(attribute) == value;
-    });
-}
-
-QStringList cablesEndingAt(const QDomElement &cableList, const std::set<QString> &ends)
-{
-    return cablesWhere(cableList, [&ends](const QDomElement &cable) {
-        return ends.count(cable.attribute(words::To)) != 0 || ends.count(cable.attribute(words::From)) != 0;
-    });
+    return cables->tagsWhere(column, [&value](const QString &other) { return !other.isNull() && other == value; });
 }
 
 } // namespace
 
 QStringList JobEditor::getCables(bool byTag) const
 {
-    const CableLists &lists = d->tree.index().cables();
-    return byTag ? lists.tags : lists.ids;
+    const CableTable &cables = d->tree.index().cables();
+    return byTag ? cables.tags() : cables.ids();
 }
 
 QStringList JobEditor::getCablesByType(const QString &type) const
 {
-    return d->tree.index().cables().tagsOfType.value(type);
+    // A cable without the attribute has the empty type.
+    return d->tree.index().cables().tagsWhere(CableColumn::Type,
+                                              [&type](const QString &other) { return other == type; });
 }
 
 QStringList JobEditor::getCablesByUse(const QString &use) const
 {
-    return cablesWith(getToCableList(), words::Use, use);
+    return cablesWith(&d->tree.index().cables(), CableColumn::Use, use);
 }
 
 QStringList JobEditor::getCablesByBundle(const QString &bundleName) const
 {
-    return cablesWith(getToCableList(), words::BundleName, bundleName);
+    return cablesWith(&d->tree.index().cables(), CableColumn::BundleName, bundleName);
 }
 
 QStringList JobEditor::getCablesByBundleGroup(const QString &bundleGroupNum) const
 {
-    return cablesWith(getToCableList(), words::BundleGroupNum, bundleGroupNum);
+    return cablesWith(&d->tree.index().cables(), CableColumn::BundleGroupNum, bundleGroupNum);
 }
 
 QStringList JobEditor::getCablesByPort(const QString &portTag) const
 {
-    return cablesEndingAt(getToCableList(), {portTag});
+    return d->tree.index().cables().tagsEndingAt({portTag});
 }
 
 QStringList JobEditor::getCablesByFloor(const QString &floorTag) const
 {
-    std::set<QString> ends;
+    QStringList ends;
     for (const QDomElement &room : ChildElements(getToRoomList(floorTag))) {
-        for (const QString &containerName : {words::PortList, words::VerticalRunList}) {
-            for (const QDomElement &end : ChildElements(room.firstChildElement(containerName)))
-                ends.insert(end.tagName());
-        }
+        for (const QString &containerName : {words::PortList, words::VerticalRunList})
+            ends += childTags(room.firstChildElement(containerName));
     }
-    return cablesEndingAt(getToCableList(), ends);
+    return d->tree.index().cables().tagsEndingAt(ends);
 }
 
 QStringList JobEditor::getCablesByStatus(const QString &status) const
 {
-    return cablesWhere(getToCableList(), [&status](const QDomElement &cable) { return testStatus(cable) == status; });
+    return cablesWith(&d->tree.index().cables(), CableColumn::Status, status);
 }
 
 bool JobEditor::bundleGroupNumExists(const QString &bundleGroupNum) const

@@ -14,6 +14,7 @@ public:
         : document(*jobDocument)
         , tree(*jobTree)
     {
+        document.notes = CableTable::wantedNotes();
     }
 
     /// Returns the private data of a job document.

@@ -166,6 +166,9 @@ bool JobEditor::Load(const QString &filename)
     if (isLoaded && isOlder)
         addWhatOlderJobsLack(this);
     updateAllInternalLists();
+    if (!isOlder)
+        d->tree.index().take(&d->document.notes);
+    d->document.notes.values.clear();
     if (isRead && !isLoaded) {
         inside().rejectFile();
         error() = tr("Incompatible version of job file %1").arg(filename);

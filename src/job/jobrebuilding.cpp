@@ -9,7 +9,7 @@ void JobEditor::updateAllInternalLists()
 
 void JobEditor::populateCurrentCablesLists()
 {
-    d->tree.index().rebuildCableLists();
+    d->tree.index().rebuild(ElementKind::Cables);
 }
 
 void JobEditor::populateCableMap()
@@ -19,7 +19,7 @@ void JobEditor::populateCableMap()
 
 void JobEditor::populateCableTypeMap()
 {
-    // All lists of cables are rebuilt in one walk.
+    // One table answers all questions about lists of cables.
     populateCurrentCablesLists();
 }
 

@@ -21,7 +21,7 @@ public:
         for (const char byte : bytes)
             hash = hash * 31 + quint8(byte);
         QString &shared = m_texts[hash % m_texts.size()];
-        if (!isEqual(shared, bytes))
+        if (shared.isNull() || !isEqual(shared, bytes))
             shared = QString::fromLatin1(bytes.data(), int(bytes.size()));
         return shared;
     }

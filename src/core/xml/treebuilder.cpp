@@ -12,6 +12,61 @@ namespace cabledoc {
 
 namespace {
 
+/// Notes values while a tree is made.
+class NoteTaker
+{
+public:
+    explicit NoteTaker(ListNotes *notes)
+        : m_notes(notes)
+    {
+        if (isNeeded())
+            m_notes->values.assign(std::size_t(m_notes->attributes.size()) + 1, {});
+    }
+
+    /// Must be called for each element, before its children.
+    void enter(const XmlTokens &tokens, SharedTexts *texts)
+    {
+        ++m_depth;
+        if (!isNeeded() || m_depth == 1)
+            return;
+        if (m_depth == listDepth) {
+            // If there are several lists of that name, the first one counts.
+            m_isInList = m_hasNoList && isEqual(m_notes->listName, tokens.name());
+            m_hasNoList = m_hasNoList && !m_isInList;
+        } else if (m_isInList && m_depth == listDepth + 1) {
+            m_hasChild = false;
+            for (std::size_t i = 0; i + 1 < m_notes->values.size(); ++i)
+                m_notes->values[i].push_back(valueIn(tokens, m_notes->attributes.at(int(i)), texts));
+            m_notes->values.back().push_back(QString());
+        } else if (m_isInList && m_depth == listDepth + 2 && !m_hasChild
+                   && isEqual(m_notes->childName, tokens.name())) {
+            m_hasChild = true;
+            m_notes->values.back().back() = valueIn(tokens, m_notes->childAttribute, texts);
+        }
+    }
+    void leave() { --m_depth; }
+
+private:
+    static constexpr int listDepth = 2;
+
+    bool isNeeded() const { return m_notes != nullptr && !m_notes->listName.isEmpty(); }
+
+    static QString valueIn(const XmlTokens &tokens, const QString &name, SharedTexts *texts)
+    {
+        for (const XmlTokens::Attribute &attribute : tokens.attributes()) {
+            if (isEqual(name, attribute.name))
+                return texts->text(attribute.value);
+        }
+        return QString();
+    }
+
+    ListNotes *m_notes;
+    int m_depth = 0;
+    bool m_hasNoList = true;
+    bool m_isInList = false;
+    bool m_hasChild = false;
+};
+
 bool isAscii(const QByteArray &bytes)
 {
     char all = 0;
@@ -77,13 +132,14 @@ void locateEnd(const QByteArray &bytes, XmlProblem *problem)
 
 } // namespace
 
-bool buildTree(const QByteArray &text, QDomDocument *document)
+bool buildTree(const QByteArray &text, QDomDocument *document, ListNotes *notes)
 {
     // Another policy changes what is read.
     if (QDomImplementation::invalidDataPolicy() != QDomImplementation::AcceptInvalidChars)
         return false;
     XmlTokens tokens(text);
     SharedTexts texts;
+    NoteTaker noteTaker(notes);
     QDomNode parent = *document;
     for (;;) {
         switch (tokens.next()) {
@@ -93,10 +149,12 @@ bool buildTree(const QByteArray &text, QDomDocument *document)
                 element.setAttribute(texts.text(attribute.name), texts.text(attribute.value));
             parent.appendChild(element);
             parent = element;
+            noteTaker.enter(tokens, &texts);
             break;
         }
         case XmlTokens::EndElement:
             parent = parent.parentNode();
+            noteTaker.leave();
             break;
         case XmlTokens::Characters:
             parent.appendChild(document->createTextNode(tokens.piece().toString()));

@@ -1,11 +1,11 @@
 #include "xmlfile.h"
 
-#include "treebuilder.h"
 #include "words.h"
 
 namespace cabledoc::xmlfile {
 
-ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize, LineNumbers lineNumbers)
+ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize, LineNumbers lineNumbers,
+                ListNotes *notes)
 {
     ReadResult result;
     result.document = QDomDocument(documentTypeName);
@@ -20,10 +20,12 @@ ReadResult read(const QString &fileName, const QString &documentTypeName, qint64
 
     if (lineNumbers == LineNumbers::Leave) {
         QDomDocument document{QString()};
-        if (buildTree(content.bytes, &document)) {
+        if (buildTree(content.bytes, &document, notes)) {
             result.document = document;
             return result;
         }
+        if (notes != nullptr)
+            notes->values.clear();
     }
     result.problem = parseTree(content.bytes, &result.document);
     if (!result.problem.message.isNull()) {

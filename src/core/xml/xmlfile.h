@@ -2,6 +2,7 @@
 
 #include "filereplacement.h"
 #include "flattree.h"
+#include "treebuilder.h"
 #include "xmlscan.h"
 
 #include <QtCore/QByteArray>
@@ -45,9 +46,9 @@ enum class LineNumbers {
 };
 
 /// Reads a file of at most maximumSize bytes into a new document. If it cannot be read, the document has the given type
-/// name.
+/// name. Values are noted if the file has the form of a save.
 ReadResult read(const QString &fileName, const QString &documentTypeName, qint64 maximumSize,
-                LineNumbers lineNumbers = LineNumbers::Leave);
+                LineNumbers lineNumbers = LineNumbers::Leave, ListNotes *notes = nullptr);
 
 /// Reads a file of the current version whose root has one of the given names. Returns nothing if the file is not of
 /// that kind, does not have the form of a save, or cannot be read. Then read() has to read it, or tell why it cannot.

@@ -30,19 +30,13 @@ bool comesLast(QDomElement element, const ElementSchema *kind)
     return true;
 }
 
-} // namespace
-
-CableLists::CableLists(const QDomElement &cableList)
+/// Returns whether the index of references has elements of the kind. The table of cables has the cables.
+bool isInReferences(const ElementSchema &kind)
 {
-    for (const QDomElement &cable : ChildElements(cableList)) {
-        tags.append(cable.tagName());
-        ids.append(cable.attribute(words::Id));
-    }
-    // In big jobs a second walk is faster than reading a second attribute in the first walk.
-    auto tag = tags.cbegin();
-    for (const QDomElement &cable : ChildElements(cableList))
-        tagsOfType[cable.attribute(words::Type)].append(*tag++);
+    return kind.kind != ElementKind::Cables && !kind.references.isEmpty();
 }
+
+} // namespace
 
 JobIndex::JobIndex(const DocumentTree &tree, const QString &cableIdPrefix)
     : m_tree(tree)
@@ -56,7 +50,7 @@ JobIndex::JobIndex(const DocumentTree &tree, const QString &cableIdPrefix)
 
 void JobIndex::rebuild()
 {
-    rebuildCableLists();
+    m_references.reset();
     for (const ElementSchema *kind : jobSchema())
         rebuildNow(kind->kind);
 }
@@ -64,22 +58,22 @@ void JobIndex::rebuild()
 void JobIndex::rebuild(ElementKind kind)
 {
     m_references.reset();
+    // The table of cables knows which elements the cables name.
+    m_cables.reset();
     rebuildNow(kind);
-}
-
-void JobIndex::rebuildCableLists()
-{
-    m_references.reset();
-    m_cables.emplace(cableKind().listIn(m_tree.root()));
 }
 
 void JobIndex::rebuildNow(ElementKind kind)
 {
     m_isStale.reset(std::size_t(kind));
     Elements elements;
-    for (const QDomElement &list : listsOf(schemaOf(kind), m_tree.root(), reachableChildren))
-        elements += allChildren(list);
+    for (const QDomElement &list : listsOf(schemaOf(kind), m_tree.root(), reachableChildren)) {
+        for (const QDomElement &element : ChildElements(list))
+            elements.append(element);
+    }
     kept(kind).rebuild(elements);
+    if (kind == ElementKind::Cables)
+        m_cables.emplace(elements, kept(kind));
     if (kind != ElementKind::Rooms)
         return;
     m_roomsOfFloor.clear();
@@ -99,7 +93,7 @@ void JobIndex::forgetAll()
 
 void JobIndex::forgetElements()
 {
-    cables();
+    cables().forgetElements();
     for (const ElementSchema *kind : jobSchema())
         of(kind->kind).forgetElements();
     m_roomsOfFloor.clear();
@@ -120,11 +114,16 @@ ContainerIndex *JobIndex::roomsOf(const QString &floorTag)
     return rooms == m_roomsOfFloor.end() ? nullptr : &*rooms;
 }
 
-const CableLists &JobIndex::cables()
+CableTable &JobIndex::cables()
 {
     if (!m_cables)
-        m_cables.emplace(cableKind().listIn(m_tree.root()));
+        rebuildNow(ElementKind::Cables);
     return *m_cables;
+}
+
+QVector<QDomElement> JobIndex::elementsNaming(const QString &tag)
+{
+    return cables().cablesNaming(tag) + references().elementsNaming(tag);
 }
 
 ReferenceIndex &JobIndex::references()
@@ -133,7 +132,7 @@ ReferenceIndex &JobIndex::references()
         return *m_references;
     m_references.emplace();
     for (const ElementSchema *kind : jobSchema()) {
-        if (kind->references.isEmpty())
+        if (!isInReferences(*kind))
             continue;
         // This includes floors and rooms that cannot be reached because another one before them has their tag. They can
         // be reached when that is removed.
@@ -157,10 +156,10 @@ bool JobIndex::isReachable(const QDomElement &element, ElementKind kind)
 void JobIndex::inserted(const QDomElement &element, ElementKind kind)
 {
     const ElementSchema &schema = schemaOf(kind);
-    if (m_references && !schema.references.isEmpty())
+    if (m_references && isInReferences(schema))
         m_references->insert(element);
-    if (kind == ElementKind::Cables)
-        m_cables.reset();
+    if (m_cables && kind == ElementKind::Cables)
+        m_cables->append(element);
     if (isStale(kind) || (schema.holder != ElementKind::None && !isReachable(holderOf(element), schema.holder)))
         return;
     if (kept(kind).containsTag(element.tagName()) && !comesLast(element, &schema)) {
@@ -176,6 +175,8 @@ void JobIndex::moved(const QDomElement &element, ElementKind kind)
 {
     if (kept(kind).isRepeated(element.tagName()))
         setStale(kind);
+    if (kind == ElementKind::Cables)
+        m_cables.reset();
 }
 
 void JobIndex::aboutToRemove(const QDomElement &element, ElementKind kind)
@@ -188,10 +189,10 @@ void JobIndex::aboutToRemove(const QDomElement &element, ElementKind kind)
         for (const QDomElement &child : ChildElements(held->listIn(element)))
             aboutToRemove(child, held->kind);
     }
-    if (m_references && !schemaOf(kind).references.isEmpty())
+    if (m_references && isInReferences(schemaOf(kind)))
         m_references->remove(element);
-    if (kind == ElementKind::Cables)
-        m_cables.reset();
+    if (m_cables && kind == ElementKind::Cables)
+        m_cables->remove(element);
     if (isStale(kind))
         return;
     kept(kind).remove(element);
@@ -223,12 +224,12 @@ void JobIndex::setStaleBelow(ElementKind holder)
 
 bool JobIndex::dependsOn(const QString &attribute)
 {
-    return attribute == words::Id || attribute == words::Type || namingAttributes().contains(attribute);
+    return attribute == words::Id || CableTable::dependsOn(attribute) || namingAttributes().contains(attribute);
 }
 
 void JobIndex::aboutToSet(const QDomElement &element, ElementKind kind, const QString &attribute)
 {
-    if (m_references && namingAttributes().contains(attribute))
+    if (m_references && isInReferences(schemaOf(kind)) && namingAttributes().contains(attribute))
         m_references->remove(element);
     if (attribute == words::Id && kind == ElementKind::Rooms && !isStale(kind))
         m_roomsOfFloor[holderOf(element).tagName()].remove(element);
@@ -236,10 +237,10 @@ void JobIndex::aboutToSet(const QDomElement &element, ElementKind kind, const QS
 
 void JobIndex::wasSet(const QDomElement &element, ElementKind kind, const QString &attribute)
 {
-    if (m_references && namingAttributes().contains(attribute))
+    if (m_references && isInReferences(schemaOf(kind)) && namingAttributes().contains(attribute))
         m_references->insert(element);
-    if (kind == ElementKind::Cables && (attribute == words::Id || attribute == words::Type))
-        m_cables.reset();
+    if (m_cables && kind == ElementKind::Cables)
+        m_cables->update(element, attribute);
     if (attribute != words::Id || isStale(kind))
         return;
     if (kind == ElementKind::Rooms) {
@@ -254,10 +255,15 @@ void JobIndex::wasSet(const QDomElement &element, ElementKind kind, const QStrin
     kept(kind).updateId(element);
 }
 
+void JobIndex::testWasChanged(const QDomElement &cable)
+{
+    if (m_cables)
+        m_cables->updateStatus(cable);
+}
+
 bool JobIndex::matchesTree() const
 {
     JobIndex asked = *this;
-    asked.cables();
     asked.references();
     for (const ElementSchema *kind : jobSchema())
         asked.of(kind->kind);
@@ -265,7 +271,7 @@ bool JobIndex::matchesTree() const
     rebuilt.rebuild();
     rebuilt.references();
     return asked.m_elements == rebuilt.m_elements && asked.m_roomsOfFloor == rebuilt.m_roomsOfFloor
-           && asked.m_cables == rebuilt.m_cables && asked.m_references == rebuilt.m_references;
+           && asked.cables().hasAnswersOf(rebuilt.cables()) && asked.m_references == rebuilt.m_references;
 }
 
 } // namespace cabledoc

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "cabletable.h"
 #include "documenttree.h"
-#include "elementindex.h"
 #include "jobschema.h"
 #include "referenceindex.h"
 
@@ -13,21 +13,6 @@
 
 namespace cabledoc {
 
-/// The cables of a job in document order.
-struct CableLists
-{
-    explicit CableLists(const QDomElement &cableList);
-
-    QStringList tags;
-    QStringList ids;
-    QMap<QString, QStringList> tagsOfType;
-
-    bool operator==(const CableLists &other) const
-    {
-        return tags == other.tags && ids == other.ids && tagsOfType == other.tagsOfType;
-    }
-};
-
 /// The index of a job. It finds elements without a walk through the tree. It can be rebuilt from the tree at any time.
 /// JobTree reports each change of the tree to it.
 class JobIndex
@@ -37,13 +22,14 @@ public:
 
     /// Rebuilds everything from the tree.
     void rebuild();
-    /// Rebuilds the index of one kind from the tree. The index of references is rebuilt when it is next needed.
+    /// Rebuilds the index of one kind from the tree. The table of cables and the index of references are rebuilt when
+    /// they are next needed.
     void rebuild(ElementKind kind);
-    /// Rebuilds the lists of cables from the tree. The index of references is rebuilt when it is next needed.
-    void rebuildCableLists();
+    /// Takes the values that were noted when the tree was made.
+    void take(ListNotes *notes) { cables().take(notes); }
     /// Forgets everything. Each part is rebuilt from the tree when it is next needed.
     void forgetAll();
-    /// Releases the elements, whose tree is about to be destroyed. Tags, ids and lists of cables stay.
+    /// Releases the elements, whose tree is about to be destroyed. Tags, ids and the table of cables stay.
     void forgetElements();
 
     // Queries
@@ -52,9 +38,9 @@ public:
     /// Returns the index of the rooms of a floor, or null if the floor cannot be found. The ids of rooms are unique
     /// only on their floor.
     ContainerIndex *roomsOf(const QString &floorTag);
-    const CableLists &cables();
-    /// Returns the index that finds the elements that name a tag.
-    ReferenceIndex &references();
+    CableTable &cables();
+    /// Returns the elements that name a tag.
+    QVector<QDomElement> elementsNaming(const QString &tag);
     /// Returns whether an element can be found by its tag and the tags of the elements that hold it. If several
     /// elements in a list have the same tag, only the first one can be found.
     bool isReachable(const QDomElement &element, ElementKind kind);
@@ -71,6 +57,8 @@ public:
     /// Must be called before and after an attribute is written that the index depends on.
     void aboutToSet(const QDomElement &element, ElementKind kind, const QString &attribute);
     void wasSet(const QDomElement &element, ElementKind kind, const QString &attribute);
+    /// Must be called after the test results of a cable have been inserted or changed.
+    void testWasChanged(const QDomElement &cable);
 
     /// Returns whether the index equals one that is rebuilt from the tree.
     bool matchesTree() const;
@@ -81,6 +69,7 @@ private:
     void setStale(ElementKind kind) { m_isStale.set(std::size_t(kind)); }
     void setStaleBelow(ElementKind holder);
     void rebuildNow(ElementKind kind);
+    ReferenceIndex &references();
     bool opensWay(const QDomElement &element, ElementKind kind);
 
     const DocumentTree &m_tree;
@@ -90,10 +79,8 @@ private:
     /// The kinds whose index is out of date. It is rebuilt when it is next needed, and changes do not update it until
     /// then. A kind becomes stale if only the tree can tell which of several elements with the same tag comes first.
     std::bitset<kindCount> m_isStale;
-    /// A change of the cables drops the lists. They are rebuilt when they are next needed. So adding or removing a
-    /// cable does not walk over all the others.
-    std::optional<CableLists> m_cables;
-    std::optional<ReferenceIndex> m_references; ///< built when it is first needed
+    std::optional<CableTable> m_cables;         ///< made when it is first needed
+    std::optional<ReferenceIndex> m_references; ///< of all kinds except cables; made when it is first needed
 };
 
 } // namespace cabledoc

@@ -120,6 +120,8 @@ void JobTree::setAttribute(const QDomElement &element, ElementKind kind, const Q
     DocumentTree::setAttribute(element, name, value);
     if (isIndexed)
         m_index.wasSet(element, kind, name);
+    else if (name == words::Status)
+        noteTest(element);
 }
 
 void JobTree::insert(const QDomElement &element, QDomNode parent)
@@ -128,6 +130,8 @@ void JobTree::insert(const QDomElement &element, QDomNode parent)
     const ElementKind kind = kindOf(element);
     if (kind != ElementKind::None)
         m_index.inserted(element, kind);
+    else
+        noteTest(element);
 }
 
 void JobTree::insert(const QDomElement &element, ElementKind kind, const QDomNode &parent)
@@ -143,6 +147,16 @@ void JobTree::move(const QDomNode &node, QDomNode parent)
     const ElementKind kind = kindOf(element);
     if (kind != ElementKind::None)
         m_index.moved(element, kind);
+}
+
+/// Updates the index if the element holds the test results of a cable.
+void JobTree::noteTest(const QDomElement &element)
+{
+    if (element.tagName() != words::TestResults)
+        return;
+    const QDomElement cable = element.parentNode().toElement();
+    if (kindOf(cable) == ElementKind::Cables)
+        m_index.testWasChanged(cable);
 }
 
 // Removing
@@ -193,7 +207,7 @@ void JobTree::dropReferencesTo(const QString &tag, ElementKind kind)
 QVector<QDomElement> JobTree::elementsNaming(const QString &tag, const ElementSchema &kind, const Reference &reference)
 {
     QVector<QDomElement> elements;
-    const QVector<QDomElement> all = m_index.references().elementsNaming(tag);
+    const QVector<QDomElement> all = m_index.elementsNaming(tag);
     for (const QDomElement &element : all) {
         const auto isNaming = [&](const QString &attribute) {
             return reference.tagsIn(element.attribute(attribute)).contains(tag);

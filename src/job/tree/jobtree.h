@@ -75,6 +75,7 @@ public:
 private:
     void insert(const QDomElement &element, ElementKind kind, const QDomNode &parent);
     void setAttribute(const QDomElement &element, ElementKind kind, const QString &name, const QString &value);
+    void noteTest(const QDomElement &element);
     QDomElement holder(const ElementSchema &kind, const QStringList &tags) const;
     QDomElement listForNew(const ElementSchema &kind, const QDomElement &holder);
     void dropReferences(const QDomElement &element, ElementKind kind);

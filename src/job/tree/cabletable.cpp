@@ -1,0 +1,364 @@
+#include "cabletable.h"
+
+#include "jobschema.h"
+#include "jobwords.h"
+
+#include <algorithm>
+#include <set>
+
+namespace cabledoc {
+
+namespace {
+
+/// The attributes of the columns before the status, which is an attribute of the test results.
+const QStringList &columnAttributes()
+{
+    static const QStringList names{words::Type, words::Use,  words::BundleName, words::BundleGroupNum,
+                                   words::To,   words::From, words::Path};
+    return names;
+}
+
+/// Returns the attribute, or a null text if the element does not have it.
+QString valueOf(const QDomElement &element, const QString &attribute)
+{
+    const QString value = element.attribute(attribute);
+    return value.isNull() && element.hasAttribute(attribute) ? QLatin1String("") : value;
+}
+
+QString valueIn(const QDomElement &cable, CableColumn column)
+{
+    return column == CableColumn::Status ? testStatus(cable) : valueOf(cable, columnAttributes().at(int(column)));
+}
+
+} // namespace
+
+CableTable::CableTable(const QVector<QDomElement> &cables, const ElementIndex &index)
+{
+    m_rows.reserve(std::size_t(cables.size()));
+    for (const QDomElement &cable : cables) {
+        const QString tag = cable.tagName();
+        m_rows.push_back({cable, tag, index.isRepeated(tag) ? cable.attribute(words::Id) : index.id(tag)});
+    }
+}
+
+ListNotes CableTable::wantedNotes()
+{
+    ListNotes notes;
+    notes.listName = words::CableList;
+    notes.attributes = columnAttributes();
+    notes.childName = words::TestResults;
+    notes.childAttribute = words::Status;
+    return notes;
+}
+
+void CableTable::take(ListNotes *notes)
+{
+    if (notes->values.empty() || notes->values.front().size() != m_rows.size())
+        return;
+    for (std::size_t column = 0; column < m_columns.size(); ++column)
+        m_columns[column] = std::move(notes->values[column]);
+    const QString untested = testResultsAttributes().defaultText(words::Status);
+    for (QString &status : *m_columns[std::size_t(CableColumn::Status)]) {
+        if (status.isNull())
+            status = untested;
+    }
+    naming();
+}
+
+bool CableTable::dependsOn(const QString &attribute)
+{
+    return attribute == words::Id || columnAttributes().contains(attribute);
+}
+
+const QStringList &CableTable::tags() const
+{
+    if (!m_tags) {
+        m_tags.emplace();
+        for (const Row &row : m_rows) {
+            if (!row.isRemoved)
+                m_tags->append(row.tag);
+        }
+    }
+    return *m_tags;
+}
+
+const QStringList &CableTable::ids() const
+{
+    if (!m_ids) {
+        m_ids.emplace();
+        for (const Row &row : m_rows) {
+            if (!row.isRemoved)
+                m_ids->append(row.id);
+        }
+    }
+    return *m_ids;
+}
+
+QStringList CableTable::tagsEndingAt(const QStringList &ends)
+{
+    const Column &to = column(CableColumn::To);
+    const Column &from = column(CableColumn::From);
+    std::set<std::size_t> rows;
+    for (const QString &end : ends) {
+        const auto insert = [&](std::size_t row) {
+            if (to[row] == end || from[row] == end)
+                rows.insert(row);
+        };
+        if (!end.isEmpty()) {
+            for (const std::size_t row : rowsNaming(end))
+                insert(row);
+            continue;
+        }
+        // A cable without an end does not name a tag.
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (!m_rows[row].cable.isNull())
+                insert(row);
+        }
+    }
+    QStringList tags;
+    for (const std::size_t row : rows)
+        tags.append(m_rows[row].tag);
+    return tags;
+}
+
+QVector<QDomElement> CableTable::cablesNaming(const QString &tag)
+{
+    const std::vector<std::size_t> rows = rowsNaming(tag);
+    // A cable can name a tag several times.
+    const std::set<std::size_t> sorted(rows.begin(), rows.end());
+    QVector<QDomElement> cables;
+    for (const std::size_t row : sorted)
+        cables.append(m_rows[row].cable);
+    return cables;
+}
+
+// Changes
+
+void CableTable::append(const QDomElement &cable)
+{
+    const std::size_t row = m_rows.size();
+    m_rows.push_back({cable, cable.tagName(), cable.attribute(words::Id)});
+    for (std::size_t column = 0; column < m_columns.size(); ++column) {
+        if (m_columns[column])
+            m_columns[column]->push_back(valueIn(cable, CableColumn(column)));
+    }
+    if (m_rowOfTag)
+        m_rowOfTag->try_emplace(m_rows.back().tag, row);
+    enterNamesOf(row);
+    forgetLists();
+}
+
+void CableTable::remove(const QDomElement &cable)
+{
+    const auto row = rowOf(cable);
+    if (!row)
+        return;
+    Row &removed = m_rows[*row];
+    const auto ofTag = m_rowOfTag->find(removed.tag);
+    if (ofTag != m_rowOfTag->end() && ofTag->second == *row)
+        m_rowOfTag->erase(ofTag);
+    removed.isRemoved = true;
+    removed.cable = QDomElement();
+    ++m_removedRows;
+    if (m_removedRows > m_rows.size() / 2)
+        removeGaps();
+    forgetLists();
+}
+
+void CableTable::update(const QDomElement &cable, const QString &attribute)
+{
+    const int number = int(columnAttributes().indexOf(attribute));
+    const bool isId = attribute == words::Id;
+    if (!isId && (number < 0 || !m_columns[std::size_t(number)]))
+        return;
+    const auto row = rowOf(cable);
+    if (!row)
+        return;
+    if (isId) {
+        m_rows[*row].id = cable.attribute(attribute);
+        m_ids.reset();
+        return;
+    }
+    (*m_columns[std::size_t(number)])[*row] = valueOf(cable, attribute);
+    if (namingAttributes().contains(attribute))
+        enterNamesOf(*row);
+}
+
+void CableTable::updateStatus(const QDomElement &cable)
+{
+    std::optional<Column> &statuses = m_columns[std::size_t(CableColumn::Status)];
+    const auto row = statuses ? rowOf(cable) : std::nullopt;
+    if (row)
+        (*statuses)[*row] = testStatus(cable);
+}
+
+void CableTable::forgetElements()
+{
+    column(CableColumn::Type);
+    for (std::size_t number = 0; number < m_columns.size(); ++number) {
+        if (CableColumn(number) != CableColumn::Type)
+            m_columns[number].emplace(m_rows.size());
+    }
+    for (Row &row : m_rows)
+        row.cable = QDomElement();
+    m_naming.reset();
+}
+
+bool CableTable::hasAnswersOf(CableTable &other)
+{
+    const auto haveEqualColumns = [&](CableColumn name) {
+        QStringList values;
+        QStringList otherValues;
+        const auto collect = [](QStringList *all) {
+            return [all](const QString &value) {
+                all->append(value.isNull() ? QStringLiteral("missing") : QLatin1Char('=') + value);
+                return false;
+            };
+        };
+        tagsWhere(name, collect(&values));
+        other.tagsWhere(name, collect(&otherValues));
+        return values == otherValues;
+    };
+    for (int number = 0; number < int(CableColumn::Count); ++number) {
+        if (!haveEqualColumns(CableColumn(number)))
+            return false;
+    }
+    for (std::size_t row = 0; row < other.m_rows.size(); ++row) {
+        for (const QString &tag : other.tagsNamedBy(row)) {
+            if (cablesNaming(tag) != other.cablesNaming(tag))
+                return false;
+        }
+    }
+    return tags() == other.tags() && ids() == other.ids();
+}
+
+// Parts that are made when they are needed
+
+CableTable::Column &CableTable::column(CableColumn name)
+{
+    std::optional<Column> &values = m_columns[std::size_t(name)];
+    if (!values) {
+        values.emplace(m_rows.size());
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (!m_rows[row].isRemoved)
+                (*values)[row] = valueIn(m_rows[row].cable, name);
+        }
+    }
+    return *values;
+}
+
+/// Returns the row of a cable, or nothing if the table does not have it.
+std::optional<std::size_t> CableTable::rowOf(const QDomElement &cable)
+{
+    if (!m_rowOfTag) {
+        m_rowOfTag.emplace();
+        m_rowOfTag->reserve(m_rows.size());
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (!m_rows[row].isRemoved)
+                m_rowOfTag->try_emplace(m_rows[row].tag, row);
+        }
+    }
+    const auto ofTag = m_rowOfTag->find(cable.tagName());
+    if (ofTag != m_rowOfTag->end() && m_rows[ofTag->second].cable == cable)
+        return ofTag->second;
+    // Several cables share the tag.
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [&cable](const Row &row) { return row.cable == cable; });
+    return found == m_rows.end() ? std::nullopt : std::optional(std::size_t(found - m_rows.begin()));
+}
+
+/// Returns the tags that a cable names. Reads the columns of all cables if they are not known.
+QStringList CableTable::tagsNamedBy(std::size_t row)
+{
+    QStringList tags;
+    for (const Reference &reference : cableKind().references) {
+        for (const QString &attribute : reference.attributes)
+            tags += reference.tagsIn(column(CableColumn(columnAttributes().indexOf(attribute)))[row]);
+    }
+    return tags;
+}
+
+/// Returns the rows of the cables that name the tag. A row can occur several times.
+std::vector<std::size_t> CableTable::rowsNaming(const QString &tag)
+{
+    const Naming &names = naming();
+    const std::size_t hash = TextHash()(tag);
+    std::vector<std::size_t> rows;
+    for (int entry = names.firstOfChain[hash & (names.firstOfChain.size() - 1)]; entry >= 0;
+         entry = names.entries[std::size_t(entry)].next) {
+        const Naming::Entry &named = names.entries[std::size_t(entry)];
+        if (named.hash == hash && !m_rows[named.row].isRemoved && tagsNamedBy(named.row).contains(tag))
+            rows.push_back(named.row);
+    }
+    return rows;
+}
+
+void CableTable::Naming::insert(std::size_t hash, std::size_t row)
+{
+    int &first = firstOfChain[hash & (firstOfChain.size() - 1)];
+    entries.push_back({hash, row, first});
+    first = int(entries.size()) - 1;
+}
+
+void CableTable::enterNamesOf(std::size_t row)
+{
+    if (!m_naming)
+        return;
+    // Many changes have left entries that no longer hold, or the chains have become long.
+    if (m_naming->entries.size() > 4 * m_naming->firstOfChain.size()) {
+        m_naming.reset();
+        return;
+    }
+    for (const QString &tag : tagsNamedBy(row))
+        m_naming->insert(TextHash()(tag), row);
+}
+
+CableTable::Naming &CableTable::naming()
+{
+    if (m_naming)
+        return *m_naming;
+    m_naming.emplace();
+    std::size_t chains = 64;
+    while (chains < 2 * m_rows.size())
+        chains *= 2;
+    m_naming->firstOfChain.assign(chains, -1);
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        for (const QString &tag : tagsNamedBy(row))
+            m_naming->insert(TextHash()(tag), row);
+    }
+    return *m_naming;
+}
+
+/// Removes the rows of cables that were removed.
+void CableTable::removeGaps()
+{
+    std::size_t kept = 0;
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        if (m_rows[row].isRemoved)
+            continue;
+        if (kept != row) {
+            m_rows[kept] = std::move(m_rows[row]);
+            for (std::optional<Column> &values : m_columns) {
+                if (values)
+                    (*values)[kept] = std::move((*values)[row]);
+            }
+        }
+        ++kept;
+    }
+    m_rows.erase(m_rows.begin() + std::ptrdiff_t(kept), m_rows.end());
+    for (std::optional<Column> &values : m_columns) {
+        if (values)
+            values->resize(kept);
+    }
+    m_removedRows = 0;
+    m_rowOfTag.reset();
+    m_naming.reset();
+}
+
+void CableTable::forgetLists()
+{
+    m_tags.reset();
+    m_ids.reset();
+}
+
+} // namespace cabledoc
