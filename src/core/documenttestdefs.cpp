@@ -9,7 +9,7 @@ using namespace cabledoc;
 
 TestDef BKXMLEditor::getTestDef(const QString &name) const
 {
-    const QDomElement element = childWithId(getToTestDefList(), name);
+    const QDomElement element = inside().tree().definition(name);
     if (element.isNull())
         return TestDef(name);
     return TestDef(testDefAttributes().read(element));
@@ -45,17 +45,17 @@ void BKXMLEditor::addTestDefs(const QVector<TestDef> &definitions)
 
 void BKXMLEditor::renameTestDef(const QString &oldName, const QString &newName)
 {
-    inside().tree().setAttribute(childWithId(getToTestDefList(), oldName), words::Id, newName);
+    inside().tree().setAttribute(inside().tree().definition(oldName), words::Id, newName);
 }
 
 void BKXMLEditor::removeTestDef(const QString &name)
 {
-    inside().tree().remove(childWithId(getToTestDefList(), name));
+    inside().tree().remove(inside().tree().definition(name));
 }
 
 bool BKXMLEditor::testDefExists(const QString &name) const
 {
-    return !childWithId(getToTestDefList(), name).isNull();
+    return !inside().tree().definition(name).isNull();
 }
 
 bool BKXMLEditor::testDefElementExists(const QString &tag) const

@@ -1,5 +1,8 @@
 #include "documenttree.h"
 
+#include "childelements.h"
+#include "words.h"
+
 namespace cabledoc {
 
 DocumentTree::DocumentTree(const QString &documentTypeName)
@@ -16,6 +19,7 @@ DocumentTree::~DocumentTree() = default;
 
 void DocumentTree::setDocument(const QDomDocument &document)
 {
+    m_definitions.clear();
     m_document = document;
 }
 
@@ -30,12 +34,35 @@ QDomElement DocumentTree::child(const QString &tagName) const
     return tagName.isEmpty() ? QDomElement() : m_document.firstChild().firstChildElement(tagName);
 }
 
+QDomElement DocumentTree::definition(const QString &name) const
+{
+    const QDomElement list = child(words::TestDefList);
+    const auto known = m_definitions.find(name);
+    // A caller may have changed the tree.
+    if (known != m_definitions.end() && known->second.parentNode() == list
+        && known->second.attribute(words::Id) == name)
+        return known->second;
+    const QDomElement found = childWithId(list, name);
+    if (!found.isNull())
+        m_definitions[name] = found;
+    return found;
+}
+
+/// Must be called after elements of a list or their names have been changed.
+void DocumentTree::forgetDefinitions(const QDomNode &changedList)
+{
+    if (!m_definitions.empty() && changedList.nodeName() == words::TestDefList)
+        m_definitions.clear();
+}
+
 void DocumentTree::setAttribute(QDomElement element, const QString &name, const QString &value)
 {
     if (element.isNull())
         return;
     element.setAttribute(name, value);
     m_isChanged = true;
+    if (name == words::Id)
+        forgetDefinitions(element.parentNode());
 }
 
 void DocumentTree::removeAttribute(QDomElement element, const QString &name)
@@ -60,6 +87,7 @@ void DocumentTree::insert(const QDomElement &element, QDomNode parent)
         return;
     parent.appendChild(element);
     m_isChanged = true;
+    forgetDefinitions(parent);
 }
 
 void DocumentTree::move(const QDomNode &node, QDomNode parent)
@@ -68,6 +96,7 @@ void DocumentTree::move(const QDomNode &node, QDomNode parent)
         return;
     parent.appendChild(node);
     m_isChanged = true;
+    forgetDefinitions(parent);
 }
 
 void DocumentTree::remove(const QDomElement &element)

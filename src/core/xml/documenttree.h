@@ -1,6 +1,7 @@
 #pragma once
 
 #include "attributetable.h"
+#include "texthash.h"
 
 #include <QtXml/QDomDocument>
 
@@ -28,6 +29,10 @@ public:
     QDomElement root() const;
     /// Returns the first child of the root with the given name, or a null element if there is none.
     QDomElement child(const QString &tagName) const;
+
+    /// Returns the first test definition with the given name, or a null element if there is none. The tree remembers
+    /// it, so that each further search takes the same time, however many definitions there are.
+    QDomElement definition(const QString &name) const;
 
     /// Returns whether the tree is marked as changed since it was created, loaded or saved.
     bool isChanged() const { return m_isChanged; }
@@ -94,8 +99,12 @@ private:
     void writeFields(const QDomElement &element, const AttributeList &attributes, const void *fields);
     void changeFields(const QDomElement &element, const AttributeList &attributes, const void *fields);
 
+    void forgetDefinitions(const QDomNode &changedList);
+
     QDomDocument m_document;
     bool m_isChanged = false;
+    /// Test definitions that were found, by their names.
+    mutable TextMap<QDomElement> m_definitions;
 };
 
 } // namespace cabledoc

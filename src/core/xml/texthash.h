@@ -22,8 +22,7 @@ struct TextHash
 
 /// A map from texts to values. Its entries are in one piece of memory, which makes it several times as fast to fill and
 /// to destroy as a std::unordered_map.
-template <typename Value>
-class TextMap
+template <typename Value> class TextMap
     : public tsl::ordered_map<QString, Value, TextHash, std::equal_to<QString>,
                               std::allocator<std::pair<QString, Value>>, std::vector<std::pair<QString, Value>>>
 {

@@ -7,6 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace cabledoc::xmlfile {
 
@@ -87,6 +90,54 @@ bool isMixed(const QDomElement &element)
     return false;
 }
 
+/// Bytes that have not been passed on yet. Most writes are of a few bytes, so they are inline.
+class Buffer
+{
+public:
+    qint64 size() const { return m_size; }
+
+    Buffer &operator+=(char byte)
+    {
+        *room(1) = byte;
+        ++m_size;
+        return *this;
+    }
+    Buffer &operator+=(std::string_view bytes)
+    {
+        std::copy(bytes.begin(), bytes.end(), room(qint64(bytes.size())));
+        m_size += qint64(bytes.size());
+        return *this;
+    }
+    void append(int count, char byte)
+    {
+        std::fill_n(room(count), count, byte);
+        m_size += count;
+    }
+
+    /// Returns a place for so many bytes. They count after take().
+    char *room(qint64 count)
+    {
+        if (m_size + count > m_bytes.size())
+            m_bytes.resize(int(std::max<qint64>(2 * m_bytes.size(), m_size + count + minimumSize)));
+        return m_bytes.data() + m_size;
+    }
+    /// Adds the bytes from the place that room() returned up to the given end.
+    void take(const char *end) { m_size = end - m_bytes.constData(); }
+
+    /// Passes the bytes on, and empties the buffer. Returns what the sink returns.
+    QString passTo(const Sink &sink)
+    {
+        m_bytes.resize(int(std::exchange(m_size, 0)));
+        return sink(m_bytes);
+    }
+
+private:
+    static constexpr qint64 minimumSize = 4096;
+
+    QByteArray m_bytes;
+    qint64 m_size = 0;
+};
+
 class TextWriter
 {
 public:
@@ -139,11 +190,7 @@ private:
         const QStringList *childOrder;
     };
 
-    void passOn()
-    {
-        m_outcome.error = m_sink(m_bytes);
-        m_bytes.resize(0);
-    }
+    void passOn() { m_outcome.error = m_bytes.passTo(m_sink); }
 
     void start(const QDomNode &node)
     {
@@ -187,9 +234,9 @@ private:
     {
         const OpenElement element = m_open.takeLast();
         if (!element.isMixed)
-            m_bytes.append(m_open.size(), ' ');
+            m_bytes.append(int(m_open.size()), ' ');
         m_bytes += "</";
-        m_bytes += element.name;
+        m_bytes += std::string_view(element.name.constData(), std::size_t(element.name.size()));
         m_bytes += '>';
         endLine();
     }
@@ -276,7 +323,7 @@ private:
     void indent()
     {
         if (!isMixedHere())
-            m_bytes.append(m_open.size(), ' ');
+            m_bytes.append(int(m_open.size()), ' ');
     }
 
     void endLine()
@@ -288,43 +335,39 @@ private:
     void append(const QString &text, Escape escape)
     {
         const PlainCharacters &isPlain = plainCharacters(escape);
-        const auto *next = reinterpret_cast<const char16_t *>(text.utf16());
-        const char16_t *end = next + text.size();
+        const QChar *next = text.constData();
+        const QChar *const end = next + text.size();
         while (next != end) {
-            const char16_t *runEnd = std::find_if_not(
-                next, end, [&isPlain](char16_t character) { return character < isPlain.size() && isPlain[character]; });
-            appendPlain(next, runEnd);
-            next = runEnd;
-            if (next == end)
-                return;
-            if (const char *escaped = reference(*next, escape)) {
-                m_bytes += escaped;
-            } else {
-                const bool isPair = QChar::isHighSurrogate(*next) && next + 1 != end && QChar::isLowSurrogate(next[1]);
-                appendOdd(isPair ? QChar::surrogateToUcs4(next[0], next[1]) : char32_t(*next), escape);
-                next += isPair ? 1 : 0;
-            }
-            ++next;
+            char *place = m_bytes.room(end - next);
+            for (; next != end && next->unicode() < isPlain.size() && isPlain[next->unicode()]; ++next)
+                *place++ = char(next->unicode());
+            m_bytes.take(place);
+            if (next != end)
+                next = appendEscaped(next, end, escape);
         }
+    }
+
+    /// Appends the next character of a text, which cannot be written as it is. Returns the place of the one after it.
+    const QChar *appendEscaped(const QChar *next, const QChar *end, Escape escape)
+    {
+        if (const char *escaped = reference(next->unicode(), escape)) {
+            m_bytes += std::string_view(escaped);
+            return next + 1;
+        }
+        const bool isPair = next->isHighSurrogate() && next + 1 != end && next[1].isLowSurrogate();
+        appendOdd(isPair ? QChar::surrogateToUcs4(next[0], next[1]) : char32_t(next->unicode()), escape);
+        return next + (isPair ? 2 : 1);
     }
 
     /// Appends a character that cannot be written as it is and has no named reference.
     void appendOdd(char32_t character, Escape escape)
     {
         if (m_beyondLatin1 == BeyondLatin1::AsReferences && escape != Escape::Nothing && isReferable(character)) {
-            m_bytes += "&#" + QByteArray::number(quint32(character)) + ';';
+            m_bytes += "&#" + std::to_string(quint32(character)) + ';';
         } else {
             m_bytes += '?';
             ++m_outcome.replacedCharacters;
         }
-    }
-
-    /// Appends characters that are the same in Latin-1, all at once.
-    void appendPlain(const char16_t *begin, const char16_t *end)
-    {
-        const auto size = m_bytes.size();
-        m_bytes.resize(size + int(end - begin));
-        std::transform(begin, end, m_bytes.data() + size, [](char16_t character) { return char(character); });
     }
 
     static constexpr int pieceSize = 4 << 20;
@@ -333,8 +376,7 @@ private:
     const Sink &m_sink;
     BeyondLatin1 m_beyondLatin1;
     QVector<OpenElement> m_open;
-    /// Bytes that have not been passed on yet.
-    QByteArray m_bytes;
+    Buffer m_bytes;
     Outcome m_outcome;
 };
 

@@ -123,11 +123,8 @@ QStringList CableTable::tagsEndingAt(const QStringList &ends)
 
 QVector<QDomElement> CableTable::cablesNaming(const QString &tag)
 {
-    const std::vector<std::size_t> rows = rowsNaming(tag);
-    // A cable can name a tag several times.
-    const std::set<std::size_t> sorted(rows.begin(), rows.end());
     QVector<QDomElement> cables;
-    for (const std::size_t row : sorted)
+    for (const std::size_t row : rowsNaming(tag))
         cables.append(m_rows[row].cable);
     return cables;
 }
@@ -223,13 +220,27 @@ bool CableTable::hasAnswersOf(CableTable &other)
         if (!haveEqualColumns(CableColumn(number)))
             return false;
     }
-    for (std::size_t row = 0; row < other.m_rows.size(); ++row) {
-        for (const QString &tag : other.tagsNamedBy(row)) {
-            if (cablesNaming(tag) != other.cablesNaming(tag))
-                return false;
-        }
+    if (tags() != other.tags() || ids() != other.ids())
+        return false;
+    // The other table may have other gaps between its rows.
+    std::vector<std::size_t> ownRows;
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        if (!m_rows[row].isRemoved)
+            ownRows.push_back(row);
     }
-    return tags() == other.tags() && ids() == other.ids();
+    TextMap<std::set<std::size_t>> rowsOfTag;
+    std::size_t number = 0;
+    for (std::size_t row = 0; row < other.m_rows.size(); ++row) {
+        if (other.m_rows[row].isRemoved)
+            continue;
+        for (const QString &tag : other.tagsNamedBy(row))
+            rowsOfTag[tag].insert(ownRows[number]);
+        ++number;
+    }
+    return std::all_of(rowsOfTag.begin(), rowsOfTag.end(), [this](const auto &entry) {
+        const std::vector<std::size_t> rows = rowsNaming(entry.first);
+        return std::includes(rows.begin(), rows.end(), entry.second.begin(), entry.second.end());
+    });
 }
 
 // Parts that are made when they are needed
@@ -278,7 +289,8 @@ QStringList CableTable::tagsNamedBy(std::size_t row)
     return tags;
 }
 
-/// Returns the rows of the cables that name the tag. A row can occur several times.
+/// Returns the rows of all cables that name the tag, in document order. There may be rows among them that named it
+/// earlier. It would take long to look for a tag in a long path, so the caller does that where it has to.
 std::vector<std::size_t> CableTable::rowsNaming(const QString &tag)
 {
     const Naming &names = naming();
@@ -287,9 +299,12 @@ std::vector<std::size_t> CableTable::rowsNaming(const QString &tag)
     for (int entry = names.firstOfChain[hash & (names.firstOfChain.size() - 1)]; entry >= 0;
          entry = names.entries[std::size_t(entry)].next) {
         const Naming::Entry &named = names.entries[std::size_t(entry)];
-        if (named.hash == hash && !m_rows[named.row].isRemoved && tagsNamedBy(named.row).contains(tag))
+        if (named.hash == hash && !m_rows[named.row].isRemoved)
             rows.push_back(named.row);
     }
+    // A cable can name a tag several times.
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }
 

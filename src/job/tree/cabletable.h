@@ -48,7 +48,8 @@ public:
     template <typename Condition> QStringList tagsWhere(CableColumn column, Condition condition);
     /// Returns the tags of the cables that end at one of the given places.
     QStringList tagsEndingAt(const QStringList &ends);
-    /// Returns the cables that name the tag as an end or as a place on their path.
+    /// Returns all cables that name the tag as an end or as a place on their path. There may be others among them that
+    /// named it earlier.
     QVector<QDomElement> cablesNaming(const QString &tag);
 
     // Changes of the tree
@@ -76,7 +77,7 @@ private:
     };
     using Column = std::vector<QString>;
 
-    /// Finds rows by the hashes of the tags that they name. It keeps rows that no longer name a tag.
+    /// Finds rows by the hashes of the tags that they name. Rows that no longer name a tag stay.
     struct Naming
     {
         struct Entry

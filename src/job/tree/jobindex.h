@@ -39,7 +39,7 @@ public:
     /// only on their floor.
     ContainerIndex *roomsOf(const QString &floorTag);
     CableTable &cables();
-    /// Returns the elements that name a tag.
+    /// Returns all elements that name a tag. There may be cables among them that named it earlier.
     QVector<QDomElement> elementsNaming(const QString &tag);
     /// Returns whether an element can be found by its tag and the tags of the elements that hold it. If several
     /// elements in a list have the same tag, only the first one can be found.
