@@ -2,7 +2,9 @@
 // are compared with a bare QDomDocument, and with pugixml, which shows the limit of a lean tree.
 //
 //     bench_files FOLDER [options of Google Benchmark]      makes the files in FOLDER unless they exist
-//     bench_files memory job|bare|pugixml FILE              loads the file and prints the process's memory in MB
+//     bench_files make FILE.job CABLES                      makes one of the files
+//     bench_files run job|save|bare|pugixml FILE            loads the file, with save also saves it, and prints the
+//                                                           memory that the process takes, in MB
 
 #include "ratios.h"
 
@@ -24,6 +26,12 @@ constexpr int sizes[] = {1000, 10000, 100000};
 constexpr int roomsOfFloor = 20;
 constexpr int portsOfRoom = 50;
 constexpr int cablesOfCurves = 10; // every tenth cable has response curves
+
+// The trees of the two versions of Qt differ in their cost.
+constexpr bool isQt6 = QT_VERSION_MAJOR == 6;
+constexpr double loadAim = isQt6 ? 0.75 : 0.6;
+constexpr double memoryAim = isQt6 ? 0.9 : 0.8;
+constexpr double saveAim = isQt6 ? 0.85 : 0.3;
 
 QString folder;
 
@@ -55,11 +63,11 @@ QString text(const char *latin1, int number)
 }
 
 /// Makes a job with floors, rooms, ports and cables. Each cable has two ports of its own and test results.
-void make(int cables)
+void make(const QString &fileName, int cables)
 {
     JobEditor::Destroy();
     JobEditor &job = JobEditor::Instance();
-    job.New(fileOf(cables));
+    job.New(fileName);
     QString floor;
     QString room;
     for (int port = 0; port < 2 * cables; ++port) {
@@ -200,17 +208,20 @@ double residentMegabytes()
     return all.mid(all.indexOf("VmRSS:") + 6).simplified().split(' ').constFirst().toDouble() / 1024;
 }
 
-int printMemory(const QByteArray &what, const QString &fileName)
+/// Does one thing in this process, and prints how much memory it has taken.
+int run(const QByteArray &what, const QString &fileName)
 {
     const double before = residentMegabytes();
     Document document;
     LeanDocument leanDocument;
-    if (what == "job")
+    if (what == "job" || what == "save")
         loadJob(fileName);
     else if (what == "bare")
         document = loadBare(fileName);
     else
         leanDocument = loadLean(fileName);
+    if (what == "save" && !JobEditor::Instance().save())
+        fail(JobEditor::Instance().error());
     std::printf("%.1f\n", residentMegabytes() - before);
     return 0;
 }
@@ -219,7 +230,7 @@ int printMemory(const QByteArray &what, const QString &fileName)
 double memoryOf(const char *what, int cables)
 {
     QProcess process;
-    process.start(QStringLiteral("/proc/self/exe"), {QStringLiteral("memory"), QLatin1String(what), fileOf(cables)});
+    process.start(QStringLiteral("/proc/self/exe"), {QStringLiteral("run"), QLatin1String(what), fileOf(cables)});
     if (!process.waitForFinished(-1))
         fail(process.errorString());
     return process.readAllStandardOutput().toDouble();
@@ -236,22 +247,27 @@ void compareMemory()
         ratios.push_back(job / bare);
     }
     for (std::size_t i = 0; i < ratios.size(); ++i)
-        printRatio({"load/" + std::to_string(sizes[i]), "bareParse", 1.15}, ratios[i], "holds");
+        printRatio({"load/" + std::to_string(sizes[i]), "bareParse", memoryAim}, ratios[i], "holds");
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (argc == 4 && std::strcmp(argv[1], "memory") == 0)
-        return printMemory(argv[2], QFile::decodeName(argv[3]));
+    if (argc == 4 && std::strcmp(argv[1], "run") == 0)
+        return run(argv[2], QFile::decodeName(argv[3]));
+    if (argc == 4 && std::strcmp(argv[1], "make") == 0) {
+        make(QFile::decodeName(argv[2]), std::atoi(argv[3]));
+        JobEditor::Destroy();
+        return 0;
+    }
     if (argc < 2)
         fail(QStringLiteral("a folder is needed"));
     folder = QFile::decodeName(argv[1]);
     argv[1] = argv[0];
     for (const int cables : sizes) {
         if (!QFile::exists(fileOf(cables)))
-            make(cables);
+            make(fileOf(cables), cables);
     }
     JobEditor::Destroy();
 
@@ -274,9 +290,9 @@ int main(int argc, char *argv[])
                 ->Repetitions(5);
         }
         const std::string size = '/' + std::to_string(cables);
-        ratios.insert(ratios.end(), {{"load" + size, "bareParse" + size, 1.15},
-                                     {"save" + size, "bareWrite" + size, 0.7},
-                                     {"rebuild" + size, "load" + size, 0.1},
+        ratios.insert(ratios.end(), {{"load" + size, "bareParse" + size, loadAim},
+                                     {"save" + size, "bareWrite" + size, saveAim},
+                                     {"rebuild" + size, "load" + size, 0.12},
                                      {"load" + size, "pugixmlLoad" + size},
                                      {"save" + size, "pugixmlSave" + size}});
     }
