@@ -1,5 +1,5 @@
 // Measures what the first use of an operation costs after a load, beside the same operation once more, and what single
-// operations cost when nothing of the job is in a cache. The jobs are those of bench_files.
+// operations cost when nothing of the job is in the caches of a processor. The jobs are those of bench_files.
 //
 //     bench_firstuse FOLDER
 
@@ -95,7 +95,7 @@ const Operation listOperations[] = {
      [](JobEditor &job, int) { benchmark::DoNotOptimize(job.getCablesByFloor(QStringLiteral("FFloor_1"))); }},
 };
 
-/// Puts other data into all caches of the processor.
+/// Puts other data into the caches of the processor. Some machines share a last cache that is larger.
 void coolDown()
 {
     static std::vector<char> other(std::size_t(96) << 20);

@@ -1,6 +1,7 @@
 #include "documentcheck.h"
 
 #include "bkxmleditor.h"
+#include "childelements.h"
 #include "document.h"
 #include "jobschema.h"
 #include "jobwords.h"
@@ -139,7 +140,7 @@ private:
     /// Checks the tags of the children. All tags that enter the same lines must differ.
     void checkTags(FlatNode list, Lines *lines)
     {
-        for (const FlatNode &element : FlatChildren(list)) {
+        for (const FlatNode &element : ChildElements(list)) {
             const auto [known, isNew] = lines->try_emplace(element.tagName(), element.line());
             if (!isNew)
                 report("duplicate-tag", element,
@@ -150,7 +151,7 @@ private:
     void checkIds(FlatNode list)
     {
         Lines lines;
-        for (const FlatNode &element : FlatChildren(list)) {
+        for (const FlatNode &element : ChildElements(list)) {
             const QString id = attribute(element, words::Id);
             if (id.isEmpty())
                 continue;
@@ -181,14 +182,14 @@ private:
         const FlatNode definitions = root.firstChildElement(words::TestDefList);
         checkTagsAlone(definitions);
         checkIds(definitions);
-        for (const FlatNode &element : FlatChildren(definitions))
+        for (const FlatNode &element : ChildElements(definitions))
             checkDefinition(element);
 
         const FlatNode bundles = root.firstChildElement(words::BundledCableList);
         checkTagsAlone(bundles);
         checkIds(bundles);
-        for (const FlatNode &bundle : FlatChildren(bundles)) {
-            for (const FlatNode &type : FlatChildren(bundle.firstChildElement(words::BundledCableTypeList)))
+        for (const FlatNode &bundle : ChildElements(bundles)) {
+            for (const FlatNode &type : ChildElements(bundle.firstChildElement(words::BundledCableTypeList)))
                 checkType(bundle, attribute(type, words::Id));
             m_bundles.insert(attribute(bundle, words::Id));
         }
@@ -227,7 +228,7 @@ private:
         }
         for (const ElementSchema *kind : jobSchema()) {
             for (const FlatNode &list : listsOf(*kind, root)) {
-                for (const FlatNode &element : FlatChildren(list))
+                for (const FlatNode &element : ChildElements(list))
                     checkReferences(*kind, element);
             }
         }
@@ -240,7 +241,7 @@ private:
             return {kind.listIn(root)};
         std::vector<FlatNode> lists;
         for (const FlatNode &holderList : listsOf(schemaOf(kind.holder), root)) {
-            for (const FlatNode &holder : FlatChildren(holderList))
+            for (const FlatNode &holder : ChildElements(holderList))
                 lists.push_back(kind.listIn(holder));
         }
         return lists;

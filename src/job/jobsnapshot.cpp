@@ -1,6 +1,7 @@
 #include "jobsnapshot.h"
 
 #include "cablelength.h"
+#include "childelements.h"
 #include "flattree.h"
 #include "jobeditor_p.h"
 #include "jobwords.h"
@@ -210,7 +211,7 @@ private:
             readFields(measurementAttributes(), m_data.results.back(), &cable->test);
         });
         readList(activePortKind(), root, {}, &m_data.activePorts, [this](FlatNode node, snapshot::ActivePort *port) {
-            for (const FlatNode &result : FlatChildren(node)) {
+            for (const FlatNode &result : ChildElements(node)) {
                 if (result.hasName(words::ActiveTestResult))
                     port->results.append(readActiveTestResult(result));
             }
@@ -255,7 +256,7 @@ private:
     readList(const Kind<Fields> &kind, FlatNode holderNode, const Holder &holder, QVector<Item> *items, Use use)
     {
         const int first = int(items->size());
-        for (const FlatNode &node : FlatChildren(kind.listIn(holderNode))) {
+        for (const FlatNode &node : ChildElements(kind.listIn(holderNode))) {
             Item item;
             readFields(tableOf(kind), node, static_cast<typename Item::Fields *>(&item));
             item.element = node.tagName();
@@ -346,7 +347,7 @@ private:
     {
         ActiveTestResultFields fields;
         readFields(activeTestResultAttributes(), element, &fields);
-        for (const FlatNode &value : FlatChildren(element)) {
+        for (const FlatNode &value : ChildElements(element)) {
             if (!value.hasName(words::ActiveTestValue))
                 continue;
             m_attributes.read(value);
@@ -360,7 +361,7 @@ private:
     template <typename Fields>
     void readShared(const AttributeTable<Fields> &table, FlatNode list, QVector<snapshot::Element<Fields>> *items)
     {
-        for (const FlatNode &node : FlatChildren(list)) {
+        for (const FlatNode &node : ChildElements(list)) {
             snapshot::Element<Fields> item;
             readFields(table, node, static_cast<Fields *>(&item));
             item.line = node.line();
@@ -374,10 +375,10 @@ private:
         const FlatNode list = root.firstChildElement(words::BundledCableList);
         readShared(bundledCableAttributes(), list, &m_data.bundles);
         int position = 0;
-        for (const FlatNode &node : FlatChildren(list)) {
+        for (const FlatNode &node : ChildElements(list)) {
             snapshot::Bundle &bundle = m_data.bundles[position++];
             bundle.tag = node.tagName();
-            for (const FlatNode &type : FlatChildren(node.firstChildElement(words::BundledCableTypeList)))
+            for (const FlatNode &type : ChildElements(node.firstChildElement(words::BundledCableTypeList)))
                 bundle.types.append(attribute(type, words::Id));
         }
     }
@@ -393,7 +394,7 @@ private:
     template <typename Fields>
     void readSettings(const AttributeTable<Fields> &table, FlatNode list, QMap<QString, Fields> *settings)
     {
-        for (const FlatNode &node : FlatChildren(list)) {
+        for (const FlatNode &node : ChildElements(list)) {
             Fields fields;
             readFields(table, node, &fields);
             if (!settings->contains(node.tagName()))

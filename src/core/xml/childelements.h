@@ -10,19 +10,19 @@
 
 namespace cabledoc {
 
-/// The child elements of an element in document order, for range-based loops. The loop must not remove the current
-/// element.
-class ChildElements
+/// The child elements of a QDomElement or a FlatNode in document order, for range-based loops. The loop must not remove
+/// the current element.
+template <typename Element> class ChildElements
 {
 public:
     class Iterator
     {
     public:
-        explicit Iterator(const QDomElement &element)
+        explicit Iterator(const Element &element)
             : m_element(element)
         {
         }
-        const QDomElement &operator*() const { return m_element; }
+        const Element &operator*() const { return m_element; }
         Iterator &operator++()
         {
             m_element = m_element.nextSiblingElement();
@@ -31,18 +31,18 @@ public:
         bool operator!=(const Iterator &other) const { return m_element != other.m_element; }
 
     private:
-        QDomElement m_element;
+        Element m_element;
     };
 
-    explicit ChildElements(const QDomElement &parent)
+    explicit ChildElements(const Element &parent)
         : m_parent(parent)
     {
     }
     Iterator begin() const { return Iterator(m_parent.firstChildElement()); }
-    Iterator end() const { return Iterator(QDomElement()); }
+    Iterator end() const { return Iterator(Element()); }
 
 private:
-    QDomElement m_parent;
+    Element m_parent;
 };
 
 /// Returns the child elements as they are now. Later changes of the element do not affect the result.

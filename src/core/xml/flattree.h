@@ -59,40 +59,6 @@ private:
     quint32 m_number = 0;
 };
 
-/// The child elements of an element of a FlatTree, for range-based loops.
-class FlatChildren
-{
-public:
-    class Iterator
-    {
-    public:
-        explicit Iterator(FlatNode element)
-            : m_element(element)
-        {
-        }
-        const FlatNode &operator*() const { return m_element; }
-        Iterator &operator++()
-        {
-            m_element = m_element.nextSiblingElement();
-            return *this;
-        }
-        bool operator!=(const Iterator &other) const { return m_element != other.m_element; }
-
-    private:
-        FlatNode m_element;
-    };
-
-    explicit FlatChildren(FlatNode parent)
-        : m_parent(parent)
-    {
-    }
-    Iterator begin() const { return Iterator(m_parent.firstChildElement()); }
-    Iterator end() const { return Iterator(FlatNode()); }
-
-private:
-    FlatNode m_parent;
-};
-
 /// The attributes of one element of a FlatTree after another.
 class FlatAttributes
 {

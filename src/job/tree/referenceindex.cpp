@@ -7,6 +7,8 @@
 
 namespace cabledoc {
 
+namespace {
+
 QStringList tagsNamedBy(const QDomElement &element)
 {
     QStringList tags;
@@ -17,6 +19,8 @@ QStringList tagsNamedBy(const QDomElement &element)
     tags.erase(std::unique(tags.begin(), tags.end()), tags.end());
     return tags;
 }
+
+} // namespace
 
 void ReferenceIndex::insert(const QDomElement &element)
 {

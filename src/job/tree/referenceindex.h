@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QStringList>
+#include <QtCore/QString>
 #include <QtCore/QVector>
 #include <QtXml/QDomElement>
 
@@ -9,11 +9,8 @@
 
 namespace cabledoc {
 
-/// Returns the tags that an element names in its attributes. A cable names its ends and the places on its path, a
-/// connection its ends, a vertical run its cables, and an active port its port.
-QStringList tagsNamedBy(const QDomElement &element);
-
-/// Finds the elements that name a tag. When an element is removed, these have to be removed or changed too.
+/// Finds the elements that name a tag. When an element is removed, these have to be removed or changed too. A
+/// connection names its ends, a vertical run its cables, and an active port its port.
 class ReferenceIndex
 {
 public:
