@@ -251,12 +251,24 @@ private:
         return kind.table;
     }
 
+    static int numberOfChildren(FlatNode list)
+    {
+        int number = 0;
+        for (FlatNode child = list.firstChild(); !child.isNull(); child = child.nextSibling())
+            ++number;
+        return number;
+    }
+
     /// Appends the elements of a kind that are in the list of a holder. The function then gets each one.
     template <typename Fields, typename Item, typename Use> snapshot::Range
     readList(const Kind<Fields> &kind, FlatNode holderNode, const Holder &holder, QVector<Item> *items, Use use)
     {
         const int first = int(items->size());
-        for (const FlatNode &node : ChildElements(kind.listIn(holderNode))) {
+        const FlatNode list = kind.listIn(holderNode);
+        // The cables are nearly all of a big job. Moving them to a larger place would take long.
+        if (kind.kind == ElementKind::Cables)
+            items->reserve(numberOfChildren(list));
+        for (const FlatNode &node : ChildElements(list)) {
             Item item;
             readFields(tableOf(kind), node, static_cast<typename Item::Fields *>(&item));
             item.element = node.tagName();

@@ -202,6 +202,8 @@ std::optional<FlatTree> FlatTree::fromText(const QByteArray &text)
 {
     FlatTree tree;
     tree.m_text = text;
+    constexpr int usualSize = 128; // bytes of an element and its end
+    tree.m_nodes.reserve(std::size_t(text.size()) / usualSize);
     XmlTokens tokens(tree.m_text);
     Lines lines(tree.m_text);
     const auto offsetOf = [&tree](std::string_view piece) { return piece.data() - tree.m_text.constData(); };
