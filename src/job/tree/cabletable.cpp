@@ -141,7 +141,7 @@ void CableTable::append(const QDomElement &cable)
     }
     if (m_rowOfTag)
         m_rowOfTag->try_emplace(m_rows.back().tag, row);
-    enterNamesOf(row);
+    updateNamesOf(row);
     forgetLists();
 }
 
@@ -178,7 +178,7 @@ void CableTable::update(const QDomElement &cable, const QString &attribute)
     }
     (*m_columns[std::size_t(number)])[*row] = valueOf(cable, attribute);
     if (namingAttributes().contains(attribute))
-        enterNamesOf(*row);
+        updateNamesOf(*row);
 }
 
 void CableTable::updateStatus(const QDomElement &cable)
@@ -233,8 +233,7 @@ bool CableTable::hasAnswersOf(CableTable &other)
     for (std::size_t row = 0; row < other.m_rows.size(); ++row) {
         if (other.m_rows[row].isRemoved)
             continue;
-        for (const QString &tag : other.tagsNamedBy(row))
-            rowsOfTag[tag].insert(ownRows[number]);
+        other.forEachNamedTag(row, [&](const QString &tag) { rowsOfTag[tag].insert(ownRows[number]); });
         ++number;
     }
     return std::all_of(rowsOfTag.begin(), rowsOfTag.end(), [this](const auto &entry) {
@@ -278,15 +277,23 @@ std::optional<std::size_t> CableTable::rowOf(const QDomElement &cable)
     return found == m_rows.end() ? std::nullopt : std::optional(std::size_t(found - m_rows.begin()));
 }
 
-/// Returns the tags that a cable names. Reads the columns of all cables if they are not known.
-QStringList CableTable::tagsNamedBy(std::size_t row)
+/// Calls a function with each tag that a cable names. Reads the columns of all cables if they are not known.
+template <typename Use> void CableTable::forEachNamedTag(std::size_t row, Use use)
 {
-    QStringList tags;
     for (const Reference &reference : cableKind().references) {
-        for (const QString &attribute : reference.attributes)
-            tags += reference.tagsIn(column(CableColumn(columnAttributes().indexOf(attribute)))[row]);
+        for (const QString &attribute : reference.attributes) {
+            const QString &text = column(CableColumn(columnAttributes().indexOf(attribute)))[row];
+            // Nearly all cables have two ends and no path, so this needs no list of tags.
+            if (text.isEmpty())
+                continue;
+            if (reference.whenGone == Reference::RemoveElement) {
+                use(text);
+                continue;
+            }
+            for (const QString &tag : reference.tagsIn(text))
+                use(tag);
+        }
     }
-    return tags;
 }
 
 /// Returns the rows of all cables that name the tag, in document order. There may be rows among them that named it
@@ -317,30 +324,33 @@ void CableTable::Naming::insert(std::size_t hash, std::size_t row)
 
 void CableTable::enterNamesOf(std::size_t row)
 {
+    forEachNamedTag(row, [this, row](const QString &tag) { m_naming->insert(TextHash()(tag), row); });
+}
+
+/// Must be called after the tags that a cable names have been changed.
+void CableTable::updateNamesOf(std::size_t row)
+{
     if (!m_naming)
         return;
-    // Many changes have left entries that no longer hold, or the chains have become long.
-    if (m_naming->entries.size() > 4 * m_naming->firstOfChain.size()) {
+    enterNamesOf(row);
+    // Most entries may be those of earlier changes.
+    if (m_naming->entries.size() > 2 * m_naming->firstEntries + m_naming->firstOfChain.size())
         m_naming.reset();
-        return;
-    }
-    for (const QString &tag : tagsNamedBy(row))
-        m_naming->insert(TextHash()(tag), row);
 }
 
 CableTable::Naming &CableTable::naming()
 {
     if (m_naming)
         return *m_naming;
-    m_naming.emplace();
     std::size_t chains = 64;
     while (chains < 2 * m_rows.size())
         chains *= 2;
-    m_naming->firstOfChain.assign(chains, -1);
+    m_naming = Naming{std::vector<int>(chains, -1), {}, 0};
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
-        for (const QString &tag : tagsNamedBy(row))
-            m_naming->insert(TextHash()(tag), row);
+        if (!m_rows[row].isRemoved)
+            enterNamesOf(row);
     }
+    m_naming->firstEntries = m_naming->entries.size();
     return *m_naming;
 }
 

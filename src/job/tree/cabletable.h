@@ -88,15 +88,17 @@ private:
         };
         std::vector<int> firstOfChain;
         std::vector<Entry> entries;
+        std::size_t firstEntries; ///< the number of entries when they were made
 
         void insert(std::size_t hash, std::size_t row);
     };
 
     Column &column(CableColumn column);
     std::optional<std::size_t> rowOf(const QDomElement &cable);
-    QStringList tagsNamedBy(std::size_t row);
+    template <typename Use> void forEachNamedTag(std::size_t row, Use use);
     std::vector<std::size_t> rowsNaming(const QString &tag);
     void enterNamesOf(std::size_t row);
+    void updateNamesOf(std::size_t row);
     Naming &naming();
     void removeGaps();
     void forgetLists();
