@@ -26,8 +26,10 @@ template <typename Map> QStringList namesIn(const Map &map)
 void ElementIndex::rebuild(const QVector<QDomElement> &elements)
 {
     *this = ElementIndex(m_tagPrefix, m_idPrefix, m_idDigits);
-    m_entries.reserve(std::size_t(elements.size()));
-    m_ids.reserve(std::size_t(elements.size()));
+    // There is room for further elements, so that the first one does not move all entries.
+    const std::size_t count = std::size_t(elements.size()) + std::size_t(elements.size()) / 8 + 16;
+    m_entries.reserve(count);
+    m_ids.reserve(count);
     for (const QDomElement &element : elements)
         append(element);
 }

@@ -34,7 +34,8 @@ QString valueIn(const QDomElement &cable, CableColumn column)
 
 CableTable::CableTable(const QVector<QDomElement> &cables, const ElementIndex &index)
 {
-    m_rows.reserve(std::size_t(cables.size()));
+    // There is room for further cables, so that the first one does not move all rows.
+    m_rows.reserve(std::size_t(cables.size()) + std::size_t(cables.size()) / 8 + 16);
     for (const QDomElement &cable : cables) {
         const QString tag = cable.tagName();
         m_rows.push_back({cable, tag, index.isRepeated(tag) ? cable.attribute(words::Id) : index.id(tag)});
@@ -151,9 +152,11 @@ void CableTable::remove(const QDomElement &cable)
     if (!row)
         return;
     Row &removed = m_rows[*row];
-    const auto ofTag = m_rowOfTag->find(removed.tag);
-    if (ofTag != m_rowOfTag->end() && ofTag->second == *row)
-        m_rowOfTag->erase(ofTag);
+    if (m_rowOfTag) {
+        const auto ofTag = m_rowOfTag->find(removed.tag);
+        if (ofTag != m_rowOfTag->end() && ofTag->second == *row)
+            m_rowOfTag->erase(ofTag);
+    }
     removed.isRemoved = true;
     removed.cable = QDomElement();
     ++m_removedRows;
@@ -260,6 +263,9 @@ CableTable::Column &CableTable::column(CableColumn name)
 /// Returns the row of a cable, or nothing if the table does not have it.
 std::optional<std::size_t> CableTable::rowOf(const QDomElement &cable)
 {
+    // This is the new cable whose parts are just added.
+    if (!m_rows.empty() && m_rows.back().cable == cable)
+        return m_rows.size() - 1;
     if (!m_rowOfTag) {
         m_rowOfTag.emplace();
         m_rowOfTag->reserve(m_rows.size());
