@@ -227,6 +227,8 @@ private:
             }
         }
         for (const ElementSchema *kind : jobSchema()) {
+            if (kind->references.isEmpty())
+                continue;
             for (const FlatNode &list : listsOf(*kind, root)) {
                 for (const FlatNode &element : ChildElements(list))
                     checkReferences(*kind, element);
