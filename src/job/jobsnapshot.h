@@ -25,6 +25,8 @@ class JobEditor;
 
 namespace cabledoc {
 
+class FlatTree;
+
 /// The elements of a JobSnapshot. They are plain values. A position is the number of an element in the list of its
 /// kind, from 0 on. -1 means that there is no such element.
 namespace snapshot {
@@ -256,6 +258,9 @@ public:
 private:
     struct Data;
     class Builder;
+
+    /// Returns the data of the job in a tree. The root must be that of a job of the current version, or be missing.
+    static std::shared_ptr<const Data> dataOf(FlatTree tree);
 
     explicit JobSnapshot(std::shared_ptr<const Data> data)
         : d(std::move(data))
