@@ -166,6 +166,7 @@ bool JobEditor::Load(const QString &filename)
     if (isLoaded && isOlder)
         addWhatOlderJobsLack(this);
     updateAllInternalLists();
+    // The conversion may have changed what was noted.
     if (!isOlder)
         d->tree.index().take(&d->document.notes);
     d->document.notes.values.clear();

@@ -28,7 +28,7 @@ namespace cabledoc {
 class FlatTree;
 
 /// The elements of a JobSnapshot. They are plain values. A position is the number of an element in the list of its
-/// kind, from 0 on. -1 means that there is no such element.
+/// kind. The first element has the position 0. An element that does not exist has the position -1.
 namespace snapshot {
 
 /// An element: the fields of its record, and its place in the job.

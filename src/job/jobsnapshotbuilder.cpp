@@ -291,8 +291,11 @@ private:
     template <typename Elements> static void enterNames(const Elements &elements, TextPositions *names)
     {
         names->reserve(int(elements.size()));
-        for (int position = 0; position < elements.size(); ++position)
-            names->insert(position, idsIn(elements));
+        for (int position = 0; position < elements.size(); ++position) {
+            // The name is null if the element does not have the attribute. A search does not find it then.
+            if (!elements.at(position).id.isNull())
+                names->insert(position, idsIn(elements));
+        }
     }
 
     snapshot::Target target(const QString &tag, const QVector<ElementKind> &kinds) const
@@ -323,7 +326,8 @@ private:
             for (const QString &tag : std::as_const(cable.path))
                 cable.pathTargets.append(target(tag, places));
             cable.definition = m_data.definitionNames.find(cable.type, idsIn(m_data.definitions));
-            cable.bundle = m_data.bundleNames.find(cable.bundleName, idsIn(m_data.bundles));
+            if (!cable.bundleName.isEmpty())
+                cable.bundle = m_data.bundleNames.find(cable.bundleName, idsIn(m_data.bundles));
         }
         const QVector<ElementKind> &nodes = connectionKind().targetsOf(words::From);
         for (snapshot::Connection &connection : m_data.connections) {

@@ -79,6 +79,19 @@ private Q_SLOTS:
         QCOMPARE(readFile(name), content);
     }
 
+    /// A caller can use any text as a name in the tree.
+    void oddNamesInTheTree()
+    {
+        JobEditor &job = load(write(site()));
+        QDomElement cable = job.getToCableList().firstChildElement();
+        for (const char *name : {"a=b", "x y", "/", ">", ""})
+            cable.setAttribute(name, "1");
+        cable.setTagName("Cable 7/");
+        const JobSnapshot snapshot(job);
+        QCOMPARE(snapshot.cables().size(), 3);
+        QCOMPARE(snapshot.cables().at(0).id, QString("Cable001"));
+    }
+
     void seesEachChange()
     {
         JobEditor &job = load(write(site()));

@@ -1,7 +1,6 @@
 #include "flattree.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace cabledoc {
 
@@ -21,6 +20,19 @@ void appendEscaped(QByteArray *text, const QString &characters)
         else
             *text += "&#" + QByteArray::number(unit) + ';';
     }
+}
+
+/// Returns a name as it is in the text of a tree. A caller of QDomElement can use any text as a name, so characters
+/// that end a name become "?".
+QByteArray nameBytes(const QString &name)
+{
+    QByteArray bytes = name.toLatin1();
+    for (char &byte : bytes) {
+        if (std::string_view("=<\r").find(byte) != std::string_view::npos
+            || endOfName.find(byte) != std::string_view::npos)
+            byte = '?';
+    }
+    return bytes.isEmpty() ? QByteArray("?") : bytes;
 }
 
 /// Counts the lines up to one place after another.
@@ -260,11 +272,11 @@ void FlatTree::openElement(const QDomElement &element)
 {
     m_text += '<';
     open(m_text.size(), element.lineNumber());
-    m_text += element.tagName().toLatin1();
+    m_text += nameBytes(element.tagName());
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QDomNode attribute = attributes.item(i);
-        m_text += ' ' + attribute.nodeName().toLatin1() + "=\"";
+        m_text += ' ' + nameBytes(attribute.nodeName()) + "=\"";
         appendEscaped(&m_text, attribute.nodeValue());
         m_text += '"';
     }

@@ -11,8 +11,8 @@ namespace cabledoc {
 
 class FlatTree;
 
-/// An element of a FlatTree, or a text between two tags. The functions have the names of those of
-/// QDomElement, and return null nodes or empty texts where those do. The tree must live as long as the node.
+/// An element of a FlatTree, or a text between two tags. The functions have the names of those of QDomElement, and
+/// return null nodes or empty texts where those do. The tree must live as long as the node.
 class FlatNode
 {
 public:
@@ -94,6 +94,7 @@ public:
     /// Returns the tree of a text in the form of a save. Returns nothing if only parseTree() can read the text, or tell
     /// what is wrong with it.
     static std::optional<FlatTree> fromText(const QByteArray &text);
+    /// Returns the tree of a document. It has no nodes if the document has no root.
     static FlatTree fromDocument(const QDomDocument &document);
 
     FlatNode documentElement() const { return m_nodes.empty() ? FlatNode() : FlatNode(this, 0); }

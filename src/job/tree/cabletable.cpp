@@ -71,28 +71,16 @@ bool CableTable::dependsOn(const QString &attribute)
     return attribute == words::Id || columnAttributes().contains(attribute);
 }
 
-const QStringList &CableTable::tags() const
+const QStringList &CableTable::listOf(QString Row::*field, std::optional<QStringList> *list) const
 {
-    if (!m_tags) {
-        m_tags.emplace();
+    if (!*list) {
+        list->emplace();
         for (const Row &row : m_rows) {
             if (!row.isRemoved)
-                m_tags->append(row.tag);
+                (*list)->append(row.*field);
         }
     }
-    return *m_tags;
-}
-
-const QStringList &CableTable::ids() const
-{
-    if (!m_ids) {
-        m_ids.emplace();
-        for (const Row &row : m_rows) {
-            if (!row.isRemoved)
-                m_ids->append(row.id);
-        }
-    }
-    return *m_ids;
+    return **list;
 }
 
 QStringList CableTable::tagsEndingAt(const QStringList &ends)

@@ -40,9 +40,9 @@ public:
     static bool dependsOn(const QString &attribute);
 
     /// Returns the tags in document order.
-    const QStringList &tags() const;
+    const QStringList &tags() const { return listOf(&Row::tag, &m_tags); }
     /// Returns the ids in document order.
-    const QStringList &ids() const;
+    const QStringList &ids() const { return listOf(&Row::id, &m_ids); }
     /// Returns the tags of the cables for whose value in the column the condition holds. The value is null if the cable
     /// does not have the attribute.
     template <typename Condition> QStringList tagsWhere(CableColumn column, Condition condition);
@@ -93,6 +93,7 @@ private:
         void insert(std::size_t hash, std::size_t row);
     };
 
+    const QStringList &listOf(QString Row::*field, std::optional<QStringList> *list) const;
     Column &column(CableColumn column);
     std::optional<std::size_t> rowOf(const QDomElement &cable);
     template <typename Use> void forEachNamedTag(std::size_t row, Use use);
