@@ -1,7 +1,10 @@
 #pragma once
 
+#include "csvoptions.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QVector>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QStringList>
 
 #include <functional>
 
@@ -12,20 +15,47 @@ struct CsvRow
 {
     /// Number of the row among all rows, including empty lines.
     int number = 1;
-    QVector<QByteArray> fields;
+    QStringList fields;
+
+    /// Returns whether all fields are empty.
+    bool isEmpty() const;
 };
 
-/// Where a text is not valid CSV: the numbers of the row and the field from 1, or 0 if the text is valid.
-struct CsvFault
+/// A CSV text in any of the forms in which spreadsheets write it.
+class CsvText
 {
-    int row = 0;
-    int column = 0;
+    Q_DECLARE_TR_FUNCTIONS(CsvText)
+
+public:
+    /// Takes the content of a file. Detects its encoding and the character that separates its fields, unless the
+    /// options give them.
+    CsvText(const QByteArray &data, const CsvOptions &options);
+
+    /// Returns why the data cannot be CSV, or an empty string. There are no rows if there is an error.
+    const QString &error() const { return m_error; }
+    /// Returns the character that separates the fields.
+    char delimiter() const { return m_delimiter; }
+    /// Calls takeRow with each row that has fields, up to the first mistake in the quotation marks or in the encoding.
+    /// Returns this mistake, or a problem in row 0 if there is none.
+    CsvProblem read(const std::function<void(const CsvRow &row)> &takeRow) const;
+
+private:
+    QString wrongEncoding() const;
+
+    QString m_error;
+    CsvEncoding m_encoding;
+    bool m_removesProtection;
+    QByteArray m_utf8;
+    char m_delimiter = ',';
 };
 
-/// Reads CSV text up to the first error, and calls takeRow with each row that has fields. Returns where the error is.
-CsvFault readCsv(const QByteArray &text, const std::function<void(const CsvRow &row)> &takeRow);
+/// Returns the number with a decimal point instead of a decimal comma. Returns the text as it is if the delimiter of
+/// its file is a comma, or if it does not have a single comma and no point.
+QString withDecimalPoint(const QString &number, char delimiter);
 
-/// Returns one line of CSV with a line break.
-QByteArray csvLine(const QVector<QByteArray> &fields);
+/// Returns what a CSV text has before its first line: a byte order mark or nothing.
+QByteArray csvBeginning(const CsvStyle &style);
+/// Returns one line of CSV with a line break. There must be at least one field.
+QByteArray csvLine(const QStringList &fields, const CsvStyle &style);
 
 } // namespace cabledoc

@@ -7,6 +7,7 @@
 #include "schedulereader.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 
 #include <cmath>
 
@@ -235,26 +236,45 @@ private:
     ScheduleReport m_report;
 };
 
-QByteArray textOf(const JobSchedule &schedule)
+QByteArray textOf(const JobSchedule &schedule, const CsvStyle &style)
 {
-    QVector<QByteArray> fields;
+    QStringList fields;
     for (const ColumnName &column : columnNames)
-        fields.append(column.name);
-    QByteArray text = csvLine(fields);
+        fields.append(QLatin1String(column.name));
+    QByteArray text = csvBeginning(style) + csvLine(fields, style);
     for (const int cable : schedule.cables) {
         fields.clear();
         for (const QString &field : schedule.row(cable))
-            fields.append(field.toUtf8());
-        text += csvLine(fields);
+            fields.append(field);
+        text += csvLine(fields, style);
     }
     return text;
 }
 
 } // namespace
 
+ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName, const CsvOptions &options, bool dryRun)
+{
+    QFile file(fileName);
+    QByteArray text;
+    if (file.open(QIODevice::ReadOnly))
+        text = file.readAll();
+    if (file.error() == QFileDevice::NoError)
+        return importScheduleText(job, text, options, dryRun);
+    ScheduleReport report;
+    report.error = file.errorString();
+    return report;
+}
+
 ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName, bool dryRun)
 {
-    const ScheduleFile file = readSchedule(fileName, job.characterReferences());
+    return importSchedule(job, fileName, CsvOptions(), dryRun);
+}
+
+ScheduleReport cabledoc::importScheduleText(JobEditor &job, const QByteArray &text, const CsvOptions &options,
+                                            bool dryRun)
+{
+    const ScheduleFile file = readSchedule(text, options, job.characterReferences());
     ScheduleReport report;
     report.error = file.error;
     report.problems = file.problems;
@@ -267,12 +287,12 @@ ScheduleReport cabledoc::importSchedule(JobEditor &job, const QString &fileName,
     return ScheduleImport(job, dryRun).import(file);
 }
 
-QByteArray cabledoc::exportSchedule(const JobEditor &job)
+QByteArray cabledoc::exportSchedule(const JobEditor &job, const CsvStyle &style)
 {
-    return textOf(JobSchedule(JobSnapshot(job), job.characterReferences()));
+    return textOf(JobSchedule(JobSnapshot(job), job.characterReferences()), style);
 }
 
-QByteArray cabledoc::exportSchedule(const JobSnapshot &job)
+QByteArray cabledoc::exportSchedule(const JobSnapshot &job, const CsvStyle &style)
 {
-    return textOf(JobSchedule(job, true));
+    return textOf(JobSchedule(job, true), style);
 }

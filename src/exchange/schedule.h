@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cabledoc_export.h"
+#include "csvoptions.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
@@ -13,16 +14,7 @@ namespace cabledoc {
 class JobSnapshot;
 
 /// Something in a cable schedule that prevents its import.
-struct ScheduleProblem
-{
-    /// Number of the row, where 1 is the heading. A row with line breaks in its fields counts once. Empty lines count
-    /// too.
-    int row = 0;
-    /// Number of the column in the file, from 1.
-    int column = 0;
-    /// Translated description of the problem.
-    QString message;
-};
+using ScheduleProblem = CsvProblem;
 
 /// The result of importSchedule(). If there is an error or a problem, the job has not been changed.
 struct ScheduleReport
@@ -45,10 +37,10 @@ struct ScheduleReport
 
 /// Brings a job up to date with a cable schedule, which is a CSV file with one row for each cable.
 ///
-/// A schedule is UTF-8 text, with or without a byte order mark. It may hold any character if the job writes references,
-/// see BKXMLEditor::setCharacterReferences(). Otherwise it may hold only those of Latin-1. Commas separate the fields.
-/// A field that holds a comma, a quotation mark or a line break, or begins or ends with a blank, must be in quotation
-/// marks. The first row names the columns, in any order:
+/// The options tell the encoding of the schedule and the delimiter of its fields. By default, both are detected. The
+/// schedule may hold any character if the job writes references, see BKXMLEditor::setCharacterReferences(). Otherwise
+/// it may hold only those of Latin-1. A field that holds a delimiter, a quotation mark or a line break, or begins or
+/// ends with a blank, must be in quotation marks. The first row names the columns, in any order:
 ///
 ///     column                           holds
 ///     id                               id of the cable; required, and only once in a file
@@ -76,19 +68,27 @@ struct ScheduleReport
 /// New floors have the ceiling height of the first floor. New rooms are rectangles of 240 by 160 plan pixels, six in a
 /// row, below the existing rooms of the floor. New ports take over the use of the cable and are placed in their room in
 /// rows of sixteen. Those in "Undefined" are placed in one line at the top of the plan.
+CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fileName, const CsvOptions &options,
+                                              bool dryRun = false);
+/// Brings a job up to date with a cable schedule like the other importSchedule(), with the default options.
 CABLEDOC_EXPORT ScheduleReport importSchedule(JobEditor &job, const QString &fileName, bool dryRun = false);
+/// Brings a job up to date with a cable schedule like importSchedule(). The schedule is the given text, which has the
+/// form of a file.
+CABLEDOC_EXPORT ScheduleReport importScheduleText(JobEditor &job, const QByteArray &text,
+                                                  const CsvOptions &options = CsvOptions(), bool dryRun = false);
 
-/// Returns the cable schedule of a job, with all columns and the cables in document order. The job is not changed.
+/// Returns the cable schedule of a job in the given style, with all columns and the cables in document order. The job
+/// is not changed.
 ///
 /// An end is empty if it does not exist, or if its port or its floor has no id. Cables without an id are left out, and
 /// so are cables whose id belongs to an earlier one. Characters that a save of the job would write as "?" are "?" here
 /// too. A colour that is not the name of a colour is replaced by that of the test definition.
 ///
-/// The result can always be imported. Importing it into a job without cables and exporting that job again gives the
-/// same bytes.
-CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job);
+/// The result can always be imported. Fields that are protected against formulas need CsvOptions::removeProtection.
+/// Importing the result into a job without cables and exporting that job again gives the same bytes.
+CABLEDOC_EXPORT QByteArray exportSchedule(const JobEditor &job, const CsvStyle &style = CsvStyle());
 /// Returns the cable schedule of a job that was read as a snapshot. Characters that a save with character references
 /// would write as "?" are "?" here too.
-CABLEDOC_EXPORT QByteArray exportSchedule(const JobSnapshot &job);
+CABLEDOC_EXPORT QByteArray exportSchedule(const JobSnapshot &job, const CsvStyle &style = CsvStyle());
 
 } // namespace cabledoc

@@ -7,7 +7,6 @@
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QMap>
 
 #include <algorithm>
@@ -15,11 +14,6 @@
 namespace cabledoc {
 
 namespace {
-
-bool isEmptyRow(const CsvRow &row)
-{
-    return std::all_of(row.fields.begin(), row.fields.end(), [](const QByteArray &field) { return field.isEmpty(); });
-}
 
 class ScheduleReader
 {
@@ -31,22 +25,14 @@ public:
     {
     }
 
-    ScheduleFile read(const QString &fileName)
+    ScheduleFile read(const CsvText &text)
     {
-        QFile file(fileName);
-        QByteArray bytes;
-        if (file.open(QIODevice::ReadOnly))
-            bytes = file.readAll();
-        if (file.error() != QFileDevice::NoError) {
-            m_file.error = file.errorString();
-            return m_file;
-        }
-        const QByteArray byteOrderMark("\xEF\xBB\xBF");
-        readText(bytes.startsWith(byteOrderMark) ? bytes.mid(byteOrderMark.size()) : bytes);
-        std::stable_sort(m_file.problems.begin(), m_file.problems.end(),
-                         [](const ScheduleProblem &a, const ScheduleProblem &b) {
-                             return std::tie(a.row, a.column) < std::tie(b.row, b.column);
-                         });
+        m_file.error = text.error();
+        if (m_file.error.isEmpty())
+            readRows(text);
+        std::stable_sort(m_file.problems.begin(), m_file.problems.end(), [](const CsvProblem &a, const CsvProblem &b) {
+            return std::tie(a.row, a.column) < std::tie(b.row, b.column);
+        });
         return m_file;
     }
 
@@ -56,20 +42,19 @@ private:
         m_file.problems.append({row.number, column, message});
     }
 
-    void readText(const QByteArray &text)
+    void readRows(const CsvText &text)
     {
         bool isHeading = true;
         bool isReadable = false;
-        const CsvFault fault = readCsv(text, [&](const CsvRow &row) {
+        const CsvProblem mistake = text.read([&](const CsvRow &row) {
             if (isHeading)
                 isReadable = readHeading(row);
-            else if (isReadable && !isEmptyRow(row))
+            else if (isReadable && !row.isEmpty())
                 readRow(row);
             isHeading = false;
         });
-        if (fault.row > 0)
-            m_file.problems.append(
-                {fault.row, fault.column, tr("a quotation mark is missing or is in the wrong place")});
+        if (mistake.row > 0)
+            m_file.problems.append(mistake);
         else if (isHeading)
             readHeading(CsvRow());
     }
@@ -91,14 +76,15 @@ private:
 
     void readColumnName(const CsvRow &heading, int field)
     {
-        const QByteArray &name = heading.fields.at(field);
-        const auto *const found = std::find_if(columnNames.begin(), columnNames.end(),
-                                               [&name](const ColumnName &column) { return name == column.name; });
+        const QString &name = heading.fields.at(field);
+        const auto *const found =
+            std::find_if(columnNames.begin(), columnNames.end(),
+                         [&name](const ColumnName &column) { return name == QLatin1String(column.name); });
         const auto column = std::size_t(found - columnNames.begin());
         if (column == column::Count)
-            report(heading, field + 1, tr("unknown column \"%1\"").arg(excerpt(QString::fromUtf8(name))));
+            report(heading, field + 1, tr("unknown column \"%1\"").arg(excerpt(name)));
         else if (m_file.has[column])
-            report(heading, field + 1, tr("the column \"%1\" occurs twice").arg(excerpt(QString::fromUtf8(name))));
+            report(heading, field + 1, tr("the column \"%1\" occurs twice").arg(excerpt(name)));
         else {
             m_file.has.set(column);
             m_fieldOf[column] = field;
@@ -132,11 +118,8 @@ private:
 
     QString readField(const CsvRow &row, int field)
     {
-        const QByteArray &bytes = row.fields.at(field);
-        const QString text = QString::fromUtf8(bytes);
-        if (text.toUtf8() != bytes)
-            report(row, field + 1, tr("the text is not UTF-8"));
-        else if (!firstLostCharacter(text, m_canHoldAll).isEmpty())
+        const QString &text = row.fields.at(field);
+        if (!firstLostCharacter(text, m_canHoldAll).isEmpty())
             report(row, field + 1, tr("\"%1\" contains a character that a job file cannot hold").arg(excerpt(text)));
         return text;
     }
@@ -180,9 +163,9 @@ private:
 
 } // namespace
 
-ScheduleFile readSchedule(const QString &fileName, bool canHoldAll)
+ScheduleFile readSchedule(const QByteArray &data, const CsvOptions &options, bool canHoldAll)
 {
-    return ScheduleReader(canHoldAll).read(fileName);
+    return ScheduleReader(canHoldAll).read(CsvText(data, options));
 }
 
 } // namespace cabledoc

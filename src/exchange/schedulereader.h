@@ -22,6 +22,6 @@ struct ScheduleFile
 
 /// Reads a schedule. Checks everything that can be checked without the job, which may or may not hold characters beyond
 /// Latin-1.
-ScheduleFile readSchedule(const QString &fileName, bool canHoldAll);
+ScheduleFile readSchedule(const QByteArray &data, const CsvOptions &options, bool canHoldAll);
 
 } // namespace cabledoc
