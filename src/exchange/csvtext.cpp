@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <tuple>
 
 namespace cabledoc {
 
@@ -213,6 +214,13 @@ QString CsvText::wrongEncoding() const
     default:
         return tr("the text is not UTF-8; try --encoding windows-1252");
     }
+}
+
+void sortByPlace(QVector<CsvProblem> &problems)
+{
+    std::stable_sort(problems.begin(), problems.end(), [](const CsvProblem &a, const CsvProblem &b) {
+        return std::tie(a.row, a.column) < std::tie(b.row, b.column);
+    });
 }
 
 QString withDecimalPoint(const QString &number, char delimiter)

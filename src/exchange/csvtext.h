@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 
 #include <functional>
 
@@ -48,6 +49,9 @@ private:
     QByteArray m_utf8;
     char m_delimiter = ',';
 };
+
+/// Sorts problems by their rows and columns.
+void sortByPlace(QVector<CsvProblem> &problems);
 
 /// Returns the number with a decimal point instead of a decimal comma. Returns the text as it is if the delimiter of
 /// its file is a comma, or if it does not have a single comma and no point.

@@ -6,7 +6,6 @@
 #include "xmlnames.h"
 
 #include <algorithm>
-#include <set>
 
 namespace cabledoc {
 
@@ -23,8 +22,8 @@ JobSchedule::JobSchedule(const JobSnapshot &job, bool characterReferences)
     , m_characterReferences(characterReferences)
 {
     findRooms();
-    m_endOfPort = endsOf(job.ports(), ElementKind::Ports);
-    m_endOfRun = endsOf(job.verticalRuns(), ElementKind::VerticalRuns);
+    m_endOfPort = namesOf(job.ports(), ElementKind::Ports);
+    m_endOfRun = namesOf(job.verticalRuns(), ElementKind::VerticalRuns);
     findCables();
 }
 
@@ -59,7 +58,7 @@ void JobSchedule::findRoomsOf(const snapshot::Floor &floor)
 }
 
 /// Returns the ends at ports or vertical runs. They are empty where an end has no name.
-template <typename Elements> QVector<CableEnd> JobSchedule::endsOf(const Elements &elements, ElementKind kind)
+template <typename Elements> QVector<CableEnd> JobSchedule::namesOf(const Elements &elements, ElementKind kind)
 {
     QVector<CableEnd> ends;
     for (const auto &element : elements) {
@@ -113,8 +112,7 @@ CableEnd JobSchedule::endAt(const snapshot::Target &target) const
 ScheduleRow JobSchedule::row(int position) const
 {
     const snapshot::Cable &cable = m_job.cables().at(position);
-    const CableEnd from = endAt(cable.fromTarget);
-    const CableEnd to = endAt(cable.toTarget);
+    const auto [from, to] = endsOf(position);
     const QString type = storedText(cable.type);
     return {storedText(cable.id),
             type,
@@ -129,6 +127,21 @@ ScheduleRow JobSchedule::row(int position) const
             storedText(cable.bundleNum),
             storedText(cable.bundleGroupNum),
             color(storedText(cable.color), type)};
+}
+
+std::array<CableEnd, 2> JobSchedule::endsOf(int cable) const
+{
+    return {endAt(m_job.cables().at(cable).fromTarget), endAt(m_job.cables().at(cable).toTarget)};
+}
+
+std::set<QString> JobSchedule::uses() const
+{
+    std::set<QString> uses;
+    for (const snapshot::Cable &cable : m_job.cables())
+        uses.insert(storedCableUse(storedText(cable.use)));
+    for (const snapshot::Port &port : m_job.ports())
+        uses.insert(storedText(port.use));
+    return uses;
 }
 
 QString JobSchedule::color(const QString &text, const QString &type) const

@@ -7,7 +7,9 @@
 #include <QtCore/QRectF>
 #include <QtCore/QVector>
 
+#include <array>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace cabledoc {
@@ -46,6 +48,14 @@ public:
     QString color(const QString &text, const QString &type) const;
     /// Returns the tag of the cable at a position in the job.
     const QString &tagOf(int cable) const { return m_job.cables().at(cable).element; }
+    /// Returns where the cable at a position in the job begins and ends.
+    std::array<CableEnd, 2> endsOf(int cable) const;
+    /// Returns the number of all cables in the job.
+    int cableCount() const { return int(m_job.cables().size()); }
+    /// Returns whether the job has a test definition with the given name.
+    bool hasDefinition(const QString &type) const { return m_job.definitionOfName(type) >= 0; }
+    /// Returns the uses of all cables and ports.
+    std::set<QString> uses() const;
 
     /// Positions of cables in document order.
     QVector<int> cables;
@@ -63,7 +73,7 @@ private:
     QString roomName(const snapshot::Room &room) const;
     void findRooms();
     void findRoomsOf(const snapshot::Floor &floor);
-    template <typename Elements> QVector<CableEnd> endsOf(const Elements &elements, ElementKind kind);
+    template <typename Elements> QVector<CableEnd> namesOf(const Elements &elements, ElementKind kind);
     CableEnd endAt(const snapshot::Target &target) const;
     void findCables();
 

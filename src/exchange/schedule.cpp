@@ -5,6 +5,7 @@
 #include "jobschedule.h"
 #include "jobwords.h"
 #include "schedulereader.h"
+#include "schedulewarnings.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -87,8 +88,9 @@ public:
 
     ScheduleReport import(const ScheduleFile &file)
     {
-        for (const ScheduleRow &row : file.rows)
-            import(row, file.has);
+        m_report.warnings = scheduleWarnings(file, m_known);
+        for (const NumberedRow &row : file.rows)
+            import(row.texts, file.has);
         return m_report;
     }
 

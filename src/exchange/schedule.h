@@ -13,7 +13,7 @@ namespace cabledoc {
 
 class JobSnapshot;
 
-/// Something in a cable schedule that prevents its import.
+/// Something in a cable schedule that prevents its import, or that is probably wrong.
 using ScheduleProblem = CsvProblem;
 
 /// The result of importSchedule(). If there is an error or a problem, the job has not been changed.
@@ -23,6 +23,9 @@ struct ScheduleReport
     QString error;
     /// Problems in the order of the file.
     QVector<ScheduleProblem> problems;
+    /// What is probably wrong, in the order of the file. It does not prevent the import. Empty if there is an error or
+    /// a problem.
+    QVector<ScheduleProblem> warnings;
     /// Number of floors added.
     int floors = 0;
     /// Number of rooms added.
@@ -64,6 +67,11 @@ struct ScheduleReport
 /// cable also stays as it is if its floor, room and port have the same ids as in the schedule. Nothing is removed. A
 /// job that already agrees with the schedule is not changed. If there is an error or a problem, the job is not changed
 /// at all. If dryRun is true, the job is not changed, and the report is the same as that of an import.
+///
+/// There is a warning for each type that has no test definition in the job, and for each use that is neither in
+/// Vocabulary::portUses() nor used in the job already. It names the first row. There is also a warning for each port,
+/// vertical run or room at which no cable ends any more because the import has moved the last one, as it happens if the
+/// schedule corrects a name. A room stands for all that is in it.
 ///
 /// New floors have the ceiling height of the first floor. New rooms are rectangles of 240 by 160 plan pixels, six in a
 /// row, below the existing rooms of the floor. New ports take over the use of the cable and are placed in their room in

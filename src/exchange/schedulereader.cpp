@@ -30,9 +30,7 @@ public:
         m_file.error = text.error();
         if (m_file.error.isEmpty())
             readRows(text);
-        std::stable_sort(m_file.problems.begin(), m_file.problems.end(), [](const CsvProblem &a, const CsvProblem &b) {
-            return std::tie(a.row, a.column) < std::tie(b.row, b.column);
-        });
+        sortByPlace(m_file.problems);
         return m_file;
     }
 
@@ -87,7 +85,7 @@ private:
             report(heading, field + 1, tr("the column \"%1\" occurs twice").arg(excerpt(name)));
         else {
             m_file.has.set(column);
-            m_fieldOf[column] = field;
+            m_file.fieldOf[column] = field;
         }
     }
 
@@ -97,21 +95,21 @@ private:
             report(row, m_fieldsInHeading + 1, m_tooManyFields);
         ScheduleRow texts;
         for (std::size_t column = 0; column < column::Count; ++column) {
-            if (m_file.has[column] && m_fieldOf[column] < row.fields.size())
-                texts[column] = readField(row, m_fieldOf[column]);
+            if (m_file.has[column] && m_file.fieldOf[column] < row.fields.size())
+                texts[column] = readField(row, m_file.fieldOf[column]);
         }
         checkId(row, texts[column::Id]);
         checkEnd(row, texts, column::FromFloor);
         checkEnd(row, texts, column::ToFloor);
         const QString &color = texts[column::Color];
         if (!color.isEmpty() && !qtcompat::isColorName(color))
-            report(row, m_fieldOf[column::Color] + 1, tr("\"%1\" is not a colour").arg(excerpt(color)));
+            report(row, m_file.fieldOf[column::Color] + 1, tr("\"%1\" is not a colour").arg(excerpt(color)));
         for (const std::size_t room : {column::FromRoom, column::ToRoom}) {
             if (texts[room] == words::Undefined)
                 texts[room].clear();
         }
         if (m_file.problems.isEmpty())
-            m_file.rows.append(texts);
+            m_file.rows.append({row.number, texts});
         else
             m_file.rows.clear(); // no longer needed
     }
@@ -126,7 +124,7 @@ private:
 
     void checkId(const CsvRow &row, const QString &id)
     {
-        const int column = m_fieldOf[column::Id] + 1;
+        const int column = m_file.fieldOf[column::Id] + 1;
         if (id.isEmpty())
             report(row, column, m_noId);
         else if (m_rowOfId.contains(id))
@@ -142,9 +140,9 @@ private:
         if (end == CableEnd())
             return;
         if (end.port.isEmpty())
-            report(row, m_fieldOf[floorColumn + 2] + 1, m_noPort);
+            report(row, m_file.fieldOf[floorColumn + 2] + 1, m_noPort);
         else if (end.floor.isEmpty())
-            report(row, m_fieldOf[floorColumn] + 1, m_noFloor);
+            report(row, m_file.fieldOf[floorColumn] + 1, m_noFloor);
     }
 
     // These are translated once, even if a million rows need them.
@@ -156,8 +154,6 @@ private:
     bool m_canHoldAll;
     ScheduleFile m_file;
     int m_fieldsInHeading = 0;
-    /// Number of the field of each column that the file has.
-    std::array<int, column::Count> m_fieldOf{};
     QMap<QString, int> m_rowOfId;
 };
 

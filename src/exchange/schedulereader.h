@@ -15,9 +15,11 @@ struct ScheduleFile
     /// Problems in the order of the file.
     QVector<ScheduleProblem> problems;
     /// Rows of the schedule. They are complete only if there are no problems.
-    QVector<ScheduleRow> rows;
+    QVector<NumberedRow> rows;
     /// Which columns the file has.
     std::bitset<column::Count> has;
+    /// Number of the field of each column that the file has, from 0.
+    std::array<int, column::Count> fieldOf{};
 };
 
 /// Reads a schedule. Checks everything that can be checked without the job, which may or may not hold characters beyond

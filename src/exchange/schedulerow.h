@@ -52,6 +52,13 @@ inline constexpr std::array<ColumnName, column::Count> columnNames{{{"id", true}
 /// The fields of a cable in a schedule, by column.
 using ScheduleRow = std::array<QString, column::Count>;
 
+/// A row of a schedule and its number in the file.
+struct NumberedRow
+{
+    int number = 0;
+    ScheduleRow texts;
+};
+
 /// The ids of the floor, room and port at which a cable ends. The room is empty for "Undefined". All three are empty if
 /// the cable does not end anywhere.
 struct CableEnd

@@ -63,6 +63,12 @@ private:
             .arg(report.changed);
     }
 
+    /// Returns the part of a message in quotation marks.
+    static QString quotedIn(const QString &message)
+    {
+        return QRegularExpression("\"(.*)\"").match(message).captured(1);
+    }
+
 private Q_SLOTS:
     void cleanup() { JobEditor::Destroy(); }
 
@@ -114,6 +120,42 @@ private Q_SLOTS:
         JobEditor &other = openJob();
         import(exported);
         QCOMPARE(exportSchedule(other), exported);
+    }
+
+    void warnings_data() { addCases({"cases/schedule-warnings.txt"}); }
+
+    void warnings()
+    {
+        QFETCH(TestCase, testCase);
+        const auto endOfJob = testCase.given.indexOf("</Job>\n") + 7;
+        openJob(testCase.given.left(endOfJob));
+        const QByteArray schedule = testCase.given.mid(endOfJob);
+        for (const bool dryRun : {true, false}) {
+            const ScheduleReport report = import(schedule, dryRun);
+            QString found;
+            for (const ScheduleProblem &warning : report.warnings)
+                found += QString("%1:%2 %3\n").arg(warning.row).arg(warning.column).arg(quotedIn(warning.message));
+            COMPARE_TEXTS(found, QString(testCase.expected), testCase.place());
+        }
+        // The cables have left these places before.
+        for (const ScheduleProblem &warning : import(schedule).warnings)
+            QVERIFY2(!warning.message.contains(" / "), qPrintable(warning.message));
+    }
+
+    void styles()
+    {
+        const QByteArray schedule = readFile(CABLEDOC_EXAMPLES "/office/office.csv") + "=1,,,,,,,,,=2,'-3,-4,\n";
+        CsvOptions options;
+        options.removeProtection = true;
+        for (const char delimiter : {',', ';', '\t'}) {
+            importScheduleText(openJob(), schedule);
+            const QByteArray exported = exportSchedule(JobEditor::Instance());
+            const QByteArray styled = exportSchedule(JobEditor::Instance(), {delimiter, true, true});
+            QVERIFY(styled.contains(QByteArray("'=2,''-3,-4,#").replace(',', delimiter)));
+            QCOMPARE(summary(importScheduleText(JobEditor::Instance(), styled, options)), QString("0 0 0 0 0"));
+            importScheduleText(openJob(), styled, options);
+            QCOMPARE(exportSchedule(JobEditor::Instance()), exported);
+        }
     }
 
     void example()
