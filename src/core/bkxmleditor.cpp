@@ -3,6 +3,7 @@
 #include "document.h"
 #include "testencoding.h"
 #include "words.h"
+#include "xmlnames.h"
 
 #include <algorithm>
 #include <iterator>
@@ -56,6 +57,11 @@ void BKXMLEditor::setCharacterReferences(bool on)
 bool BKXMLEditor::characterReferences() const
 {
     return m_inside->writesReferences;
+}
+
+bool BKXMLEditor::canHold(const QString &text) const
+{
+    return firstLostCharacter(text, m_inside->writesReferences).isEmpty();
 }
 
 qint64 BKXMLEditor::replacedCharacters() const

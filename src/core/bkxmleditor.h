@@ -68,6 +68,8 @@ public:
     void setCharacterReferences(bool on);
     /// Returns whether a save writes characters beyond Latin-1 as references.
     bool characterReferences() const;
+    /// Returns whether a save keeps all characters of the text.
+    bool canHold(const QString &text) const;
     /// Returns how many characters the last successful save wrote as "?".
     qint64 replacedCharacters() const;
     /// Default of maximumFileSize(): 4 GiB.

@@ -19,6 +19,8 @@ public:
     bool isSet(const char *option) const { return m_parser.isSet(QLatin1String(option)); }
     /// Returns the value of an option, or an empty text if the option was left out.
     QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
+    /// Returns the values of an option that can be given several times, in their order.
+    QStringList values(const char *option) const { return m_parser.values(QLatin1String(option)); }
     /// Returns the size in bytes above which files are not read.
     qint64 maximumSize() const { return m_maximumSize; }
 

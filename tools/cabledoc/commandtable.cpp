@@ -16,9 +16,12 @@ const QVector<Command> &commands()
 
     static const QVector<Command> table{
         {"new",
-         {jobFile, {"[--floors N]", Program::tr("The number of floors, from 1 (the default) to 1000.")}},
-         Program::tr("Make a new job file."),
-         Program::tr("It has one sheet. An existing file is not replaced. \".job\" is added to a name that lacks it."),
+         {{"NEW", Program::tr("The file to make.")},
+          {"[--floor NAME]", Program::tr("The name of a floor. This option can be given for each floor.")},
+          {"[--floors N]", Program::tr("The number of floors without --floor, from 1 (the default) to 1000.")}},
+         Program::tr("Make a new job or template."),
+         Program::tr("If the name ends in \".bkt\", the file is a template. Otherwise it is a job with one sheet, and "
+                     "\".job\" is added to a name that lacks it. An existing file is not replaced."),
          runNew},
         {"info",
          {jobFile, json, maximumSize},
