@@ -31,7 +31,7 @@ private:
     }
 
 private Q_SLOTS:
-    void sessions_data() { addCases({"cases/program.txt", "cases/program-new.txt"}); }
+    void sessions_data() { addCases({"cases/program.txt", "cases/program-csv.txt", "cases/program-new.txt"}); }
 
     void sessions()
     {

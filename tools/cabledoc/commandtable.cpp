@@ -12,6 +12,22 @@ const QVector<Command> &commands()
     static const Parameter json{"[--json]", Program::tr("Print JSON instead of text.")};
     static const Parameter maximumSize{"[--max-size SIZE]",
                                        Program::tr("The largest file to read, such as 500M; 4G by default.")};
+    static const Parameter delimiter{
+        "[--delimiter NAME]", Program::tr("The delimiter of the fields: comma, semicolon or tab. By default, the "
+                                          "first row tells.")};
+    static const Parameter encoding{"[--encoding NAME]",
+                                    Program::tr("The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By "
+                                                "default, it is UTF-8 or UTF-16.")};
+    static const Parameter unprotect{"[--unprotect-formulas]",
+                                     Program::tr("Remove the apostrophes that --protect-formulas adds.")};
+    static const Parameter newDelimiter{"[--delimiter NAME]",
+                                        Program::tr("The delimiter of the fields: comma (the default), semicolon or "
+                                                    "tab.")};
+    static const Parameter mark{"[--mark]", Program::tr("Begin with a byte order mark, which some spreadsheets need to "
+                                                        "recognise UTF-8.")};
+    static const Parameter protect{"[--protect-formulas]",
+                                   Program::tr("Put an apostrophe before fields that a spreadsheet would run as "
+                                               "formulas.")};
     static const QString output = Program::tr("The file to write. An existing file is not replaced.");
 
     static const QVector<Command> table{
@@ -64,15 +80,20 @@ const QVector<Command> &commands()
          {jobFile,
           {"FILE.csv", Program::tr("The cable schedule, a CSV file. It is not changed.")},
           {"[--dry-run]", Program::tr("Only show what would change.")},
+          delimiter,
+          encoding,
+          unprotect,
           json,
           maximumSize},
          Program::tr("Bring a job up to a cable schedule."),
-         Program::tr("Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If "
-                     "the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; "
-                     "--json prints all of them."),
+         Program::tr(
+             "Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If "
+             "the schedule has a problem, the job is not changed. Types and uses that are not known, and places "
+             "that lose their last cable, are warned of. Each of the first 50 problems or warnings is one "
+             "line; --json prints all of them."),
          runScheduleImport},
         {"schedule export",
-         {jobFile, maximumSize},
+         {jobFile, newDelimiter, mark, protect, maximumSize},
          Program::tr("Print the cable schedule of a job as CSV."),
          {},
          runScheduleExport},

@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "csvparameters.h"
 #include "documents.h"
 #include "output.h"
 
@@ -7,8 +8,11 @@
 
 ExitCode runScheduleExport(const CommandLine &line)
 {
+    cabledoc::CsvStyle style;
+    if (const ExitCode error = readCsvStyle(line, &style))
+        return error;
     cabledoc::JobSnapshot job;
     if (const ExitCode error = readJob(line, &job))
         return error;
-    return printData(cabledoc::exportSchedule(job));
+    return printData(cabledoc::exportSchedule(job, style));
 }

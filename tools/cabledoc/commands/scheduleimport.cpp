@@ -1,9 +1,12 @@
 #include "commandline.h"
+#include "csvparameters.h"
 #include "documents.h"
 #include "output.h"
 
 #include <cabledoc/jobeditor.h>
 #include <cabledoc/schedule.h>
+
+#include <QtCore/QJsonArray>
 
 #include <cstdio>
 
@@ -11,19 +14,29 @@ using namespace cabledoc;
 
 namespace {
 
-/// Prints the problems in the form that editors know from compilers.
-void printProblems(const QString &fileName, const QVector<ScheduleProblem> &problems)
+/// Prints problems in the form that editors know from compilers. "%1" in the form stands for the message.
+void printProblems(const QString &fileName, const QVector<ScheduleProblem> &problems, const QString &form)
 {
     const QString lines = firstLines(fileName, int(problems.size()), [&](int number) {
         const ScheduleProblem &problem = problems.at(number);
         return QStringLiteral("%1:%2:%3: %4")
-            .arg(fileName, QString::number(problem.row), QString::number(problem.column), problem.message);
+            .arg(fileName, QString::number(problem.row), QString::number(problem.column), form.arg(problem.message));
     });
     std::fputs(qPrintable(lines), stderr);
 }
 
+QJsonObject objectOf(const ScheduleProblem &problem)
+{
+    return {{QStringLiteral("row"), problem.row},
+            {QStringLiteral("column"), problem.column},
+            {QStringLiteral("message"), problem.message}};
+}
+
 ExitCode printReport(const QString &schedule, const ScheduleReport &report, bool isDryRun)
 {
+    QJsonArray warnings;
+    for (const ScheduleProblem &warning : report.warnings)
+        warnings.append(objectOf(warning));
     const QJsonObject counts{{QStringLiteral("file"), JobEditor::Instance().filename()},
                              {QStringLiteral("schedule"), schedule},
                              {QStringLiteral("dryRun"), isDryRun},
@@ -31,13 +44,10 @@ ExitCode printReport(const QString &schedule, const ScheduleReport &report, bool
                              {QStringLiteral("rooms"), report.rooms},
                              {QStringLiteral("ports"), report.ports},
                              {QStringLiteral("cables"), report.cables},
-                             {QStringLiteral("changed"), report.changed}};
-    return printJson(counts, QStringLiteral("problems"), int(report.problems.size()), [&report](int number) {
-        const ScheduleProblem &problem = report.problems.at(number);
-        return QJsonObject{{QStringLiteral("row"), problem.row},
-                           {QStringLiteral("column"), problem.column},
-                           {QStringLiteral("message"), problem.message}};
-    });
+                             {QStringLiteral("changed"), report.changed},
+                             {QStringLiteral("warnings"), warnings}};
+    return printJson(counts, QStringLiteral("problems"), int(report.problems.size()),
+                     [&report](int number) { return objectOf(report.problems.at(number)); });
 }
 
 ExitCode printCounts(const ScheduleReport &report, bool isDryRun)
@@ -53,12 +63,15 @@ ExitCode printCounts(const ScheduleReport &report, bool isDryRun)
 
 ExitCode runScheduleImport(const CommandLine &line)
 {
+    CsvOptions options;
+    if (const ExitCode error = readCsvOptions(line, &options))
+        return error;
     const bool isDryRun = line.isSet("dry-run");
     const QString fileName = line.argument(0);
     const QString schedule = line.argument(1);
     if (const ExitCode error = isDryRun ? loadJob(fileName) : lockAndLoadJob(fileName))
         return error;
-    const ScheduleReport report = importSchedule(JobEditor::Instance(), schedule, isDryRun);
+    const ScheduleReport report = importSchedule(JobEditor::Instance(), schedule, options, isDryRun);
     if (!report.error.isEmpty())
         return fail(CannotLoad, schedule, report.error);
 
@@ -67,11 +80,14 @@ ExitCode runScheduleImport(const CommandLine &line)
         if (printsJson)
             printReport(schedule, report, isDryRun);
         else
-            printProblems(schedule, report.problems);
+            printProblems(schedule, report.problems, QStringLiteral("%1"));
         return CannotLoad;
     }
     // This does nothing after a dry run, because the job is unchanged.
     if (const ExitCode error = saveChangedJob())
         return error;
-    return printsJson ? printReport(schedule, report, isDryRun) : printCounts(report, isDryRun);
+    if (printsJson)
+        return printReport(schedule, report, isDryRun);
+    printProblems(schedule, report.warnings, Program::tr("warning: %1"));
+    return printCounts(report, isDryRun);
 }
