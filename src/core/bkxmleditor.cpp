@@ -10,6 +10,11 @@
 
 using namespace cabledoc;
 
+Document &Document::of(const BKXMLEditor &editor)
+{
+    return editor.inside();
+}
+
 BKXMLEditor::BKXMLEditor(const QString &documentTypeName)
     : BKXMLEditor(std::make_unique<Document>(std::make_unique<DocumentTree>(documentTypeName)))
 {

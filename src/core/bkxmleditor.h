@@ -356,5 +356,7 @@ protected:
     /// @}
 
 private:
+    friend class cabledoc::Document;
+
     const std::unique_ptr<cabledoc::Document> m_inside;
 };

@@ -9,6 +9,7 @@
 #include <memory>
 
 class Address;
+class BKXMLEditor;
 
 namespace cabledoc {
 
@@ -24,6 +25,9 @@ public:
     Document(const Document &other);
     /// Shares the other's tree, and takes its file and error text. Keeps the settings and the mark of a change.
     Document &operator=(const Document &other);
+
+    /// Returns the inside of a document.
+    static Document &of(const BKXMLEditor &editor);
 
     DocumentTree &tree() const { return *m_tree; }
 
@@ -97,5 +101,11 @@ private:
     KnownFiles m_files;
     bool m_isLoadFailed = false;
 };
+
+/// Largest number of cable types that a bundle keeps in a file.
+constexpr int maximumTypesOfBundle = 8;
+
+/// Replaces the cable types of a bundle by the first of the given ones.
+void writeBundleTypes(DocumentTree *tree, const QDomElement &bundle, const QStringList &types);
 
 } // namespace cabledoc

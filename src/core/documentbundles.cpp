@@ -9,9 +9,6 @@ using namespace cabledoc;
 
 namespace {
 
-/// Largest number of cable types that a bundle keeps in a file.
-constexpr int maximumTypes = 8;
-
 BundledCable bundleFrom(const QDomElement &element)
 {
     BundledCableFields fields = bundledCableAttributes().read(element);
@@ -21,6 +18,18 @@ BundledCable bundleFrom(const QDomElement &element)
 }
 
 } // namespace
+
+void cabledoc::writeBundleTypes(DocumentTree *tree, const QDomElement &bundle, const QStringList &types)
+{
+    tree->remove(bundle.firstChildElement(words::BundledCableTypeList));
+    const QDomElement list = tree->append(words::BundledCableTypeList, bundle);
+    int position = 0;
+    for (const QString &type : types.mid(0, maximumTypesOfBundle)) {
+        ++position;
+        const QString tag = words::BundledCableTypeTagPrefix + QString::number(position);
+        tree->setAttribute(tree->append(tag, list), words::Id, type);
+    }
+}
 
 void BKXMLEditor::addBundledCableType(const QString &id, const QStringList &types, const QString &color,
                                       const bool &defaultType)
@@ -45,13 +54,7 @@ void BKXMLEditor::addBundledCableTypes(const QVector<BundledCable> &bundles)
             continue;
         const QDomElement element = tree.append(names.firstFreeTag(words::BundledCableTagPrefix), list,
                                                 bundledCableAttributes(), bundle.fields());
-        const QDomElement typeList = tree.append(words::BundledCableTypeList, element);
-        int position = 0;
-        for (const QString &type : bundle.types().mid(0, maximumTypes)) {
-            ++position;
-            const QString tag = words::BundledCableTypeTagPrefix + QString::number(position);
-            tree.setAttribute(tree.append(tag, typeList), words::Id, type);
-        }
+        writeBundleTypes(&tree, element, bundle.types());
         names.insert(element);
     }
 }

@@ -30,8 +30,8 @@ JobSnapshot JobSnapshot::read(const QString &fileName, qint64 maximumFileSize)
     return JobSnapshot(data);
 }
 
-JobSnapshot::JobSnapshot(const JobEditor &job)
-    : d(dataOf(FlatTree::fromDocument(JobEditorPrivate::of(job).tree.document())))
+JobSnapshot::JobSnapshot(const BKXMLEditor &document)
+    : d(dataOf(FlatTree::fromDocument(Document::of(document).tree().document())))
 {
 }
 

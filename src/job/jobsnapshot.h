@@ -21,8 +21,6 @@
 
 #include <memory>
 
-class JobEditor;
-
 namespace cabledoc {
 
 class FlatTree;
@@ -170,8 +168,9 @@ public:
     /// changed. If the file cannot be read, or is not a job, the snapshot is empty and has an error(). Files above the
     /// given size in bytes are not read.
     static JobSnapshot read(const QString &fileName, qint64 maximumFileSize = BKXMLEditor::defaultMaximumFileSize);
-    /// Makes a snapshot of a document. It is empty if no job is open.
-    explicit JobSnapshot(const JobEditor &job);
+    /// Makes a snapshot of a job or template. It is empty if no file is open. That of a template only has the
+    /// contractor, the settings, the test definitions and the bundles.
+    explicit JobSnapshot(const BKXMLEditor &document);
 
     /// Returns why the file could not be read, or an empty string if it was read.
     const QString &error() const;
