@@ -1,0 +1,330 @@
+#include "elementnames.h"
+
+#include "jobwords.h"
+
+namespace cabledoc {
+
+namespace {
+
+/// What tells the tables of a kind apart.
+struct KindRow
+{
+    QString name;
+    ElementKind elements;
+    TableKind holder;
+};
+
+const std::array<KindRow, std::size_t(TableKind::Count)> &kindRows()
+{
+    using Elements = ElementKind;
+    using Table = TableKind;
+    static const std::array<KindRow, std::size_t(Table::Count)> rows{{
+        {QStringLiteral("test-definitions"), Elements::None, Table::Count},
+        {QStringLiteral("bundles"), Elements::None, Table::Count},
+        {QStringLiteral("floors"), Elements::Floors, Table::Count},
+        {QStringLiteral("rooms"), Elements::Rooms, Table::Floors},
+        {QStringLiteral("ports"), Elements::Ports, Table::Rooms},
+        {QStringLiteral("vertical-runs"), Elements::VerticalRuns, Table::Rooms},
+        {QStringLiteral("points"), Elements::Points, Table::Floors},
+        {QStringLiteral("floor-texts"), Elements::FloorFreeTexts, Table::Floors},
+        {QStringLiteral("sheets"), Elements::Sheets, Table::Count},
+        {QStringLiteral("devices"), Elements::Devices, Table::Sheets},
+        {QStringLiteral("bends"), Elements::Vertices, Table::Sheets},
+        {QStringLiteral("sheet-texts"), Elements::FreeTexts, Table::Sheets},
+        {QStringLiteral("connections"), Elements::Connections, Table::Count},
+        {QStringLiteral("cables"), Elements::Cables, Table::Count},
+        {QStringLiteral("active-ports"), Elements::ActivePorts, Table::Count},
+        {QStringLiteral("releases"), Elements::None, Table::Count},
+    }};
+    return rows;
+}
+
+const KindRow &rowOf(TableKind kind)
+{
+    return kindRows()[std::size_t(kind)];
+}
+
+/// Calls a function with the elements of a kind other than releases.
+template <typename Use> auto withElements(const JobSnapshot &job, TableKind kind, Use use)
+{
+    switch (kind) {
+    case TableKind::TestDefinitions:
+        return use(job.definitions());
+    case TableKind::Bundles:
+        return use(job.bundles());
+    case TableKind::Floors:
+        return use(job.floors());
+    case TableKind::Rooms:
+        return use(job.rooms());
+    case TableKind::Ports:
+        return use(job.ports());
+    case TableKind::VerticalRuns:
+        return use(job.verticalRuns());
+    case TableKind::Points:
+        return use(job.points());
+    case TableKind::FloorTexts:
+        return use(job.floorTexts());
+    case TableKind::Sheets:
+        return use(job.sheets());
+    case TableKind::Devices:
+        return use(job.devices());
+    case TableKind::Bends:
+        return use(job.bends());
+    case TableKind::SheetTexts:
+        return use(job.sheetTexts());
+    case TableKind::Connections:
+        return use(job.connections());
+    case TableKind::Cables:
+        return use(job.cables());
+    case TableKind::ActivePorts:
+    case TableKind::Releases:
+    case TableKind::Count:
+        break;
+    }
+    return use(job.activePorts());
+}
+
+QString tagIn(const TestDefFields & /*unused*/)
+{
+    return QString();
+}
+QString tagIn(const BundledCableFields &fields)
+{
+    return fields.tag;
+}
+template <typename Fields> QString tagIn(const Fields &fields)
+{
+    return fields.element;
+}
+
+/// Returns the character that separates the parts of a name in an index. No text of a file has it.
+QChar partSeparator()
+{
+    return QChar(0x1F);
+}
+
+QString keyOf(const QStringList &parts)
+{
+    return parts.join(partSeparator());
+}
+
+/// Splits a text at the separators that have no backslash before them, and leaves the backslashes in the pieces.
+QStringList splitAt(QChar separator, const QString &text)
+{
+    QStringList pieces{QString()};
+    bool isEscaped = false;
+    for (const QChar character : text) {
+        if (character == separator && !isEscaped)
+            pieces.append(QString());
+        else
+            pieces.last().append(character);
+        isEscaped = character == QLatin1Char('\\') && !isEscaped;
+    }
+    return pieces;
+}
+
+QString withoutEscapes(const QString &text)
+{
+    QString plain;
+    bool isEscaped = false;
+    for (const QChar character : text) {
+        isEscaped = character == QLatin1Char('\\') && !isEscaped;
+        if (!isEscaped)
+            plain.append(character);
+    }
+    return plain;
+}
+
+QString escaped(const QString &part)
+{
+    QString text;
+    for (const QChar character : part) {
+        if (QStringLiteral("\\/;").contains(character))
+            text.append(QLatin1Char('\\'));
+        text.append(character);
+    }
+    return text;
+}
+
+} // namespace
+
+const QStringList &tableNames()
+{
+    static const QStringList names = [] {
+        QStringList all;
+        for (const KindRow &row : kindRows())
+            all.append(row.name);
+        return all;
+    }();
+    return names;
+}
+
+const QString &tableName(TableKind kind)
+{
+    return rowOf(kind).name;
+}
+
+std::optional<TableKind> tableOfName(const QString &name)
+{
+    const auto number = tableNames().indexOf(name);
+    return number < 0 ? std::nullopt : std::make_optional(TableKind(number));
+}
+
+bool isTableOfTemplates(TableKind kind)
+{
+    return kind == TableKind::TestDefinitions || kind == TableKind::Bundles;
+}
+
+int countOf(const JobSnapshot &job, TableKind kind)
+{
+    if (kind == TableKind::Releases)
+        return int(job.releases().size());
+    return withElements(job, kind, [](const auto &elements) { return int(elements.size()); });
+}
+
+ElementView elementOf(const JobSnapshot &job, TableKind kind, int position)
+{
+    if (kind == TableKind::Releases) {
+        const auto release = std::next(job.releases().cbegin(), position);
+        return {QString(), release.key(), -1, &release.value()};
+    }
+    return withElements(job, kind, [position](const auto &elements) -> ElementView {
+        using Element = typename std::decay_t<decltype(elements)>::value_type;
+        const Element &element = elements.at(position);
+        const typename Element::Fields &fields = element;
+        return {tagIn(fields), element.id, element.holder, &fields};
+    });
+}
+
+bool isUndefinedRoom(TableKind kind, const ElementView &element)
+{
+    return kind == TableKind::Rooms && (element.tag == words::Undefined || element.id == words::Undefined);
+}
+
+ElementKind elementKind(TableKind kind)
+{
+    return rowOf(kind).elements;
+}
+
+TableKind holderKind(TableKind kind)
+{
+    return rowOf(kind).holder;
+}
+
+ElementNames::ElementNames(const JobSnapshot &job)
+    : m_job(job)
+{
+}
+
+QStringList ElementNames::partsOf(TableKind kind, int position) const
+{
+    const ElementView element = elementOf(m_job, kind, position);
+    QStringList parts;
+    if (element.holder >= 0)
+        parts = partsOf(holderKind(kind), element.holder);
+    // The room "Undefined" stands for no room.
+    parts.append(isUndefinedRoom(kind, element) ? QString() : element.id);
+    return parts;
+}
+
+bool ElementNames::isNamed(TableKind kind, int position) const
+{
+    return indexOf(kind).isNamed.at(position);
+}
+
+int ElementNames::find(TableKind kind, const QStringList &parts) const
+{
+    const Index &index = indexOf(kind);
+    const auto found = index.positions.find(keyOf(parts));
+    return found == index.positions.end() ? -1 : found->second;
+}
+
+snapshot::Target ElementNames::find(std::initializer_list<TableKind> kinds, const QStringList &parts) const
+{
+    for (const TableKind kind : kinds) {
+        const int position = find(kind, parts);
+        if (position >= 0)
+            return {elementKind(kind), position};
+    }
+    return {};
+}
+
+int ElementNames::findTag(TableKind kind, const QString &tag) const
+{
+    return elementKind(kind) == ElementKind::None ? -1 : m_job.positionOfTag(elementKind(kind), tag);
+}
+
+const ElementNames::Index &ElementNames::indexOf(TableKind kind) const
+{
+    Index &index = m_indexes[std::size_t(kind)];
+    if (!index.isMade)
+        makeIndex(kind, &index);
+    return index;
+}
+
+void ElementNames::makeIndex(TableKind kind, Index *index) const
+{
+    index->isMade = true;
+    const int count = countOf(m_job, kind);
+    index->positions.reserve(std::size_t(count));
+    index->isNamed.resize(count);
+    TextMap<int> roomTags;
+    for (int position = 0; position < count; ++position) {
+        const ElementView element = elementOf(m_job, kind, position);
+        const bool isHolderNamed = element.holder < 0 || isNamed(holderKind(kind), element.holder);
+        if (!isHolderNamed || element.id.isEmpty() || !isReachable(kind, position, element))
+            continue;
+        // The operations find a room by its floor and its tag.
+        const QString floorAndTag = QString::number(element.holder) + partSeparator() + element.tag;
+        if (kind == TableKind::Rooms && !roomTags.insert({floorAndTag, position}).second)
+            continue;
+        const QStringList parts = partsOf(kind, position);
+        const bool isTaken = (kind == TableKind::VerticalRuns && find(TableKind::Ports, parts) >= 0)
+                             || (kind == TableKind::Bends && find(TableKind::Devices, parts) >= 0);
+        index->isNamed[position] = !isTaken && index->positions.insert({keyOf(parts), position}).second;
+    }
+}
+
+/// Returns whether the operations of the job find the element by its tag.
+bool ElementNames::isReachable(TableKind kind, int position, const ElementView &element) const
+{
+    if (elementKind(kind) == ElementKind::None || kind == TableKind::Rooms)
+        return true;
+    // A tag that a port and a vertical run share leads to the port.
+    return findTag(kind, element.tag) == position
+           && (kind != TableKind::VerticalRuns || findTag(TableKind::Ports, element.tag) < 0);
+}
+
+QString nameText(const QStringList &parts)
+{
+    QStringList texts;
+    for (const QString &part : parts)
+        texts.append(escaped(part));
+    return texts.join(QLatin1Char('/'));
+}
+
+QStringList partsOfName(const QString &text)
+{
+    QStringList parts;
+    for (const QString &part : splitAt(QLatin1Char('/'), text))
+        parts.append(withoutEscapes(part));
+    return parts;
+}
+
+QString nameListText(const QStringList &names)
+{
+    return names.join(QLatin1String("; "));
+}
+
+QStringList namesIn(const QString &text)
+{
+    QStringList names;
+    for (const QString &piece : splitAt(QLatin1Char(';'), text)) {
+        // The blank after the separator is part of it.
+        const QString name = !names.isEmpty() && piece.startsWith(QLatin1Char(' ')) ? piece.mid(1) : piece;
+        names.append(name);
+    }
+    return text.isEmpty() ? QStringList() : names;
+}
+
+} // namespace cabledoc

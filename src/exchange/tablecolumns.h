@@ -1,0 +1,126 @@
+#pragma once
+
+#include "attributetable.h"
+#include "elementnames.h"
+#include "tablekind.h"
+
+namespace cabledoc {
+
+/// What a column of a table holds.
+enum class Content {
+    // The names of an element
+    Tag,
+    Id,
+    Floor,
+    Room,
+    Sheet,
+    // An attribute of the element
+    Text,
+    Number,
+    Flag,
+    Color,
+    Use,        ///< what a port or cable is used for
+    Definition, ///< the name of a test definition
+    Bundle,     ///< the name of a bundle
+    Position,   ///< pixels of a plan or sheet
+    Height,     ///< feet
+    // An attribute that names another element. The columns of one attribute follow one another.
+    EndFloor,
+    EndRoom,
+    EndPort,
+    EndSheet,
+    EndDevice,
+    Path, ///< the names of points, ports and vertical runs
+    // What is not an attribute of the element
+    PictureX,
+    PictureY,
+    PictureOption,
+    Connected,    ///< the names of the vertical runs that have the cable as a connected one
+    Disconnected, ///< the names of the vertical runs that have the cable as a disconnected one
+    Types,        ///< the test definitions of a bundle
+    ReleaseValue,
+    // What only lists show
+    CableCount,
+    Status,
+    MeasuredLength,
+};
+
+/// A column that a kind of table can have.
+struct TableColumn
+{
+    QString name; ///< without the unit of a position, height or length
+    Content content;
+    const AttributeRow *attribute; ///< null if the column is not an attribute of the element
+};
+
+/// Returns the columns of a kind of table.
+const QVector<TableColumn> &columnsOf(TableKind kind);
+/// Returns the attributes of the elements in a kind of table.
+const AttributeList &attributesOf(TableKind kind);
+
+/// Returns whether the column holds a position on a plan or sheet.
+bool isPosition(Content content);
+/// Returns whether the texts of the column depend on a unit.
+bool hasUnit(Content content);
+/// Returns whether the column holds numbers.
+bool isNumeric(const TableColumn &column);
+/// Returns whether an import reads the column.
+bool isImported(Content content);
+/// Returns whether the column is a part of the names of elements.
+bool isName(Content content);
+
+/// Returns the name of a column with its unit, such as "x_m".
+QString columnName(const TableColumn &column, TableUnit unit);
+
+/// Reads the texts of the elements of a kind.
+class TableReader
+{
+public:
+    /// Which names of other elements are shown.
+    enum class Names {
+        All,    ///< also those that an earlier element has
+        Unique, ///< those that lead to the elements, so that they can be read again
+    };
+
+    TableReader(const ElementNames &names, TableKind kind, Names shownNames);
+
+    TableKind kind() const { return m_kind; }
+    /// Returns the text of an element in a column, or an empty text for a position of -1.
+    QString text(const TableColumn &column, TableUnit unit, int position) const;
+    /// Returns the length of a pixel of the plan or sheet in a unit. Returns 0 if it has no scale.
+    double pixelIn(TableUnit unit) const;
+
+private:
+    QString endText(const TableColumn &column, int position) const;
+    QString pathText(int position) const;
+    QString runsText(int cable, bool isConnected) const;
+    void findRuns() const;
+
+    const ElementNames &m_names;
+    TableKind m_kind;
+    Names m_shownNames;
+    double m_feetInAPixel;
+    /// The vertical runs of each cable: the connected ones, and the disconnected ones.
+    mutable std::array<QVector<QStringList>, 2> m_runsOfCables;
+};
+
+/// Returns the table of a kind of elements that others name.
+TableKind tableOf(ElementKind kind);
+
+/// Returns the text that an attribute has after an element with the given text has been read and written.
+QString canonicalText(TableKind kind, const AttributeRow &attribute, const QString &text);
+
+/// Returns the colour of a cable: that of its type if the text is not the name of a colour.
+QString cableColor(const JobSnapshot &job, const QString &text, const QString &type);
+
+/// Returns the text of a number in a unit: at most three digits after the point, and no zeros at its end.
+QString roundedText(double number);
+
+/// Returns why a table cannot have a unit: it has positions, and its plan or sheets have no scale. Returns an empty
+/// text if it can.
+QString missingScale(const JobSnapshot &job, TableKind kind, TableUnit unit);
+
+/// Returns the length of a pixel of floor plans or sheets in feet. Returns 0 if they have no scale.
+double feetInAPixel(const JobSnapshot &job, TableKind kind);
+
+} // namespace cabledoc

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tablefile.h"
+#include "tableplan_p.h"
+
+namespace cabledoc {
+
+/// Compares the fields of a row with an element, and turns those that differ into texts of attributes.
+class TableValues
+{
+public:
+    TableValues(const ElementNames &names, TableKind kind, const TableFile &file, TablePlanData *plan);
+
+    /// Compares a row with the element at a position, or with the defaults of a new one if the position is -1. Adds
+    /// what differs to the change, and problems and warnings to the plan. Returns what differs in words.
+    QStringList read(const FileRow &row, int position, ElementChange *change);
+
+private:
+    /// A field of a row, and the text that the element has in its column.
+    struct Field
+    {
+        const FileRow &row;
+        const FileColumn &column;
+        int position; ///< of the element
+        QString text;
+        QString before;
+    };
+
+    void readField(const Field &field, ElementChange *change, QStringList *words);
+    std::optional<QString> attributeText(const Field &field);
+    std::optional<QString> readNumber(const Field &field);
+    std::optional<QString> readFlag(const Field &field);
+    std::optional<QString> readPath(const Field &field);
+    std::optional<QStringList> readRuns(const Field &field);
+    std::optional<QStringList> readTypes(const Field &field);
+    void readEnd(const FileRow &row, const QString &attribute, int position, ElementChange *change, QStringList *words);
+    snapshot::Target findEnd(const QStringList &parts) const;
+    void checkWord(const Field &field);
+    bool isKnownUse(const QString &use);
+    QString typeOf(const Field &field) const;
+    void report(const Field &field, const QString &message);
+    void warn(const Field &field, const QString &message);
+
+    const ElementNames &m_names;
+    const JobSnapshot &m_job;
+    TableKind m_kind;
+    const TableFile &m_file;
+    TablePlanData &m_plan;
+    TableReader m_reader;
+    TextMap<bool> m_knownUses; ///< the words of the vocabulary and of the job; empty until they are needed
+};
+
+} // namespace cabledoc
