@@ -2,20 +2,13 @@
 
 #include "jobattributes.h"
 #include "jobwords.h"
-#include "qtcompat.h"
+#include "planplaces.h"
+#include "tablecolumns.h"
 #include "xmlnames.h"
 
 #include <algorithm>
 
 namespace cabledoc {
-
-namespace {
-
-/// Largest bottom edge that counts. Rooms of a damaged file could otherwise make the positions of new ones too large
-/// for numbers.
-constexpr double maximumBottom = 1e6;
-
-} // namespace
 
 JobSchedule::JobSchedule(const JobSnapshot &job, bool characterReferences)
     : m_job(job)
@@ -146,11 +139,7 @@ std::set<QString> JobSchedule::uses() const
 
 QString JobSchedule::color(const QString &text, const QString &type) const
 {
-    if (qtcompat::isColorName(text))
-        return text;
-    const int definition = m_job.definitionOfName(type);
-    const QString ofType = definition < 0 ? QString() : m_job.definitions().at(definition).color;
-    return qtcompat::isColorName(ofType) ? ofType : TestDefFields().color;
+    return cableColor(m_job, text, type);
 }
 
 } // namespace cabledoc

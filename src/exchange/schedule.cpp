@@ -4,54 +4,16 @@
 #include "jobeditor_p.h"
 #include "jobschedule.h"
 #include "jobwords.h"
+#include "planplaces.h"
 #include "schedulereader.h"
 #include "schedulewarnings.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
-#include <cmath>
-
 using namespace cabledoc;
 
 namespace {
-
-// The grid of new rooms, in plan pixels.
-constexpr int roomsInRow = 6;
-constexpr int roomWidth = 240;
-constexpr int roomHeight = 160;
-constexpr int gap = 40;
-// The places of new ports.
-constexpr int portsInRow = 16;
-constexpr int undefinedPortDistance = 24;
-constexpr int undefinedPortTop = 12;
-
-RoomFields placeOfRoom(int number, double top)
-{
-    const int row = number / roomsInRow;
-    RoomFields fields;
-    fields.x = gap + (number % roomsInRow) * (roomWidth + gap);
-    fields.y = top + gap + row * (roomHeight + gap);
-    fields.width = roomWidth;
-    fields.height = roomHeight;
-    fields.roomNameX = fields.x + fields.width / 2;
-    fields.roomNameY = fields.y + fields.height / 2;
-    return fields;
-}
-
-/// Returns the place of a port in a room. Any number of ports is spread over the room: the golden ratio puts each row
-/// into the widest space that the rows before it leave.
-QPointF placeOfPort(int number, const QRectF &area)
-{
-    if (area.isEmpty())
-        return {double(number + 1) * undefinedPortDistance, double(undefinedPortTop)};
-    constexpr double goldenRatio = 0.6180339887;
-    const int row = number / portsInRow;
-    const double across = (number % portsInRow + 0.5) / portsInRow;
-    const double down = std::fmod(goldenRatio * (row + 1), 1.0);
-    const auto rounded = [](double pixels) { return std::round(pixels * 100) / 100; };
-    return {rounded(area.left() + across * area.width()), rounded(area.top() + down * area.height())};
-}
 
 /// A field of a cable that is a single text, unlike its ends.
 struct TextField
