@@ -85,9 +85,13 @@ void testRoundTrip(const JobSnapshot &job, TableUnit unit, JobEditor *copy)
         expect(TablePlan(job, kind, table).changes().isEmpty(), "the table of a job has nothing new for it");
     }
     const JobSnapshot made(*copy);
-    for (const TableKind kind : allKinds())
-        expect(exported(made, kind, unit) == exported(job, kind, unit),
-               "the tables of a job make the same tables again");
+    for (const TableKind kind : allKinds()) {
+        const QByteArray again = exported(made, kind, unit);
+        const QByteArray first = exported(job, kind, unit);
+        if (again != first)
+            note(kind, QString::fromUtf8("the table\n" + first + "became\n" + again));
+        expect(again == first, "the tables of a job make the same tables again");
+    }
 }
 
 } // namespace

@@ -49,6 +49,13 @@ bool isAllEmpty(const QStringList &parts)
     return std::all_of(parts.cbegin(), parts.cend(), [](const QString &part) { return part.isEmpty(); });
 }
 
+/// Returns whether a number in a column loses its fraction.
+bool holdsWholeNumbers(TableKind kind, const TableColumn &column)
+{
+    const QString fraction = QStringLiteral("0.5");
+    return column.attribute->isValid == nullptr || canonicalText(kind, *column.attribute, fraction) != fraction;
+}
+
 /// Rounds a number that was calculated from another unit.
 double rounded(double number)
 {
@@ -165,7 +172,7 @@ std::optional<QString> TableValues::readNumber(const Field &field)
         return std::nullopt;
     bool isNumber = false;
     double number = text.toDouble(&isNumber);
-    const bool isWhole = column.attribute->isValid == nullptr || !column.attribute->isValid(QStringLiteral("0.5"));
+    const bool isWhole = holdsWholeNumbers(m_kind, column);
     const bool isMeasure = field.column.unit != TableUnit::Pixels && hasUnit(column.content);
     if (isMeasure && isPosition(column.content)) {
         const double pixel = m_reader.pixelIn(field.column.unit);

@@ -4,64 +4,65 @@
 
 namespace {
 
-/// Returns the text of a cell in one line.
-QString textOf(const QVariant &cell)
+/// Returns the texts of a column, each in one line. Columns of which all texts are numbers or empty are numeric.
+TextColumn textsOf(const Table &table, int column)
 {
-    return cell.toString().simplified();
-}
-
-/// Returns whether all cells of the column are numbers or empty. At least one must be a number.
-bool isNumeric(const Table &table, int column)
-{
-    bool isFilled = false;
-    const bool isClean = std::all_of(table.rows.cbegin(), table.rows.cend(), [&](const QVariantList &row) {
-        const QString cell = textOf(row.at(column));
-        bool isNumber = false;
-        cell.toDouble(&isNumber);
-        isFilled = isFilled || isNumber;
-        return isNumber || cell.isEmpty();
-    });
-    return isClean && isFilled;
-}
-
-int widthOf(const Table &table, int column)
-{
-    qsizetype width = table.columns.at(column).heading.size();
-    for (const QVariantList &row : table.rows)
-        width = std::max<qsizetype>(width, textOf(row.at(column)).size());
-    return int(width);
+    TextColumn texts{table.columns.at(column).heading, false, {}};
+    bool isClean = true;
+    for (const QVariantList &row : table.rows) {
+        const QString cell = row.at(column).toString().simplified();
+        bool isNumber = cell.isEmpty();
+        if (!isNumber)
+            cell.toDouble(&isNumber);
+        isClean = isClean && isNumber;
+        texts.isNumeric = texts.isNumeric || !cell.isEmpty();
+        texts.cells.append(cell);
+    }
+    texts.isNumeric = texts.isNumeric && isClean;
+    return texts;
 }
 
 } // namespace
 
-QString textOf(const Table &table)
+QString textOf(const std::vector<TextColumn> &columns)
 {
-    struct TextColumn
-    {
-        int number;
-        int width;
-        bool isNumeric;
-    };
-    QVector<TextColumn> columns;
-    for (int number = 0; number < table.columns.size(); ++number) {
-        if (!table.columns.at(number).heading.isEmpty())
-            columns.append({number, widthOf(table, number), isNumeric(table, number)});
+    std::vector<int> widths;
+    int lineLength = 1;
+    for (const TextColumn &column : columns) {
+        qsizetype width = column.heading.size();
+        for (const QString &cell : column.cells)
+            width = std::max<qsizetype>(width, cell.size());
+        widths.push_back(int(width));
+        lineLength += int(width) + 2;
     }
+    const int rows = columns.empty() ? 0 : int(columns.front().cells.size());
     QString text;
+    text.reserve(lineLength * (rows + 1));
     const auto appendLine = [&](const auto &cellOf) {
-        for (const TextColumn &column : std::as_const(columns)) {
-            const QString cell = cellOf(column.number);
-            text += column.isNumeric ? cell.rightJustified(column.width) : cell.leftJustified(column.width);
-            text += QLatin1String("  ");
+        for (std::size_t number = 0; number < columns.size(); ++number) {
+            const QString &cell = cellOf(columns[number]);
+            const QString blanks(widths[number] - int(cell.size()), QLatin1Char(' '));
+            const bool isNumeric = columns[number].isNumeric;
+            text.append(isNumeric ? blanks : cell).append(isNumeric ? cell : blanks).append(QLatin1String("  "));
         }
         while (text.endsWith(QLatin1Char(' ')))
             text.chop(1);
         text += QLatin1Char('\n');
     };
-    appendLine([&table](int column) { return table.columns.at(column).heading; });
-    for (const QVariantList &row : table.rows)
-        appendLine([&row](int column) { return textOf(row.at(column)); });
+    appendLine([](const TextColumn &column) -> const QString & { return column.heading; });
+    for (int row = 0; row < rows; ++row)
+        appendLine([row](const TextColumn &column) -> const QString & { return column.cells.at(row); });
     return text;
+}
+
+QString textOf(const Table &table)
+{
+    std::vector<TextColumn> columns;
+    for (int column = 0; column < table.columns.size(); ++column) {
+        if (!table.columns.at(column).heading.isEmpty())
+            columns.push_back(textsOf(table, column));
+    }
+    return textOf(columns);
 }
 
 QJsonObject objectOf(const Table &table, int row)

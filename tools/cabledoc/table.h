@@ -4,7 +4,10 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+#include <QtCore/QStringList>
 #include <QtCore/QVector>
+
+#include <vector>
 
 /// A column of a table: its name in JSON, and its translated heading. A column without a heading is only in JSON.
 struct Column
@@ -20,6 +23,16 @@ struct Table
     QVector<QVariantList> rows;
 };
 
+/// A column of a text: its heading, and a cell of one line for each row.
+struct TextColumn
+{
+    QString heading;
+    bool isNumeric; ///< whether it is aligned to the right
+    QStringList cells;
+};
+
+/// Returns the columns as text, with one line for the headings and one for each row.
+QString textOf(const std::vector<TextColumn> &columns);
 /// Returns the table as text, with one line for the headings and one for each row. Columns of numbers are aligned to
 /// the right.
 QString textOf(const Table &table);
