@@ -52,10 +52,13 @@ std::optional<QString> fieldText(const char *text, int size)
 {
     if (std::all_of(text, text + size, [](char c) { return uchar(c) < 0x80; }))
         return QString::fromLatin1(text, size);
-    // Qt would remove a byte order mark from the beginning.
+    // What is not valid becomes a replacement character. Qt removes a byte order mark, which begins with 0xEF.
+    const QString field = QString::fromUtf8(text, size);
+    if (uchar(*text) != 0xEF && !field.contains(QChar(QChar::ReplacementCharacter)))
+        return field;
     const QByteArray bytes = ' ' + QByteArray::fromRawData(text, size);
-    const QString field = QString::fromUtf8(bytes);
-    return field.toUtf8() == bytes ? std::optional<QString>(field.mid(1)) : std::nullopt;
+    const QString whole = QString::fromUtf8(bytes);
+    return whole.toUtf8() == bytes ? std::optional<QString>(whole.mid(1)) : std::nullopt;
 }
 
 // Protection against formulas. An apostrophe makes a spreadsheet show a field as text.
