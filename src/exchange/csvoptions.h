@@ -16,8 +16,8 @@ enum class CsvEncoding {
 /// How a CSV text is read.
 struct CsvOptions
 {
-    /// Character that separates the fields: ',', ';' or '\t'. With any other value it is detected: it is the one of
-    /// them that the heading has most often outside of quotation marks, and a comma if the heading has none.
+    /// Character that separates the fields: a comma, a semicolon or a tab. With any other value it is detected: it is
+    /// the one of them that the heading has most often outside of quotation marks, and a comma if the heading has none.
     char delimiter = '\0';
     /// Encoding of the text.
     CsvEncoding encoding = CsvEncoding::Detected;
@@ -28,7 +28,7 @@ struct CsvOptions
 /// How a CSV text is written. It is always UTF-8, with "\n" at the ends of lines.
 struct CsvStyle
 {
-    /// Character that separates the fields: ',', ';' or '\t'. Any other value stands for a comma.
+    /// Character that separates the fields: a comma, a semicolon or a tab. Any other value stands for a comma.
     char delimiter = ',';
     /// Whether the text begins with a byte order mark, by which some spreadsheets recognise UTF-8.
     bool byteOrderMark = false;
