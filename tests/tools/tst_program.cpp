@@ -31,7 +31,11 @@ private:
     }
 
 private Q_SLOTS:
-    void sessions_data() { addCases({"cases/program.txt", "cases/program-csv.txt", "cases/program-new.txt"}); }
+    void sessions_data()
+    {
+        addCases(
+            {"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt"});
+    }
 
     void sessions()
     {

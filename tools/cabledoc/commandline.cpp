@@ -1,26 +1,21 @@
 #include "commandline.h"
 
-#include "output.h"
+#include "suggestion.h"
 
 #include <cabledoc/bkxmleditor.h>
 
-namespace {
+#include <QtCore/QFileInfo>
 
-QCommandLineOption parserOption(const Parameter &option)
-{
-    return {option.names, QString(), option.valueName};
-}
-
-} // namespace
+#include <algorithm>
 
 CommandLine::CommandLine(const Command &command)
     : m_command(command)
+    , m_parameters(command.parameters + generalOptions())
     , m_maximumSize(BKXMLEditor::defaultMaximumFileSize)
 {
-    m_parser.addOption(parserOption(helpOption()));
-    for (const Parameter &parameter : command.parameters) {
+    for (const Parameter &parameter : m_parameters) {
         if (parameter.isOption())
-            m_parser.addOption(parserOption(parameter));
+            m_parser.addOption({parameter.names, QString(), parameter.valueName});
     }
 }
 
@@ -28,29 +23,88 @@ QString CommandLine::parse(const QStringList &words)
 {
     // The parser skips the first word, which it takes for the program's name.
     if (!m_parser.parse(QStringList(QString()) + words))
-        return m_parser.errorText();
+        return m_parser.unknownOptionNames().isEmpty() ? m_parser.errorText() : unknownOption();
     if (isSet("help"))
         return {};
     const QString problem = missingOrExcess();
     if (!problem.isEmpty())
         return problem;
-    if (m_parser.optionNames().contains(QLatin1String("max-size")) && !readMaximumSize())
+    if (isSet("max-size") && !readMaximumSize())
         return Program::tr("\"%1\" is not a size such as 500M").arg(value("max-size"));
-    return {};
+    return wrongFiles();
+}
+
+bool CommandLine::has(const char *option) const
+{
+    return std::any_of(m_parameters.cbegin(), m_parameters.cend(), [option](const Parameter &parameter) {
+        return parameter.names.contains(QLatin1String(option));
+    });
+}
+
+QString CommandLine::unknownOption() const
+{
+    QStringList known;
+    for (const Parameter &parameter : m_parameters) {
+        for (const QString &name : parameter.names)
+            known.append(typedOption(name));
+    }
+    const QString option = typedOption(m_parser.unknownOptionNames().constFirst());
+    return withSuggestion(Program::tr("there is no option \"%1\"").arg(option), nearest(option, known));
+}
+
+QStringList CommandLine::valuesOf(const Parameter &parameter) const
+{
+    if (parameter.isOption())
+        return m_parser.values(parameter.names.constLast());
+    int position = 0;
+    for (const Parameter &earlier : m_parameters) {
+        if (earlier.text == parameter.text)
+            break;
+        position += earlier.isOption() ? 0 : 1;
+    }
+    return arguments().mid(position, parameter.isRepeated ? -1 : 1);
 }
 
 QString CommandLine::missingOrExcess() const
 {
-    const QStringList arguments = m_parser.positionalArguments();
-    int count = 0;
-    for (const Parameter &parameter : m_command.parameters) {
-        const bool isGiven =
-            parameter.isOption() ? !m_parser.value(parameter.names.constLast()).isEmpty() : count++ < arguments.size();
-        if (parameter.isRequired && !isGiven)
+    QStringList excess = arguments();
+    for (const Parameter &parameter : m_parameters) {
+        const QStringList values = valuesOf(parameter);
+        if (parameter.isRequired && values.join(QString()).isEmpty())
             return Program::tr("%1 is needed").arg(parameter.usage);
+        if (!parameter.isOption())
+            excess = excess.mid(values.size());
     }
-    return count < arguments.size() ? Program::tr("\"%1\" is one argument too many").arg(arguments.at(count))
-                                    : QString();
+    return excess.isEmpty() ? QString() : Program::tr("\"%1\" is one argument too many").arg(excess.constFirst());
+}
+
+QString CommandLine::wrongFiles() const
+{
+    QStringList filesToRead;
+    for (const Parameter &parameter : m_parameters) {
+        const QStringList values = valuesOf(parameter);
+        if (parameter.isFileToRead())
+            filesToRead += values;
+        if ((parameter.isFileToRead() || parameter.isFileToWrite()) && values.contains(QString()))
+            return Program::tr("%1 is empty").arg(parameter.valueName);
+    }
+    if (filesToRead.count(standardStream) > 1)
+        return Program::tr("standard input, \"-\", can be read only once");
+
+    const Output output = this->output();
+    for (const Parameter &parameter : m_parameters) {
+        const QString extension = parameter.extension();
+        const bool isDocument = parameter.isOption() && parameter.isFileToWrite() && !extension.isEmpty();
+        if (isDocument && !output.isStandard() && QFileInfo(output.fileName).suffix().toLower() != extension)
+            return Program::tr("\"%1\" does not end in \".%2\"").arg(output.fileName, extension);
+        if (isDocument && output.fileName == standardStream && isSet("json"))
+            return Program::tr("a file and JSON cannot both be written to standard output");
+    }
+    const QString written = QFileInfo(output.fileName).canonicalFilePath();
+    const bool isRead = std::any_of(filesToRead.cbegin(), filesToRead.cend(), [&written](const QString &file) {
+        return !written.isEmpty() && QFileInfo(file).canonicalFilePath() == written;
+    });
+    return isRead ? Program::tr("the output would replace \"%1\", which is read").arg(output.fileName) : QString();
 }
 
 bool CommandLine::readMaximumSize()

@@ -2,13 +2,13 @@
 
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
-Run runCables, runCheck, runConvert, runExport, runImport, runInfo, runNew, runScheduleExport, runScheduleImport;
+Run runCables, runCheck, runConvert, runExport, runHelp, runImport, runInfo, runNew, runScheduleExport,
+    runScheduleImport;
 
 const QVector<Command> &commands()
 {
     // Parameters that several commands share
-    static const Parameter file{"FILE", Program::tr("The job or template file.")};
-    static const Parameter jobFile{"FILE.job", Program::tr("The job file.")};
+    static const Parameter jobFile{"FILE.job", Program::tr("The job file, or \"-\" for standard input.")};
     static const Parameter json{"[--json]", Program::tr("Print JSON instead of text.")};
     static const Parameter maximumSize{"[--max-size SIZE]",
                                        Program::tr("The largest file to read, such as 500M; 4G by default.")};
@@ -28,35 +28,54 @@ const QVector<Command> &commands()
     static const Parameter protect{"[--protect-formulas]",
                                    Program::tr("Put an apostrophe before fields that a spreadsheet would run as "
                                                "formulas.")};
-    static const QString output = Program::tr("The file to write. An existing file is not replaced.");
+    static const Parameter output{"[-o, --output NEW]", Program::tr("Write to this file instead of standard output.")};
+    static const Parameter jobOutput{"[-o, --output NEW.job]",
+                                     Program::tr("Save the changed job as this file, or to standard output if it is "
+                                                 "\"-\". FILE.job stays as it is.")};
+    static const Parameter overwrite{"[--overwrite]", Program::tr("Replace the file that is written if it exists.")};
+    static const QString newFile = Program::tr("The file to write, or \"-\" for standard output.");
 
     static const QVector<Command> table{
         {"new",
-         {{"NEW", Program::tr("The file to make.")},
-          {"[--floor NAME]", Program::tr("The name of a floor. This option can be given for each floor.")},
-          {"[--floors N]", Program::tr("The number of floors without --floor, from 1 (the default) to 1000.")}},
+         {{"NEW", newFile},
+          {"[--floor NAME]...", Program::tr("The name of a floor. This option can be given for each floor.")},
+          {"[--floors N]", Program::tr("The number of floors without --floor, from 1 (the default) to 1000.")},
+          overwrite},
          Program::tr("Make a new job or template."),
          Program::tr("If the name ends in \".bkt\", the file is a template. Otherwise it is a job with one sheet, and "
-                     "\".job\" is added to a name that lacks it. An existing file is not replaced."),
+                     "\".job\" is added to a name that lacks it."),
          runNew},
         {"info",
-         {jobFile, json, maximumSize},
+         {jobFile, json, output, overwrite, maximumSize},
          Program::tr("Show what a job file holds."),
          Program::tr("The floors and sheets are listed in the order of their tags. Cables, connections and active "
                      "ports are counted."),
          runInfo},
         {"cables",
-         {jobFile, {"[--metric]", Program::tr("Print lengths in metres instead of feet.")}, json, maximumSize},
+         {jobFile,
+          {"[--metric]", Program::tr("Print lengths in metres instead of feet.")},
+          json,
+          output,
+          overwrite,
+          maximumSize},
          Program::tr("List the cables of a job."),
          Program::tr("The list shows their ends, the status of their tests and their measured lengths."),
          runCables},
         {"check",
-         {file, json, maximumSize},
-         Program::tr("Report what is wrong with a file."),
-         Program::tr("Each of the first 50 findings is one line; --json prints all of them. The file is not changed."),
+         {{"FILE...", Program::tr("The job and template files. One of them may be \"-\" for standard input.")},
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Report what is wrong with files."),
+         Program::tr("Each of the first 50 findings in a file is one line; --json prints all of them. The files are "
+                     "not changed. The exit code is that of the worst file."),
          runCheck},
         {"convert",
-         {file, {"-o, --output NEW", output}, maximumSize},
+         {{"FILE", Program::tr("The job or template file, or \"-\" for standard input.")},
+          {"-o, --output NEW", newFile},
+          overwrite,
+          maximumSize},
          Program::tr("Convert a file of an earlier version."),
          Program::tr("The new file has the current version. FILE is not changed."),
          runConvert},
@@ -65,25 +84,29 @@ const QVector<Command> &commands()
           {"--template FILE.bkt", Program::tr("The template. It is not changed.")},
           {"[--missing-only]",
            Program::tr("Only add the default test definitions and the bundles that the job lacks.")},
+          jobOutput,
+          overwrite,
           maximumSize},
          Program::tr("Apply a template to a job."),
          Program::tr("The contractor and the settings of the job are replaced. Test definitions and bundles that the "
                      "job lacks are added."),
          runImport},
         {"export",
-         {jobFile, {"-o, --output NEW.bkt", output}, maximumSize},
+         {jobFile, {"-o, --output NEW.bkt", newFile}, overwrite, maximumSize},
          Program::tr("Make a template of a job."),
          Program::tr("The template gets the contractor, the settings, the test definitions and the bundles of the "
                      "job."),
          runExport},
         {"schedule import",
          {jobFile,
-          {"FILE.csv", Program::tr("The cable schedule, a CSV file. It is not changed.")},
+          {"FILE.csv", Program::tr("The cable schedule, a CSV file, or \"-\" for standard input.")},
           {"[--dry-run]", Program::tr("Only show what would change.")},
           delimiter,
           encoding,
           unprotect,
           json,
+          jobOutput,
+          overwrite,
           maximumSize},
          Program::tr("Bring a job up to a cable schedule."),
          Program::tr(
@@ -93,10 +116,45 @@ const QVector<Command> &commands()
              "line; --json prints all of them."),
          runScheduleImport},
         {"schedule export",
-         {jobFile, newDelimiter, mark, protect, maximumSize},
+         {jobFile, newDelimiter, mark, protect, output, overwrite, maximumSize},
          Program::tr("Print the cable schedule of a job as CSV."),
          {},
          runScheduleExport},
+        {"help",
+         {{"[COMMAND...]", Program::tr("The command, such as \"check\" or \"schedule import\".")}},
+         Program::tr("Show the help of a command."),
+         Program::tr("Without a command, show the help of the program."),
+         runHelp},
     };
     return table;
+}
+
+const QVector<Parameter> &generalOptions()
+{
+    static const QVector<Parameter> options{
+        {"[-h, --help]", Program::tr("Show this help.")},
+        {"[-q, --quiet]", Program::tr("Print no messages except errors.")},
+    };
+    return options;
+}
+
+const QVector<Parameter> &programOptions()
+{
+    static const QVector<Parameter> options{
+        {"[-V, --version]", Program::tr("Show the version.")},
+    };
+    return options;
+}
+
+const QVector<QPair<ExitCode, QString>> &exitCodes()
+{
+    static const QVector<QPair<ExitCode, QString>> codes{
+        {Done, Program::tr("The command did its work.")},
+        {HasFindings, Program::tr("\"check\" found something wrong.")},
+        {WrongUsage, Program::tr("The command line is wrong.")},
+        {CannotLoad, Program::tr("A file could not be loaded.")},
+        {CannotSave, Program::tr("A file could not be saved.")},
+        {CannotPrint, Program::tr("The command did its work, but standard output could not be written.")},
+    };
+    return codes;
 }

@@ -9,19 +9,41 @@
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTemporaryFile>
 
+#include <cstdio>
 #include <memory>
 
 namespace {
 
 constexpr int lockTimeout = 5000; // milliseconds
 
-/// Sets up a document so that it keeps names in all scripts, and never replaces a file that it has not read.
-void setUp(BKXMLEditor *document, qint64 maximumSize)
+/// Sets up a document so that it keeps names in all scripts, and replaces a file that it has not read only if this is
+/// wanted.
+void setUp(BKXMLEditor *document, const CommandLine &line)
 {
     document->setCharacterReferences(true);
-    document->setReplacesUnknownFiles(false);
-    document->setMaximumFileSize(maximumSize);
+    document->setReplacesUnknownFiles(line.output().mayReplace);
+    document->setMaximumFileSize(line.maximumSize());
+}
+
+/// Copies standard input to a file. Returns what went wrong, or an empty text.
+QString copyStandardInput(QFile *copy, qint64 maximumSize)
+{
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return input.errorString();
+    constexpr qint64 pieceSize = 1 << 20;
+    for (QByteArray piece = input.read(pieceSize); !piece.isEmpty(); piece = input.read(pieceSize)) {
+        if (copy->write(piece) != piece.size())
+            return copy->errorString();
+        if (copy->pos() > maximumSize)
+            return Program::tr("standard input is larger than the limit, which --max-size sets");
+    }
+    if (input.error() != QFileDevice::NoError)
+        return input.errorString();
+    return copy->flush() ? QString() : copy->errorString();
 }
 
 QString lockError(const QLockFile &lock, const QString &lockName)
@@ -50,47 +72,109 @@ ExitCode lockUntilEnd(const QString &fileName)
     return lock->tryLock(lockTimeout) ? Done : fail(CannotSave, fileName, lockError(*lock, lockName));
 }
 
+/// Saves a document to standard output, by way of a regular file, since documents are saved to nothing else.
+ExitCode printDocument(const std::function<QString(const QString &fileName)> &save)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("document"));
+    QString error = save(path);
+    QFile file(path);
+    if (error.isEmpty() && !file.open(QIODevice::ReadOnly))
+        error = file.errorString();
+    return error.isEmpty() ? printData({}, file.readAll())
+                           : fail(CannotPrint, standardStream, error.replace(path, standardStream));
+}
+
 } // namespace
 
-void setUpDocuments(qint64 maximumSize)
+void setUpDocuments(const CommandLine &line)
 {
-    setUp(&JobEditor::Instance(), maximumSize);
-    setUp(&BktEditor::Instance(), maximumSize);
+    setUp(&JobEditor::Instance(), line);
+    setUp(&BktEditor::Instance(), line);
+}
+
+ExitCode readFile(const CommandLine &line, const QString &fileName,
+                  const std::function<QString(const QString &path)> &read)
+{
+    QString path = fileName;
+    QString error;
+    // If the system allows it, the file has no name, and nothing remains of it however the program ends.
+    QTemporaryFile copy;
+    if (fileName == standardStream) {
+        error = copy.open() ? copyStandardInput(&copy, line.maximumSize()) : copy.errorString();
+        path = QStringLiteral("/dev/fd/%1").arg(copy.handle());
+    }
+    if (error.isEmpty())
+        error = read(path);
+    return error.isEmpty() ? Done : fail(CannotLoad, fileName, error.replace(path, fileName));
 }
 
 ExitCode readJob(const CommandLine &line, cabledoc::JobSnapshot *job)
 {
-    *job = cabledoc::JobSnapshot::read(line.argument(0), line.maximumSize());
-    return job->error().isEmpty() ? Done : fail(CannotLoad, line.argument(0), job->error());
+    return readFile(line, line.argument(0), [&](const QString &path) {
+        *job = cabledoc::JobSnapshot::read(path, line.maximumSize());
+        return job->error();
+    });
 }
 
-ExitCode loadJob(const QString &fileName)
+ExitCode loadJob(const CommandLine &line)
+{
+    return readFile(line, line.argument(0), [](const QString &path) {
+        JobEditor &job = JobEditor::Instance();
+        return job.Load(path) ? QString() : job.error();
+    });
+}
+
+ExitCode lockForChange(const CommandLine &line)
+{
+    if (line.isSet("output"))
+        return Done;
+    if (line.argument(0) == standardStream)
+        return line.usageError(Program::tr("standard input cannot be changed, so -o is needed"));
+    return lockUntilEnd(line.argument(0));
+}
+
+ExitCode lockAndLoadJob(const CommandLine &line)
+{
+    const ExitCode locked = lockForChange(line);
+    return locked == Done ? loadJob(line) : locked;
+}
+
+ExitCode loadTemplate(const CommandLine &line, const QString &fileName)
+{
+    return readFile(line, fileName, [](const QString &path) {
+        BktEditor &bkt = BktEditor::Instance();
+        return bkt.LoadWithoutSaving(path) ? QString() : bkt.error();
+    });
+}
+
+ExitCode saveDocument(const Output &output, const std::function<QString(const QString &fileName)> &save)
+{
+    if (output.isStandard())
+        return printDocument(save);
+    const QString error = save(output.fileName);
+    return error.isEmpty() ? Done : fail(CannotSave, output.fileName, error);
+}
+
+ExitCode saveJob(const Output &output)
+{
+    return saveDocument(output, [](const QString &fileName) {
+        JobEditor &job = JobEditor::Instance();
+        return job.saveAs(fileName) ? QString() : job.error();
+    });
+}
+
+bool isDocumentPrinted(const CommandLine &line)
+{
+    return line.isSet("output") && line.output().isStandard();
+}
+
+ExitCode saveChangedJob(const CommandLine &line)
 {
     JobEditor &job = JobEditor::Instance();
-    return job.Load(fileName) ? Done : fail(CannotLoad, fileName, job.error());
-}
-
-ExitCode lockAndLoadJob(const QString &fileName)
-{
-    const ExitCode locked = lockUntilEnd(fileName);
-    return locked == Done ? loadJob(fileName) : locked;
-}
-
-ExitCode loadTemplate(const QString &fileName)
-{
-    BktEditor &bkt = BktEditor::Instance();
-    return bkt.LoadWithoutSaving(fileName) ? Done : fail(CannotLoad, fileName, bkt.error());
-}
-
-ExitCode saveChangedJob()
-{
-    JobEditor &job = JobEditor::Instance();
-    return !job.fileChanged() || job.save() ? Done : fail(CannotSave, job.filename(), job.error());
-}
-
-ExitCode refuseExistingFile(const QString &fileName)
-{
-    return !QFileInfo::exists(fileName)
-               ? Done
-               : fail(CannotSave, fileName, Program::tr("%1 exists and is left as it is").arg(fileName));
+    if (line.isSet("output"))
+        return saveJob(line.output());
+    if (!job.fileChanged())
+        return Done;
+    return saveDocument({job.filename()}, [&job](const QString &) { return job.save() ? QString() : job.error(); });
 }

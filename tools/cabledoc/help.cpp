@@ -1,9 +1,13 @@
 #include "help.h"
 
+#include "output.h"
+#include "suggestion.h"
+
 #include <QtCore/QPair>
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace {
 
@@ -51,9 +55,8 @@ QString synopsis(const Command &command, const QString &afterName = QString())
     return text;
 }
 
-} // namespace
-
-QString commandList(const QString &firstWord)
+/// Returns the list of all commands, or of those whose names begin with the given word. It is empty if there are none.
+QString commandList(const QString &firstWord = QString())
 {
     QVector<Row> rows;
     for (const Command &command : commands()) {
@@ -63,34 +66,80 @@ QString commandList(const QString &firstWord)
     return section(Program::tr("Commands:"), rows);
 }
 
+/// Returns the options, or the arguments, among the parameters.
+QVector<Row> rowsOf(const QVector<Parameter> &parameters, bool areOptions)
+{
+    QVector<Row> rows;
+    for (const Parameter &parameter : parameters) {
+        if (parameter.isOption() == areOptions)
+            rows.append({parameter.text, parameter.sentence});
+    }
+    return rows;
+}
+
 QString programHelp()
 {
-    const Parameter help = helpOption();
-    const QVector<Row> options{{QStringLiteral("COMMAND --help"), Program::tr("Show the help of a command.")},
-                               {help.text, help.sentence},
-                               {QStringLiteral("--version"), Program::tr("Show the version.")}};
-    const QVector<Row> exitCodes{
-        {QString::number(Done), Program::tr("The command did its work.")},
-        {QString::number(HasFindings), Program::tr("\"check\" found something wrong.")},
-        {QString::number(WrongUsage), Program::tr("The command line is wrong.")},
-        {QString::number(CannotLoad), Program::tr("A file could not be loaded.")},
-        {QString::number(CannotSave), Program::tr("A file could not be saved.")},
-        {QString::number(CannotPrint),
-         Program::tr("The command did its work, but standard output could not be written.")},
-    };
+    const QVector<Row> options = rowsOf(generalOptions() + programOptions(), true);
+    QVector<Row> codes;
+    for (const auto &code : exitCodes())
+        codes.append({QString::number(code.first), code.second});
     return joined({Program::tr("Usage: cabledoc COMMAND ...\n"), commandList(),
-                   section(Program::tr("Options:"), options), section(Program::tr("Exit codes:"), exitCodes)});
+                   section(Program::tr("Options:"), options), section(Program::tr("Exit codes:"), codes)});
 }
 
 QString commandHelp(const Command &command)
 {
-    QVector<Row> arguments;
-    QVector<Row> options;
-    for (const Parameter &parameter : command.parameters)
-        (parameter.isOption() ? options : arguments).append({parameter.text, parameter.sentence});
-    options.append({helpOption().text, helpOption().sentence});
+    const QVector<Row> arguments = rowsOf(command.parameters, false);
+    const QVector<Row> options = rowsOf(command.parameters + generalOptions(), true);
     const QString usage = synopsis(command, QLatin1Char(' ') + Program::tr("[options]"));
     return joined({Program::tr("Usage: cabledoc %1\n").arg(usage),
                    wrapped(command.sentence + QLatin1Char(' ') + command.details, 0) + QLatin1Char('\n'),
                    section(Program::tr("Arguments:"), arguments), section(Program::tr("Options:"), options)});
+}
+
+/// Returns the command that is typed most like the words, or the first word of several commands. Returns an empty text
+/// if nothing is like the words.
+QString nearestCommand(const QStringList &words)
+{
+    QStringList firstWords;
+    for (const Command &command : commands())
+        firstWords.append(command.words().constFirst());
+    const QString first = nearest(words.value(0), firstWords);
+    QStringList secondWords;
+    for (const Command &command : commands()) {
+        if (command.words().constFirst() == first)
+            secondWords += command.words().mid(1);
+    }
+    const QString second = nearest(words.value(1), secondWords);
+    if (!second.isEmpty())
+        return first + QLatin1Char(' ') + second;
+    return first == words.value(0) ? QString() : first;
+}
+
+} // namespace
+
+QString helpOn(const QStringList &words)
+{
+    if (words.isEmpty())
+        return programHelp();
+    if (const Command *command = findCommand(words))
+        return commandHelp(*command);
+    return words.size() == 1 ? commandList(words.constFirst()) : QString();
+}
+
+ExitCode unknownCommand(const QStringList &words)
+{
+    if (words.isEmpty()) {
+        printMessage(Program::tr("a command is needed"));
+        std::fprintf(stderr, "\n%s", qPrintable(commandList()));
+        return WrongUsage;
+    }
+    // "schedule" is the first word of several commands.
+    const QString group = commandList(words.constFirst());
+    const QString typed = QStringList(words.mid(0, group.isEmpty() ? 1 : 2)).join(QLatin1Char(' '));
+    const QString suggestion = nearestCommand(words);
+    printMessage(withSuggestion(Program::tr("there is no command \"%1\"").arg(typed), suggestion));
+    if (suggestion.isEmpty())
+        std::fprintf(stderr, "\n%s", qPrintable(group.isEmpty() ? commandList() : group));
+    return WrongUsage;
 }

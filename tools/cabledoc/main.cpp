@@ -2,6 +2,7 @@
 #include "documents.h"
 #include "help.h"
 #include "output.h"
+#include "suggestion.h"
 
 #include <cabledoc/translations.h>
 #include <cabledoc/version.h>
@@ -14,53 +15,55 @@
 
 namespace {
 
-QStringList nameOf(const Command &command)
+bool isOneOf(const QVector<Parameter> &options, const QString &word)
 {
-    return QString::fromLatin1(command.name).split(QLatin1Char(' '));
+    return std::any_of(options.cbegin(), options.cend(), [&word](const Parameter &option) {
+        const auto isWord = [&word](const QString &name) { return typedOption(name) == word; };
+        return std::any_of(option.names.cbegin(), option.names.cend(), isWord);
+    });
 }
 
-bool isHelp(const QString &word)
-{
-    return word == QLatin1String("--help") || word == QLatin1String("-h");
-}
-
-/// Runs the program when its words do not begin with the name of a command: shows help or the version, or reports
-/// wrong usage.
-ExitCode runWithoutCommand(const QStringList &words)
+/// Runs the program without a command: shows help or the version, or reports wrong usage. The options stand before the
+/// other words.
+ExitCode runWithoutCommand(const QStringList &options, const QStringList &words)
 {
     const QString first = words.value(0);
-    if (isHelp(first))
-        return printText(programHelp());
-    if (first == QLatin1String("--version"))
-        return printData("cabledoc " CABLEDOC_VERSION_STR "\n");
-
-    // "schedule" is the first word of several commands.
-    const QString group = first.isEmpty() ? QString() : commandList(first);
-    if (!group.isEmpty() && isHelp(words.value(1)))
-        return printText(group);
-    printMessage(words.isEmpty() ? Program::tr("a command is needed")
-                                 : Program::tr("there is no command \"%1\"")
-                                       .arg(words.mid(0, group.isEmpty() ? 1 : 2).join(QLatin1Char(' '))));
-    std::fprintf(stderr, "\n%s", qPrintable(group.isEmpty() ? commandList() : group));
-    return WrongUsage;
+    if (first == QLatin1String("-V") || first == QLatin1String("--version"))
+        return printData({}, "cabledoc " CABLEDOC_VERSION_STR "\n");
+    if (first.startsWith(QLatin1Char('-'))) {
+        QStringList known;
+        for (const Parameter &option : generalOptions() + programOptions())
+            known.append(typedOption(option.names.constLast()));
+        printMessage(withSuggestion(Program::tr("there is no option \"%1\"").arg(first), nearest(first, known)));
+        return WrongUsage;
+    }
+    // "schedule --help" lists the commands that begin with this word.
+    const QStringList places = options + words.mid(1, 1);
+    const bool wantsHelp = places.contains(QLatin1String("-h")) || places.contains(QLatin1String("--help"));
+    const QString help = wantsHelp ? helpOn(words.mid(0, 1)) : QString();
+    return help.isEmpty() ? unknownCommand(words) : printText({}, help);
 }
 
-ExitCode run(const QStringList &words)
+ExitCode run(QStringList words)
 {
-    const auto command = std::find_if(commands().cbegin(), commands().cend(), [&words](const Command &candidate) {
-        const QStringList name = nameOf(candidate);
-        return words.mid(0, name.size()) == name;
-    });
-    if (command == commands().cend())
-        return runWithoutCommand(words);
+    QStringList options;
+    while (!words.isEmpty() && isOneOf(generalOptions(), words.constFirst()))
+        options.append(words.takeFirst());
+    const Command *command = findCommand(words);
+    if (command == nullptr)
+        return runWithoutCommand(options, words);
 
     CommandLine line(*command);
-    const QString problem = line.parse(words.mid(nameOf(*command).size()));
+    const QString problem = line.parse(options + words.mid(command->words().size()));
     if (!problem.isEmpty())
         return line.usageError(problem);
     if (line.isSet("help"))
-        return printText(commandHelp(*command));
-    setUpDocuments(line.maximumSize());
+        return printText({}, helpOn(command->words()));
+    if (line.isSet("quiet"))
+        beQuiet();
+    if (const ExitCode error = refuseOutput(line.output()))
+        return error;
+    setUpDocuments(line);
     return command->run(line);
 }
 

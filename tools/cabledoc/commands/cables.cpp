@@ -58,8 +58,10 @@ ExitCode runCables(const CommandLine &line)
     const bool metric = line.isSet("metric");
     const Table table = tableOfCables(job, metric);
     if (!line.isSet("json"))
-        return printText(textOf(table));
-    return printJson({{QStringLiteral("lengthUnit"), metric ? QStringLiteral("m") : QStringLiteral("ft")}},
-                     QStringLiteral("cables"), int(table.rows.size()),
-                     [&table](int row) { return objectOf(table, row); });
+        return printText(line.output(), textOf(table));
+    return printJson(line.output(), "cabledoc-cables-1",
+                     {{{QStringLiteral("lengthUnit"), metric ? QStringLiteral("m") : QStringLiteral("ft")}},
+                      QStringLiteral("cables"),
+                      int(table.rows.size()),
+                      [&table](int row) { return objectOf(table, row); }});
 }

@@ -5,19 +5,33 @@
 #include <cabledoc/bkteditor.h>
 #include <cabledoc/jobeditor.h>
 
+namespace {
+
+/// Returns whether the names are those of files that a function knows by their extensions. At least one must be the
+/// name of a file, and the other one may be that of standard input or output.
+bool haveExtension(const QString &fileName, const Output &output, bool (*isKnown)(const QString &))
+{
+    const bool isStandardInput = fileName == standardStream;
+    return !(isStandardInput && output.isStandard()) && (isStandardInput || isKnown(fileName))
+           && (output.isStandard() || isKnown(output.fileName));
+}
+
+} // namespace
+
 ExitCode runConvert(const CommandLine &line)
 {
     const QString fileName = line.argument(0);
-    const QString output = line.value("output");
-    const bool areTemplates = BktEditor::checkBktExtension(fileName) && BktEditor::checkBktExtension(output);
-    if (!areTemplates && !(JobEditor::checkJobExtension(fileName) && JobEditor::checkJobExtension(output)))
+    const Output output = line.output();
+    if (haveExtension(fileName, output, JobEditor::checkJobExtension)) {
+        const ExitCode error = loadJob(line);
+        return error == Done ? saveJob(output) : error;
+    }
+    if (!haveExtension(fileName, output, BktEditor::checkBktExtension))
         return line.usageError(Program::tr("both names must end in \".job\", or both in \".bkt\""));
-    if (const ExitCode error = refuseExistingFile(output))
+    if (const ExitCode error = loadTemplate(line, fileName))
         return error;
-    if (const ExitCode error = areTemplates ? loadTemplate(fileName) : loadJob(fileName))
-        return error;
-    JobEditor &job = JobEditor::Instance();
-    BktEditor &bkt = BktEditor::Instance();
-    const bool isSaved = areTemplates ? bkt.saveAs(output) : job.saveAs(output);
-    return isSaved ? Done : fail(CannotSave, output, areTemplates ? bkt.error() : job.error());
+    return saveDocument(output, [](const QString &newName) {
+        BktEditor &bkt = BktEditor::Instance();
+        return bkt.saveAs(newName) ? QString() : bkt.error();
+    });
 }

@@ -6,14 +6,14 @@
 
 ExitCode runImport(const CommandLine &line)
 {
-    if (const ExitCode error = lockAndLoadJob(line.argument(0)))
+    if (const ExitCode error = lockAndLoadJob(line))
         return error;
-    if (const ExitCode error = loadTemplate(line.value("template")))
+    if (const ExitCode error = loadTemplate(line, line.value("template")))
         return error;
     JobEditor &job = JobEditor::Instance();
     if (line.isSet("missing-only"))
         job.ImportMissingDefaultCableTypes(&BktEditor::Instance());
     else
         job.Import(&BktEditor::Instance());
-    return saveChangedJob();
+    return saveChangedJob(line);
 }

@@ -89,12 +89,12 @@ ExitCode runInfo(const CommandLine &line)
         if (!statuses.rows.isEmpty())
             tables.append(textOf(statuses));
         tables.append(textOf(counts));
-        return printText(tables.join(QLatin1Char('\n')));
+        return printText(line.output(), tables.join(QLatin1Char('\n')));
     }
     QJsonObject object = objectOf(counts, 0);
     object.insert(QStringLiteral("file"), line.argument(0));
     object.insert(QStringLiteral("floors"), arrayOf(floors));
     object.insert(QStringLiteral("sheets"), arrayOf(sheets));
     object.insert(QStringLiteral("cablesByStatus"), arrayOf(statuses));
-    return printJson(object);
+    return printJson(line.output(), "cabledoc-info-1", object);
 }

@@ -56,21 +56,24 @@ ExitCode makeJob(const CommandLine &line)
         printMessage(job.error());
         return CannotSave;
     }
-    if (const ExitCode error = refuseExistingFile(job.filename()))
+    const Output output{line.argument(0) == standardStream ? standardStream : job.filename(), line.isSet("overwrite")};
+    if (const ExitCode error = refuseOutput(output))
         return error;
     makeFloors(job, line);
-    return job.save() ? Done : fail(CannotSave, job.filename(), job.error());
+    return saveJob(output);
 }
 
 ExitCode makeTemplate(const CommandLine &line)
 {
-    const QString fileName = line.argument(0);
     if (line.isSet("floor") || line.isSet("floors"))
         return line.usageError(Program::tr("a template has no floors"));
-    if (const ExitCode error = refuseExistingFile(fileName))
+    const Output output{line.argument(0), line.isSet("overwrite")};
+    if (const ExitCode error = refuseOutput(output))
         return error;
-    BktEditor &bkt = BktEditor::Instance();
-    return bkt.New(fileName) && bkt.save() ? Done : fail(CannotSave, fileName, bkt.error());
+    return saveDocument(output, [](const QString &fileName) {
+        BktEditor &bkt = BktEditor::Instance();
+        return bkt.New(fileName) && bkt.save() ? QString() : bkt.error();
+    });
 }
 
 } // namespace

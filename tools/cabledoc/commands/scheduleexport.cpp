@@ -14,5 +14,5 @@ ExitCode runScheduleExport(const CommandLine &line)
     cabledoc::JobSnapshot job;
     if (const ExitCode error = readJob(line, &job))
         return error;
-    return printData(cabledoc::exportSchedule(job, style));
+    return printData(line.output(), cabledoc::exportSchedule(job, style));
 }
