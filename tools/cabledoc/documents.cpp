@@ -2,6 +2,7 @@
 
 #include "commandline.h"
 #include "output.h"
+#include "progress.h"
 
 #include <cabledoc/bkteditor.h>
 #include <cabledoc/jobeditor.h>
@@ -100,12 +101,14 @@ ExitCode readFile(const CommandLine &line, const QString &fileName,
     QString error;
     // If the system allows it, the file has no name, and nothing remains of it however the program ends.
     QTemporaryFile copy;
+    auto progress = std::make_unique<Progress>(Program::tr("reading %1").arg(fileName));
     if (fileName == standardStream) {
         error = copy.open() ? copyStandardInput(&copy, line.maximumSize()) : copy.errorString();
         path = QStringLiteral("/dev/fd/%1").arg(copy.handle());
     }
     if (error.isEmpty())
         error = read(path);
+    progress.reset();
     return error.isEmpty() ? Done : fail(CannotLoad, fileName, error.replace(path, fileName));
 }
 
@@ -152,7 +155,9 @@ ExitCode saveDocument(const Output &output, const std::function<QString(const QS
 {
     if (output.isStandard())
         return printDocument(save);
+    auto progress = std::make_unique<Progress>(Program::tr("saving %1").arg(output.fileName));
     const QString error = save(output.fileName);
+    progress.reset();
     return error.isEmpty() ? Done : fail(CannotSave, output.fileName, error);
 }
 
