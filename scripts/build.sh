@@ -3,6 +3,9 @@
 # Says what happens, on standard error.
 say() { printf '== %s\n' "$*" >&2; }
 
+# Debian packages that the tests need.
+test_packages=(locales pkgconf python3-jsonschema)
+
 # install_packages PACKAGE...: installs those Debian packages that are missing.
 install_packages() {
     local package missing=()

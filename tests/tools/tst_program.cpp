@@ -18,6 +18,8 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
         environment.insert("LANGUAGE", "en"); // the cases are in English
+        environment.insert("SCHEMAS", CABLEDOC_SCHEMAS);
+        environment.insert("PYTHON", CABLEDOC_PYTHON);
         shell.setProcessEnvironment(environment);
         shell.start("sh", {"-c", command});
         constexpr int patience = 120000; // milliseconds, for a busy machine and sanitizers

@@ -142,6 +142,7 @@ const QVector<Parameter> &programOptions()
 {
     static const QVector<Parameter> options{
         {"[-V, --version]", Program::tr("Show the version.")},
+        {"[--usage-json]", Program::tr("Print the commands with their arguments and options as JSON.")},
     };
     return options;
 }

@@ -3,6 +3,7 @@
 #include "help.h"
 #include "output.h"
 #include "suggestion.h"
+#include "usage.h"
 
 #include <cabledoc/translations.h>
 #include <cabledoc/version.h>
@@ -30,6 +31,8 @@ ExitCode runWithoutCommand(const QStringList &options, const QStringList &words)
     const QString first = words.value(0);
     if (first == QLatin1String("-V") || first == QLatin1String("--version"))
         return printData({}, "cabledoc " CABLEDOC_VERSION_STR "\n");
+    if (first == QLatin1String("--usage-json"))
+        return printUsage();
     if (first.startsWith(QLatin1Char('-'))) {
         QStringList known;
         for (const Parameter &option : generalOptions() + programOptions())
