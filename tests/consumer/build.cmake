@@ -30,6 +30,13 @@ endfunction()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
 file(RENAME ${WORK_DIR}/installed ${prefix})
 
+foreach(file man/man1/cabledoc.1 man/man1/cabledoc-schedule-import.1 bash-completion/completions/cabledoc
+    zsh/site-functions/_cabledoc fish/vendor_completions.d/cabledoc.fish)
+  if(NOT EXISTS ${prefix}/share/${file})
+    message(FATAL_ERROR "share/${file} is not installed")
+  endif()
+endforeach()
+
 build(tests/consumer/interface)
 run(${WORK_DIR}/tests/consumer/interface/interface)
 

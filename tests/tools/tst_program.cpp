@@ -18,6 +18,7 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
         environment.insert("LANGUAGE", "en"); // the cases are in English
+        environment.insert("MANUAL", CABLEDOC_MANUAL);
         environment.insert("SCHEMAS", CABLEDOC_SCHEMAS);
         environment.insert("PYTHON", CABLEDOC_PYTHON);
         shell.setProcessEnvironment(environment);
