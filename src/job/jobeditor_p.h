@@ -39,8 +39,6 @@ public:
     bool mayBeFile(const QString &filename, const QString &extension);
     /// Returns whether an element of the kind has that text as its tag, or as its id if byTag is false.
     bool exists(ElementKind kind, const QString &text, bool byTag) const;
-    /// Returns the tags of the floors whose numbers lie between the numbers of two floors.
-    QStringList floorsBetween(const QString &tagA, const QString &tagB) const;
 
     Document &document;
     JobTree &tree;

@@ -1,8 +1,6 @@
 #include "jobeditor_p.h"
 #include "jobwords.h"
 
-#include <algorithm>
-
 using namespace cabledoc;
 
 namespace {
@@ -105,18 +103,4 @@ QString JobEditor::getFloorNumber(const QString &tag)
     if (tag.isEmpty())
         return QStringLiteral("1");
     return getSheetNumber(tag);
-}
-
-QStringList JobEditorPrivate::floorsBetween(const QString &tagA, const QString &tagB) const
-{
-    const auto [low, high] =
-        std::minmax({JobEditor::getFloorNumber(tagA).toInt(), JobEditor::getFloorNumber(tagB).toInt()});
-    QStringList between;
-    const QStringList tags = tree.index().of(ElementKind::Floors).tags();
-    for (const QString &tag : tags) {
-        const int number = JobEditor::getFloorNumber(tag).toInt();
-        if (low < number && number < high)
-            between.append(tag);
-    }
-    return between;
 }

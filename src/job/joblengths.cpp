@@ -1,24 +1,16 @@
-#include "bkutilities.h"
 #include "childelements.h"
 #include "jobeditor_p.h"
 #include "jobwords.h"
+#include "lengthestimate.h"
 #include "units.h"
+
+#include <algorithm>
 
 using namespace cabledoc;
 
 namespace {
 
 constexpr double noLength = -1.0;
-
-/// Returns the length of a pixel of the floor plans in feet, or 0 if they have no scale.
-double feetInAPixel(const ScaleSettings &settings)
-{
-    if (settings.style() != 1 && settings.style() != 2)
-        return 0.0;
-    // An English scale is the number of feet in an inch of the drawing. A metric one is a ratio.
-    const double feetInAnInch = settings.isMetric() ? settings.scale() / inchesInAFoot : settings.scale();
-    return feetInAnInch / pixelsInAnInch;
-}
 
 /// Returns the place of the port or vertical run with the given tag. Its floor is empty if there is none.
 PortFields placeOf(JobTree *tree, const QString &tag)
@@ -41,69 +33,65 @@ PortFields passedPlace(JobTree *tree, const QString &tag)
     return place;
 }
 
-/// Returns the distance between the ceilings of two floors in feet. This is the height of the storeys above the lower
-/// floor, up to and including the upper one.
-double heightBetween(const JobEditorPrivate &d, const QString &tagA, const QString &tagB)
+/// Returns the places that a cable passes, from end to end.
+PassedPlaces placesOf(JobTree *tree, const QDomElement &cable)
 {
-    const int numberA = JobEditor::getFloorNumber(tagA).toInt();
-    const int numberB = JobEditor::getFloorNumber(tagB).toInt();
-    if (numberA == numberB)
-        return 0.0;
-    double height = 0.0;
-    const QStringList floors = d.floorsBetween(tagA, tagB) + QStringList(numberA < numberB ? tagB : tagA);
-    // An estimate does not add attributes that floors of older files lack.
-    for (const QString &floor : floors)
-        height += floorAttributes().read(d.tree.element(ElementKind::Floors, floor)).ceilingHeight;
-    return height;
+    const CableFields fields = cableAttributes().read(cable);
+    PassedPlaces places;
+    const auto append = [&](const PortFields &place) {
+        // The tag counts: a port or point with the tag of a vertical run leads to other floors too.
+        places.push_back({place.floor, place.x, place.y, place.dropHeight,
+                          tree->contains(ElementKind::VerticalRuns, place.element)});
+    };
+    append(placeOf(tree, fields.from));
+    for (const QString &passed : fields.path)
+        append(passedPlace(tree, passed));
+    append(placeOf(tree, fields.to));
+    return places;
 }
 
-double estimatedLength(JobEditorPrivate *d, const QDomElement &cable, double feetPerPixel, bool metric)
+bool areOnOneFloor(const PassedPlaces &places)
 {
-    JobTree &tree = d->tree;
-    const CableFields fields = cableAttributes().read(cable);
-    QVector<PortFields> way{placeOf(&tree, fields.from)};
-    for (const QString &passed : fields.path)
-        way.append(passedPlace(&tree, passed));
-    way.append(placeOf(&tree, fields.to));
+    return std::all_of(places.begin(), places.end(),
+                       [&places](const PassedPlace &place) { return place.floor == places.front().floor; });
+}
 
-    double feet = way.constFirst().dropHeight + way.constLast().dropHeight;
-    for (int i = 0; i < way.size(); ++i) {
-        if (way.at(i).floor.isEmpty())
-            return noLength;
-        if (i == 0)
-            continue;
-        const PortFields &here = way.at(i - 1);
-        const PortFields &there = way.at(i);
-        feet += BKUtilities::getDistance({here.x, here.y}, {there.x, there.y}) * feetPerPixel;
-        if (here.floor == there.floor)
-            continue;
-        // Only a vertical run leads to another floor.
-        if (!tree.contains(ElementKind::VerticalRuns, here.element)
-            && !tree.contains(ElementKind::VerticalRuns, there.element))
-            return noLength;
-        feet += heightBetween(*d, here.floor, there.floor);
-    }
-    if (feetPerPixel <= 0.0)
+std::vector<Storey> storeysOf(const JobTree &tree)
+{
+    std::vector<Storey> storeys;
+    const QStringList floors = tree.index().of(ElementKind::Floors).tags();
+    // An estimate does not add attributes that floors of older files lack.
+    for (const QString &floor : floors)
+        storeys.emplace_back(floor, floorAttributes().read(tree.element(ElementKind::Floors, floor)).ceilingHeight);
+    return storeys;
+}
+
+double lengthIn(const LengthEstimate &estimate, const PassedPlaces &places, bool metric)
+{
+    const std::optional<double> feet = estimate.length(places);
+    if (!feet)
         return noLength;
-    return metric ? feet / feetInAMeter : feet;
+    return metric ? *feet / feetInAMeter : *feet;
 }
 
 } // namespace
 
 double JobEditor::estimateCableLength(const QString &tag, bool metric)
 {
-    const double scale = feetInAPixel(getScaleSettings(words::FloorPlanSettings));
-    return estimatedLength(d.get(), d->tree.element(ElementKind::Cables, tag), scale, metric);
+    const ScaleSettings scale = getScaleSettings(words::FloorPlanSettings);
+    const PassedPlaces places = placesOf(&d->tree, d->tree.element(ElementKind::Cables, tag));
+    const LengthEstimate estimate(scale, areOnOneFloor(places) ? std::vector<Storey>() : storeysOf(d->tree));
+    return lengthIn(estimate, places, metric);
 }
 
 QMap<QString, double> JobEditor::estimateCableLengths(bool metric)
 {
-    const double scale = feetInAPixel(getScaleSettings(words::FloorPlanSettings));
+    const LengthEstimate estimate(getScaleSettings(words::FloorPlanSettings), storeysOf(d->tree));
     QMap<QString, double> lengths;
     for (const QDomElement &cable : ChildElements(getToCableList())) {
         // If several cables have the same tag, the first one counts.
         if (!lengths.contains(cable.tagName()))
-            lengths.insert(cable.tagName(), estimatedLength(d.get(), cable, scale, metric));
+            lengths.insert(cable.tagName(), lengthIn(estimate, placesOf(&d->tree, cable), metric));
     }
     return lengths;
 }

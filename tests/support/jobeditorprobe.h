@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobeditor_p.h"
+#include "lengthestimate.h"
 #include "testfiles.h"
 
 #include <QtCore/QHash>
@@ -24,7 +25,12 @@ public:
     QDomElement root() const { return m_inside.tree.document().documentElement(); }
     QStringList floorsInBetween(const QString &tagA, const QString &tagB) const
     {
-        return m_inside.floorsBetween(tagA, tagB);
+        QStringList between;
+        for (const QString &tag : m_inside.tree.index().of(cabledoc::ElementKind::Floors).tags()) {
+            if (cabledoc::Storey(tag, 0.0).liesBetween({tagA, 0.0}, {tagB, 0.0}))
+                between.append(tag);
+        }
+        return between;
     }
 
     /// Returns whether the index equals one that is rebuilt from the tree.
