@@ -1,5 +1,6 @@
 #include "operations.h"
 
+#include "jobsnapshot.h"
 #include "randomjob.h"
 
 #include <cmath>
@@ -340,6 +341,7 @@ void estimateLengths(Session *session)
 {
     const bool metric = session->choices.oneIn(2);
     const QMap<QString, double> answers = session->job.estimateCableLengths(metric);
+    const cabledoc::JobSnapshot snapshot(session->job);
     Lengths lengths(&session->file);
     QStringList tags = session->file.tags(Kind::Cables);
     tags.sort();
@@ -348,6 +350,8 @@ void estimateLengths(Session *session)
         const double expected = lengths.estimated(session->file.element(Kind::Cables, tag), metric);
         expectLength(answers.value(tag, -1.0), expected, "the estimated lengths");
         expectLength(session->job.estimateCableLength(tag, metric), expected, "an estimated length");
+        const int position = snapshot.positionOfTag(cabledoc::ElementKind::Cables, tag);
+        expectLength(snapshot.estimatedLength(position, metric), expected, "an estimated length of a snapshot");
     }
 }
 

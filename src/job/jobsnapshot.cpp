@@ -4,6 +4,7 @@
 #include "jobeditor_p.h"
 #include "jobwords.h"
 #include "numbers.h"
+#include "units.h"
 
 #include <algorithm>
 
@@ -172,12 +173,14 @@ int JobSnapshot::bundleOfName(const QString &name) const
 
 QVector<int> JobSnapshot::cablesAt(const snapshot::Target &end) const
 {
-    const CablesOfEnds &ends = end.kind == ElementKind::Ports ? d->cablesOfPorts : d->cablesOfRuns;
-    const bool isEnd = end.kind == ElementKind::Ports || end.kind == ElementKind::VerticalRuns;
-    if (!isEnd || end.position < 0 || std::size_t(end.position) + 1 >= ends.begins.size())
-        return {};
-    const std::size_t position = std::size_t(end.position);
-    return QVector<int>(ends.cables.begin() + ends.begins[position], ends.cables.begin() + ends.begins[position + 1]);
+    const CablesOfEnds &ends = d->cablesOfEnds(end.kind);
+    const snapshot::Range range = ends.cablesOf(end.position);
+    return QVector<int>(ends.cables.begin() + range.first, ends.cables.begin() + range.end());
+}
+
+int JobSnapshot::cableCountAt(const snapshot::Target &end) const
+{
+    return d->cablesOfEnds(end.kind).cablesOf(end.position).count;
 }
 
 TestResults JobSnapshot::testResults(int cable) const
@@ -201,6 +204,55 @@ float JobSnapshot::measuredLength(int cable, bool metric) const
     const double lengthConstant =
         double(isDefined ? d->definitions.at(measured.definition).lengthConstant : TestDefFields().lengthConstant);
     return shownLength(correctedLength(reading, truncated(lengthConstant)), metric);
+}
+
+double JobSnapshot::estimatedLength(int cable, bool metric) const
+{
+    if (cable < 0 || cable >= d->cables.size())
+        return -1.0;
+    const std::optional<double> feet = d->estimate.length(d->placesOf(d->cables.at(cable)));
+    if (!feet)
+        return -1.0;
+    return metric ? *feet / feetInAMeter : *feet;
+}
+
+const CablesOfEnds &JobSnapshot::Data::cablesOfEnds(ElementKind kind) const
+{
+    static const CablesOfEnds none;
+    if (kind == ElementKind::Ports)
+        return cablesOfPorts;
+    return kind == ElementKind::VerticalRuns ? cablesOfRuns : none;
+}
+
+PassedPlaces JobSnapshot::Data::placesOf(const snapshot::Cable &cable) const
+{
+    PassedPlaces places;
+    places.reserve(std::size_t(cable.pathTargets.size()) + 2);
+    places.push_back(placeOf(cable.fromTarget));
+    for (const snapshot::Target &passed : cable.pathTargets)
+        places.push_back(placeOf(passed));
+    places.push_back(placeOf(cable.toTarget));
+    return places;
+}
+
+PassedPlace JobSnapshot::Data::placeOf(const snapshot::Target &target) const
+{
+    // The tag counts: a port or point with the tag of a vertical run leads to other floors too.
+    const auto isVerticalRun = [this](const QString &tag) {
+        return positionOfTag(ElementKind::VerticalRuns, tag) >= 0;
+    };
+    if (target.kind == ElementKind::Points) {
+        const snapshot::Point &point = points.at(target.position);
+        return {point.parent, point.x, point.y, 0.0, isVerticalRun(point.element)};
+    }
+    if (target.kind == ElementKind::Ports) {
+        const snapshot::Port &port = ports.at(target.position);
+        return {port.floor, port.x, port.y, port.dropHeight, isVerticalRun(port.element)};
+    }
+    if (!target.exists())
+        return {};
+    const snapshot::VerticalRun &run = verticalRuns.at(target.position);
+    return {run.floor, run.x, run.y, run.dropHeight, true};
 }
 
 namespace {

@@ -24,6 +24,8 @@
 namespace cabledoc {
 
 class FlatTree;
+struct CableRoute;
+enum class RouteDirection;
 
 /// The elements of a JobSnapshot. They are plain values. A position is the number of an element in the list of its
 /// kind. The first element has the position 0. An element that does not exist has the position -1.
@@ -239,6 +241,8 @@ public:
     int bundleOfName(const QString &name) const;
     /// Returns the positions of the cables that end at a port or vertical run, in the order of the file.
     QVector<int> cablesAt(const snapshot::Target &end) const;
+    /// Returns the number of cables that end at a port or vertical run.
+    int cableCountAt(const snapshot::Target &end) const;
 
     // Tests of cables
 
@@ -248,6 +252,14 @@ public:
     /// JobEditor::getMaxRoundedCableLength() does: corrected by the length constant of the cable's type, in feet
     /// rounded to tenths or in metres rounded to halves. Returns a negative number if no length was measured.
     float measuredLength(int cable, bool metric) const;
+
+    // Lengths from the plan
+
+    /// Returns the length of the cable at the given position as JobEditor::estimateCableLength() estimates it from the
+    /// plan, in metres (metric is true) or in feet. Returns -1.0 if the length is unknown. routeOf() tells which part
+    /// of it is unknown.
+    double estimatedLength(int cable, bool metric) const;
+    friend CABLEDOC_EXPORT CableRoute routeOf(const JobSnapshot &job, int cable, RouteDirection direction);
 
     /// Returns whether all fields of all elements are equal. Lines are not compared.
     friend CABLEDOC_EXPORT bool operator==(const JobSnapshot &a, const JobSnapshot &b);

@@ -3,6 +3,7 @@
 #include "flattree.h"
 #include "jobschema.h"
 #include "jobsnapshot.h"
+#include "lengthestimate.h"
 #include "texthash.h"
 
 #include <array>
@@ -81,6 +82,15 @@ struct CablesOfEnds
 {
     std::vector<int> begins; ///< for each end, where its cables begin in the list
     std::vector<int> cables;
+
+    /// Returns which part of the list has the cables of an end. It is empty for an end that does not exist.
+    snapshot::Range cablesOf(int end) const
+    {
+        if (end < 0 || std::size_t(end) + 1 >= begins.size())
+            return {};
+        const int first = begins[std::size_t(end)];
+        return {first, begins[std::size_t(end) + 1] - first};
+    }
 };
 
 /// The data of a snapshot.
@@ -118,6 +128,7 @@ struct JobSnapshot::Data
     TextPositions bundleNames;
     CablesOfEnds cablesOfPorts;
     CablesOfEnds cablesOfRuns;
+    LengthEstimate estimate;
 
     /// The file. The curves are read from it when they are asked for.
     FlatTree tree;
@@ -169,6 +180,14 @@ struct JobSnapshot::Data
         return withElements(kind,
                             [&](const auto &elements) { return ids[std::size_t(kind)].find(id, idsIn(elements)); });
     }
+
+    /// Returns the cables that end at ports or at vertical runs. Returns an empty list for other kinds.
+    const CablesOfEnds &cablesOfEnds(ElementKind kind) const;
+    /// Returns the places that a cable passes, from end to end.
+    PassedPlaces placesOf(const snapshot::Cable &cable) const;
+
+private:
+    PassedPlace placeOf(const snapshot::Target &target) const;
 };
 
 } // namespace cabledoc

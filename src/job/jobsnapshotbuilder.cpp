@@ -18,6 +18,7 @@ public:
         builder.readAll(data->tree.documentElement());
         builder.findNames();
         builder.findTargets();
+        builder.readPlan();
         return data;
     }
 
@@ -368,6 +369,17 @@ private:
         std::vector<int> next = result.begins;
         forEachEnd(kind, [&](int cable, int end) { result.cables[std::size_t(next[std::size_t(end)]++)] = cable; });
         return result;
+    }
+
+    void readPlan()
+    {
+        std::vector<Storey> storeys;
+        for (int position = 0; position < m_data.floors.size(); ++position) {
+            const snapshot::Floor &floor = m_data.floors.at(position);
+            if (m_data.positionOfTag(ElementKind::Floors, floor.element) == position)
+                storeys.emplace_back(floor.element, floor.ceilingHeight);
+        }
+        m_data.estimate = LengthEstimate(ScaleSettings(m_data.scaleSettings.value(words::FloorPlanSettings)), storeys);
     }
 
     Data &m_data;
