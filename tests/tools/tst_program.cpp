@@ -37,7 +37,8 @@ private Q_SLOTS:
     void sessions_data()
     {
         addCases(
-            {"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt"});
+            {"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt",
+             "cases/trace.txt"});
     }
 
     void sessions()

@@ -3,13 +3,15 @@
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runExport, runHelp, runImport, runInfo, runNew, runScheduleExport,
-    runScheduleImport;
+    runScheduleImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
     // Parameters that several commands share
     static const Parameter jobFile{"FILE.job", Program::tr("The job file, or \"-\" for standard input.")};
     static const Parameter json{"[--json]", Program::tr("Print JSON instead of text.")};
+    static const Parameter csv{"[--csv]", Program::tr("Print CSV instead of text.")};
+    static const Parameter metric{"[--metric]", Program::tr("Print lengths in metres instead of feet.")};
     static const Parameter maximumSize{"[--max-size SIZE]",
                                        Program::tr("The largest file to read, such as 500M; 4G by default.")};
     static const Parameter delimiter{
@@ -52,15 +54,54 @@ const QVector<Command> &commands()
                      "ports are counted."),
          runInfo},
         {"cables",
+         {jobFile, metric, json, output, overwrite, maximumSize},
+         Program::tr("List the cables of a job."),
+         Program::tr("The list shows their ends, the status of their tests and their measured lengths."),
+         runCables},
+        {"trace",
          {jobFile,
-          {"[--metric]", Program::tr("Print lengths in metres instead of feet.")},
+          {"[PORT|CABLE]",
+           Program::tr("The name of a port, vertical run or cable. If several ports have the name, give "
+                       "ROOM/PORT or FLOOR/ROOM/PORT.")},
+          {"[--cable CABLE]", Program::tr("Trace a cable, even if a port has the same name.")},
+          {"[--room ROOM]", Program::tr("Trace the cables at all ports of a room, given as ROOM or FLOOR/ROOM.")},
+          {"[--device DEVICE]",
+           Program::tr("Trace the connections of a network device, given as DEVICE or SHEET/DEVICE.")},
+          metric,
+          csv,
           json,
           output,
           overwrite,
           maximumSize},
-         Program::tr("List the cables of a job."),
-         Program::tr("The list shows their ends, the status of their tests and their measured lengths."),
-         runCables},
+         Program::tr("Show the way of cables from end to end."),
+         Program::tr(
+             "Each part of the way has its length on the plan: the drops at the ends, the straight ways from "
+             "place to place, and the ways between floors. If a length is unknown, the cable has at least the "
+             "sum of the others. At a port where exactly two cables end, the way goes on from one to the other. "
+             "The same holds for a vertical run, unless one of the cables is not connected to it. Where more "
+             "cables end, the way ends, and the others are counted. For a vertical run, the cables that pass "
+             "it are traced too."),
+         runTrace},
+        {"totals",
+         {jobFile,
+          {"[--spare PERCENT]", Program::tr("Add a percentage to each length of the order, such as 10%.")},
+          {"[--coil LENGTH]...",
+           Program::tr("The length of the coils, such as 305m or 1000ft, or that of one type or bundle, such as "
+                       "CAT6=305m. It can be given several times.")},
+          metric,
+          csv,
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Add up cables and what has to be ordered."),
+         Program::tr("The cables are counted by type, use, floor, bundle and test status, with their measured and "
+                     "estimated lengths, and the ports by use. Then follows the order: the estimated length of each "
+                     "type and the number of coils. Each run is cut from one coil, without a splice: the longest runs "
+                     "first, each from the first coil that has enough left (first-fit decreasing). A bundle is ordered "
+                     "as such: its cables with the same group number are one run, as long as the longest of them. "
+                     "Cables of unknown length and cables that are longer than a coil are listed apart."),
+         runTotals},
         {"check",
          {{"FILE...", Program::tr("The job and template files. One of them may be \"-\" for standard input.")},
           json,
