@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "cabledoc_export.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
 
 namespace cabledoc {
 
@@ -50,5 +53,10 @@ struct CsvProblem
     /// Translated description.
     QString message;
 };
+
+/// Returns what a CSV text has before its first line: a byte order mark or nothing.
+CABLEDOC_EXPORT QByteArray csvBeginning(const CsvStyle &style);
+/// Returns one line of CSV with a line break. There must be at least one field.
+CABLEDOC_EXPORT QByteArray csvLine(const QStringList &fields, const CsvStyle &style = {});
 
 } // namespace cabledoc

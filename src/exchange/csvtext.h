@@ -57,9 +57,4 @@ void sortByPlace(QVector<CsvProblem> &problems);
 /// its file is a comma, or if it does not have a single comma and no point.
 QString withDecimalPoint(const QString &number, char delimiter);
 
-/// Returns what a CSV text has before its first line: a byte order mark or nothing.
-QByteArray csvBeginning(const CsvStyle &style);
-/// Returns one line of CSV with a line break. There must be at least one field.
-QByteArray csvLine(const QStringList &fields, const CsvStyle &style);
-
 } // namespace cabledoc

@@ -73,7 +73,8 @@ const QString &none()
 QString paperSize(const QString &text)
 {
     for (const QString &name : SettingsStrings::paperSizes()) {
-        if (name.compare(text, Qt::CaseInsensitive) == 0 || name.startsWith(text + QLatin1Char(':'), Qt::CaseInsensitive))
+        if (name.compare(text, Qt::CaseInsensitive) == 0
+            || name.startsWith(text + QLatin1Char(':'), Qt::CaseInsensitive))
             return name;
     }
     return QString();
@@ -293,8 +294,7 @@ private:
     }
 
     /// Returns true if the value is a field with the given prefix, and its text could be read.
-    template <typename Fields>
-    bool setField(const QString &prefix, const AttributeTable<Fields> &table, Fields *fields)
+    template <typename Fields> bool setField(const QString &prefix, const AttributeTable<Fields> &table, Fields *fields)
     {
         if (!isBelow(prefix))
             return false;
@@ -306,8 +306,7 @@ private:
     }
 
     /// Returns true if the value is a field of a contractor or site, or of its address.
-    template <typename Fields>
-    bool setInfo(const QString &prefix, const AttributeTable<Fields> &table, Fields *fields)
+    template <typename Fields> bool setInfo(const QString &prefix, const AttributeTable<Fields> &table, Fields *fields)
     {
         AddressFields address = fields->address.fields();
         if (setField(prefix + addressPrefix(), addressAttributes(), &address)) {

@@ -21,21 +21,22 @@ class JobSnapshot;
 ///     notes                            the notes
 ///     print.floor-plan.paper_size      a field of print settings
 ///     page.floor-plan.page_size        a field of page settings
-///     page.floor-plan                  the page: the name of its size, such as "A3", its custom size in inches, such as
+///     page.floor-plan                  the page: the name of its size, such as "A3", its custom size in inches, such
+///     as
 ///                                      "17 x 11", or "none"
 ///     scale.floor-plan.style           a field of scale settings
 ///     scale.floor-plan                 the scale: "1:100", "20 ft" (for an inch of the drawing), or "none"
 ///     floor.Ground.picture             the path of the background picture of the floor Ground; also picture_x and
 ///                                      picture_y (in pixels) and picture_option
 ///
-/// There are print settings for job-info, network-view, inventory, floor-plan, test-schedule, detailed-cables, job-notes
-/// and active-tests, and page and scale settings for network-view and floor-plan. An orientation is "portrait" or
-/// "landscape". The name of a paper size may be given up to its colon, such as "A4". A template has neither a site, nor
-/// notes, nor floors.
+/// There are print settings for job-info, network-view, inventory, floor-plan, test-schedule, detailed-cables,
+/// job-notes and active-tests, and page and scale settings for network-view and floor-plan. An orientation is
+/// "portrait" or "landscape". The name of a paper size may be given up to its colon, such as "A4". A template has
+/// neither a site, nor notes, nor floors.
 struct DocumentValue
 {
-    QString name;
-    QString text;
+    QString name; ///< its name, as in the list above
+    QString text; ///< its text
 };
 
 /// Returns all values of a job.

@@ -84,15 +84,21 @@ template <typename Use> auto withElements(const JobSnapshot &job, TableKind kind
     return use(job.activePorts());
 }
 
-QString tagIn(const TestDefFields & /*unused*/)
+const QString &noTag()
 {
-    return QString();
+    static const QString none;
+    return none;
 }
-QString tagIn(const BundledCableFields &fields)
+
+const QString &tagIn(const TestDefFields & /*unused*/)
+{
+    return noTag();
+}
+const QString &tagIn(const BundledCableFields &fields)
 {
     return fields.tag;
 }
-template <typename Fields> QString tagIn(const Fields &fields)
+template <typename Fields> const QString &tagIn(const Fields &fields)
 {
     return fields.element;
 }
@@ -106,44 +112,6 @@ QChar partSeparator()
 QString keyOf(const QStringList &parts)
 {
     return parts.join(partSeparator());
-}
-
-/// Splits a text at the separators that have no backslash before them, and leaves the backslashes in the pieces.
-QStringList splitAt(QChar separator, const QString &text)
-{
-    QStringList pieces{QString()};
-    bool isEscaped = false;
-    for (const QChar character : text) {
-        if (character == separator && !isEscaped)
-            pieces.append(QString());
-        else
-            pieces.last().append(character);
-        isEscaped = character == QLatin1Char('\\') && !isEscaped;
-    }
-    return pieces;
-}
-
-QString withoutEscapes(const QString &text)
-{
-    QString plain;
-    bool isEscaped = false;
-    for (const QChar character : text) {
-        isEscaped = character == QLatin1Char('\\') && !isEscaped;
-        if (!isEscaped)
-            plain.append(character);
-    }
-    return plain;
-}
-
-QString escaped(const QString &part)
-{
-    QString text;
-    for (const QChar character : part) {
-        if (QStringLiteral("\\/;").contains(character))
-            text.append(QLatin1Char('\\'));
-        text.append(character);
-    }
-    return text;
 }
 
 } // namespace
@@ -186,7 +154,7 @@ ElementView elementOf(const JobSnapshot &job, TableKind kind, int position)
 {
     if (kind == TableKind::Releases) {
         const auto release = std::next(job.releases().cbegin(), position);
-        return {QString(), release.key(), -1, &release.value()};
+        return {noTag(), release.key(), -1, &release.value()};
     }
     return withElements(job, kind, [position](const auto &elements) -> ElementView {
         using Element = typename std::decay_t<decltype(elements)>::value_type;
@@ -218,13 +186,21 @@ ElementNames::ElementNames(const JobSnapshot &job)
 
 QStringList ElementNames::partsOf(TableKind kind, int position) const
 {
-    const ElementView element = elementOf(m_job, kind, position);
     QStringList parts;
-    if (element.holder >= 0)
-        parts = partsOf(holderKind(kind), element.holder);
-    // The room "Undefined" stands for no room.
-    parts.append(isUndefinedRoom(kind, element) ? QString() : element.id);
+    const int holder = elementOf(m_job, kind, position).holder;
+    if (holder >= 0)
+        parts = partsOf(holderKind(kind), holder);
+    parts.append(partOf(kind, position, 0));
     return parts;
+}
+
+QString ElementNames::partOf(TableKind kind, int position, int numberFromEnd) const
+{
+    const ElementView element = elementOf(m_job, kind, position);
+    if (numberFromEnd > 0)
+        return partOf(holderKind(kind), element.holder, numberFromEnd - 1);
+    // The room "Undefined" stands for no room.
+    return isUndefinedRoom(kind, element) ? QString() : element.id;
 }
 
 bool ElementNames::isNamed(TableKind kind, int position) const
@@ -293,38 +269,6 @@ bool ElementNames::isReachable(TableKind kind, int position, const ElementView &
     // A tag that a port and a vertical run share leads to the port.
     return findTag(kind, element.tag) == position
            && (kind != TableKind::VerticalRuns || findTag(TableKind::Ports, element.tag) < 0);
-}
-
-QString nameText(const QStringList &parts)
-{
-    QStringList texts;
-    for (const QString &part : parts)
-        texts.append(escaped(part));
-    return texts.join(QLatin1Char('/'));
-}
-
-QStringList partsOfName(const QString &text)
-{
-    QStringList parts;
-    for (const QString &part : splitAt(QLatin1Char('/'), text))
-        parts.append(withoutEscapes(part));
-    return parts;
-}
-
-QString nameListText(const QStringList &names)
-{
-    return names.join(QLatin1String("; "));
-}
-
-QStringList namesIn(const QString &text)
-{
-    QStringList names;
-    for (const QString &piece : splitAt(QLatin1Char(';'), text)) {
-        // The blank after the separator is part of it.
-        const QString name = !names.isEmpty() && piece.startsWith(QLatin1Char(' ')) ? piece.mid(1) : piece;
-        names.append(name);
-    }
-    return text.isEmpty() ? QStringList() : names;
 }
 
 } // namespace cabledoc

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "elementname.h"
 #include "jobsnapshot.h"
 #include "tablekind.h"
 #include "texthash.h"
@@ -11,15 +12,15 @@ namespace cabledoc {
 /// What the tables need to know of an element of any kind.
 struct ElementView
 {
-    QString tag; ///< null for test definitions and releases
-    QString id;
-    int holder = -1;              ///< position of the room, floor or sheet that holds the element
-    const void *fields = nullptr; ///< the record, as the attribute table of the kind knows it
+    const QString &tag; ///< null for test definitions and releases
+    const QString &id;
+    int holder;         ///< position of the room, floor or sheet that holds the element, or -1
+    const void *fields; ///< the record, as the attribute table of the kind knows it
 };
 
 /// Returns the number of elements of a kind.
 int countOf(const JobSnapshot &job, TableKind kind);
-/// Returns the element of a kind at a position. A release has its value as the record.
+/// Returns the element of a kind at a position, as long as the job exists. A release has its value as the record.
 ElementView elementOf(const JobSnapshot &job, TableKind kind, int position);
 /// Returns whether the element is the room "Undefined" of a floor.
 bool isUndefinedRoom(TableKind kind, const ElementView &element);
@@ -41,6 +42,8 @@ public:
     const JobSnapshot &job() const { return m_job; }
     /// Returns the parts of the name of an element. They may be empty or not unique.
     QStringList partsOf(TableKind kind, int position) const;
+    /// Returns a part of the name of an element. 0 is its last part, and 1 that of its holder.
+    QString partOf(TableKind kind, int position, int numberFromEnd) const;
     /// Returns whether the name leads to the element.
     bool isNamed(TableKind kind, int position) const;
     /// Returns the position of the element of the kind with that name, or -1 if there is none.
@@ -65,15 +68,5 @@ private:
     JobSnapshot m_job;
     mutable std::array<Index, std::size_t(TableKind::Count)> m_indexes;
 };
-
-/// Returns the parts of a name as one text, separated by "/". A backslash comes before each character of a part that
-/// would otherwise separate names or parts.
-QString nameText(const QStringList &parts);
-/// Returns the parts of the name in a text.
-QStringList partsOfName(const QString &text);
-/// Returns several names as one text, separated by "; ".
-QString nameListText(const QStringList &names);
-/// Returns the names in a text.
-QStringList namesIn(const QString &text);
 
 } // namespace cabledoc

@@ -47,7 +47,8 @@ ElementTable::ElementTable(const JobSnapshot &document, TableKind kind, TableUni
     : d(std::make_unique<Data>(document, kind, unit))
 {
     for (const TableColumn &column : columnsOf(kind))
-        d->columns.append({columnName(column, unit), isNumeric(column), isImported(column.content)});
+        d->columns.append(
+            {columnName(column, unit), isNumeric(column), isImported(column.content), isSearchable(column.content)});
     const int count = countOf(document, kind);
     d->positions.reserve(count);
     for (int position = 0; position < count; ++position) {

@@ -33,6 +33,7 @@ public:
         QString name;      ///< with the unit, such as "x_m"
         bool isNumber;     ///< whether it holds numbers
         bool isImportable; ///< whether a TablePlan reads it
+        bool isSearchable; ///< whether it holds words of the element itself, and not numbers or names of others
     };
 
     /// Makes the table of a kind. It keeps a copy of the snapshot, which shares its memory.

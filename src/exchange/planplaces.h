@@ -16,8 +16,8 @@ RoomFields placeOfRoom(int number, double top);
 /// placed in rows of sixteen, or in one line at the top of the plan if the area is empty.
 QPointF placeOfPort(int number, const QRectF &area);
 
-/// Largest bottom edge of a room that counts. Rooms of a damaged file could otherwise make the positions of new ones too
-/// large for numbers.
+/// Largest bottom edge of a room that counts. Rooms of a damaged file could otherwise make the positions of new ones
+/// too large for numbers.
 constexpr double maximumBottom = 1e6;
 
 /// Places for new rooms and ports of a job.
@@ -45,7 +45,7 @@ private:
 
     JobSnapshot m_job;
     QHash<int, NewRooms> m_newRooms; ///< of each floor
-    QHash<int, int> m_newPorts; ///< number of new ports in each room
+    QHash<int, int> m_newPorts;      ///< number of new ports in each room
 };
 
 } // namespace cabledoc

@@ -221,14 +221,10 @@ bool isNotFinite(const QString &number)
     return number.endsWith(QLatin1Char('f')) || number.endsWith(QLatin1Char('n'));
 }
 
-/// Returns the part of a name that a column holds, counted from its end.
+/// Returns the part of the name of an end that a column holds, counted from its last part.
 int partFromEnd(Content content)
 {
     switch (content) {
-    case Content::Floor:
-    case Content::Room:
-    case Content::Sheet:
-        return 1;
     case Content::EndRoom:
     case Content::EndSheet:
         return 1;
@@ -278,6 +274,12 @@ bool isPosition(Content content)
     return content == Content::Position || content == Content::PictureX || content == Content::PictureY;
 }
 
+bool isEnd(Content content)
+{
+    return content == Content::EndFloor || content == Content::EndRoom || content == Content::EndPort
+           || content == Content::EndSheet || content == Content::EndDevice;
+}
+
 bool hasUnit(Content content)
 {
     return isPosition(content) || content == Content::Height || content == Content::MeasuredLength;
@@ -291,6 +293,26 @@ bool isNumeric(const TableColumn &column)
 bool isImported(Content content)
 {
     return content != Content::CableCount && content != Content::Status && content != Content::MeasuredLength;
+}
+
+bool isSearchable(Content content)
+{
+    switch (content) {
+    case Content::Tag:
+    case Content::Id:
+    case Content::Text:
+    case Content::Color:
+    case Content::Use:
+    case Content::Definition:
+    case Content::Bundle:
+    case Content::PictureOption:
+    case Content::Types:
+    case Content::ReleaseValue:
+    case Content::Status:
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool isName(Content content)
@@ -389,6 +411,8 @@ QString TableReader::text(const TableColumn &column, TableUnit unit, int positio
 {
     if (position < 0)
         return QString();
+    if (isEnd(column.content))
+        return endText(column, position);
     const JobSnapshot &job = m_names.job();
     const ElementView element = elementOf(job, m_kind, position);
     const auto attributeText = [&] {
@@ -409,8 +433,7 @@ QString TableReader::text(const TableColumn &column, TableUnit unit, int positio
     case Content::Room:
     case Content::Sheet: {
         const bool isOuter = column.content == Content::Floor && holderKind(m_kind) == TableKind::Rooms;
-        const QStringList parts = m_names.partsOf(holderKind(m_kind), element.holder);
-        return isOuter ? parts.constFirst() : parts.constLast();
+        return m_names.partOf(m_kind, position, isOuter ? 2 : 1);
     }
     case Content::Text:
     case Content::Number:
@@ -434,7 +457,7 @@ QString TableReader::text(const TableColumn &column, TableUnit unit, int positio
     case Content::EndPort:
     case Content::EndSheet:
     case Content::EndDevice:
-        return endText(column, position);
+        break;
     case Content::Path:
         return pathText(position);
     case Content::PictureX:
@@ -475,8 +498,7 @@ QString TableReader::endText(const TableColumn &column, int position) const
         return QString();
     if (m_shownNames == Names::Unique && !m_names.isNamed(tableOf(target.kind), target.position))
         return QString();
-    const QStringList parts = m_names.partsOf(tableOf(target.kind), target.position);
-    return parts.at(parts.size() - 1 - partFromEnd(column.content));
+    return m_names.partOf(tableOf(target.kind), target.position, partFromEnd(column.content));
 }
 
 /// Returns the names of what a cable passes. Elements without a name are left out.

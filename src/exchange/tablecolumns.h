@@ -60,12 +60,16 @@ const AttributeList &attributesOf(TableKind kind);
 
 /// Returns whether the column holds a position on a plan or sheet.
 bool isPosition(Content content);
+/// Returns whether the column is a part of the name of another element.
+bool isEnd(Content content);
 /// Returns whether the texts of the column depend on a unit.
 bool hasUnit(Content content);
 /// Returns whether the column holds numbers.
 bool isNumeric(const TableColumn &column);
 /// Returns whether an import reads the column.
 bool isImported(Content content);
+/// Returns whether the column holds words of the element itself.
+bool isSearchable(Content content);
 /// Returns whether the column is a part of the names of elements.
 bool isName(Content content);
 

@@ -95,9 +95,8 @@ TableFile::TableFile(TableKind kind, const QByteArray &csv, const CsvOptions &op
 
 int TableFile::fieldOf(Content content) const
 {
-    const auto found = std::find_if(m_columns.cbegin(), m_columns.cend(), [content](const FileColumn &column) {
-        return column.column->content == content;
-    });
+    const auto found = std::find_if(m_columns.cbegin(), m_columns.cend(),
+                                    [content](const FileColumn &column) { return column.column->content == content; });
     return found == m_columns.cend() ? -1 : found->field;
 }
 
@@ -202,8 +201,7 @@ void TableFile::readName(FileRow *row)
         // A tag is enough.
         if (part.isEmpty() && content != Content::Room && row->tag.isEmpty())
             report(row->number, fieldOf(content),
-                   content == Content::Id ? tr("the row has no id")
-                                          : tr("the row does not say where the element is"));
+                   content == Content::Id ? tr("the row has no id") : tr("the row does not say where the element is"));
     }
     if (m_kind == TableKind::Rooms && row->name.constLast() == words::Undefined)
         report(row->number, fieldOf(Content::Id), tr("the room \"Undefined\" cannot be changed"));

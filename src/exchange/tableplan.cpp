@@ -476,8 +476,6 @@ TablePlan::TablePlan(const JobSnapshot &document, TableKind kind, const QByteArr
 }
 
 TablePlan::~TablePlan() = default;
-TablePlan::TablePlan(TablePlan &&other) noexcept = default;
-TablePlan &TablePlan::operator=(TablePlan &&other) noexcept = default;
 
 const QString &TablePlan::error() const
 {

@@ -18,11 +18,18 @@ class JobSnapshot;
 struct TablePlanData;
 
 /// What a row of a table does with an element.
-enum class TableAction { Add, Change, Rename, Move, Remove };
+enum class TableAction {
+    Add,    ///< adds it
+    Change, ///< changes something of it
+    Rename, ///< gives it another id, and perhaps changes something else
+    Move,   ///< puts it into another room, or on another floor or sheet, and perhaps changes something else
+    Remove, ///< removes it
+};
 
 /// A change of a job or template that a row of a table asks for.
 struct TableChange
 {
+    /// What happens to the element.
     TableAction action = TableAction::Add;
     /// Number of the row in the table.
     int row = 0;
@@ -59,9 +66,9 @@ class CABLEDOC_EXPORT TablePlan
 public:
     /// Compares a table with a job or template. The document is not changed.
     TablePlan(const JobSnapshot &document, TableKind kind, const QByteArray &csv, const CsvOptions &options = {});
+    /// Destroys the plan.
     ~TablePlan();
-    TablePlan(TablePlan &&other) noexcept;
-    TablePlan &operator=(TablePlan &&other) noexcept;
+    Q_DISABLE_COPY(TablePlan)
 
     /// Returns why the text cannot be read as a table, or an empty text if it can.
     const QString &error() const;

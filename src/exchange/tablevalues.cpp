@@ -33,12 +33,6 @@ QString flagText(const QString &text)
     return off.contains(word) ? off.constFirst() : QString();
 }
 
-bool isEnd(Content content)
-{
-    return content == Content::EndFloor || content == Content::EndRoom || content == Content::EndPort
-           || content == Content::EndSheet || content == Content::EndDevice;
-}
-
 QString changeText(const QString &name, const QString &before, const QString &after)
 {
     return QStringLiteral("%1 \"%2\" -> \"%3\"").arg(name, excerpt(before), excerpt(after));
