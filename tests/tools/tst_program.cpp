@@ -17,6 +17,7 @@ private:
         shell.setWorkingDirectory(folder);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
+        environment.insert("EXAMPLES", CABLEDOC_EXAMPLES);
         environment.insert("LANGUAGE", "en"); // the cases are in English
         environment.insert("MANUAL", CABLEDOC_MANUAL);
         environment.insert("SCHEMAS", CABLEDOC_SCHEMAS);
@@ -38,7 +39,7 @@ private Q_SLOTS:
     {
         addCases(
             {"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt",
-             "cases/trace.txt"});
+             "cases/tables.txt", "cases/trace.txt"});
     }
 
     void sessions()

@@ -31,6 +31,8 @@ QString CommandLine::parse(const QStringList &words)
         return problem;
     if (isSet("max-size") && !readMaximumSize())
         return Program::tr("\"%1\" is not a size such as 500M").arg(value("max-size"));
+    if (isSet("csv") && isSet("json"))
+        return Program::tr("--csv and --json cannot be used together");
     return wrongFiles();
 }
 

@@ -1,9 +1,11 @@
 #include "command.h"
 
+#include <cabledoc/tablekind.h>
+
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
-Run runCables, runCheck, runConvert, runExport, runHelp, runImport, runInfo, runNew, runScheduleExport,
-    runScheduleImport, runTotals, runTrace;
+Run runCables, runCheck, runConvert, runCopy, runExport, runFind, runFree, runGet, runHelp, runImport, runInfo, runList,
+    runNew, runScheduleExport, runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -37,6 +39,26 @@ const QVector<Command> &commands()
     static const Parameter overwrite{"[--overwrite]", Program::tr("Replace the file that is written if it exists.")};
     static const QString newFile = Program::tr("The file to write, or \"-\" for standard output.");
 
+    static const Parameter file{"FILE",
+                                Program::tr("The job or template file, or \"-\" for a job from standard input.")};
+    static const Parameter changedFile{"FILE", Program::tr("The job or template file.")};
+    static const Parameter output2{"[-o, --output NEW]",
+                                   Program::tr("Save the changed file as this one. FILE stays as it is.")};
+    static const Parameter kind{"KIND", Program::tr("The table: ") + cabledoc::tableNames().join(QLatin1String(", "))
+                                            + Program::tr(". Templates have the first two.")};
+    static const Parameter unit{"[--unit UNIT]",
+                                Program::tr("The unit of positions and heights: px (pixels, and feet for heights; the "
+                                            "default), ft or m. Positions in ft or m need a scale.")};
+    static const Parameter dryRun{"[--dry-run]", Program::tr("Only show what would change.")};
+    static const Parameter columns{"[--columns NAMES]", Program::tr("The columns to show, separated by commas.")};
+    static const Parameter where{"[--where CONDITION]...",
+                                 Program::tr("Only show what fulfils the condition: type=CAT6, type!=CAT6, id~PATTERN "
+                                             "or id!~PATTERN, where the pattern is a regular expression. Can be "
+                                             "given several times.")};
+    static const Parameter sort{"[--sort NAMES]",
+                                Program::tr("The columns to sort by, separated by commas. A \"-\" before a name turns "
+                                            "its order round.")};
+
     static const QVector<Command> table{
         {"new",
          {{"NEW", newFile},
@@ -50,9 +72,109 @@ const QVector<Command> &commands()
         {"info",
          {jobFile, json, output, overwrite, maximumSize},
          Program::tr("Show what a job file holds."),
-         Program::tr("The floors and sheets are listed in the order of their tags. Cables, connections and active "
+         Program::tr("The floors and sheets are listed in the order of the file. Cables, connections and active "
                      "ports are counted."),
          runInfo},
+        {"check",
+         {{"FILE...", Program::tr("The job and template files. One of them may be \"-\" for standard input.")},
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Report what is wrong with files."),
+         Program::tr("Each of the first 50 findings in a file is one line; --json prints all of them. The files are "
+                     "not changed. The exit code is that of the worst file."),
+         runCheck},
+        {"get",
+         {file,
+          {"[NAME...]", Program::tr("The values to show, such as contractor.company, site or scale.floor-plan. "
+                                    "All values by default.")},
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Show single values."),
+         Program::tr("There are values of the contractor, the site, the notes, the settings and the pictures of "
+                     "floors. A single value is printed as it is. Several are printed as NAME=VALUE."),
+         runGet},
+        {"set",
+         {changedFile,
+          {"NAME=VALUE...", Program::tr("A name as \"get\" shows it, and its new value.")},
+          output2,
+          overwrite,
+          maximumSize},
+         Program::tr("Set single values."),
+         Program::tr("A scale is 1:100, \"20 ft\" (to the inch of the drawing) or none. A page is the name of a paper "
+                     "size such as A3, \"17 x 11\" (in inches) or none. If one of the values is wrong, nothing is "
+                     "changed."),
+         runSet},
+        {"table export",
+         {file,
+          kind,
+          {"[--tags]", Program::tr("Add a column with the tags, and the elements without a name.")},
+          unit,
+          newDelimiter,
+          mark,
+          protect,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Print a table as CSV."),
+         Program::tr("\"table import\" reads it."),
+         runTableExport},
+        {"table import",
+         {changedFile,
+          kind,
+          {"FILE.csv", Program::tr("The table, a CSV file, or \"-\" for standard input.")},
+          dryRun,
+          delimiter,
+          encoding,
+          unprotect,
+          json,
+          output2,
+          overwrite,
+          maximumSize},
+         Program::tr("Change elements by a table."),
+         Program::tr("Each row names an element by its columns, such as floor, room and id. The column \"action\" says "
+                     "what happens to it: add, change, rename (to new_id), move (to new_floor, new_room or new_sheet) "
+                     "or remove. Without it, the element is changed, or added if there is none. If the table has a "
+                     "problem, nothing is changed. An import can be repeated: the second one changes nothing."),
+         runTableImport},
+        {"copy",
+         {jobFile,
+          {"floor|sheet", Program::tr("What is copied.")},
+          {"NAME", Program::tr("The floor or sheet.")},
+          {"COPY", Program::tr("The name of the copy.")},
+          jobOutput,
+          overwrite,
+          maximumSize},
+         Program::tr("Copy a floor or sheet."),
+         Program::tr("All that is on it is copied. The cables that end on a floor are copied too. The copies are "
+                     "untested and get new names. Ports "
+                     "keep their names. The connections of a sheet are not copied."),
+         runCopy},
+        {"list",
+         {file, kind, columns, where, sort, unit, csv, json, output, overwrite, maximumSize},
+         Program::tr("List the elements of a kind."),
+         Program::tr("The list has the columns of \"table export\", and also the number of cables of ports and the "
+                     "status and length of cables. As text, it leaves out empty columns and tags unless --columns "
+                     "asks for them."),
+         runList},
+        {"find",
+         {file,
+          {"TEXT", Program::tr("The text to look for, in upper or lower case.")},
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Find a text in all tables and values."),
+         Program::tr("Names, texts, types, uses, colours and tags are searched."),
+         runFind},
+        {"free",
+         {jobFile, columns, where, sort, unit, csv, json, output, overwrite, maximumSize},
+         Program::tr("List the ports without a cable."),
+         {},
+         runFree},
         {"cables",
          {jobFile, metric, json, output, overwrite, maximumSize},
          Program::tr("List the cables of a job."),
@@ -102,42 +224,6 @@ const QVector<Command> &commands()
                      "as such: its cables with the same group number are one run, as long as the longest of them. "
                      "Cables of unknown length and cables that are longer than a coil are listed apart."),
          runTotals},
-        {"check",
-         {{"FILE...", Program::tr("The job and template files. One of them may be \"-\" for standard input.")},
-          json,
-          output,
-          overwrite,
-          maximumSize},
-         Program::tr("Report what is wrong with files."),
-         Program::tr("Each of the first 50 findings in a file is one line; --json prints all of them. The files are "
-                     "not changed. The exit code is that of the worst file."),
-         runCheck},
-        {"convert",
-         {{"FILE", Program::tr("The job or template file, or \"-\" for standard input.")},
-          {"-o, --output NEW", newFile},
-          overwrite,
-          maximumSize},
-         Program::tr("Convert a file of an earlier version."),
-         Program::tr("The new file has the current version. FILE is not changed."),
-         runConvert},
-        {"import",
-         {jobFile,
-          {"--template FILE.bkt", Program::tr("The template. It is not changed.")},
-          {"[--missing-only]",
-           Program::tr("Only add the default test definitions and the bundles that the job lacks.")},
-          jobOutput,
-          overwrite,
-          maximumSize},
-         Program::tr("Apply a template to a job."),
-         Program::tr("The contractor and the settings of the job are replaced. Test definitions and bundles that the "
-                     "job lacks are added."),
-         runImport},
-        {"export",
-         {jobFile, {"-o, --output NEW.bkt", newFile}, overwrite, maximumSize},
-         Program::tr("Make a template of a job."),
-         Program::tr("The template gets the contractor, the settings, the test definitions and the bundles of the "
-                     "job."),
-         runExport},
         {"schedule import",
          {jobFile,
           {"FILE.csv", Program::tr("The cable schedule, a CSV file, or \"-\" for standard input.")},
@@ -161,6 +247,32 @@ const QVector<Command> &commands()
          Program::tr("Print the cable schedule of a job as CSV."),
          {},
          runScheduleExport},
+        {"import",
+         {jobFile,
+          {"--template FILE.bkt", Program::tr("The template. It is not changed.")},
+          {"[--missing-only]",
+           Program::tr("Only add the default test definitions and the bundles that the job lacks.")},
+          jobOutput,
+          overwrite,
+          maximumSize},
+         Program::tr("Apply a template to a job."),
+         Program::tr("The contractor and the settings of the job are replaced. Test definitions and bundles that the "
+                     "job lacks are added."),
+         runImport},
+        {"export",
+         {jobFile, {"-o, --output NEW.bkt", newFile}, overwrite, maximumSize},
+         Program::tr("Make a template of a job."),
+         Program::tr("The template gets the contractor, the settings, the test definitions and the bundles of the "
+                     "job."),
+         runExport},
+        {"convert",
+         {{"FILE", Program::tr("The job or template file, or \"-\" for standard input.")},
+          {"-o, --output NEW", newFile},
+          overwrite,
+          maximumSize},
+         Program::tr("Convert a file of an earlier version."),
+         Program::tr("The new file has the current version. FILE is not changed."),
+         runConvert},
         {"help",
          {{"[COMMAND...]", Program::tr("The command, such as \"check\" or \"schedule import\".")}},
          Program::tr("Show the help of a command."),

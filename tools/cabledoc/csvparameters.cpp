@@ -10,9 +10,8 @@ namespace {
 
 /// Reads an option whose value is one of some names, in upper or lower case. Keeps the value if the option was left
 /// out. "%1" in the message stands for a wrong name.
-template <typename Value>
-ExitCode readChoice(const CommandLine &line, const char *option, const QMap<QString, Value> &choices,
-                    const QString &message, Value *value)
+template <typename Value> ExitCode readChoice(const CommandLine &line, const char *option,
+                                              const QMap<QString, Value> &choices, const QString &message, Value *value)
 {
     if (!line.isSet(option))
         return Done;

@@ -174,12 +174,57 @@ bool isDocumentPrinted(const CommandLine &line)
     return line.isSet("output") && line.output().isStandard();
 }
 
+namespace {
+
+/// Saves a document to the file of --output, or to its own file if it was changed.
+template <typename Editor> ExitCode saveChanged(Editor &document, const CommandLine &line)
+{
+    const auto result = [&document](bool isSaved) { return isSaved ? QString() : document.error(); };
+    if (line.isSet("output"))
+        return saveDocument(line.output(), [&](const QString &name) { return result(document.saveAs(name)); });
+    if (!document.fileChanged())
+        return Done;
+    return saveDocument({document.filename()}, [&](const QString &) { return result(document.save()); });
+}
+
+} // namespace
+
 ExitCode saveChangedJob(const CommandLine &line)
 {
-    JobEditor &job = JobEditor::Instance();
-    if (line.isSet("output"))
-        return saveJob(line.output());
-    if (!job.fileChanged())
-        return Done;
-    return saveDocument({job.filename()}, [&job](const QString &) { return job.save() ? QString() : job.error(); });
+    return saveChanged(JobEditor::Instance(), line);
+}
+
+bool isTemplate(const QString &fileName)
+{
+    return BktEditor::checkBktExtension(fileName);
+}
+
+ExitCode readDocument(const CommandLine &line, cabledoc::JobSnapshot *document)
+{
+    if (!isTemplate(line.argument(0)))
+        return readJob(line, document);
+    if (const ExitCode error = loadTemplate(line, line.argument(0)))
+        return error;
+    *document = cabledoc::JobSnapshot(BktEditor::Instance());
+    return Done;
+}
+
+ExitCode loadDocument(const CommandLine &line)
+{
+    return isTemplate(line.argument(0)) ? loadTemplate(line, line.argument(0)) : loadJob(line);
+}
+
+ExitCode saveChangedDocument(const CommandLine &line)
+{
+    return isTemplate(line.argument(0)) ? saveChanged(BktEditor::Instance(), line) : saveChangedJob(line);
+}
+
+ExitCode readData(const CommandLine &line, const QString &fileName, QByteArray *data)
+{
+    return readFile(line, fileName, [data](const QString &path) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            *data = file.readAll();
+        return file.error() == QFileDevice::NoError ? QString() : file.errorString();
+    });
 }

@@ -40,3 +40,16 @@ ExitCode saveChangedJob(const CommandLine &line);
 ExitCode saveDocument(const Output &output, const std::function<QString(const QString &fileName)> &save);
 /// Saves the job to the output.
 ExitCode saveJob(const Output &output);
+
+// Commands that take a job or a template
+
+/// Returns whether a file name is that of a template.
+bool isTemplate(const QString &fileName);
+/// Reads the job or template that the first argument of the command line names.
+ExitCode readDocument(const CommandLine &line, cabledoc::JobSnapshot *document);
+/// Loads the job or template that the first argument of the command line names.
+ExitCode loadDocument(const CommandLine &line);
+/// Saves the job or template like saveChangedJob().
+ExitCode saveChangedDocument(const CommandLine &line);
+/// Reads a whole file, such as a table.
+ExitCode readData(const CommandLine &line, const QString &fileName, QByteArray *data);

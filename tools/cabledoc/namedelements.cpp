@@ -2,7 +2,7 @@
 
 #include "output.h"
 
-#include <QtCore/QRegularExpression>
+#include <cabledoc/elementname.h>
 
 using cabledoc::ElementKind;
 using cabledoc::JobSnapshot;
@@ -11,32 +11,11 @@ namespace snapshot = cabledoc::snapshot;
 
 namespace {
 
-QStringList partsOfName(const QString &name)
-{
-    QStringList parts{QString()};
-    bool isEscaped = false;
-    for (const QChar character : name) {
-        const bool isEscape = character == QLatin1Char('\\') && !isEscaped;
-        if (character == QLatin1Char('/') && !isEscaped)
-            parts.append(QString());
-        else if (!isEscape)
-            parts.last().append(character);
-        isEscaped = isEscape;
-    }
-    return parts;
-}
-
-QString nameOf(QStringList parts)
-{
-    static const QRegularExpression separator(QStringLiteral("([\\\\/;])"));
-    return parts.replaceInStrings(separator, QStringLiteral("\\\\1")).join(QLatin1Char('/'));
-}
-
 /// Returns the elements with the given name. The function returns the parts of the name of an element.
 template <typename Elements, typename PartsOf>
 QVector<NamedElement> named(const QString &name, ElementKind kind, const Elements &elements, PartsOf partsOf)
 {
-    const QStringList given = partsOfName(name);
+    const QStringList given = cabledoc::partsOfName(name);
     const QString &last = given.constLast();
     QVector<NamedElement> found;
     int position = -1;
@@ -47,7 +26,7 @@ QVector<NamedElement> named(const QString &name, ElementKind kind, const Element
             continue;
         const QStringList parts = partsOf(element);
         if (element.id == name || parts.mid(parts.size() - given.size()) == given)
-            found.append({{kind, position}, nameOf(parts)});
+            found.append({{kind, position}, cabledoc::nameText(parts)});
     }
     return found;
 }
@@ -94,7 +73,7 @@ QVector<NamedElement> devicesNamed(const JobSnapshot &job, const QString &name)
 
 QString fullNameOf(const JobSnapshot &job, const snapshot::Target &port)
 {
-    const auto fullName = [&job](const auto &end) { return nameOf(partsOfPort(job, end)); };
+    const auto fullName = [&job](const auto &end) { return cabledoc::nameText(partsOfPort(job, end)); };
     return port.kind == ElementKind::Ports ? fullName(job.ports().at(port.position))
                                            : fullName(job.verticalRuns().at(port.position));
 }

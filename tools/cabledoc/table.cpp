@@ -4,13 +4,26 @@
 
 namespace {
 
+/// Returns whether a text is in one line, without more blanks than are needed.
+bool isSimple(const QString &text)
+{
+    bool isAfterBlank = true;
+    for (const QChar character : text) {
+        const bool isBlank = character.isSpace();
+        if (isBlank && (isAfterBlank || character != QLatin1Char(' ')))
+            return false;
+        isAfterBlank = isBlank;
+    }
+    return text.isEmpty() || !isAfterBlank;
+}
+
 /// Returns the texts of a column, each in one line. Columns of which all texts are numbers or empty are numeric.
 TextColumn textsOf(const Table &table, int column)
 {
     TextColumn texts{table.columns.at(column).heading, false, {}};
     bool isClean = true;
     for (const QVariantList &row : table.rows) {
-        const QString cell = row.at(column).toString().simplified();
+        const QString cell = inOneLine(row.at(column).toString());
         bool isNumber = cell.isEmpty();
         if (!isNumber)
             cell.toDouble(&isNumber);
@@ -23,6 +36,12 @@ TextColumn textsOf(const Table &table, int column)
 }
 
 } // namespace
+
+QString inOneLine(const QString &text)
+{
+    // Most texts need not be copied.
+    return isSimple(text) ? text : text.simplified();
+}
 
 QString textOf(const std::vector<TextColumn> &columns)
 {
@@ -41,9 +60,14 @@ QString textOf(const std::vector<TextColumn> &columns)
     const auto appendLine = [&](const auto &cellOf) {
         for (std::size_t number = 0; number < columns.size(); ++number) {
             const QString &cell = cellOf(columns[number]);
-            const QString blanks(widths[number] - int(cell.size()), QLatin1Char(' '));
             const bool isNumeric = columns[number].isNumeric;
-            text.append(isNumeric ? blanks : cell).append(isNumeric ? cell : blanks).append(QLatin1String("  "));
+            const int blanks = widths[number] - int(cell.size());
+            if (!isNumeric)
+                text += cell;
+            text.resize(text.size() + blanks, QLatin1Char(' '));
+            if (isNumeric)
+                text += cell;
+            text += QLatin1String("  ");
         }
         while (text.endsWith(QLatin1Char(' ')))
             text.chop(1);

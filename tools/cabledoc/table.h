@@ -3,8 +3,8 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
-#include <QtCore/QVariant>
 #include <QtCore/QStringList>
+#include <QtCore/QVariant>
 #include <QtCore/QVector>
 
 #include <vector>
@@ -31,6 +31,8 @@ struct TextColumn
     QStringList cells;
 };
 
+/// Returns a text in one line, as a cell of a text.
+QString inOneLine(const QString &text);
 /// Returns the columns as text, with one line for the headings and one for each row.
 QString textOf(const std::vector<TextColumn> &columns);
 /// Returns the table as text, with one line for the headings and one for each row. Columns of numbers are aligned to

@@ -303,8 +303,6 @@ QString unusedCoil(const JobSnapshot &job, const OrderOptions &options)
 ExitCode runTotals(const CommandLine &line)
 {
     const bool metric = line.isSet("metric");
-    if (line.isSet("csv") && line.isSet("json"))
-        return line.usageError(Program::tr("--csv and --json cannot be used together"));
     OrderOptions options;
     const QString wrongSpare = readSpare(line, &options);
     const QString problem = wrongSpare.isEmpty() ? readCoils(line, metric, &options) : wrongSpare;

@@ -86,8 +86,6 @@ ExitCode runTrace(const CommandLine &line)
     }
     if (given.size() != 1)
         return line.usageError(Program::tr("exactly one of PORT or CABLE, --cable, --room and --device is needed"));
-    if (line.isSet("csv") && line.isSet("json"))
-        return line.usageError(Program::tr("--csv and --json cannot be used together"));
     JobSnapshot job;
     if (const ExitCode error = readJob(line, &job))
         return error;
