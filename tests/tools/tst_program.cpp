@@ -37,9 +37,8 @@ private:
 private Q_SLOTS:
     void sessions_data()
     {
-        addCases(
-            {"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt",
-             "cases/tables.txt", "cases/trace.txt"});
+        addCases({"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt",
+                  "cases/program-new.txt", "cases/tables.txt", "cases/trace.txt"});
     }
 
     void sessions()
