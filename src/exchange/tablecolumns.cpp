@@ -3,6 +3,7 @@
 #include "documentattributes.h"
 #include "jobattributes.h"
 #include "jobwords.h"
+#include "lengthestimate.h"
 #include "qtcompat.h"
 #include "units.h"
 
@@ -167,7 +168,8 @@ QVector<ColumnText> columnTexts(TableKind kind)
                 {"connected", Content::Connected},
                 {"disconnected", Content::Disconnected},
                 {"status", Content::Status},
-                {"length", Content::MeasuredLength}};
+                {"length", Content::MeasuredLength},
+                {"estimated_length", Content::EstimatedLength}};
     case TableKind::ActivePorts:
         return {tag,
                 id,
@@ -282,7 +284,8 @@ bool isEnd(Content content)
 
 bool hasUnit(Content content)
 {
-    return isPosition(content) || content == Content::Height || content == Content::MeasuredLength;
+    return isPosition(content) || content == Content::Height || content == Content::MeasuredLength
+           || content == Content::EstimatedLength;
 }
 
 bool isNumeric(const TableColumn &column)
@@ -292,7 +295,8 @@ bool isNumeric(const TableColumn &column)
 
 bool isImported(Content content)
 {
-    return content != Content::CableCount && content != Content::Status && content != Content::MeasuredLength;
+    return content != Content::CableCount && content != Content::Status && content != Content::MeasuredLength
+           && content != Content::EstimatedLength;
 }
 
 bool isSearchable(Content content)
@@ -368,11 +372,7 @@ QString roundedText(double number)
 double feetInAPixel(const JobSnapshot &job, TableKind kind)
 {
     const QString &entry = isOnSheet(kind) ? words::NetViewSettings : words::FloorPlanSettings;
-    const ScaleSettings settings(job.scaleSettings().value(entry));
-    if (settings.style() != 1 && settings.style() != 2)
-        return 0.0;
-    const double feetInAnInch = settings.isMetric() ? settings.scale() / inchesInAFoot : settings.scale();
-    return feetInAnInch / pixelsInAnInch;
+    return feetInAPixel(ScaleSettings(job.scaleSettings().value(entry)));
 }
 
 QString missingScale(const JobSnapshot &job, TableKind kind, TableUnit unit)
@@ -478,12 +478,16 @@ QString TableReader::text(const TableColumn &column, TableUnit unit, int positio
     case Content::ReleaseValue:
         return *static_cast<const QString *>(element.fields);
     case Content::CableCount:
-        return toText(int(job.cablesAt({elementKind(m_kind), position}).size()));
+        return toText(job.cableCountAt({elementKind(m_kind), position}));
     case Content::Status:
         return job.cables().at(position).test.status;
     case Content::MeasuredLength: {
         const float length = job.measuredLength(position, unit == TableUnit::Metres);
         return length < 0 ? QString() : QString::number(double(length), 'g', 7);
+    }
+    case Content::EstimatedLength: {
+        const double length = job.estimatedLength(position, unit == TableUnit::Metres);
+        return length < 0 ? QString() : roundedText(length);
     }
     }
     return QString();

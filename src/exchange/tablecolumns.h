@@ -43,6 +43,7 @@ enum class Content {
     CableCount,
     Status,
     MeasuredLength,
+    EstimatedLength,
 };
 
 /// A column that a kind of table can have.

@@ -342,7 +342,7 @@ void Planner::planRemoval(const PlannedRow &row)
 int Planner::removedCables(int position) const
 {
     if (m_kind == TableKind::Ports || m_kind == TableKind::VerticalRuns)
-        return int(m_job.cablesAt({elementKind(m_kind), position}).size());
+        return m_job.cableCountAt({elementKind(m_kind), position});
     if (m_kind != TableKind::Floors)
         return 0;
     const auto isOnFloor = [&](const snapshot::Target &end) {

@@ -10,7 +10,13 @@ namespace cabledoc {
 
 namespace {
 
-/// Returns the length of a pixel of the floor plans in feet, or 0 if they have no scale.
+std::optional<double> sum(const std::optional<double> &a, const std::optional<double> &b)
+{
+    return a && b ? std::optional<double>(*a + *b) : std::nullopt;
+}
+
+} // namespace
+
 double feetInAPixel(const ScaleSettings &settings)
 {
     if (settings.style() != 1 && settings.style() != 2)
@@ -19,13 +25,6 @@ double feetInAPixel(const ScaleSettings &settings)
     const double feetInAnInch = settings.isMetric() ? settings.scale() / inchesInAFoot : settings.scale();
     return feetInAnInch / pixelsInAnInch;
 }
-
-std::optional<double> sum(const std::optional<double> &a, const std::optional<double> &b)
-{
-    return a && b ? std::optional<double>(*a + *b) : std::nullopt;
-}
-
-} // namespace
 
 Storey::Storey(const QString &floorTag, double ceilingHeightOfFloor)
     : floor(floorTag)

@@ -7,6 +7,9 @@
 
 namespace cabledoc {
 
+/// Returns the length of a pixel in feet on a drawing with a scale. Returns 0 if the settings give no scale.
+double feetInAPixel(const ScaleSettings &settings);
+
 /// A floor, as far as the lengths of cables depend on it.
 struct Storey
 {
