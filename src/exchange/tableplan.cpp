@@ -115,6 +115,7 @@ public:
 private:
     // Finding the elements of the rows
     void findElement(PlannedRow *row);
+    int roomOfTag(const FileRow &file) const;
     void findMovedElements();
     void findElementsOf(const std::vector<PlannedRow *> &chain, bool isCycle);
     void checkNames();
@@ -175,7 +176,7 @@ void Planner::findElement(PlannedRow *row)
     row->name = file.name;
     row->newName = file.name;
     if (!file.tag.isEmpty()) {
-        row->position = m_names.findTag(m_kind, file.tag);
+        row->position = m_kind == TableKind::Rooms ? roomOfTag(file) : m_names.findTag(m_kind, file.tag);
         if (row->position >= 0) {
             row->name = m_names.partsOf(m_kind, row->position);
             // The columns that the file lacks, and empty ids, leave the name as it is.
@@ -191,6 +192,20 @@ void Planner::findElement(PlannedRow *row)
         row->newName[part.key()] = part.value();
     if (row->position < 0 && !row->isMoved())
         row->position = m_names.find(m_kind, row->name);
+}
+
+/// Returns the position of the room with the tag of a row. Rooms on several floors can have the same tag.
+int Planner::roomOfTag(const FileRow &file) const
+{
+    const int floor = m_names.find(TableKind::Floors, holderOf(file.name));
+    if (floor < 0)
+        return m_names.findTag(TableKind::Rooms, file.tag);
+    const snapshot::Range &rooms = m_job.floors().at(floor).rooms;
+    for (int position = rooms.first; position < rooms.end(); ++position) {
+        if (m_job.rooms().at(position).element == file.tag)
+            return position;
+    }
+    return -1;
 }
 
 /// Finds the elements of the rows that rename or move something. Rows form a chain if each of them gives its element

@@ -1,0 +1,291 @@
+#include "bkteditor.h"
+#include "documentvalues.h"
+#include "elementname.h"
+#include "elementtable.h"
+#include "jobeditorprobe.h"
+#include "jobsnapshot.h"
+#include "tableplan.h"
+#include "testcases.h"
+
+#include <QtCore/QTemporaryDir>
+
+using namespace cabledoc;
+
+namespace {
+
+QVector<TableKind> allKinds()
+{
+    QVector<TableKind> kinds;
+    for (const QString &name : tableNames())
+        kinds.append(*tableOfName(name));
+    return kinds;
+}
+
+QStringList placesOf(const QVector<CsvProblem> &problems)
+{
+    QStringList places;
+    for (const CsvProblem &problem : problems)
+        places.append(QString("%1:%2").arg(problem.row).arg(problem.column));
+    return places;
+}
+
+} // namespace
+
+/// Tests tables and single values in open documents. The sessions of the program test the same with files.
+class TablesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+    int m_jobs = 0;
+
+    JobEditor &openJob(const QByteArray &content = QByteArray())
+    {
+        JobEditor::Destroy();
+        JobEditor &job = JobEditor::Instance();
+        const QString name = m_directory.filePath(QString("%1.job").arg(++m_jobs));
+        if (!content.isEmpty())
+            writeFile(name, content);
+        if (!(content.isEmpty() ? job.New(name) : job.Load(name)))
+            qFatal("no job: %s", qPrintable(job.error()));
+        return job;
+    }
+
+    /// Opens a job without floors and sheets.
+    JobEditor &openEmptyJob()
+    {
+        JobEditor &job = openJob();
+        job.removeFloor(job.getFloorTags().constFirst());
+        job.removeSheet(job.getSheetTags().constFirst());
+        return job;
+    }
+
+    /// Imports a table, and returns the number of changes, or the places of the problems.
+    static QString import(JobEditor &job, TableKind kind, const QByteArray &table)
+    {
+        const TablePlan plan(JobSnapshot(job), kind, table);
+        plan.applyTo(job);
+        return plan.problems().isEmpty() ? QString::number(plan.changes().size()) : placesOf(plan.problems()).join(' ');
+    }
+
+    static QByteArray exported(const JobEditor &job, TableKind kind, const TableExportOptions &options = {})
+    {
+        return exportTable(JobSnapshot(job), kind, options).text;
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        JobEditor::Destroy();
+        BktEditor::Destroy();
+    }
+
+    void roundTrips_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<TableUnit>("unit");
+        QTest::addColumn<bool>("tags");
+        for (const char *name : {"site.job", "trace.job", "lengths.job", "migration/job-1.1.job"})
+            QTest::addRow("%s", name) << testData(name) << TableUnit::Pixels << false;
+        QTest::newRow("with tags") << testData("trace.job") << TableUnit::Pixels << true;
+        QTest::newRow("in feet") << testData("trace.job") << TableUnit::Feet << false;
+        QTest::newRow("in metres") << testData("trace.job") << TableUnit::Metres << false;
+    }
+
+    /// The tables of a job make the same tables again. With tags, they make the same elements.
+    void roundTrips()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(TableUnit, unit);
+        QFETCH(bool, tags);
+        TableExportOptions options;
+        options.unit = unit;
+        options.tags = tags;
+        JobEditor &job = openJob(file);
+        QCOMPARE(setValue(job, "scale.network-view", "10 ft"), QString());
+        const JobSnapshot original(job);
+        QMap<TableKind, QByteArray> tables;
+        for (const TableKind kind : allKinds()) {
+            const TableExport table = exportTable(original, kind, options);
+            QCOMPARE(table.error, QString());
+            tables.insert(kind, table.text);
+        }
+        JobEditor &copy = openEmptyJob();
+        for (const char *entry : {"FloorPlan_Settings", "NetView_Settings"})
+            copy.setScaleSettings(ScaleSettings(original.scaleSettings().value(entry)), entry);
+        for (const TableKind kind : allKinds()) {
+            const QString places = import(copy, kind, tables.value(kind));
+            QVERIFY2(!places.contains(':'), qPrintable(tableName(kind) + ' ' + places));
+            QVERIFY(JobEditorProbe(copy).indexesMatchTheTree());
+            QCOMPARE(import(copy, kind, tables.value(kind)), QString("0"));
+        }
+        for (const TableKind kind : allKinds())
+            COMPARE_TEXTS(QString(exported(copy, kind, options)), QString(tables.value(kind)), tableName(kind));
+        QVERIFY(JobEditorProbe(copy).danglingReferences().isEmpty());
+    }
+
+    void namesInTables()
+    {
+        const QStringList parts{"A/B", "", "; \\"};
+        QCOMPARE(nameText(parts), QString("A\\/B//\\; \\\\"));
+        QCOMPARE(partsOfName(nameText(parts)), parts);
+        const QStringList names{nameText(parts), "", " x"};
+        QCOMPARE(namesIn(nameListText(names)), names);
+        QCOMPARE(namesIn(""), QStringList());
+    }
+
+    /// Elements whose names are not unique are left out, unless their tags are in the table.
+    void elementsWithoutNames()
+    {
+        JobEditor &job = openJob();
+        const QString floor = job.getFloorTags().constFirst();
+        for (const char *id : {"1", "1", ""})
+            job.addPort(floor, "Undefined", 0, 0, "", id, "", 1, 0, 1);
+        job.addVertRun(floor, "Undefined", 0, 0, "", "1", "", 1, 0, {}, {}, 1);
+        job.addFloor("", job.getFloorIdByTag(floor), 8, "", 1);
+        QCOMPARE(exportTable(JobSnapshot(job), TableKind::Ports).leftOut, 2);
+        QCOMPARE(exportTable(JobSnapshot(job), TableKind::VerticalRuns).leftOut, 1);
+        QCOMPARE(exportTable(JobSnapshot(job), TableKind::Floors).leftOut, 1);
+        TableExportOptions withTags;
+        withTags.tags = true;
+        const TableExport all = exportTable(JobSnapshot(job), TableKind::Ports, withTags);
+        QCOMPARE(all.leftOut, 0);
+        QCOMPARE(int(all.text.count('\n')), 4);
+        // A tag gives the second of them a name of its own.
+        QCOMPARE(import(job, TableKind::Ports, "tag,id\nPort2,2\nPort3,3\n"), QString("2"));
+        QCOMPARE(exportTable(JobSnapshot(job), TableKind::Ports).leftOut, 0);
+    }
+
+    void tagsOfNewElements()
+    {
+        JobEditor &job = openJob();
+        const QByteArray floor = job.getFloorIds().constFirst().toUtf8();
+        QCOMPARE(import(job, TableKind::Points, "tag,floor,id\nMine," + floor + ",P\n"), QString("1"));
+        QVERIFY(job.pointExists("Mine", true));
+        QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id\nMine," + floor + ",,1\n"), QString("2:1"));
+        QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id\n1x," + floor + ",,1\n"), QString("2:1"));
+        QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id,action\nNew," + floor + ",,1,change\n"),
+                 QString("2:4"));
+    }
+
+    /// A room can have the tag of a room on another floor.
+    void tagsOfRooms()
+    {
+        JobEditor &job = openJob(testData("site.job"));
+        QCOMPARE(job.getRooms("FFloor_1", true), QStringList({"Undefined", "Room1"}));
+        QCOMPARE(import(job, TableKind::Rooms, "tag,floor,id\nRoom1,Upper,Attic\nRoom1,Ground,Hall\n"), QString("2"));
+        QCOMPARE(job.getRooms("FFloor_1", false), QStringList({"Undefined", "Hall"}));
+        QVERIFY(job.getRooms("FFloor_2", false).contains("Attic"));
+    }
+
+    /// A cable can be in either list of a vertical run, and other cables of the lists stay there.
+    void verticalRunsOfCables()
+    {
+        JobEditor &job = openJob(testData("trace.job"));
+        const QStringList runs = job.getVertRuns("FFloor_1", "Room1", true);
+        QVERIFY(!runs.isEmpty());
+        const QString run = runs.constFirst();
+        const QStringList before = job.getVertRunConnected(run);
+        const QString cable = job.addCable("", "New", 1);
+        const ElementTable table(JobSnapshot(job), TableKind::VerticalRuns);
+        const QByteArray name = table.name(0).toUtf8();
+        QCOMPARE(import(job, TableKind::Cables, "id,connected\nNew," + name + "\n"), QString("1"));
+        const QString tag = job.getCableById("New").tag();
+        QCOMPARE(job.getVertRunConnected(run), before + QStringList(tag));
+        QCOMPARE(import(job, TableKind::Cables, "id,connected,disconnected\nNew,," + name + "\n"), QString("1"));
+        QCOMPARE(job.getVertRunConnected(run), before);
+        QVERIFY(job.getVertRunDisconnected(run).contains(tag));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    /// Test definitions are found by their names, so names that are exchanged must not meet.
+    void exchangedDefinitions()
+    {
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(m_directory.filePath("shop.bkt")));
+        const auto importInto = [&bkt](TableKind kind, const QByteArray &table) {
+            const TablePlan plan(JobSnapshot(bkt), kind, table);
+            plan.applyTo(bkt);
+            return plan.problems().isEmpty() ? QString::number(plan.changes().size())
+                                             : placesOf(plan.problems()).join(' ');
+        };
+        QCOMPARE(importInto(TableKind::TestDefinitions, "id,comment\nA,first\nB,second\nC,third\n"), QString("3"));
+        QCOMPARE(importInto(TableKind::Bundles, "id,types\nDuo,A; B; A\n"), QString("1"));
+        QCOMPARE(
+            importInto(TableKind::TestDefinitions, "action,id,new_id\nrename,A,B\nrename,B,A\nremove,C,\nadd,D,\n"),
+            QString("4"));
+        QCOMPARE(bkt.getTestDef("A").comment(), QString("second"));
+        QCOMPARE(bkt.getTestDef("B").comment(), QString("first"));
+        QCOMPARE(bkt.getTestDefNames(), QStringList({"B", "A", "D"}));
+        QCOMPARE(bkt.getBundledCableType("Duo").types(), QStringList({"B", "A", "B"}));
+        QCOMPARE(importInto(TableKind::Bundles, "id,types\nDuo,A; A; A; A; A; A; A; A; A\n"), QString("2:2"));
+        QCOMPARE(importInto(TableKind::Bundles, "action,id,new_id\nrename,Duo,Trio\n"), QString("1"));
+        QCOMPARE(bkt.getBundledCableTypeIds(), QStringList("Trio"));
+    }
+
+    void releases()
+    {
+        JobEditor &job = openJob();
+        QCOMPARE(import(job, TableKind::Releases, "id,value\nOne,1\nTwo,2\n"), QString("2"));
+        QCOMPARE(import(job, TableKind::Releases, "action,id,new_id\nrename,One,Two\nrename,Two,Three\n"),
+                 QString("2"));
+        QCOMPARE(job.getRelease("Two") + job.getRelease("Three") + job.getRelease("One"), QString("12"));
+        QCOMPARE(import(job, TableKind::Releases, "action,id\nremove,Two\nremove,Two\n"), QString("3:2"));
+        QCOMPARE(import(job, TableKind::Releases, "id,value\nNot a name,1\n"), QString("2:1"));
+        QByteArray many = "id\n";
+        for (int i = 0; i < 4096; ++i)
+            many += 'R' + QByteArray::number(i) + '\n';
+        QVERIFY(import(job, TableKind::Releases, many).endsWith("4097:1"));
+    }
+
+    void values()
+    {
+        JobEditor &job = openJob();
+        job.setFloorId(job.getFloorTags().constFirst(), "A.picture");
+        QVector<DocumentValue> before = valuesOfJob(JobSnapshot(job));
+        // Each value can be set to the text that it has.
+        for (const DocumentValue &value : std::as_const(before))
+            QVERIFY2(setValue(job, value.name, value.text).isEmpty(), qPrintable(value.name));
+        QCOMPARE(setValue(job, "floor.A.picture.picture", "plan.png"), QString());
+        QCOMPARE(job.getFloorBackgroundPic(job.getFloorTags().constFirst()), QString("plan.png"));
+        QCOMPARE(setValue(job, "scale.floor-plan", "1 : 50"), QString());
+        QVERIFY(job.getScaleSettings("FloorPlan_Settings").isMetric());
+        QCOMPARE(job.getScaleSettings("FloorPlan_Settings").scale(), 50);
+        QCOMPARE(setValue(job, "page.floor-plan", "17x11"), QString());
+        QCOMPARE(job.getPageSettings("FloorPlan_Settings").customWidth(), 17.0);
+        QCOMPARE(setValue(job, "print.inventory.orientation", "landscape"), QString());
+        QCOMPARE(job.getPrintSettings("Inventory_Settings").orientation(), 1);
+        for (const char *name :
+             {"scale.floor-plan", "page.floor-plan", "print.inventory.orientation", "print.inventory.paper_size",
+              "floor.A.picture.picture_x", "floor.B.picture", "contractor", "site.address", "page.inventory", ""})
+            QVERIFY2(!setValue(job, name, "nonsense").isEmpty(), name);
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(m_directory.filePath("shop.bkt")));
+        QCOMPARE(setValue(bkt, "contractor.address.city", "Town"), QString());
+        QCOMPARE(bkt.getContractorAddress().city(), QString("Town"));
+        QVERIFY(!setValue(bkt, "site.company", "X").isEmpty());
+        QCOMPARE(valuesOfTemplate(JobSnapshot(bkt)).constFirst().name, QString("contractor.tester"));
+    }
+
+    /// A job that lacks its lists, as other programs may write it, gets them.
+    void jobsWithoutLists()
+    {
+        JobEditor &job = openJob("<Job><Version number=\"3.0\"/></Job>");
+        QCOMPARE(import(job, TableKind::Floors, "id\nGround\n"), QString("1"));
+        job.getToRoomList(job.getFloorTags().constFirst())
+            .parentNode()
+            .toElement()
+            .removeChild(job.getToRoomList(job.getFloorTags().constFirst()));
+        job.updateAllInternalLists();
+        QCOMPARE(import(job, TableKind::Ports, "floor,room,id\nGround,,1\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::Cables, "id,from_floor,from_room,from_port\nA,Ground,,1\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::TestDefinitions, "id\nCAT6\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::ActivePorts, "id,floor,room,port\nL,Ground,,1\n"), QString("1"));
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+        QCOMPARE(job.getCablesByPort(job.getPortTagById("1")).size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TablesTest)
+#include "tst_tables.moc"
