@@ -21,17 +21,18 @@ bool isSimple(const QString &text)
 TextColumn textsOf(const Table &table, int column)
 {
     TextColumn texts{table.columns.at(column).heading, false, {}};
-    bool isClean = true;
+    texts.cells.reserve(table.rows.size());
+    bool isNumeric = true;
+    bool isFilled = false;
     for (const QVariantList &row : table.rows) {
         const QString cell = inOneLine(row.at(column).toString());
-        bool isNumber = cell.isEmpty();
-        if (!isNumber)
-            cell.toDouble(&isNumber);
-        isClean = isClean && isNumber;
-        texts.isNumeric = texts.isNumeric || !cell.isEmpty();
         texts.cells.append(cell);
+        if (!isNumeric || cell.isEmpty())
+            continue;
+        isFilled = true;
+        cell.toDouble(&isNumeric);
     }
-    texts.isNumeric = texts.isNumeric && isClean;
+    texts.isNumeric = isNumeric && isFilled;
     return texts;
 }
 
