@@ -1,5 +1,7 @@
 #include "elementname.h"
 
+#include <algorithm>
+
 namespace cabledoc {
 
 namespace {
@@ -31,11 +33,19 @@ QString withoutEscapes(const QString &text)
     return plain;
 }
 
+bool needsEscape(QChar character)
+{
+    return character == QLatin1Char('\\') || character == QLatin1Char('/') || character == QLatin1Char(';');
+}
+
 QString escaped(const QString &part)
 {
+    // Most parts need not be copied.
+    if (std::none_of(part.cbegin(), part.cend(), needsEscape))
+        return part;
     QString text;
     for (const QChar character : part) {
-        if (QStringLiteral("\\/;").contains(character))
+        if (needsEscape(character))
             text.append(QLatin1Char('\\'));
         text.append(character);
     }

@@ -114,6 +114,12 @@ QString keyOf(const QStringList &parts)
     return parts.join(partSeparator());
 }
 
+/// Returns what the operations find a room by: its floor and its tag.
+QString keyOfRoom(const ElementView &room)
+{
+    return QString::number(room.holder) + partSeparator() + room.tag;
+}
+
 } // namespace
 
 const QStringList &tableNames()
@@ -245,20 +251,31 @@ void ElementNames::makeIndex(TableKind kind, Index *index) const
     index->positions.reserve(std::size_t(count));
     index->isNamed.resize(count);
     TextMap<int> roomTags;
+    // The elements of a holder follow one another.
+    int holder = -1;
+    QString holderKey;
     for (int position = 0; position < count; ++position) {
         const ElementView element = elementOf(m_job, kind, position);
         const bool isHolderNamed = element.holder < 0 || isNamed(holderKind(kind), element.holder);
         if (!isHolderNamed || element.id.isEmpty() || !isReachable(kind, position, element))
             continue;
-        // The operations find a room by its floor and its tag.
-        const QString floorAndTag = QString::number(element.holder) + partSeparator() + element.tag;
-        if (kind == TableKind::Rooms && !roomTags.insert({floorAndTag, position}).second)
+        if (kind == TableKind::Rooms && !roomTags.insert({keyOfRoom(element), position}).second)
             continue;
-        const QStringList parts = partsOf(kind, position);
-        const bool isTaken = (kind == TableKind::VerticalRuns && find(TableKind::Ports, parts) >= 0)
-                             || (kind == TableKind::Bends && find(TableKind::Devices, parts) >= 0);
-        index->isNamed[position] = !isTaken && index->positions.insert({keyOf(parts), position}).second;
+        if (element.holder != holder) {
+            holder = element.holder;
+            holderKey = keyOf(partsOf(holderKind(kind), holder)) + partSeparator();
+        }
+        const QString key = holderKey + partOf(kind, position, 0);
+        const bool isTaken = (kind == TableKind::VerticalRuns && hasKey(TableKind::Ports, key))
+                             || (kind == TableKind::Bends && hasKey(TableKind::Devices, key));
+        index->isNamed[position] = !isTaken && index->positions.insert({key, position}).second;
     }
+}
+
+bool ElementNames::hasKey(TableKind kind, const QString &key) const
+{
+    const Index &index = indexOf(kind);
+    return index.positions.find(key) != index.positions.end();
 }
 
 /// Returns whether the operations of the job find the element by its tag.

@@ -63,6 +63,7 @@ private:
 
     const Index &indexOf(TableKind kind) const;
     void makeIndex(TableKind kind, Index *index) const;
+    bool hasKey(TableKind kind, const QString &key) const;
     bool isReachable(TableKind kind, int position, const ElementView &element) const;
 
     JobSnapshot m_job;

@@ -254,22 +254,23 @@ void Planner::findElementsOf(const std::vector<PlannedRow *> &chain, bool isCycl
 /// Reports elements that two rows name, and names that two elements would have.
 void Planner::checkNames()
 {
-    QHash<int, int> rowOfElement;
-    TextMap<int> rowOfName; // names that elements get, or keep
-    TextMap<int> leaving;   // names that elements lose
+    std::vector<int> rowOfElement(std::size_t(countOf(m_job, m_kind))); // 0 if there is none
+    TextMap<int> rowOfName;                                             // names that elements get, or keep
+    TextMap<int> leaving;                                               // names that elements lose
     for (const PlannedRow &row : m_rows) {
         if (row.position >= 0 && (row.isMoved() || row.file->action == TableAction::Remove))
             leaving.insert({nameText(row.name), row.position});
     }
     for (const PlannedRow &row : m_rows) {
         const int number = row.file->number;
-        if (row.position >= 0 && rowOfElement.contains(row.position)) {
-            report(*row.file, idField(),
-                   tr("row %1 already is about the %2").arg(rowOfElement.value(row.position)).arg(named(row.name)));
-            continue;
+        if (row.position >= 0) {
+            int &rowBefore = rowOfElement[std::size_t(row.position)];
+            if (rowBefore > 0) {
+                report(*row.file, idField(), tr("row %1 already is about the %2").arg(rowBefore).arg(named(row.name)));
+                continue;
+            }
+            rowBefore = number;
         }
-        if (row.position >= 0)
-            rowOfElement.insert(row.position, number);
         if (row.file->action == TableAction::Remove)
             continue;
         const auto other = rowOfName.insert({nameText(row.newName), number});

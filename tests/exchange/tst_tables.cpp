@@ -31,6 +31,8 @@ QStringList placesOf(const QVector<CsvProblem> &problems)
 
 } // namespace
 
+Q_DECLARE_METATYPE(cabledoc::TableUnit)
+
 /// Tests tables and single values in open documents. The sessions of the program test the same with files.
 class TablesTest : public QObject
 {

@@ -7,12 +7,14 @@ QString excerpt(const QString &value)
     constexpr int maximumLength = 80;
     QString text;
     for (const QChar character : value) {
-        const QString shown = character.category() == QChar::Other_Control
-                                  ? QStringLiteral("\\x%1").arg(int(character.unicode()), 2, 16, QLatin1Char('0'))
-                                  : QString(character);
-        if (text.size() + shown.size() > maximumLength)
+        const bool isControl = character.category() == QChar::Other_Control;
+        constexpr int escapeLength = 4;
+        if (text.size() + (isControl ? escapeLength : 1) > maximumLength)
             return text + QStringLiteral("...");
-        text += shown;
+        if (isControl)
+            text += QStringLiteral("\\x%1").arg(int(character.unicode()), 2, 16, QLatin1Char('0'));
+        else
+            text += character;
     }
     return text;
 }
