@@ -19,10 +19,11 @@ namespace cabledoc {
 
 namespace {
 
-QString tr(const char *text)
+/// The translation context of the messages about values.
+struct ValueText
 {
-    return QCoreApplication::translate("Values", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Values)
+};
 
 /// A report or view, and what the names of its settings call it.
 struct Entry
@@ -98,7 +99,8 @@ QString readScale(const QString &text, ScaleSettingsFields *fields)
         return QString();
     }
     if (!match.hasMatch())
-        return tr("\"%1\" is not a scale such as 1:100 or \"20 ft\" (to the inch), nor \"none\"").arg(excerpt(text));
+        return ValueText::tr("\"%1\" is not a scale such as 1:100 or \"20 ft\" (to the inch), nor \"none\"")
+            .arg(excerpt(text));
     const bool isMetric = !match.captured(1).isEmpty();
     fields->style = customStyle;
     fields->heightUnits = isMetric ? metricUnits : 0;
@@ -132,7 +134,8 @@ QString readPage(const QString &text, PageSettingsFields *fields)
         fields->pageSizeStyle = predefinedStyle;
         fields->pageSize = size;
     } else {
-        return tr("\"%1\" is not a page such as A3 or \"17 x 11\" (in inches), nor \"none\"").arg(excerpt(text));
+        return ValueText::tr("\"%1\" is not a page such as A3 or \"17 x 11\" (in inches), nor \"none\"")
+            .arg(excerpt(text));
     }
     return QString();
 }
@@ -172,7 +175,7 @@ QString checkText(const QString &text)
 {
     return firstLostCharacter(text, true).isEmpty()
                ? QString()
-               : tr("\"%1\" contains a character that a file cannot hold").arg(excerpt(text));
+               : ValueText::tr("\"%1\" contains a character that a file cannot hold").arg(excerpt(text));
 }
 
 /// Reads the text of a field. Returns why it cannot be, or an empty text.
@@ -184,11 +187,11 @@ QString readField(const AttributeRow &row, const QString &text, void *fields)
     } else if (row.name == words::PaperSize || row.name == words::PageSize) {
         stored = paperSize(text);
         if (stored.isEmpty())
-            return tr("\"%1\" is not a paper size: %2 are")
+            return ValueText::tr("\"%1\" is not a paper size: %2 are")
                 .arg(excerpt(text), SettingsStrings::paperSizes().join(QLatin1String(", ")));
     }
     if (row.isValid != nullptr && (stored.isEmpty() || !row.isValid(stored)))
-        return tr("\"%1\" is not a number that %2 can have").arg(excerpt(text), row.name);
+        return ValueText::tr("\"%1\" is not a number that %2 can have").arg(excerpt(text), row.name);
     const QString problem = checkText(stored);
     if (problem.isEmpty())
         row.parse(stored, fields);
@@ -245,7 +248,7 @@ public:
     ValueSetter(const QString &name, const QString &text)
         : m_name(name)
         , m_text(text)
-        , m_problem(tr("there is no value \"%1\"").arg(excerpt(name)))
+        , m_problem(ValueText::tr("there is no value \"%1\"").arg(excerpt(name)))
     {
     }
 
@@ -348,7 +351,8 @@ private:
         const QPoint place = job->getFloorBackgroundOrigin(tag);
         bool isNumber = false;
         const int number = m_text.toInt(&isNumber);
-        const QString numberProblem = isNumber ? QString() : tr("\"%1\" is not a whole number").arg(excerpt(m_text));
+        const QString numberProblem =
+            isNumber ? QString() : ValueText::tr("\"%1\" is not a whole number").arg(excerpt(m_text));
         if (m_name == prefix + pictureFields().at(0) && takes(checkText(m_text)))
             job->setFloorBackgroundPic(tag, m_text, place.x(), place.y());
         else if (m_name == prefix + pictureFields().at(1) && takes(numberProblem))

@@ -5,9 +5,8 @@
 #include "jobwords.h"
 #include "lengthestimate.h"
 #include "qtcompat.h"
+#include "tabletext.h"
 #include "units.h"
-
-#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 
@@ -382,8 +381,8 @@ QString missingScale(const JobSnapshot &job, TableKind kind, TableUnit unit)
                                           [](const TableColumn &column) { return isPosition(column.content); });
     if (unit == TableUnit::Pixels || !hasPositions || feetInAPixel(job, kind) > 0.0)
         return QString();
-    return isOnSheet(kind) ? QCoreApplication::translate("Table", "the sheets have no scale for feet or metres")
-                           : QCoreApplication::translate("Table", "the floor plans have no scale for feet or metres");
+    return isOnSheet(kind) ? TableText::tr("the sheets have no scale for feet or metres")
+                           : TableText::tr("the floor plans have no scale for feet or metres");
 }
 
 TableReader::TableReader(const ElementNames &names, TableKind kind, Names shownNames)

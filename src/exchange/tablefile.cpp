@@ -2,20 +2,14 @@
 
 #include "jobwords.h"
 #include "messagetext.h"
+#include "tabletext.h"
 #include "xmlnames.h"
-
-#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 
 namespace cabledoc {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Table", text);
-}
 
 /// The words of the column "action", in the order of TableAction.
 const QStringList &actionWords()
@@ -126,11 +120,11 @@ void TableFile::readColumnName(const CsvRow &heading, int field)
 {
     const QString name = heading.fields.at(field).trimmed();
     if (m_extraFields.contains(name))
-        report(heading.number, field, tr("the column \"%1\" occurs twice").arg(excerpt(name)));
+        report(heading.number, field, TableText::tr("the column \"%1\" occurs twice").arg(excerpt(name)));
     else if (extraColumns(m_kind).contains(name))
         m_extraFields.insert(name, field);
     else if (!addElementColumn(name, field))
-        report(heading.number, field, tr("unknown column \"%1\"").arg(excerpt(name)));
+        report(heading.number, field, TableText::tr("unknown column \"%1\"").arg(excerpt(name)));
 }
 
 /// Adds a column of elements. Returns false if there is no column with that name.
@@ -141,7 +135,7 @@ bool TableFile::addElementColumn(const QString &name, int field)
             if (columnName(column, unit) != name)
                 continue;
             if (columnOf(column) != nullptr)
-                report(1, field, tr("the column \"%1\" occurs twice").arg(excerpt(name)));
+                report(1, field, TableText::tr("the column \"%1\" occurs twice").arg(excerpt(name)));
             m_columns.push_back({&column, unit, field});
             return true;
         }
@@ -155,18 +149,19 @@ void TableFile::requireColumns(const CsvRow &heading)
         return;
     for (const TableColumn &column : columnsOf(m_kind)) {
         if (isName(column.content) && fieldOf(column.content) < 0)
-            report(heading.number, m_fieldsInHeading, tr("the column \"%1\" is missing").arg(column.name));
+            report(heading.number, m_fieldsInHeading, TableText::tr("the column \"%1\" is missing").arg(column.name));
     }
 }
 
 void TableFile::readRow(const CsvRow &csv)
 {
     if (csv.fields.size() > m_fieldsInHeading)
-        report(csv.number, m_fieldsInHeading, tr("the row has more fields than the heading"));
+        report(csv.number, m_fieldsInHeading, TableText::tr("the row has more fields than the heading"));
     for (int field = 0; field < csv.fields.size(); ++field) {
         if (!firstLostCharacter(csv.fields.at(field), true).isEmpty())
             report(csv.number, field,
-                   tr("\"%1\" contains a character that a file cannot hold").arg(excerpt(csv.fields.at(field))));
+                   TableText::tr("\"%1\" contains a character that a file cannot hold")
+                       .arg(excerpt(csv.fields.at(field))));
     }
     FileRow row;
     row.number = csv.number;
@@ -189,7 +184,7 @@ void TableFile::readAction(const CsvRow &csv, FileRow *row)
         row->action = TableAction(action);
     else
         report(csv.number, field,
-               tr("\"%1\" is not an action: add, change, rename, move and remove are").arg(excerpt(word)));
+               TableText::tr("\"%1\" is not an action: add, change, rename, move and remove are").arg(excerpt(word)));
 }
 
 void TableFile::readName(FileRow *row)
@@ -201,10 +196,11 @@ void TableFile::readName(FileRow *row)
         // A tag is enough.
         if (part.isEmpty() && content != Content::Room && row->tag.isEmpty())
             report(row->number, fieldOf(content),
-                   content == Content::Id ? tr("the row has no id") : tr("the row does not say where the element is"));
+                   content == Content::Id ? TableText::tr("the row has no id")
+                                          : TableText::tr("the row does not say where the element is"));
     }
     if (m_kind == TableKind::Rooms && row->name.constLast() == words::Undefined)
-        report(row->number, fieldOf(Content::Id), tr("the room \"Undefined\" cannot be changed"));
+        report(row->number, fieldOf(Content::Id), TableText::tr("the room \"Undefined\" cannot be changed"));
 }
 
 void TableFile::readNewParts(FileRow *row)
@@ -222,11 +218,11 @@ void TableFile::readNewParts(FileRow *row)
     }
     const int field = m_extraFields.value(actionColumn(), 0);
     if (row->action == TableAction::Rename && !isRenamed)
-        report(row->number, field, tr("the row does not give a new_id"));
+        report(row->number, field, TableText::tr("the row does not give a new_id"));
     else if (row->action == TableAction::Move && !isMoved)
-        report(row->number, field, tr("the row does not say where the element is moved to"));
+        report(row->number, field, TableText::tr("the row does not say where the element is moved to"));
     else if ((isRenamed || isMoved) && (row->action == TableAction::Add || row->action == TableAction::Remove))
-        report(row->number, field, tr("an element that is added or removed cannot be renamed or moved"));
+        report(row->number, field, TableText::tr("an element that is added or removed cannot be renamed or moved"));
 }
 
 } // namespace cabledoc

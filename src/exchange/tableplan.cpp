@@ -4,21 +4,15 @@
 #include "messagetext.h"
 #include "planplaces.h"
 #include "tablefile.h"
+#include "tabletext.h"
 #include "tablevalues.h"
 #include "xmlnames.h"
-
-#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 
 namespace cabledoc {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Table", text);
-}
 
 /// Largest number of releases that a job holds.
 constexpr int maximumReleases = 4096;
@@ -28,39 +22,39 @@ QString nounOf(TableKind kind)
 {
     switch (kind) {
     case TableKind::TestDefinitions:
-        return tr("test definition");
+        return TableText::tr("test definition");
     case TableKind::Bundles:
-        return tr("bundle");
+        return TableText::tr("bundle");
     case TableKind::Floors:
-        return tr("floor");
+        return TableText::tr("floor");
     case TableKind::Rooms:
-        return tr("room");
+        return TableText::tr("room");
     case TableKind::Ports:
-        return tr("port");
+        return TableText::tr("port");
     case TableKind::VerticalRuns:
-        return tr("vertical run");
+        return TableText::tr("vertical run");
     case TableKind::Points:
-        return tr("point");
+        return TableText::tr("point");
     case TableKind::FloorTexts:
     case TableKind::SheetTexts:
-        return tr("text");
+        return TableText::tr("text");
     case TableKind::Sheets:
-        return tr("sheet");
+        return TableText::tr("sheet");
     case TableKind::Devices:
-        return tr("device");
+        return TableText::tr("device");
     case TableKind::Bends:
-        return tr("bend");
+        return TableText::tr("bend");
     case TableKind::Connections:
-        return tr("connection");
+        return TableText::tr("connection");
     case TableKind::Cables:
-        return tr("cable");
+        return TableText::tr("cable");
     case TableKind::ActivePorts:
-        return tr("active port");
+        return TableText::tr("active port");
     case TableKind::Releases:
     case TableKind::Count:
         break;
     }
-    return tr("release");
+    return TableText::tr("release");
 }
 
 /// Returns the kinds that have their names in common with a kind.
@@ -266,7 +260,8 @@ void Planner::checkNames()
         if (row.position >= 0) {
             int &rowBefore = rowOfElement[std::size_t(row.position)];
             if (rowBefore > 0) {
-                report(*row.file, idField(), tr("row %1 already is about the %2").arg(rowBefore).arg(named(row.name)));
+                report(*row.file, idField(),
+                       TableText::tr("row %1 already is about the %2").arg(rowBefore).arg(named(row.name)));
                 continue;
             }
             rowBefore = number;
@@ -276,9 +271,10 @@ void Planner::checkNames()
         const auto other = rowOfName.insert({nameText(row.newName), number});
         if (!other.second)
             report(*row.file, idField(),
-                   tr("row %1 already names the %2").arg(other.first->second).arg(named(row.newName)));
+                   TableText::tr("row %1 already names the %2").arg(other.first->second).arg(named(row.newName)));
         else if ((row.position < 0 || row.isMoved()) && isTaken(row.newName, leaving))
-            report(*row.file, idField(), tr("the name \"%1\" is already used").arg(excerpt(nameText(row.newName))));
+            report(*row.file, idField(),
+                   TableText::tr("the name \"%1\" is already used").arg(excerpt(nameText(row.newName))));
     }
 }
 
@@ -302,7 +298,7 @@ void Planner::planRow(const PlannedRow &row)
     const bool isNew = row.position < 0;
     const bool mustExist = row.isMoved() || (file.action && file.action != TableAction::Add);
     if (isNew && mustExist) {
-        report(file, idField(), tr("there is no %1").arg(named(row.name)));
+        report(file, idField(), TableText::tr("there is no %1").arg(named(row.name)));
         return;
     }
     ElementChange change;
@@ -323,19 +319,19 @@ void Planner::planRow(const PlannedRow &row)
     QStringList words = m_values.read(file, row.position, &change);
     if (isNew) {
         addPlace(row, &change);
-        append(row, change, tr("add %1").arg(named(row.name)));
+        append(row, change, TableText::tr("add %1").arg(named(row.name)));
         return;
     }
     if (row.isMoved()) {
         const bool staysInHolder = change.newHolders.isEmpty();
         change.action = staysInHolder ? TableAction::Rename : TableAction::Move;
-        const QString text = staysInHolder ? tr("rename %1 to \"%2\"") : tr("move %1 to \"%2\"");
+        const QString text = staysInHolder ? TableText::tr("rename %1 to \"%2\"") : TableText::tr("move %1 to \"%2\"");
         words.prepend(text.arg(named(row.name), excerpt(nameText(row.newName))));
         append(row, change, words.join(QLatin1String(", ")));
     } else if (!words.isEmpty() && file.action == TableAction::Add) {
-        report(file, idField(), tr("there already is a different %1").arg(named(row.name)));
+        report(file, idField(), TableText::tr("there already is a different %1").arg(named(row.name)));
     } else if (!words.isEmpty()) {
-        append(row, change, tr("change %1: %2").arg(named(row.name), words.join(QLatin1String(", "))));
+        append(row, change, TableText::tr("change %1: %2").arg(named(row.name), words.join(QLatin1String(", "))));
     }
 }
 
@@ -347,10 +343,10 @@ void Planner::planRemoval(const PlannedRow &row)
     change.tag = element.tag;
     change.id = element.id;
     change.holders = tagsOf(holderKind(m_kind), element.holder);
-    QString text = tr("remove %1").arg(named(row.name));
+    QString text = TableText::tr("remove %1").arg(named(row.name));
     const int cables = removedCables(row.position);
     if (cables > 0)
-        text += tr(" with its cables: %1").arg(cables);
+        text += TableText::tr(" with its cables: %1").arg(cables);
     append(row, change, text);
 }
 
@@ -397,7 +393,7 @@ QStringList Planner::holderTags(const PlannedRow &row)
     if (floor >= 0 && name.constLast().isEmpty())
         return QStringList(words::Undefined) + tagsOf(TableKind::Floors, floor);
     report(*row.file, std::max(m_file.fieldOf(nameContents(m_kind).at(name.size() - 1)), 0),
-           tr("there is no %1 \"%2\"").arg(nounOf(kind), excerpt(nameText(name))));
+           TableText::tr("there is no %1 \"%2\"").arg(nounOf(kind), excerpt(nameText(name))));
     return {};
 }
 
@@ -409,19 +405,20 @@ void Planner::checkNewNames(const PlannedRow &row)
     const QString &xmlName = isRelease ? row.name.constLast() : tag;
     if (!xmlName.isEmpty() && !isXmlName(xmlName))
         report(*row.file, isRelease ? idField() : m_file.fieldOf(Content::Tag),
-               tr("\"%1\" cannot be the name of an element").arg(excerpt(xmlName)));
+               TableText::tr("\"%1\" cannot be the name of an element").arg(excerpt(xmlName)));
     if (isRelease && m_job.releases().size() + ++m_newReleases > maximumReleases)
-        report(*row.file, idField(), tr("a job can hold at most %1 releases").arg(maximumReleases));
+        report(*row.file, idField(), TableText::tr("a job can hold at most %1 releases").arg(maximumReleases));
     if (tag.isEmpty())
         return;
     // Cables name ports, vertical runs and points by their tags only, and connections devices and bends.
     for (const TableKind kind :
          {TableKind::Ports, TableKind::VerticalRuns, TableKind::Points, TableKind::Devices, TableKind::Bends, m_kind}) {
         if (m_names.findTag(kind, tag) >= 0)
-            report(*row.file, m_file.fieldOf(Content::Tag), tr("the tag \"%1\" is already used").arg(excerpt(tag)));
+            report(*row.file, m_file.fieldOf(Content::Tag),
+                   TableText::tr("the tag \"%1\" is already used").arg(excerpt(tag)));
     }
     if (row.name.constLast().isEmpty())
-        report(*row.file, idField(), tr("the row has no id"));
+        report(*row.file, idField(), TableText::tr("the row has no id"));
 }
 
 /// Gives a new room or port a place if its row has none.

@@ -5,10 +5,9 @@
 #include "jobwords.h"
 #include "messagetext.h"
 #include "qtcompat.h"
+#include "tabletext.h"
 #include "units.h"
 #include "vocabulary.h"
-
-#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -16,11 +15,6 @@
 namespace cabledoc {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Table", text);
-}
 
 /// Returns "1" or "0" for a flag as people write it, or a null text.
 QString flagText(const QString &text)
@@ -87,14 +81,15 @@ QStringList TableValues::read(const FileRow &row, int position, ElementChange *c
         const Content content = column.column->content;
         if (content == Content::Tag || isName(content) || !isImported(content))
             continue;
-        if (!isEnd(content)) {
+        const AttributeRow *attribute = column.column->attribute;
+        if (!isEnd(content) || attribute == nullptr) {
             readField({row, column, position, TableFile::field(row, column.field),
                        m_reader.text(*column.column, column.unit, position)},
                       change, &words);
-        } else if (!ends.contains(column.column->attribute->name)) {
+        } else if (!ends.contains(attribute->name)) {
             // The columns of one end are read together.
-            ends.append(column.column->attribute->name);
-            readEnd(row, ends.constLast(), position, change, &words);
+            ends.append(attribute->name);
+            readEnd(row, column, position, change, &words);
         }
     }
     return words;
@@ -153,7 +148,7 @@ std::optional<QString> TableValues::attributeText(const Field &field)
     const QString stored = canonicalText(m_kind, *column.attribute, field.text);
     if (stored == field.text)
         return stored;
-    report(field, tr("\"%1\" is not valid here").arg(excerpt(field.text)));
+    report(field, TableText::tr("\"%1\" is not valid here").arg(excerpt(field.text)));
     return std::nullopt;
 }
 
@@ -185,9 +180,10 @@ std::optional<QString> TableValues::readNumber(const Field &field)
         isNumber && std::isfinite(number) && (column.attribute->isValid == nullptr || column.attribute->isValid(exact));
     if (isValid && (isMeasure || !isWhole || isPosition(column.content) || number == std::round(number)))
         return canonicalText(m_kind, *column.attribute, exact);
-    report(field, isWhole && isNumber
-                      ? tr("\"%1\" is not a whole number in the range of this column").arg(excerpt(field.text))
-                      : tr("\"%1\" is not a number in the range of this column").arg(excerpt(field.text)));
+    report(field,
+           isWhole && isNumber
+               ? TableText::tr("\"%1\" is not a whole number in the range of this column").arg(excerpt(field.text))
+               : TableText::tr("\"%1\" is not a number in the range of this column").arg(excerpt(field.text)));
     return std::nullopt;
 }
 
@@ -196,7 +192,7 @@ std::optional<QString> TableValues::readFlag(const Field &field)
 {
     const QString flag = flagText(field.text);
     if (flag.isEmpty() && !field.text.trimmed().isEmpty())
-        report(field, tr("\"%1\" is neither 1 nor 0").arg(excerpt(field.text)));
+        report(field, TableText::tr("\"%1\" is neither 1 nor 0").arg(excerpt(field.text)));
     return flag.isEmpty() ? std::nullopt : std::make_optional(flag);
 }
 
@@ -209,7 +205,7 @@ std::optional<QString> TableValues::readPath(const Field &field)
                                             ? m_names.find({TableKind::Points}, parts)
                                             : m_names.find({TableKind::Ports, TableKind::VerticalRuns}, parts);
         if (!target.exists()) {
-            report(field, tr("there is no point, port or vertical run \"%1\"").arg(excerpt(name)));
+            report(field, TableText::tr("there is no point, port or vertical run \"%1\"").arg(excerpt(name)));
             return std::nullopt;
         }
         tags.append(elementOf(m_job, tableOf(target.kind), target.position).tag);
@@ -223,7 +219,7 @@ std::optional<QStringList> TableValues::readRuns(const Field &field)
     for (const QString &name : namesIn(field.text)) {
         const int run = m_names.find(TableKind::VerticalRuns, partsOfName(name));
         if (run < 0)
-            report(field, tr("there is no vertical run \"%1\"").arg(excerpt(name)));
+            report(field, TableText::tr("there is no vertical run \"%1\"").arg(excerpt(name)));
         else
             tags.append(m_job.verticalRuns().at(run).element);
     }
@@ -236,23 +232,23 @@ std::optional<QStringList> TableValues::readTypes(const Field &field)
     for (const QString &name : namesIn(field.text))
         types.append(partsOfName(name).constFirst());
     if (types.size() > maximumTypesOfBundle)
-        report(field, tr("a bundle can have at most %1 types").arg(maximumTypesOfBundle));
+        report(field, TableText::tr("a bundle can have at most %1 types").arg(maximumTypesOfBundle));
     for (const QString &type : types) {
         if (m_job.definitionOfName(type) < 0)
-            warn(field, tr("there is no test definition \"%1\"").arg(excerpt(type)));
+            warn(field, TableText::tr("there is no test definition \"%1\"").arg(excerpt(type)));
     }
     return types;
 }
 
 /// Reads the columns of one end of a cable, a connection or an active port.
-void TableValues::readEnd(const FileRow &row, const QString &attribute, int position, ElementChange *change,
+void TableValues::readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change,
                           QStringList *words)
 {
+    const QString &attribute = first.column->attribute->name;
     QStringList before;
     QStringList parts;
-    const FileColumn *last = nullptr;
     for (const TableColumn &column : columnsOf(m_kind)) {
-        if (!isEnd(column.content) || column.attribute->name != attribute)
+        if (!isEnd(column.content) || column.attribute != first.column->attribute)
             continue;
         before.append(m_reader.text(column, TableUnit::Pixels, position));
         const FileColumn *inFile = m_file.columnOf(column);
@@ -260,24 +256,32 @@ void TableValues::readEnd(const FileRow &row, const QString &attribute, int posi
         if (column.content == Content::EndRoom && part == words::Undefined)
             part.clear();
         parts.append(part);
-        last = inFile == nullptr ? last : inFile;
     }
     if (parts == before)
         return;
-    const Field field{row, *last, position, nameText(parts), nameText(before)};
+    const Field field{row, placeOfEnd(first.column->attribute), position, nameText(parts), nameText(before)};
     const bool isEmpty = isAllEmpty(parts);
     const snapshot::Target target = isEmpty ? snapshot::Target() : findEnd(parts);
     if (!isEmpty && !target.exists()) {
-        report(field,
-               m_kind == TableKind::Connections ? tr("there is no device or bend \"%1\"").arg(excerpt(field.text))
-               : m_kind == TableKind::Cables    ? tr("there is no port or vertical run \"%1\"").arg(excerpt(field.text))
-                                                : tr("there is no port \"%1\"").arg(excerpt(field.text)));
+        report(field, m_kind == TableKind::Connections
+                          ? TableText::tr("there is no device or bend \"%1\"").arg(excerpt(field.text))
+                      : m_kind == TableKind::Cables
+                          ? TableText::tr("there is no port or vertical run \"%1\"").arg(excerpt(field.text))
+                          : TableText::tr("there is no port \"%1\"").arg(excerpt(field.text)));
         return;
     }
     change->attributes.append(
         {attribute, isEmpty ? QString() : elementOf(m_job, tableOf(target.kind), target.position).tag});
     words->append(
         changeText(attribute, isAllEmpty(before) ? QString() : field.before, isEmpty ? QString() : field.text));
+}
+
+/// Returns the last column of an end that the file has. This is where problems are reported.
+const FileColumn &TableValues::placeOfEnd(const AttributeRow *attribute) const
+{
+    const auto &columns = m_file.columns();
+    return *std::find_if(columns.crbegin(), columns.crend(),
+                         [attribute](const FileColumn &column) { return column.column->attribute == attribute; });
 }
 
 snapshot::Target TableValues::findEnd(const QStringList &parts) const
@@ -301,19 +305,19 @@ void TableValues::checkWord(const Field &field)
     switch (field.column.column->content) {
     case Content::Definition:
         if (m_job.definitionOfName(text) < 0)
-            warn(field, tr("there is no test definition \"%1\"").arg(excerpt(text)));
+            warn(field, TableText::tr("there is no test definition \"%1\"").arg(excerpt(text)));
         break;
     case Content::Bundle:
         if (m_job.bundleOfName(text) < 0)
-            warn(field, tr("there is no bundle \"%1\"").arg(excerpt(text)));
+            warn(field, TableText::tr("there is no bundle \"%1\"").arg(excerpt(text)));
         break;
     case Content::Use:
         if (!isKnownUse(text))
-            warn(field, tr("\"%1\" is not a usual use").arg(excerpt(text)));
+            warn(field, TableText::tr("\"%1\" is not a usual use").arg(excerpt(text)));
         break;
     case Content::Color:
         if (!qtcompat::isColorName(text))
-            warn(field, tr("\"%1\" is not a colour").arg(excerpt(text)));
+            warn(field, TableText::tr("\"%1\" is not a colour").arg(excerpt(text)));
         break;
     default:
         break;

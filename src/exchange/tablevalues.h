@@ -33,7 +33,8 @@ private:
     std::optional<QString> readPath(const Field &field);
     std::optional<QStringList> readRuns(const Field &field);
     std::optional<QStringList> readTypes(const Field &field);
-    void readEnd(const FileRow &row, const QString &attribute, int position, ElementChange *change, QStringList *words);
+    void readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change, QStringList *words);
+    const FileColumn &placeOfEnd(const AttributeRow *attribute) const;
     snapshot::Target findEnd(const QStringList &parts) const;
     void checkWord(const Field &field);
     bool isKnownUse(const QString &use);
