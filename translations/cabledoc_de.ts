@@ -54,6 +54,29 @@
     </message>
 </context>
 <context>
+    <name>CsvText</name>
+    <message>
+        <source>This is a file of a spreadsheet program, not CSV. Save the sheet as CSV, in UTF-8 if there is a choice, and use that file.</source>
+        <translation>Das ist die Datei eines Tabellenprogramms, kein CSV. Speichern Sie das Blatt als CSV, wenn möglich in UTF-8, und verwenden Sie diese Datei.</translation>
+    </message>
+    <message>
+        <source>a quotation mark is missing or is in the wrong place</source>
+        <translation>ein Anführungszeichen fehlt oder steht an falscher Stelle</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-16</source>
+        <translation>der Text ist nicht in UTF-16</translation>
+    </message>
+    <message>
+        <source>the text is not Windows-1252</source>
+        <translation>der Text ist nicht in Windows-1252</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8; try --encoding windows-1252</source>
+        <translation>der Text ist nicht in UTF-8; versuchen Sie --encoding windows-1252</translation>
+    </message>
+</context>
+<context>
     <name>DeviceType</name>
     <message>
         <source>Computer</source>
@@ -184,7 +207,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
-        <translation>&quot;%1&quot;: es gibt kein Gerät und keinen Punkt &quot;%2&quot;</translation>
+        <translation>&quot;%1&quot;: es gibt kein Gerät und keinen Knickpunkt &quot;%2&quot;</translation>
     </message>
     <message>
         <source>text</source>
@@ -428,10 +451,6 @@
         <translation>beide Namen müssen auf &quot;.job&quot; oder beide auf &quot;.bkt&quot; enden</translation>
     </message>
     <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>der Name einer Vorlage muss auf &quot;.bkt&quot; enden</translation>
-    </message>
-    <message>
         <source>Test status</source>
         <translation>Prüfstand</translation>
     </message>
@@ -508,10 +527,6 @@
         <translation>Die Auftrags- oder Vorlagendatei.</translation>
     </message>
     <message>
-        <source>The job file.</source>
-        <translation>Die Auftragsdatei.</translation>
-    </message>
-    <message>
         <source>Print JSON instead of text.</source>
         <translation>JSON statt Text ausgeben.</translation>
     </message>
@@ -520,28 +535,8 @@
         <translation>Die größte Datei, die gelesen wird, etwa 500M; sonst 4G.</translation>
     </message>
     <message>
-        <source>The file to write. An existing file is not replaced.</source>
-        <translation>Die neue Datei. Eine vorhandene wird nicht ersetzt.</translation>
-    </message>
-    <message>
-        <source>The number of floors, from 1 (the default) to 1000.</source>
-        <translation>Die Zahl der Etagen, von 1 (die Vorgabe) bis 1000.</translation>
-    </message>
-    <message>
-        <source>Make a new job file.</source>
-        <translation>Eine neue Auftragsdatei anlegen.</translation>
-    </message>
-    <message>
-        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Sie hat ein Blatt. Eine vorhandene Datei wird nicht ersetzt. Einem Namen ohne &quot;.job&quot; wird es angehängt.</translation>
-    </message>
-    <message>
         <source>Show what a job file holds.</source>
         <translation>Zeigen, was eine Auftragsdatei enthält.</translation>
-    </message>
-    <message>
-        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
-        <translation>Die Etagen und Blätter werden in der Reihenfolge ihrer Tags aufgelistet. Kabel, Verbindungen und aktive Anschlüsse werden gezählt.</translation>
     </message>
     <message>
         <source>Print lengths in metres instead of feet.</source>
@@ -554,14 +549,6 @@
     <message>
         <source>The list shows their ends, the status of their tests and their measured lengths.</source>
         <translation>Die Liste zeigt ihre Enden, den Stand ihrer Prüfung und ihre gemessenen Längen.</translation>
-    </message>
-    <message>
-        <source>Report what is wrong with a file.</source>
-        <translation>Melden, was an einer Datei nicht stimmt.</translation>
-    </message>
-    <message>
-        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
-        <translation>Jeder der ersten 50 Befunde ist eine Zeile; --json gibt alle aus. Die Datei wird nicht geändert.</translation>
     </message>
     <message>
         <source>Convert a file of an earlier version.</source>
@@ -596,20 +583,12 @@
         <translation>Die Vorlage bekommt den Auftragnehmer, die Einstellungen, die Prüfdefinitionen und die Bündel des Auftrags.</translation>
     </message>
     <message>
-        <source>The cable schedule, a CSV file. It is not changed.</source>
-        <translation>Der Kabelplan, eine CSV-Datei. Er wird nicht geändert.</translation>
-    </message>
-    <message>
         <source>Only show what would change.</source>
         <translation>Nur zeigen, was sich ändern würde.</translation>
     </message>
     <message>
         <source>Bring a job up to a cable schedule.</source>
         <translation>Einen Auftrag auf den Stand eines Kabelplans bringen.</translation>
-    </message>
-    <message>
-        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
-        <translation>Etagen, Räume, Anschlüsse und Kabel, die dem Auftrag fehlen, werden ergänzt. Kabel, die abweichen, werden geändert. Wenn der Plan einen Fehler hat, wird der Auftrag nicht geändert. Jeder der ersten 50 Fehler ist eine Zeile; --json gibt alle aus.</translation>
     </message>
     <message>
         <source>Print the cable schedule of a job as CSV.</source>
@@ -706,6 +685,692 @@
     <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>--csv and --json cannot be used together</source>
+        <translation>--csv und --json sind nicht zusammen möglich</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>eine Option &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 ist leer</translation>
+    </message>
+    <message>
+        <source>standard input, &quot;-&quot;, can be read only once</source>
+        <translation>die Standardeingabe, &quot;-&quot;, kann nur einmal gelesen werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not end in &quot;.%2&quot;</source>
+        <translation>&quot;%1&quot; endet nicht auf &quot;.%2&quot;</translation>
+    </message>
+    <message>
+        <source>a file and JSON cannot both be written to standard output</source>
+        <translation>eine Datei und JSON können nicht beide in die Standardausgabe geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the output would replace &quot;%1&quot;, which is read</source>
+        <translation>die Ausgabe würde &quot;%1&quot; ersetzen, das gelesen wird</translation>
+    </message>
+    <message>
+        <source>there is no floor &quot;%1&quot;</source>
+        <translation>es gibt keine Etage &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a floor &quot;%1&quot;</source>
+        <translation>es gibt schon eine Etage &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;</source>
+        <translation>es gibt kein Blatt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a sheet &quot;%1&quot;</source>
+        <translation>es gibt schon ein Blatt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;floor&quot; nor &quot;sheet&quot;</source>
+        <translation>&quot;%1&quot; ist weder &quot;floor&quot; noch &quot;sheet&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a name</source>
+        <translation>&quot;%1&quot; kann kein Name sein</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>es gibt keinen Wert &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--floor and --floors cannot be given together</source>
+        <translation>--floor und --floors sind nicht zusammen möglich</translation>
+    </message>
+    <message>
+        <source>a floor must have a name</source>
+        <translation>eine Etage muss einen Namen haben</translation>
+    </message>
+    <message>
+        <source>there cannot be two floors &quot;%1&quot;</source>
+        <translation>es kann nicht zwei Etagen &quot;%1&quot; geben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Auftragsdatei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>a template has no floors</source>
+        <translation>eine Vorlage hat keine Etagen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not of the form NAME=VALUE</source>
+        <translation>&quot;%1&quot; hat nicht die Form NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>%1 elements have no name of their own and are left out; --tags exports them too</source>
+        <translation>Elemente ohne eigenen Namen, die fehlen: %1; --tags exportiert sie auch</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 changed, %3 renamed, %4 moved, %5 removed
+</source>
+        <translation>ergänzt: %1, geändert: %2, umbenannt: %3, verschoben: %4, entfernt: %5
+</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>without</source>
+        <translation>ohne</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Geschätzt</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Andere Etage</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Bündel</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Längste</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Rollen</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Too long</source>
+        <translation>Zu lang</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Alle Kabel</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Kabel nach Typ</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Kabel nach Nutzung</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Kabel nach Etage</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Kabel nach Bündel</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Kabel nach Prüfstand</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Anschlüsse nach Nutzung</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Bestellung</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>The lengths are estimated from the plan.</source>
+        <translation>Die Längen sind nach dem Plan geschätzt.</translation>
+    </message>
+    <message>
+        <source>They include %1 % spare.</source>
+        <translation>Sie enthalten %1 % Reserve.</translation>
+    </message>
+    <message>
+        <source>The cables of a bundle with the same group number are one run of the bundle.</source>
+        <translation>Die Kabel eines Bündels mit derselben Gruppennummer sind eine Strecke des Bündels.</translation>
+    </message>
+    <message>
+        <source>Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing).</source>
+        <translation>Jede Strecke wird aus einer Rolle geschnitten, ohne Spleiß: die längsten Strecken zuerst, jede aus der ersten Rolle, deren Rest reicht (First-Fit Decreasing).</translation>
+    </message>
+    <message>
+        <source>Lengths are in %1. &quot;without&quot; counts the cables without such a length. The difference is measured minus estimated, for cables that have both.</source>
+        <translation>Längen sind in %1. &quot;ohne&quot; zählt die Kabel ohne eine solche Länge. Die Differenz ist gemessen minus geschätzt, für Kabel mit beiden Längen.</translation>
+    </message>
+    <message>
+        <source>Cables of unknown length, which are not in the order: %1</source>
+        <translation>Kabel unbekannter Länge, die nicht in der Bestellung sind: %1</translation>
+    </message>
+    <message>
+        <source>Cables that are longer than a coil: %1</source>
+        <translation>Kabel, die länger als eine Rolle sind: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a percentage such as 10%</source>
+        <translation>&quot;%1&quot; ist kein Prozentsatz wie 10%</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a coil such as 305m, 1000ft or CAT6=305m</source>
+        <translation>&quot;%1&quot; ist keine Rolle wie 305m, 1000ft oder CAT6=305m</translation>
+    </message>
+    <message>
+        <source>no cable has the type or bundle &quot;%1&quot;</source>
+        <translation>kein Kabel hat den Typ oder das Bündel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port, vertical run or cable &quot;%1&quot;</source>
+        <translation>es gibt keinen Anschluss, keine Steigleitung und kein Kabel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>es gibt kein Kabel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no room &quot;%1&quot;</source>
+        <translation>es gibt keinen Raum &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no network device &quot;%1&quot;</source>
+        <translation>es gibt kein Netzwerkgerät &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>exactly one of PORT or CABLE, --cable, --room and --device is needed</source>
+        <translation>genau eines von PORT oder CABLE, --cable, --room und --device ist nötig</translation>
+    </message>
+    <message>
+        <source>no port</source>
+        <translation>kein Anschluss</translation>
+    </message>
+    <message>
+        <source>missing: %1</source>
+        <translation>fehlt: %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>Punkt %1</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>Anschluss %1</translation>
+    </message>
+    <message>
+        <source>vertical run %1</source>
+        <translation>Steigleitung %1</translation>
+    </message>
+    <message>
+        <source>drop</source>
+        <translation>Deckenabgang</translation>
+    </message>
+    <message>
+        <source>between the floors</source>
+        <translation>zwischen den Etagen</translation>
+    </message>
+    <message>
+        <source>between the floors, without a vertical run</source>
+        <translation>zwischen den Etagen, ohne Steigleitung</translation>
+    </message>
+    <message>
+        <source>straight on</source>
+        <translation>geradeaus</translation>
+    </message>
+    <message>
+        <source>straight on, the floor plan has no scale</source>
+        <translation>geradeaus, der Etagenplan hat keinen Maßstab</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>%1 cables: %2</source>
+        <translation>%1 Kabel: %2</translation>
+    </message>
+    <message>
+        <source>The last cable leads back to the first one.</source>
+        <translation>Das letzte Kabel führt zum ersten zurück.</translation>
+    </message>
+    <message>
+        <source>Cable %1</source>
+        <translation>Kabel %1</translation>
+    </message>
+    <message>
+        <source>(other cables that end here: %1)</source>
+        <translation>(andere Kabel, die hier enden: %1)</translation>
+    </message>
+    <message>
+        <source>No cable: %1</source>
+        <translation>Ohne Kabel: %1</translation>
+    </message>
+    <message>
+        <source>no device</source>
+        <translation>kein Gerät</translation>
+    </message>
+    <message>
+        <source>%1, bend %2</source>
+        <translation>%1, Knickpunkt %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2</source>
+        <translation>%1, Gerät %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2 (%3)</source>
+        <translation>%1, Gerät %2 (%3)</translation>
+    </message>
+    <message>
+        <source>connection %1</source>
+        <translation>Verbindung %1</translation>
+    </message>
+    <message>
+        <source>No connection: %1</source>
+        <translation>Ohne Verbindung: %1</translation>
+    </message>
+    <message>
+        <source>The job file, or &quot;-&quot; for standard input.</source>
+        <translation>Die Auftragsdatei oder &quot;-&quot; für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Print CSV instead of text.</source>
+        <translation>CSV statt Text ausgeben.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
+        <translation>Das Trennzeichen der Felder: comma, semicolon oder tab. Sonst ergibt es sich aus der ersten Zeile.</translation>
+    </message>
+    <message>
+        <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
+        <translation>Die Kodierung der CSV-Datei: UTF-8, UTF-16 oder windows-1252. Sonst ist es UTF-8 oder UTF-16.</translation>
+    </message>
+    <message>
+        <source>Remove the apostrophes that --protect-formulas adds.</source>
+        <translation>Die Apostrophe entfernen, die --protect-formulas einfügt.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma (the default), semicolon or tab.</source>
+        <translation>Das Trennzeichen der Felder: comma (die Vorgabe), semicolon oder tab.</translation>
+    </message>
+    <message>
+        <source>Begin with a byte order mark, which some spreadsheets need to recognise UTF-8.</source>
+        <translation>Mit einer Bytereihenfolge-Markierung beginnen. Manche Tabellenprogramme brauchen sie, um UTF-8 zu erkennen.</translation>
+    </message>
+    <message>
+        <source>Put an apostrophe before fields that a spreadsheet would run as formulas.</source>
+        <translation>Einen Apostroph vor Felder setzen, die ein Tabellenprogramm als Formeln ausführen würde.</translation>
+    </message>
+    <message>
+        <source>Write to this file instead of standard output.</source>
+        <translation>In diese Datei statt in die Standardausgabe schreiben.</translation>
+    </message>
+    <message>
+        <source>Save the changed job as this file, or to standard output if it is &quot;-&quot;. FILE.job stays as it is.</source>
+        <translation>Den geänderten Auftrag als diese Datei speichern, oder bei &quot;-&quot; in die Standardausgabe schreiben. FILE.job bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Replace the file that is written if it exists.</source>
+        <translation>Die Datei, die geschrieben wird, ersetzen, wenn es sie schon gibt.</translation>
+    </message>
+    <message>
+        <source>The file to write, or &quot;-&quot; for standard output.</source>
+        <translation>Die neue Datei oder &quot;-&quot; für die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for a job from standard input.</source>
+        <translation>Die Auftrags- oder Vorlagendatei oder &quot;-&quot; für einen Auftrag aus der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Save the changed file as this one. FILE stays as it is.</source>
+        <translation>Die geänderte Datei als diese speichern. FILE bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>The table: </source>
+        <translation>Die Tabelle: </translation>
+    </message>
+    <message>
+        <source>. Templates have the first two.</source>
+        <translation>. Vorlagen haben die ersten beiden.</translation>
+    </message>
+    <message>
+        <source>The unit of positions and heights: px (pixels, and feet for heights; the default), ft or m. Positions in ft or m need a scale.</source>
+        <translation>Die Einheit der Positionen und Höhen: px (Pixel, und Fuß für Höhen; die Vorgabe), ft oder m. Positionen in ft oder m brauchen einen Maßstab.</translation>
+    </message>
+    <message>
+        <source>The columns to show, separated by commas.</source>
+        <translation>Die Spalten, die gezeigt werden, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>Only show what fulfils the condition: type=CAT6, type!=CAT6, id~PATTERN or id!~PATTERN, where the pattern is a regular expression. Can be given several times.</source>
+        <translation>Nur zeigen, was die Bedingung erfüllt: type=CAT6, type!=CAT6, id~PATTERN oder id!~PATTERN, wobei das Muster ein regulärer Ausdruck ist. Mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>The columns to sort by, separated by commas. A &quot;-&quot; before a name turns its order round.</source>
+        <translation>Die Spalten, nach denen sortiert wird, durch Kommas getrennt. Ein &quot;-&quot; vor einem Namen kehrt die Reihenfolge um.</translation>
+    </message>
+    <message>
+        <source>The name of a floor. This option can be given for each floor.</source>
+        <translation>Der Name einer Etage. Die Option kann für jede Etage angegeben werden.</translation>
+    </message>
+    <message>
+        <source>The number of floors without --floor, from 1 (the default) to 1000.</source>
+        <translation>Die Zahl der Etagen ohne --floor, von 1 (die Vorgabe) bis 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job or template.</source>
+        <translation>Einen neuen Auftrag oder eine neue Vorlage anlegen.</translation>
+    </message>
+    <message>
+        <source>If the name ends in &quot;.bkt&quot;, the file is a template. Otherwise it is a job with one sheet, and &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Wenn der Name auf &quot;.bkt&quot; endet, ist die Datei eine Vorlage. Sonst ist sie ein Auftrag mit einem Blatt, und einem Namen ohne &quot;.job&quot; wird es angehängt.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of the file. Cables, connections and active ports are counted.</source>
+        <translation>Die Etagen und Blätter werden in der Reihenfolge der Datei aufgelistet. Kabel, Verbindungen und aktive Anschlüsse werden gezählt.</translation>
+    </message>
+    <message>
+        <source>The job and template files. One of them may be &quot;-&quot; for standard input.</source>
+        <translation>Die Auftrags- und Vorlagendateien. Eine davon kann &quot;-&quot; für die Standardeingabe sein.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with files.</source>
+        <translation>Melden, was an Dateien nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings in a file is one line; --json prints all of them. The files are not changed. The exit code is that of the worst file.</source>
+        <translation>Jeder der ersten 50 Befunde einer Datei ist eine Zeile; --json gibt alle aus. Die Dateien werden nicht geändert. Der Rückgabewert ist der der schlechtesten Datei.</translation>
+    </message>
+    <message>
+        <source>The values to show, such as contractor.company, site or scale.floor-plan. All values by default.</source>
+        <translation>Die Werte, die gezeigt werden, etwa contractor.company, site oder scale.floor-plan. Sonst alle Werte.</translation>
+    </message>
+    <message>
+        <source>Show single values.</source>
+        <translation>Einzelne Werte zeigen.</translation>
+    </message>
+    <message>
+        <source>There are values of the contractor, the site, the notes, the settings and the pictures of floors. A single value is printed as it is. Several are printed as NAME=VALUE.</source>
+        <translation>Es gibt Werte des Auftragnehmers, des Standorts, der Notizen, der Einstellungen und der Bilder von Etagen. Ein einzelner Wert wird ausgegeben, wie er ist, mehrere als NAME=VALUE.</translation>
+    </message>
+    <message>
+        <source>A name as &quot;get&quot; shows it, and its new value.</source>
+        <translation>Ein Name, wie &quot;get&quot; ihn zeigt, und sein neuer Wert.</translation>
+    </message>
+    <message>
+        <source>Set single values.</source>
+        <translation>Einzelne Werte setzen.</translation>
+    </message>
+    <message>
+        <source>A scale is 1:100, &quot;20 ft&quot; (to the inch of the drawing) or none. A page is the name of a paper size such as A3, &quot;17 x 11&quot; (in inches) or none. If one of the values is wrong, nothing is changed.</source>
+        <translation>Ein Maßstab ist 1:100, &quot;20 ft&quot; (je Zoll der Zeichnung) oder none. Eine Seite ist der Name eines Papierformats wie A3, &quot;17 x 11&quot; (in Zoll) oder none. Wenn einer der Werte falsch ist, wird nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Add a column with the tags, and the elements without a name.</source>
+        <translation>Eine Spalte mit den Tags und die Elemente ohne Namen hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Print a table as CSV.</source>
+        <translation>Eine Tabelle als CSV ausgeben.</translation>
+    </message>
+    <message>
+        <source>&quot;table import&quot; reads it.</source>
+        <translation>&quot;table import&quot; liest sie.</translation>
+    </message>
+    <message>
+        <source>The table, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Die Tabelle, eine CSV-Datei, oder &quot;-&quot; für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Change elements by a table.</source>
+        <translation>Elemente nach einer Tabelle ändern.</translation>
+    </message>
+    <message>
+        <source>Each row names an element by its columns, such as floor, room and id. The column &quot;action&quot; says what happens to it: add, change, rename (to new_id), move (to new_floor, new_room or new_sheet) or remove. Without it, the element is changed, or added if there is none. If the table has a problem, nothing is changed. An import can be repeated: the second one changes nothing.</source>
+        <translation>Jede Zeile nennt ein Element durch Spalten wie floor, room und id. Die Spalte &quot;action&quot; sagt, was mit ihm geschieht: add, change, rename (zu new_id), move (nach new_floor, new_room oder new_sheet) oder remove. Ohne sie wird das Element geändert, oder ergänzt, wenn es noch keines gibt. Wenn die Tabelle einen Fehler hat, wird nichts geändert. Ein Import kann wiederholt werden: Der zweite ändert nichts.</translation>
+    </message>
+    <message>
+        <source>What is copied.</source>
+        <translation>Was kopiert wird.</translation>
+    </message>
+    <message>
+        <source>The floor or sheet.</source>
+        <translation>Die Etage oder das Blatt.</translation>
+    </message>
+    <message>
+        <source>The name of the copy.</source>
+        <translation>Der Name der Kopie.</translation>
+    </message>
+    <message>
+        <source>Copy a floor or sheet.</source>
+        <translation>Eine Etage oder ein Blatt kopieren.</translation>
+    </message>
+    <message>
+        <source>All that is on it is copied. The cables that end on a floor are copied too. The copies are untested and get new names. Ports keep their names. The connections of a sheet are not copied.</source>
+        <translation>Alles darauf wird kopiert, auch die Kabel, die auf einer Etage enden. Die kopierten Kabel sind ungeprüft und bekommen neue Namen. Anschlüsse behalten ihre Namen. Die Verbindungen eines Blattes werden nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>List the elements of a kind.</source>
+        <translation>Die Elemente einer Art auflisten.</translation>
+    </message>
+    <message>
+        <source>The list has the columns of &quot;table export&quot;, and also the number of cables of ports and the status and length of cables. As text, it leaves out empty columns and tags unless --columns asks for them.</source>
+        <translation>Die Liste hat die Spalten von &quot;table export&quot; und dazu die Zahl der Kabel an Anschlüssen und den Stand und die Länge von Kabeln. Als Text lässt sie leere Spalten und Tags weg, außer wenn --columns sie nennt.</translation>
+    </message>
+    <message>
+        <source>The text to look for, in upper or lower case.</source>
+        <translation>Der gesuchte Text, in Groß- oder Kleinbuchstaben.</translation>
+    </message>
+    <message>
+        <source>Find a text in all tables and values.</source>
+        <translation>Einen Text in allen Tabellen und Werten suchen.</translation>
+    </message>
+    <message>
+        <source>Names, texts, types, uses, colours and tags are searched.</source>
+        <translation>Namen, Texte, Typen, Nutzungen, Farben und Tags werden durchsucht.</translation>
+    </message>
+    <message>
+        <source>List the ports without a cable.</source>
+        <translation>Die Anschlüsse ohne Kabel auflisten.</translation>
+    </message>
+    <message>
+        <source>The name of a port, vertical run or cable. If several ports have the name, give ROOM/PORT or FLOOR/ROOM/PORT.</source>
+        <translation>Der Name eines Anschlusses, einer Steigleitung oder eines Kabels. Wenn mehrere Anschlüsse den Namen haben, geben Sie ROOM/PORT oder FLOOR/ROOM/PORT an.</translation>
+    </message>
+    <message>
+        <source>Trace a cable, even if a port has the same name.</source>
+        <translation>Ein Kabel verfolgen, auch wenn ein Anschluss denselben Namen hat.</translation>
+    </message>
+    <message>
+        <source>Trace the cables at all ports of a room, given as ROOM or FLOOR/ROOM.</source>
+        <translation>Die Kabel an allen Anschlüssen eines Raums verfolgen, angegeben als ROOM oder FLOOR/ROOM.</translation>
+    </message>
+    <message>
+        <source>Trace the connections of a network device, given as DEVICE or SHEET/DEVICE.</source>
+        <translation>Die Verbindungen eines Netzwerkgeräts verfolgen, angegeben als DEVICE oder SHEET/DEVICE.</translation>
+    </message>
+    <message>
+        <source>Show the way of cables from end to end.</source>
+        <translation>Den Weg von Kabeln von Ende zu Ende zeigen.</translation>
+    </message>
+    <message>
+        <source>Each part of the way has its length on the plan: the drops at the ends, the straight ways from place to place, and the ways between floors. If a length is unknown, the cable has at least the sum of the others. At a port where exactly two cables end, the way goes on from one to the other. The same holds for a vertical run, unless one of the cables is not connected to it. Where more cables end, the way ends, and the others are counted. For a vertical run, the cables that pass it are traced too.</source>
+        <translation>Jeder Teil des Weges hat seine Länge auf dem Plan: die Deckenabgänge an den Enden, die geraden Wege von Ort zu Ort und die Wege zwischen Etagen. Wenn eine Länge unbekannt ist, hat das Kabel mindestens die Summe der übrigen. An einem Anschluss, an dem genau zwei Kabel enden, geht der Weg vom einen zum anderen weiter. Dasselbe gilt für eine Steigleitung, außer wenn eines der Kabel nicht mit ihr verbunden ist. Wo mehr Kabel enden, endet der Weg, und die anderen werden gezählt. Bei einer Steigleitung werden auch die Kabel verfolgt, die durch sie führen.</translation>
+    </message>
+    <message>
+        <source>Add a percentage to each length of the order, such as 10%.</source>
+        <translation>Zu jeder Länge der Bestellung einen Prozentsatz hinzurechnen, etwa 10%.</translation>
+    </message>
+    <message>
+        <source>The length of the coils, such as 305m or 1000ft, or that of one type or bundle, such as CAT6=305m. It can be given several times.</source>
+        <translation>Die Länge der Rollen, etwa 305m oder 1000ft, oder die für einen Typ oder ein Bündel, etwa CAT6=305m. Mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>Add up cables and what has to be ordered.</source>
+        <translation>Kabel zusammenzählen, und was zu bestellen ist.</translation>
+    </message>
+    <message>
+        <source>The cables are counted by type, use, floor, bundle and test status, with their measured and estimated lengths, and the ports by use. Then follows the order: the estimated length of each type and the number of coils. Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing). A bundle is ordered as such: its cables with the same group number are one run, as long as the longest of them. Cables of unknown length and cables that are longer than a coil are listed apart.</source>
+        <translation>Die Kabel werden nach Typ, Nutzung, Etage, Bündel und Prüfstand gezählt, mit ihren gemessenen und geschätzten Längen, und die Anschlüsse nach Nutzung. Dann folgt die Bestellung: die geschätzte Länge jedes Typs und die Zahl der Rollen. Jede Strecke wird aus einer Rolle geschnitten, ohne Spleiß: die längsten Strecken zuerst, jede aus der ersten Rolle, deren Rest reicht (First-Fit Decreasing). Ein Bündel wird als solches bestellt: Seine Kabel mit derselben Gruppennummer sind eine Strecke, so lang wie das längste von ihnen. Kabel unbekannter Länge und Kabel, die länger als eine Rolle sind, werden getrennt aufgelistet.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Der Kabelplan, eine CSV-Datei, oder &quot;-&quot; für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Types and uses that are not known, and places that lose their last cable, are warned of. Each of the first 50 problems or warnings is one line; --json prints all of them.</source>
+        <translation>Etagen, Räume, Anschlüsse und Kabel, die dem Auftrag fehlen, werden ergänzt. Kabel, die abweichen, werden geändert. Wenn der Plan einen Fehler hat, wird der Auftrag nicht geändert. Vor unbekannten Typen und Nutzungen und vor Orten, die ihr letztes Kabel verlieren, wird gewarnt. Jeder der ersten 50 Fehler oder Warnungen ist eine Zeile; --json gibt alle aus.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for standard input.</source>
+        <translation>Die Auftrags- oder Vorlagendatei oder &quot;-&quot; für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The command, such as &quot;check&quot; or &quot;schedule import&quot;.</source>
+        <translation>Der Befehl, etwa &quot;check&quot; oder &quot;schedule import&quot;.</translation>
+    </message>
+    <message>
+        <source>Without a command, show the help of the program.</source>
+        <translation>Ohne einen Befehl die Hilfe des Programms anzeigen.</translation>
+    </message>
+    <message>
+        <source>Print no messages except errors.</source>
+        <translation>Keine Meldungen außer Fehlern ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the commands with their arguments and options as JSON.</source>
+        <translation>Die Befehle mit ihren Argumenten und Optionen als JSON ausgeben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not comma, semicolon or tab</source>
+        <translation>&quot;%1&quot; ist nicht comma, semicolon oder tab</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not UTF-8, UTF-16 or windows-1252</source>
+        <translation>&quot;%1&quot; ist nicht UTF-8, UTF-16 oder windows-1252</translation>
+    </message>
+    <message>
+        <source>standard input is larger than the limit, which --max-size sets</source>
+        <translation>die Standardeingabe ist größer als die Grenze, die --max-size setzt</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>%1 lesen</translation>
+    </message>
+    <message>
+        <source>standard input cannot be changed, so -o is needed</source>
+        <translation>die Standardeingabe kann nicht geändert werden, deshalb ist -o nötig</translation>
+    </message>
+    <message>
+        <source>saving %1</source>
+        <translation>%1 speichern</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot;; there are %2</source>
+        <translation>eine Spalte &quot;%1&quot; gibt es nicht; es gibt %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a condition such as type=CAT6, type!=CAT6 or id~^A</source>
+        <translation>&quot;%1&quot; ist keine Bedingung wie type=CAT6, type!=CAT6 oder id~^A</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; ist kein regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has several meanings. Use one of these:</source>
+        <translation>&quot;%1&quot; hat mehrere Bedeutungen. Verwenden Sie eine von diesen:</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1; meinten Sie &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>there is no table &quot;%1&quot;; there are %2</source>
+        <translation>eine Tabelle &quot;%1&quot; gibt es nicht; es gibt %2</translation>
+    </message>
+    <message>
+        <source>templates do not have the table &quot;%1&quot;</source>
+        <translation>Vorlagen haben die Tabelle &quot;%1&quot; nicht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
+        <translation>&quot;%1&quot; ist keine Einheit; es gibt px, ft und m</translation>
     </message>
 </context>
 <context>
@@ -861,10 +1526,6 @@
         <translation>%1 hat keine Kabelliste oder keine Etagenliste</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or is in the wrong place</source>
-        <translation>ein Anführungszeichen fehlt oder steht an falscher Stelle</translation>
-    </message>
-    <message>
         <source>the column &quot;%1&quot; is missing</source>
         <translation>die Spalte &quot;%1&quot; fehlt</translation>
     </message>
@@ -883,10 +1544,6 @@
     <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; ist keine Farbe</translation>
-    </message>
-    <message>
-        <source>the text is not UTF-8</source>
-        <translation>der Text ist nicht in UTF-8</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
@@ -908,12 +1565,39 @@
         <source>the end has a port, but no floor</source>
         <translation>das Ende hat einen Anschluss, aber keine Etage</translation>
     </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>es gibt keine Prüfdefinition &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>unbekannte Nutzung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>no cable ends in &quot;%1&quot; any more</source>
+        <translation>in &quot;%1&quot; endet kein Kabel mehr</translation>
+    </message>
+    <message>
+        <source>no cable ends at &quot;%1&quot; any more</source>
+        <translation>an &quot;%1&quot; endet kein Kabel mehr</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
     <message>
         <source>Network</source>
         <translation>Netzwerk</translation>
+    </message>
+</context>
+<context>
+    <name>Table</name>
+    <message>
+        <source>the sheets have no scale for feet or metres</source>
+        <translation>die Blätter haben keinen Maßstab für Fuß oder Meter</translation>
+    </message>
+    <message>
+        <source>the floor plans have no scale for feet or metres</source>
+        <translation>die Etagenpläne haben keinen Maßstab für Fuß oder Meter</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1800,277 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie wird nicht ersetzt.</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; ist weder ein Maßstab wie 1:100 oder &quot;20 ft&quot; (je Zoll) noch &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; ist weder eine Seite wie A3 oder &quot;17 x 11&quot; (in Zoll) noch &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; ist kein Papierformat; es gibt %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; ist keine Zahl, die %2 haben kann</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>Prüfdefinition</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>Bündel</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>Raum</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>Steigleitung</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>Knickpunkt</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>Aktivanschluss</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>Ausgabe</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::Planner</name>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>um dieses Element geht es schon in Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>diesen Namen vergibt schon Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>der Name &quot;%1&quot; ist schon vergeben</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>%1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>%1 ergänzen</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>%1 umbenennen in &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>%1 verschieben nach &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>%1 gibt es schon, mit anderen Werten</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>%1 ändern: %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> samt Kabeln: %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>%1 &quot;%2&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; kann nicht der Name eines Elements sein</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>ein Auftrag enthält höchstens %1 Ausgaben</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>das Tag &quot;%1&quot; ist schon vergeben</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>die Zeile hat keine ID</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableFile</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>die Spalte &quot;%1&quot; fehlt</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>die Zeile hat mehr Felder als die Überschrift</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; ist keine Aktion; es gibt add, change, rename, move und remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>die Zeile hat keine ID</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>die Zeile sagt nicht, wo das Element ist</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>der Raum &quot;Undefined&quot; kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>die Zeile gibt keine new_id an</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>die Zeile sagt nicht, wohin das Element verschoben wird</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>ein Element, das ergänzt oder entfernt wird, kann nicht umbenannt oder verschoben werden</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableValues</name>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; ist hier nicht gültig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; ist keine ganze Zahl im Bereich dieser Spalte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; ist keine Zahl im Bereich dieser Spalte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; ist weder 1 noch 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>es gibt keinen Punkt, keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>es gibt keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>ein Bündel kann höchstens %1 Typen haben</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>es gibt keine Prüfdefinition &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>es gibt kein Gerät und keinen Knickpunkt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>es gibt keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>es gibt keinen Anschluss &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>es gibt kein Bündel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; ist keine übliche Nutzung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; ist keine Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::ValueSetter</name>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>es gibt keinen Wert &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; ist keine ganze Zahl</translation>
     </message>
 </context>
 </TS>

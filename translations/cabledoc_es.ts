@@ -54,6 +54,29 @@
     </message>
 </context>
 <context>
+    <name>CsvText</name>
+    <message>
+        <source>This is a file of a spreadsheet program, not CSV. Save the sheet as CSV, in UTF-8 if there is a choice, and use that file.</source>
+        <translation>Es un archivo de una hoja de cálculo, no CSV. Guarde la hoja como CSV, en UTF-8 si se puede elegir, y use ese archivo.</translation>
+    </message>
+    <message>
+        <source>a quotation mark is missing or is in the wrong place</source>
+        <translation>una comilla falta o está en un lugar equivocado</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-16</source>
+        <translation>el texto no está en UTF-16</translation>
+    </message>
+    <message>
+        <source>the text is not Windows-1252</source>
+        <translation>el texto no está en Windows-1252</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8; try --encoding windows-1252</source>
+        <translation>el texto no está en UTF-8; pruebe con --encoding windows-1252</translation>
+    </message>
+</context>
+<context>
     <name>DeviceType</name>
     <message>
         <source>Computer</source>
@@ -184,7 +207,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
-        <translation>&quot;%1&quot;: no hay ningún dispositivo ni punto &quot;%2&quot;</translation>
+        <translation>&quot;%1&quot;: no hay ningún dispositivo ni codo &quot;%2&quot;</translation>
     </message>
     <message>
         <source>text</source>
@@ -428,10 +451,6 @@
         <translation>los dos nombres deben terminar en &quot;.job&quot;, o los dos en &quot;.bkt&quot;</translation>
     </message>
     <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>el nombre de una plantilla debe terminar en &quot;.bkt&quot;</translation>
-    </message>
-    <message>
         <source>Test status</source>
         <translation>Estado de prueba</translation>
     </message>
@@ -508,10 +527,6 @@
         <translation>El archivo de trabajo o de plantilla.</translation>
     </message>
     <message>
-        <source>The job file.</source>
-        <translation>El archivo de trabajo.</translation>
-    </message>
-    <message>
         <source>Print JSON instead of text.</source>
         <translation>Mostrar JSON en lugar de texto.</translation>
     </message>
@@ -520,28 +535,8 @@
         <translation>El mayor archivo que se lee, como 500M; si no, 4G.</translation>
     </message>
     <message>
-        <source>The file to write. An existing file is not replaced.</source>
-        <translation>El archivo nuevo. Uno existente no se reemplaza.</translation>
-    </message>
-    <message>
-        <source>The number of floors, from 1 (the default) to 1000.</source>
-        <translation>El número de plantas, de 1 (el valor por defecto) a 1000.</translation>
-    </message>
-    <message>
-        <source>Make a new job file.</source>
-        <translation>Crear un archivo de trabajo.</translation>
-    </message>
-    <message>
-        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Tiene una hoja. Un archivo existente no se reemplaza. A un nombre sin &quot;.job&quot; se le añade.</translation>
-    </message>
-    <message>
         <source>Show what a job file holds.</source>
         <translation>Mostrar lo que contiene un trabajo.</translation>
-    </message>
-    <message>
-        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
-        <translation>Las plantas y hojas se listan en el orden de sus etiquetas. Los cables, las conexiones y las tomas activas se cuentan.</translation>
     </message>
     <message>
         <source>Print lengths in metres instead of feet.</source>
@@ -554,14 +549,6 @@
     <message>
         <source>The list shows their ends, the status of their tests and their measured lengths.</source>
         <translation>La lista muestra sus extremos, el estado de sus pruebas y sus longitudes medidas.</translation>
-    </message>
-    <message>
-        <source>Report what is wrong with a file.</source>
-        <translation>Señalar lo que está mal en un archivo.</translation>
-    </message>
-    <message>
-        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
-        <translation>Cada uno de los primeros 50 hallazgos es una línea; --json los muestra todos. El archivo no se modifica.</translation>
     </message>
     <message>
         <source>Convert a file of an earlier version.</source>
@@ -596,20 +583,12 @@
         <translation>La plantilla recibe el contratista, los ajustes, las definiciones de prueba y los haces del trabajo.</translation>
     </message>
     <message>
-        <source>The cable schedule, a CSV file. It is not changed.</source>
-        <translation>El plan de cableado, un archivo CSV. No se modifica.</translation>
-    </message>
-    <message>
         <source>Only show what would change.</source>
         <translation>Mostrar solo lo que cambiaría.</translation>
     </message>
     <message>
         <source>Bring a job up to a cable schedule.</source>
         <translation>Poner un trabajo al día con un plan de cableado.</translation>
-    </message>
-    <message>
-        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
-        <translation>Las plantas, salas, tomas y cables que le faltan al trabajo se añaden. Los cables que difieren se cambian. Si el plan tiene un problema, el trabajo no se cambia. Cada uno de los primeros 50 problemas es una línea; --json los muestra todos.</translation>
     </message>
     <message>
         <source>Print the cable schedule of a job as CSV.</source>
@@ -706,6 +685,692 @@
     <message>
         <source>and %1 more</source>
         <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>--csv and --json cannot be used together</source>
+        <translation>--csv y --json no se pueden usar juntos</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>no hay ninguna opción &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 está vacío</translation>
+    </message>
+    <message>
+        <source>standard input, &quot;-&quot;, can be read only once</source>
+        <translation>la entrada estándar, &quot;-&quot;, solo se puede leer una vez</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not end in &quot;.%2&quot;</source>
+        <translation>&quot;%1&quot; no termina en &quot;.%2&quot;</translation>
+    </message>
+    <message>
+        <source>a file and JSON cannot both be written to standard output</source>
+        <translation>no se pueden escribir un archivo y JSON a la vez en la salida estándar</translation>
+    </message>
+    <message>
+        <source>the output would replace &quot;%1&quot;, which is read</source>
+        <translation>la salida reemplazaría &quot;%1&quot;, que se lee</translation>
+    </message>
+    <message>
+        <source>there is no floor &quot;%1&quot;</source>
+        <translation>no hay ninguna planta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a floor &quot;%1&quot;</source>
+        <translation>ya hay una planta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;</source>
+        <translation>no hay ninguna hoja &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a sheet &quot;%1&quot;</source>
+        <translation>ya hay una hoja &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;floor&quot; nor &quot;sheet&quot;</source>
+        <translation>&quot;%1&quot; no es ni &quot;floor&quot; ni &quot;sheet&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a name</source>
+        <translation>&quot;%1&quot; no puede ser un nombre</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Columna</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>no hay ningún valor &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--floor and --floors cannot be given together</source>
+        <translation>--floor y --floors no se pueden usar juntos</translation>
+    </message>
+    <message>
+        <source>a floor must have a name</source>
+        <translation>una planta debe tener un nombre</translation>
+    </message>
+    <message>
+        <source>there cannot be two floors &quot;%1&quot;</source>
+        <translation>no puede haber dos plantas &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
+        <translation>&quot;%1&quot; tiene un carácter que un archivo de trabajo no puede contener</translation>
+    </message>
+    <message>
+        <source>a template has no floors</source>
+        <translation>una plantilla no tiene plantas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not of the form NAME=VALUE</source>
+        <translation>&quot;%1&quot; no tiene la forma NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>%1 elements have no name of their own and are left out; --tags exports them too</source>
+        <translation>elementos sin nombre propio que se omiten: %1; --tags también los exporta</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 changed, %3 renamed, %4 moved, %5 removed
+</source>
+        <translation>añadidos: %1, cambiados: %2, renombrados: %3, movidos: %4, eliminados: %5
+</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Medida</translation>
+    </message>
+    <message>
+        <source>without</source>
+        <translation>sin</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Estimada</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Otra planta</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Haz</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Tiradas</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Más larga</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Bobina</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Bobinas</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Resto</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocidos</translation>
+    </message>
+    <message>
+        <source>Too long</source>
+        <translation>Demasiado largos</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Todos los cables</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Cables por tipo</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Cables por uso</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Cables por planta</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Cables por haz</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Cables por estado de prueba</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Tomas por uso</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Pedido</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>The lengths are estimated from the plan.</source>
+        <translation>Las longitudes se estiman a partir del plano.</translation>
+    </message>
+    <message>
+        <source>They include %1 % spare.</source>
+        <translation>Incluyen un %1 % de reserva.</translation>
+    </message>
+    <message>
+        <source>The cables of a bundle with the same group number are one run of the bundle.</source>
+        <translation>Los cables de un haz con el mismo número de grupo son una tirada del haz.</translation>
+    </message>
+    <message>
+        <source>Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing).</source>
+        <translation>Cada tirada se corta de una sola bobina, sin empalme: primero las más largas, cada una de la primera bobina en la que queda suficiente (first-fit decreasing).</translation>
+    </message>
+    <message>
+        <source>Lengths are in %1. &quot;without&quot; counts the cables without such a length. The difference is measured minus estimated, for cables that have both.</source>
+        <translation>Las longitudes están en %1. &quot;sin&quot; cuenta los cables sin esa longitud. La diferencia es medida menos estimada, para los cables que tienen ambas.</translation>
+    </message>
+    <message>
+        <source>Cables of unknown length, which are not in the order: %1</source>
+        <translation>Cables de longitud desconocida, que no están en el pedido: %1</translation>
+    </message>
+    <message>
+        <source>Cables that are longer than a coil: %1</source>
+        <translation>Cables más largos que una bobina: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a percentage such as 10%</source>
+        <translation>&quot;%1&quot; no es un porcentaje como 10%</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a coil such as 305m, 1000ft or CAT6=305m</source>
+        <translation>&quot;%1&quot; no es una bobina como 305m, 1000ft o CAT6=305m</translation>
+    </message>
+    <message>
+        <source>no cable has the type or bundle &quot;%1&quot;</source>
+        <translation>ningún cable tiene el tipo o el haz &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port, vertical run or cable &quot;%1&quot;</source>
+        <translation>no hay ninguna toma, montante ni cable &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>no hay ningún cable &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no room &quot;%1&quot;</source>
+        <translation>no hay ninguna sala &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no network device &quot;%1&quot;</source>
+        <translation>no hay ningún dispositivo de red &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>exactly one of PORT or CABLE, --cable, --room and --device is needed</source>
+        <translation>hace falta exactamente uno de PORT o CABLE, --cable, --room y --device</translation>
+    </message>
+    <message>
+        <source>no port</source>
+        <translation>ninguna toma</translation>
+    </message>
+    <message>
+        <source>missing: %1</source>
+        <translation>falta: %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>punto %1</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>toma %1</translation>
+    </message>
+    <message>
+        <source>vertical run %1</source>
+        <translation>montante %1</translation>
+    </message>
+    <message>
+        <source>drop</source>
+        <translation>bajada</translation>
+    </message>
+    <message>
+        <source>between the floors</source>
+        <translation>entre las plantas</translation>
+    </message>
+    <message>
+        <source>between the floors, without a vertical run</source>
+        <translation>entre las plantas, sin montante</translation>
+    </message>
+    <message>
+        <source>straight on</source>
+        <translation>en línea recta</translation>
+    </message>
+    <message>
+        <source>straight on, the floor plan has no scale</source>
+        <translation>en línea recta, el plano de planta no tiene escala</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>al menos %1</translation>
+    </message>
+    <message>
+        <source>%1 cables: %2</source>
+        <translation>%1 cables: %2</translation>
+    </message>
+    <message>
+        <source>The last cable leads back to the first one.</source>
+        <translation>El último cable vuelve al primero.</translation>
+    </message>
+    <message>
+        <source>Cable %1</source>
+        <translation>Cable %1</translation>
+    </message>
+    <message>
+        <source>(other cables that end here: %1)</source>
+        <translation>(otros cables que terminan aquí: %1)</translation>
+    </message>
+    <message>
+        <source>No cable: %1</source>
+        <translation>Sin cable: %1</translation>
+    </message>
+    <message>
+        <source>no device</source>
+        <translation>ningún dispositivo</translation>
+    </message>
+    <message>
+        <source>%1, bend %2</source>
+        <translation>%1, codo %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2</source>
+        <translation>%1, dispositivo %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2 (%3)</source>
+        <translation>%1, dispositivo %2 (%3)</translation>
+    </message>
+    <message>
+        <source>connection %1</source>
+        <translation>conexión %1</translation>
+    </message>
+    <message>
+        <source>No connection: %1</source>
+        <translation>Sin conexión: %1</translation>
+    </message>
+    <message>
+        <source>The job file, or &quot;-&quot; for standard input.</source>
+        <translation>El archivo de trabajo, o &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Print CSV instead of text.</source>
+        <translation>Mostrar CSV en lugar de texto.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
+        <translation>El separador de los campos: comma, semicolon o tab. Si no, lo determina la primera fila.</translation>
+    </message>
+    <message>
+        <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
+        <translation>La codificación del archivo CSV: UTF-8, UTF-16 o windows-1252. Si no, es UTF-8 o UTF-16.</translation>
+    </message>
+    <message>
+        <source>Remove the apostrophes that --protect-formulas adds.</source>
+        <translation>Quitar los apóstrofos que añade --protect-formulas.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma (the default), semicolon or tab.</source>
+        <translation>El separador de los campos: comma (el valor por defecto), semicolon o tab.</translation>
+    </message>
+    <message>
+        <source>Begin with a byte order mark, which some spreadsheets need to recognise UTF-8.</source>
+        <translation>Empezar con una marca de orden de bytes, que algunas hojas de cálculo necesitan para reconocer UTF-8.</translation>
+    </message>
+    <message>
+        <source>Put an apostrophe before fields that a spreadsheet would run as formulas.</source>
+        <translation>Poner un apóstrofo delante de los campos que una hoja de cálculo ejecutaría como fórmulas.</translation>
+    </message>
+    <message>
+        <source>Write to this file instead of standard output.</source>
+        <translation>Escribir en este archivo en lugar de la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Save the changed job as this file, or to standard output if it is &quot;-&quot;. FILE.job stays as it is.</source>
+        <translation>Guardar el trabajo cambiado como este archivo, o en la salida estándar si es &quot;-&quot;. FILE.job queda como está.</translation>
+    </message>
+    <message>
+        <source>Replace the file that is written if it exists.</source>
+        <translation>Reemplazar el archivo que se escribe si ya existe.</translation>
+    </message>
+    <message>
+        <source>The file to write, or &quot;-&quot; for standard output.</source>
+        <translation>El archivo nuevo, o &quot;-&quot; para la salida estándar.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for a job from standard input.</source>
+        <translation>El archivo de trabajo o de plantilla, o &quot;-&quot; para un trabajo de la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Save the changed file as this one. FILE stays as it is.</source>
+        <translation>Guardar el archivo cambiado como este. FILE queda como está.</translation>
+    </message>
+    <message>
+        <source>The table: </source>
+        <translation>La tabla: </translation>
+    </message>
+    <message>
+        <source>. Templates have the first two.</source>
+        <translation>. Las plantillas tienen las dos primeras.</translation>
+    </message>
+    <message>
+        <source>The unit of positions and heights: px (pixels, and feet for heights; the default), ft or m. Positions in ft or m need a scale.</source>
+        <translation>La unidad de posiciones y alturas: px (píxeles, y pies para las alturas; el valor por defecto), ft o m. Las posiciones en ft o m necesitan una escala.</translation>
+    </message>
+    <message>
+        <source>The columns to show, separated by commas.</source>
+        <translation>Las columnas que se muestran, separadas por comas.</translation>
+    </message>
+    <message>
+        <source>Only show what fulfils the condition: type=CAT6, type!=CAT6, id~PATTERN or id!~PATTERN, where the pattern is a regular expression. Can be given several times.</source>
+        <translation>Mostrar solo lo que cumple la condición: type=CAT6, type!=CAT6, id~PATTERN o id!~PATTERN, donde el patrón es una expresión regular. Se puede dar varias veces.</translation>
+    </message>
+    <message>
+        <source>The columns to sort by, separated by commas. A &quot;-&quot; before a name turns its order round.</source>
+        <translation>Las columnas por las que se ordena, separadas por comas. Un &quot;-&quot; delante de un nombre invierte su orden.</translation>
+    </message>
+    <message>
+        <source>The name of a floor. This option can be given for each floor.</source>
+        <translation>El nombre de una planta. Esta opción se puede dar para cada planta.</translation>
+    </message>
+    <message>
+        <source>The number of floors without --floor, from 1 (the default) to 1000.</source>
+        <translation>El número de plantas sin --floor, de 1 (el valor por defecto) a 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job or template.</source>
+        <translation>Crear un trabajo o una plantilla.</translation>
+    </message>
+    <message>
+        <source>If the name ends in &quot;.bkt&quot;, the file is a template. Otherwise it is a job with one sheet, and &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Si el nombre termina en &quot;.bkt&quot;, el archivo es una plantilla. Si no, es un trabajo con una hoja, y a un nombre sin &quot;.job&quot; se le añade.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of the file. Cables, connections and active ports are counted.</source>
+        <translation>Las plantas y hojas se listan en el orden del archivo. Los cables, las conexiones y las tomas activas se cuentan.</translation>
+    </message>
+    <message>
+        <source>The job and template files. One of them may be &quot;-&quot; for standard input.</source>
+        <translation>Los archivos de trabajo y de plantilla. Uno de ellos puede ser &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with files.</source>
+        <translation>Señalar lo que está mal en archivos.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings in a file is one line; --json prints all of them. The files are not changed. The exit code is that of the worst file.</source>
+        <translation>Cada uno de los primeros 50 hallazgos de un archivo es una línea; --json los muestra todos. Los archivos no se modifican. El código de salida es el del peor archivo.</translation>
+    </message>
+    <message>
+        <source>The values to show, such as contractor.company, site or scale.floor-plan. All values by default.</source>
+        <translation>Los valores que se muestran, como contractor.company, site o scale.floor-plan. Si no, todos.</translation>
+    </message>
+    <message>
+        <source>Show single values.</source>
+        <translation>Mostrar valores sueltos.</translation>
+    </message>
+    <message>
+        <source>There are values of the contractor, the site, the notes, the settings and the pictures of floors. A single value is printed as it is. Several are printed as NAME=VALUE.</source>
+        <translation>Hay valores del contratista, del emplazamiento, de las notas, de los ajustes y de las imágenes de plantas. Un solo valor se muestra tal cual. Varios se muestran como NAME=VALUE.</translation>
+    </message>
+    <message>
+        <source>A name as &quot;get&quot; shows it, and its new value.</source>
+        <translation>Un nombre como lo muestra &quot;get&quot;, y su nuevo valor.</translation>
+    </message>
+    <message>
+        <source>Set single values.</source>
+        <translation>Fijar valores sueltos.</translation>
+    </message>
+    <message>
+        <source>A scale is 1:100, &quot;20 ft&quot; (to the inch of the drawing) or none. A page is the name of a paper size such as A3, &quot;17 x 11&quot; (in inches) or none. If one of the values is wrong, nothing is changed.</source>
+        <translation>Una escala es 1:100, &quot;20 ft&quot; (por pulgada del dibujo) o none. Una página es el nombre de un tamaño de papel como A3, &quot;17 x 11&quot; (en pulgadas) o none. Si uno de los valores es incorrecto, no se cambia nada.</translation>
+    </message>
+    <message>
+        <source>Add a column with the tags, and the elements without a name.</source>
+        <translation>Añadir una columna con las etiquetas, y los elementos sin nombre.</translation>
+    </message>
+    <message>
+        <source>Print a table as CSV.</source>
+        <translation>Mostrar una tabla como CSV.</translation>
+    </message>
+    <message>
+        <source>&quot;table import&quot; reads it.</source>
+        <translation>&quot;table import&quot; la lee.</translation>
+    </message>
+    <message>
+        <source>The table, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>La tabla, un archivo CSV, o &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Change elements by a table.</source>
+        <translation>Cambiar elementos según una tabla.</translation>
+    </message>
+    <message>
+        <source>Each row names an element by its columns, such as floor, room and id. The column &quot;action&quot; says what happens to it: add, change, rename (to new_id), move (to new_floor, new_room or new_sheet) or remove. Without it, the element is changed, or added if there is none. If the table has a problem, nothing is changed. An import can be repeated: the second one changes nothing.</source>
+        <translation>Cada fila nombra un elemento con columnas como floor, room e id. La columna &quot;action&quot; dice qué se hace con él: add, change, rename (a new_id), move (a new_floor, new_room o new_sheet) o remove. Sin ella, el elemento se cambia, o se añade si no existe. Si la tabla tiene un problema, no se cambia nada. Una importación se puede repetir: la segunda no cambia nada.</translation>
+    </message>
+    <message>
+        <source>What is copied.</source>
+        <translation>Lo que se copia.</translation>
+    </message>
+    <message>
+        <source>The floor or sheet.</source>
+        <translation>La planta o la hoja.</translation>
+    </message>
+    <message>
+        <source>The name of the copy.</source>
+        <translation>El nombre de la copia.</translation>
+    </message>
+    <message>
+        <source>Copy a floor or sheet.</source>
+        <translation>Copiar una planta o una hoja.</translation>
+    </message>
+    <message>
+        <source>All that is on it is copied. The cables that end on a floor are copied too. The copies are untested and get new names. Ports keep their names. The connections of a sheet are not copied.</source>
+        <translation>Se copia todo lo que contiene. También se copian los cables que terminan en una planta. Sus copias están sin probar y reciben nombres nuevos. Las tomas conservan sus nombres. Las conexiones de una hoja no se copian.</translation>
+    </message>
+    <message>
+        <source>List the elements of a kind.</source>
+        <translation>Mostrar los elementos de una clase.</translation>
+    </message>
+    <message>
+        <source>The list has the columns of &quot;table export&quot;, and also the number of cables of ports and the status and length of cables. As text, it leaves out empty columns and tags unless --columns asks for them.</source>
+        <translation>La lista tiene las columnas de &quot;table export&quot;, y además el número de cables de las tomas y el estado y la longitud de los cables. Como texto, omite las columnas vacías y las etiquetas si --columns no las pide.</translation>
+    </message>
+    <message>
+        <source>The text to look for, in upper or lower case.</source>
+        <translation>El texto que se busca, en mayúsculas o minúsculas.</translation>
+    </message>
+    <message>
+        <source>Find a text in all tables and values.</source>
+        <translation>Buscar un texto en todas las tablas y valores.</translation>
+    </message>
+    <message>
+        <source>Names, texts, types, uses, colours and tags are searched.</source>
+        <translation>Se buscan nombres, textos, tipos, usos, colores y etiquetas.</translation>
+    </message>
+    <message>
+        <source>List the ports without a cable.</source>
+        <translation>Mostrar las tomas sin cable.</translation>
+    </message>
+    <message>
+        <source>The name of a port, vertical run or cable. If several ports have the name, give ROOM/PORT or FLOOR/ROOM/PORT.</source>
+        <translation>El nombre de una toma, un montante o un cable. Si varias tomas tienen el nombre, indique ROOM/PORT o FLOOR/ROOM/PORT.</translation>
+    </message>
+    <message>
+        <source>Trace a cable, even if a port has the same name.</source>
+        <translation>Seguir un cable, aunque una toma tenga el mismo nombre.</translation>
+    </message>
+    <message>
+        <source>Trace the cables at all ports of a room, given as ROOM or FLOOR/ROOM.</source>
+        <translation>Seguir los cables de todas las tomas de una sala, dada como ROOM o FLOOR/ROOM.</translation>
+    </message>
+    <message>
+        <source>Trace the connections of a network device, given as DEVICE or SHEET/DEVICE.</source>
+        <translation>Seguir las conexiones de un dispositivo de red, dado como DEVICE o SHEET/DEVICE.</translation>
+    </message>
+    <message>
+        <source>Show the way of cables from end to end.</source>
+        <translation>Mostrar el recorrido de cables de extremo a extremo.</translation>
+    </message>
+    <message>
+        <source>Each part of the way has its length on the plan: the drops at the ends, the straight ways from place to place, and the ways between floors. If a length is unknown, the cable has at least the sum of the others. At a port where exactly two cables end, the way goes on from one to the other. The same holds for a vertical run, unless one of the cables is not connected to it. Where more cables end, the way ends, and the others are counted. For a vertical run, the cables that pass it are traced too.</source>
+        <translation>Cada parte del recorrido tiene su longitud en el plano: las bajadas en los extremos, los tramos rectos de un lugar a otro y los tramos entre plantas. Si una longitud es desconocida, el cable tiene al menos la suma de las demás. En una toma donde terminan exactamente dos cables, el recorrido sigue de uno al otro. Lo mismo vale para un montante, salvo que uno de los cables no esté conectado a él. Donde terminan más cables, el recorrido termina y los demás se cuentan. En un montante, también se siguen los cables que pasan por él.</translation>
+    </message>
+    <message>
+        <source>Add a percentage to each length of the order, such as 10%.</source>
+        <translation>Sumar un porcentaje a cada longitud del pedido, como 10%.</translation>
+    </message>
+    <message>
+        <source>The length of the coils, such as 305m or 1000ft, or that of one type or bundle, such as CAT6=305m. It can be given several times.</source>
+        <translation>La longitud de las bobinas, como 305m o 1000ft, o la de un tipo o un haz, como CAT6=305m. Se puede dar varias veces.</translation>
+    </message>
+    <message>
+        <source>Add up cables and what has to be ordered.</source>
+        <translation>Sumar los cables y lo que hay que pedir.</translation>
+    </message>
+    <message>
+        <source>The cables are counted by type, use, floor, bundle and test status, with their measured and estimated lengths, and the ports by use. Then follows the order: the estimated length of each type and the number of coils. Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing). A bundle is ordered as such: its cables with the same group number are one run, as long as the longest of them. Cables of unknown length and cables that are longer than a coil are listed apart.</source>
+        <translation>Los cables se cuentan por tipo, uso, planta, haz y estado de prueba, con sus longitudes medidas y estimadas, y las tomas por uso. Después viene el pedido: la longitud estimada de cada tipo y el número de bobinas. Cada tirada se corta de una sola bobina, sin empalme: primero las más largas, cada una de la primera bobina en la que queda suficiente (first-fit decreasing). Un haz se pide como tal: sus cables con el mismo número de grupo son una tirada, tan larga como el más largo de ellos. Los cables de longitud desconocida y los que son más largos que una bobina se listan aparte.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>El plan de cableado, un archivo CSV, o &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Types and uses that are not known, and places that lose their last cable, are warned of. Each of the first 50 problems or warnings is one line; --json prints all of them.</source>
+        <translation>Las plantas, salas, tomas y cables que le faltan al trabajo se añaden. Los cables que difieren se cambian. Si el plan tiene un problema, el trabajo no se cambia. Se advierte de los tipos y usos desconocidos y de los lugares que pierden su último cable. Cada uno de los primeros 50 problemas o advertencias es una línea; --json los muestra todos.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for standard input.</source>
+        <translation>El archivo de trabajo o de plantilla, o &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>The command, such as &quot;check&quot; or &quot;schedule import&quot;.</source>
+        <translation>La orden, como &quot;check&quot; o &quot;schedule import&quot;.</translation>
+    </message>
+    <message>
+        <source>Without a command, show the help of the program.</source>
+        <translation>Sin una orden, mostrar la ayuda del programa.</translation>
+    </message>
+    <message>
+        <source>Print no messages except errors.</source>
+        <translation>No mostrar ningún mensaje salvo los errores.</translation>
+    </message>
+    <message>
+        <source>Print the commands with their arguments and options as JSON.</source>
+        <translation>Mostrar las órdenes con sus argumentos y opciones como JSON.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not comma, semicolon or tab</source>
+        <translation>&quot;%1&quot; no es comma, semicolon ni tab</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not UTF-8, UTF-16 or windows-1252</source>
+        <translation>&quot;%1&quot; no es UTF-8, UTF-16 ni windows-1252</translation>
+    </message>
+    <message>
+        <source>standard input is larger than the limit, which --max-size sets</source>
+        <translation>la entrada estándar es mayor que el límite, que fija --max-size</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>leyendo %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be changed, so -o is needed</source>
+        <translation>la entrada estándar no se puede cambiar, por lo que hace falta -o</translation>
+    </message>
+    <message>
+        <source>saving %1</source>
+        <translation>guardando %1</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot;; there are %2</source>
+        <translation>no hay ninguna columna &quot;%1&quot;; hay %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a condition such as type=CAT6, type!=CAT6 or id~^A</source>
+        <translation>&quot;%1&quot; no es una condición como type=CAT6, type!=CAT6 o id~^A</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; no es una expresión regular</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has several meanings. Use one of these:</source>
+        <translation>&quot;%1&quot; tiene varios significados. Use uno de estos:</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>advertencia: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1; ¿quería decir &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>there is no table &quot;%1&quot;; there are %2</source>
+        <translation>no hay ninguna tabla &quot;%1&quot;; hay %2</translation>
+    </message>
+    <message>
+        <source>templates do not have the table &quot;%1&quot;</source>
+        <translation>las plantillas no tienen la tabla &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
+        <translation>&quot;%1&quot; no es una unidad; las unidades son px, ft y m</translation>
     </message>
 </context>
 <context>
@@ -861,10 +1526,6 @@
         <translation>%1 no tiene lista de cables o no tiene lista de plantas</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or is in the wrong place</source>
-        <translation>una comilla falta o está en un lugar equivocado</translation>
-    </message>
-    <message>
         <source>the column &quot;%1&quot; is missing</source>
         <translation>falta la columna &quot;%1&quot;</translation>
     </message>
@@ -883,10 +1544,6 @@
     <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; no es un color</translation>
-    </message>
-    <message>
-        <source>the text is not UTF-8</source>
-        <translation>el texto no está en UTF-8</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
@@ -908,12 +1565,39 @@
         <source>the end has a port, but no floor</source>
         <translation>el extremo tiene toma, pero no planta</translation>
     </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>no hay ninguna definición de prueba &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>uso desconocido &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>no cable ends in &quot;%1&quot; any more</source>
+        <translation>ya no termina ningún cable en &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>no cable ends at &quot;%1&quot; any more</source>
+        <translation>ya no llega ningún cable a &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
     <message>
         <source>Network</source>
         <translation>Red</translation>
+    </message>
+</context>
+<context>
+    <name>Table</name>
+    <message>
+        <source>the sheets have no scale for feet or metres</source>
+        <translation>las hojas no tienen escala para pies o metros</translation>
+    </message>
+    <message>
+        <source>the floor plans have no scale for feet or metres</source>
+        <translation>los planos de planta no tienen escala para pies o metros</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1800,277 @@ de más de 330 ft (100 m).</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Otro programa ha cambiado el archivo desde que se leyó. No se reemplaza.</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; no es una escala como 1:100 o &quot;20 ft&quot; (por pulgada), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; no es una página como A3 o &quot;17 x 11&quot; (en pulgadas), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; no es un tamaño de papel; hay %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; no es un número que %2 pueda tener</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>definición de prueba</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>haz</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>planta</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>sala</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>toma</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>montante</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>hoja</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>codo</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>conexión</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>cable</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>toma activa</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>revisión</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::Planner</name>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>la fila %1 ya trata de este elemento: %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>la fila %1 ya da este nombre: %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>el nombre &quot;%1&quot; ya se usa</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>no existe: %1</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>añadir %1</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>renombrar %1 como &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>mover %1 a &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>ya existe con otros valores: %1</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>cambiar %1: %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>eliminar %1</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> con sus cables: %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>no existe: %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; no puede ser el nombre de un elemento</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>un trabajo no contiene más de %1 revisiones</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>la etiqueta &quot;%1&quot; ya se usa</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la fila no tiene identificador</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableFile</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la columna &quot;%1&quot; está repetida</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>no hay ninguna columna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>falta la columna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la fila tiene más campos que el encabezado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; no es una acción; las acciones son add, change, rename, move y remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la fila no tiene identificador</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>la fila no dice dónde está el elemento</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>la sala &quot;Undefined&quot; no se puede cambiar</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>la fila no indica new_id</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>la fila no dice adónde se mueve el elemento</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>un elemento que se añade o se elimina no se puede renombrar ni mover</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableValues</name>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; no es válido aquí</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; no es un número entero en el intervalo de esta columna</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; no es un número en el intervalo de esta columna</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; no es ni 1 ni 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>no hay ningún punto, toma ni montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>no hay ningún montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>un haz puede tener como máximo %1 tipos</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>no hay ninguna definición de prueba &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>no hay ningún dispositivo ni codo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>no hay ninguna toma ni montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>no hay ninguna toma &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>no hay ningún haz &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; no es un uso habitual</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; no es un color</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::ValueSetter</name>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>no hay ningún valor &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; no es un número entero</translation>
     </message>
 </context>
 </TS>

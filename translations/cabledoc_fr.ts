@@ -54,6 +54,29 @@
     </message>
 </context>
 <context>
+    <name>CsvText</name>
+    <message>
+        <source>This is a file of a spreadsheet program, not CSV. Save the sheet as CSV, in UTF-8 if there is a choice, and use that file.</source>
+        <translation>C&apos;est le fichier d&apos;un tableur, pas du CSV. Enregistrez la feuille en CSV, en UTF-8 si possible, et utilisez ce fichier.</translation>
+    </message>
+    <message>
+        <source>a quotation mark is missing or is in the wrong place</source>
+        <translation>un guillemet manque ou se trouve au mauvais endroit</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-16</source>
+        <translation>le texte n&apos;est pas en UTF-16</translation>
+    </message>
+    <message>
+        <source>the text is not Windows-1252</source>
+        <translation>le texte n&apos;est pas en Windows-1252</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8; try --encoding windows-1252</source>
+        <translation>le texte n&apos;est pas en UTF-8 ; essayez --encoding windows-1252</translation>
+    </message>
+</context>
+<context>
     <name>DeviceType</name>
     <message>
         <source>Computer</source>
@@ -184,7 +207,7 @@
     </message>
     <message>
         <source>&quot;%1&quot;: there is no device or bend &quot;%2&quot;</source>
-        <translation>&quot;%1&quot; : il n&apos;y a pas d&apos;appareil ni de point &quot;%2&quot;</translation>
+        <translation>&quot;%1&quot; : il n&apos;y a pas d&apos;appareil ni de coude &quot;%2&quot;</translation>
     </message>
     <message>
         <source>text</source>
@@ -428,10 +451,6 @@
         <translation>les deux noms doivent finir par &quot;.job&quot;, ou tous les deux par &quot;.bkt&quot;</translation>
     </message>
     <message>
-        <source>the name of a template must end in &quot;.bkt&quot;</source>
-        <translation>le nom d&apos;un modèle doit finir par &quot;.bkt&quot;</translation>
-    </message>
-    <message>
         <source>Test status</source>
         <translation>État des tests</translation>
     </message>
@@ -508,10 +527,6 @@
         <translation>Le fichier de projet ou de modèle.</translation>
     </message>
     <message>
-        <source>The job file.</source>
-        <translation>Le fichier de projet.</translation>
-    </message>
-    <message>
         <source>Print JSON instead of text.</source>
         <translation>Afficher du JSON au lieu de texte.</translation>
     </message>
@@ -520,28 +535,8 @@
         <translation>Le plus gros fichier à lire, tel que 500M ; sinon 4G.</translation>
     </message>
     <message>
-        <source>The file to write. An existing file is not replaced.</source>
-        <translation>Le nouveau fichier. Un fichier existant n&apos;est pas remplacé.</translation>
-    </message>
-    <message>
-        <source>The number of floors, from 1 (the default) to 1000.</source>
-        <translation>Le nombre d&apos;étages, de 1 (par défaut) à 1000.</translation>
-    </message>
-    <message>
-        <source>Make a new job file.</source>
-        <translation>Créer un fichier de projet.</translation>
-    </message>
-    <message>
-        <source>It has one sheet. An existing file is not replaced. &quot;.job&quot; is added to a name that lacks it.</source>
-        <translation>Il a une feuille. Un fichier existant n&apos;est pas remplacé. &quot;.job&quot; est ajouté à un nom qui ne l&apos;a pas.</translation>
-    </message>
-    <message>
         <source>Show what a job file holds.</source>
         <translation>Montrer ce que contient un projet.</translation>
-    </message>
-    <message>
-        <source>The floors and sheets are listed in the order of their tags. Cables, connections and active ports are counted.</source>
-        <translation>Les étages et les feuilles sont listés dans l&apos;ordre de leurs balises. Les câbles, les connexions et les prises actives sont comptés.</translation>
     </message>
     <message>
         <source>Print lengths in metres instead of feet.</source>
@@ -554,14 +549,6 @@
     <message>
         <source>The list shows their ends, the status of their tests and their measured lengths.</source>
         <translation>La liste montre leurs extrémités, l&apos;état de leurs tests et leurs longueurs mesurées.</translation>
-    </message>
-    <message>
-        <source>Report what is wrong with a file.</source>
-        <translation>Signaler ce qui ne va pas dans un fichier.</translation>
-    </message>
-    <message>
-        <source>Each of the first 50 findings is one line; --json prints all of them. The file is not changed.</source>
-        <translation>Chacun des 50 premiers constats est une ligne ; --json les affiche tous. Le fichier n&apos;est pas modifié.</translation>
     </message>
     <message>
         <source>Convert a file of an earlier version.</source>
@@ -596,20 +583,12 @@
         <translation>Le modèle reçoit l&apos;installateur, les réglages, les définitions de test et les faisceaux du projet.</translation>
     </message>
     <message>
-        <source>The cable schedule, a CSV file. It is not changed.</source>
-        <translation>Le plan de câblage, un fichier CSV. Il n&apos;est pas modifié.</translation>
-    </message>
-    <message>
         <source>Only show what would change.</source>
         <translation>Montrer seulement ce qui changerait.</translation>
     </message>
     <message>
         <source>Bring a job up to a cable schedule.</source>
         <translation>Mettre un projet au niveau d&apos;un plan de câblage.</translation>
-    </message>
-    <message>
-        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Each of the first 50 problems is one line; --json prints all of them.</source>
-        <translation>Les étages, pièces, prises et câbles qui manquent au projet sont ajoutés. Les câbles qui diffèrent sont modifiés. Si le plan a un problème, le projet n&apos;est pas modifié. Chacun des 50 premiers problèmes est une ligne ; --json les affiche tous.</translation>
     </message>
     <message>
         <source>Print the cable schedule of a job as CSV.</source>
@@ -706,6 +685,692 @@
     <message>
         <source>and %1 more</source>
         <translation>et %1 autres</translation>
+    </message>
+    <message>
+        <source>--csv and --json cannot be used together</source>
+        <translation>--csv et --json ne peuvent pas être utilisés ensemble</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas d&apos;option &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 est vide</translation>
+    </message>
+    <message>
+        <source>standard input, &quot;-&quot;, can be read only once</source>
+        <translation>l&apos;entrée standard, &quot;-&quot;, ne peut être lue qu&apos;une fois</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not end in &quot;.%2&quot;</source>
+        <translation>&quot;%1&quot; ne finit pas par &quot;.%2&quot;</translation>
+    </message>
+    <message>
+        <source>a file and JSON cannot both be written to standard output</source>
+        <translation>un fichier et du JSON ne peuvent pas être écrits tous deux sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>the output would replace &quot;%1&quot;, which is read</source>
+        <translation>la sortie remplacerait &quot;%1&quot;, qui est lu</translation>
+    </message>
+    <message>
+        <source>there is no floor &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas d&apos;étage &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a floor &quot;%1&quot;</source>
+        <translation>il y a déjà un étage &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de feuille &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a sheet &quot;%1&quot;</source>
+        <translation>il y a déjà une feuille &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;floor&quot; nor &quot;sheet&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni &quot;floor&quot; ni &quot;sheet&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a name</source>
+        <translation>&quot;%1&quot; ne peut pas être un nom</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Sorte</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de valeur &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--floor and --floors cannot be given together</source>
+        <translation>--floor et --floors ne peuvent pas être utilisés ensemble</translation>
+    </message>
+    <message>
+        <source>a floor must have a name</source>
+        <translation>un étage doit avoir un nom</translation>
+    </message>
+    <message>
+        <source>there cannot be two floors &quot;%1&quot;</source>
+        <translation>il ne peut pas y avoir deux étages &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
+        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier de projet ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>a template has no floors</source>
+        <translation>un modèle n&apos;a pas d&apos;étages</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not of the form NAME=VALUE</source>
+        <translation>&quot;%1&quot; n&apos;a pas la forme NAME=VALUE</translation>
+    </message>
+    <message>
+        <source>%1 elements have no name of their own and are left out; --tags exports them too</source>
+        <translation>éléments sans nom propre qui sont omis : %1 ; --tags les exporte aussi</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 changed, %3 renamed, %4 moved, %5 removed
+</source>
+        <translation>ajouts : %1, modifications : %2, changements de nom : %3, déplacements : %4, suppressions : %5
+</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurée</translation>
+    </message>
+    <message>
+        <source>without</source>
+        <translation>sans</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Estimée</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Autre étage</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Faisceau</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Tirages</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Plus long</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Bobine</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Bobines</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Reste</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnus</translation>
+    </message>
+    <message>
+        <source>Too long</source>
+        <translation>Trop longs</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Tous les câbles</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Câbles par type</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Câbles par usage</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Câbles par étage</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Câbles par faisceau</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Câbles par état des tests</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Prises par usage</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>À commander</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>The lengths are estimated from the plan.</source>
+        <translation>Les longueurs sont estimées d&apos;après le plan.</translation>
+    </message>
+    <message>
+        <source>They include %1 % spare.</source>
+        <translation>Elles comprennent %1 % de réserve.</translation>
+    </message>
+    <message>
+        <source>The cables of a bundle with the same group number are one run of the bundle.</source>
+        <translation>Les câbles d&apos;un faisceau avec le même numéro de groupe sont un tirage du faisceau.</translation>
+    </message>
+    <message>
+        <source>Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing).</source>
+        <translation>Chaque tirage est coupé dans une seule bobine, sans épissure : d&apos;abord les plus longs, chacun dans la première bobine dont le reste suffit (first-fit decreasing).</translation>
+    </message>
+    <message>
+        <source>Lengths are in %1. &quot;without&quot; counts the cables without such a length. The difference is measured minus estimated, for cables that have both.</source>
+        <translation>Les longueurs sont en %1. &quot;sans&quot; compte les câbles sans une telle longueur. La différence est mesurée moins estimée, pour les câbles qui ont les deux.</translation>
+    </message>
+    <message>
+        <source>Cables of unknown length, which are not in the order: %1</source>
+        <translation>Câbles de longueur inconnue, qui ne sont pas à commander : %1</translation>
+    </message>
+    <message>
+        <source>Cables that are longer than a coil: %1</source>
+        <translation>Câbles plus longs qu&apos;une bobine : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a percentage such as 10%</source>
+        <translation>&quot;%1&quot; n&apos;est pas un pourcentage comme 10%</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a coil such as 305m, 1000ft or CAT6=305m</source>
+        <translation>&quot;%1&quot; n&apos;est pas une bobine comme 305m, 1000ft ou CAT6=305m</translation>
+    </message>
+    <message>
+        <source>no cable has the type or bundle &quot;%1&quot;</source>
+        <translation>aucun câble n&apos;a le type ou le faisceau &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port, vertical run or cable &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise, de colonne montante ni de câble &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de câble &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no room &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de pièce &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no network device &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas d&apos;appareil réseau &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>exactly one of PORT or CABLE, --cable, --room and --device is needed</source>
+        <translation>il faut exactement un seul parmi PORT ou CABLE, --cable, --room et --device</translation>
+    </message>
+    <message>
+        <source>no port</source>
+        <translation>aucune prise</translation>
+    </message>
+    <message>
+        <source>missing: %1</source>
+        <translation>manquant : %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>prise %1</translation>
+    </message>
+    <message>
+        <source>vertical run %1</source>
+        <translation>colonne montante %1</translation>
+    </message>
+    <message>
+        <source>drop</source>
+        <translation>descente</translation>
+    </message>
+    <message>
+        <source>between the floors</source>
+        <translation>entre les étages</translation>
+    </message>
+    <message>
+        <source>between the floors, without a vertical run</source>
+        <translation>entre les étages, sans colonne montante</translation>
+    </message>
+    <message>
+        <source>straight on</source>
+        <translation>en ligne droite</translation>
+    </message>
+    <message>
+        <source>straight on, the floor plan has no scale</source>
+        <translation>en ligne droite, le plan d&apos;étage n&apos;a pas d&apos;échelle</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>au moins %1</translation>
+    </message>
+    <message>
+        <source>%1 cables: %2</source>
+        <translation>%1 câbles : %2</translation>
+    </message>
+    <message>
+        <source>The last cable leads back to the first one.</source>
+        <translation>Le dernier câble revient au premier.</translation>
+    </message>
+    <message>
+        <source>Cable %1</source>
+        <translation>Câble %1</translation>
+    </message>
+    <message>
+        <source>(other cables that end here: %1)</source>
+        <translation>(autres câbles qui finissent ici : %1)</translation>
+    </message>
+    <message>
+        <source>No cable: %1</source>
+        <translation>Sans câble : %1</translation>
+    </message>
+    <message>
+        <source>no device</source>
+        <translation>aucun appareil</translation>
+    </message>
+    <message>
+        <source>%1, bend %2</source>
+        <translation>%1, coude %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2</source>
+        <translation>%1, appareil %2</translation>
+    </message>
+    <message>
+        <source>%1, device %2 (%3)</source>
+        <translation>%1, appareil %2 (%3)</translation>
+    </message>
+    <message>
+        <source>connection %1</source>
+        <translation>connexion %1</translation>
+    </message>
+    <message>
+        <source>No connection: %1</source>
+        <translation>Sans connexion : %1</translation>
+    </message>
+    <message>
+        <source>The job file, or &quot;-&quot; for standard input.</source>
+        <translation>Le fichier de projet, ou &quot;-&quot; pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Print CSV instead of text.</source>
+        <translation>Afficher du CSV au lieu de texte.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
+        <translation>Le séparateur des champs : comma, semicolon ou tab. Sinon, la première ligne le détermine.</translation>
+    </message>
+    <message>
+        <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
+        <translation>Le codage du fichier CSV : UTF-8, UTF-16 ou windows-1252. Sinon, c&apos;est UTF-8 ou UTF-16.</translation>
+    </message>
+    <message>
+        <source>Remove the apostrophes that --protect-formulas adds.</source>
+        <translation>Enlever les apostrophes que --protect-formulas ajoute.</translation>
+    </message>
+    <message>
+        <source>The delimiter of the fields: comma (the default), semicolon or tab.</source>
+        <translation>Le séparateur des champs : comma (par défaut), semicolon ou tab.</translation>
+    </message>
+    <message>
+        <source>Begin with a byte order mark, which some spreadsheets need to recognise UTF-8.</source>
+        <translation>Commencer par une marque d&apos;ordre des octets, dont certains tableurs ont besoin pour reconnaître l&apos;UTF-8.</translation>
+    </message>
+    <message>
+        <source>Put an apostrophe before fields that a spreadsheet would run as formulas.</source>
+        <translation>Mettre une apostrophe devant les champs qu&apos;un tableur exécuterait comme des formules.</translation>
+    </message>
+    <message>
+        <source>Write to this file instead of standard output.</source>
+        <translation>Écrire dans ce fichier au lieu de la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Save the changed job as this file, or to standard output if it is &quot;-&quot;. FILE.job stays as it is.</source>
+        <translation>Enregistrer le projet modifié sous ce nom, ou l&apos;écrire sur la sortie standard si c&apos;est &quot;-&quot;. FILE.job reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Replace the file that is written if it exists.</source>
+        <translation>Remplacer le fichier écrit s&apos;il existe déjà.</translation>
+    </message>
+    <message>
+        <source>The file to write, or &quot;-&quot; for standard output.</source>
+        <translation>Le nouveau fichier, ou &quot;-&quot; pour la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for a job from standard input.</source>
+        <translation>Le fichier de projet ou de modèle, ou &quot;-&quot; pour un projet de l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Save the changed file as this one. FILE stays as it is.</source>
+        <translation>Enregistrer le fichier modifié sous ce nom. FILE reste tel quel.</translation>
+    </message>
+    <message>
+        <source>The table: </source>
+        <translation>Le tableau : </translation>
+    </message>
+    <message>
+        <source>. Templates have the first two.</source>
+        <translation>. Les modèles ont les deux premiers.</translation>
+    </message>
+    <message>
+        <source>The unit of positions and heights: px (pixels, and feet for heights; the default), ft or m. Positions in ft or m need a scale.</source>
+        <translation>L&apos;unité des positions et des hauteurs : px (pixels, et pieds pour les hauteurs ; par défaut), ft ou m. Les positions en ft ou m demandent une échelle.</translation>
+    </message>
+    <message>
+        <source>The columns to show, separated by commas.</source>
+        <translation>Les colonnes à afficher, séparées par des virgules.</translation>
+    </message>
+    <message>
+        <source>Only show what fulfils the condition: type=CAT6, type!=CAT6, id~PATTERN or id!~PATTERN, where the pattern is a regular expression. Can be given several times.</source>
+        <translation>Montrer seulement ce qui remplit la condition : type=CAT6, type!=CAT6, id~PATTERN ou id!~PATTERN, où le motif est une expression régulière. Peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>The columns to sort by, separated by commas. A &quot;-&quot; before a name turns its order round.</source>
+        <translation>Les colonnes de tri, séparées par des virgules. Un &quot;-&quot; devant un nom en inverse l&apos;ordre.</translation>
+    </message>
+    <message>
+        <source>The name of a floor. This option can be given for each floor.</source>
+        <translation>Le nom d&apos;un étage. Cette option peut être donnée pour chaque étage.</translation>
+    </message>
+    <message>
+        <source>The number of floors without --floor, from 1 (the default) to 1000.</source>
+        <translation>Le nombre d&apos;étages sans --floor, de 1 (par défaut) à 1000.</translation>
+    </message>
+    <message>
+        <source>Make a new job or template.</source>
+        <translation>Créer un projet ou un modèle.</translation>
+    </message>
+    <message>
+        <source>If the name ends in &quot;.bkt&quot;, the file is a template. Otherwise it is a job with one sheet, and &quot;.job&quot; is added to a name that lacks it.</source>
+        <translation>Si le nom finit par &quot;.bkt&quot;, le fichier est un modèle. Sinon, c&apos;est un projet avec une feuille, et &quot;.job&quot; est ajouté à un nom qui ne l&apos;a pas.</translation>
+    </message>
+    <message>
+        <source>The floors and sheets are listed in the order of the file. Cables, connections and active ports are counted.</source>
+        <translation>Les étages et les feuilles sont listés dans l&apos;ordre du fichier. Les câbles, les connexions et les prises actives sont comptés.</translation>
+    </message>
+    <message>
+        <source>The job and template files. One of them may be &quot;-&quot; for standard input.</source>
+        <translation>Les fichiers de projet et de modèle. L&apos;un d&apos;eux peut être &quot;-&quot; pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Report what is wrong with files.</source>
+        <translation>Signaler ce qui ne va pas dans des fichiers.</translation>
+    </message>
+    <message>
+        <source>Each of the first 50 findings in a file is one line; --json prints all of them. The files are not changed. The exit code is that of the worst file.</source>
+        <translation>Chacun des 50 premiers constats d&apos;un fichier est une ligne ; --json les affiche tous. Les fichiers ne sont pas modifiés. Le code de sortie est celui du plus mauvais fichier.</translation>
+    </message>
+    <message>
+        <source>The values to show, such as contractor.company, site or scale.floor-plan. All values by default.</source>
+        <translation>Les valeurs à afficher, telles que contractor.company, site ou scale.floor-plan. Sinon, toutes.</translation>
+    </message>
+    <message>
+        <source>Show single values.</source>
+        <translation>Montrer des valeurs isolées.</translation>
+    </message>
+    <message>
+        <source>There are values of the contractor, the site, the notes, the settings and the pictures of floors. A single value is printed as it is. Several are printed as NAME=VALUE.</source>
+        <translation>Il y a des valeurs de l&apos;installateur, du site, des notes, des réglages et des images d&apos;étages. Une seule valeur est affichée telle quelle. Plusieurs sont affichées sous la forme NAME=VALUE.</translation>
+    </message>
+    <message>
+        <source>A name as &quot;get&quot; shows it, and its new value.</source>
+        <translation>Un nom tel que &quot;get&quot; le montre, et sa nouvelle valeur.</translation>
+    </message>
+    <message>
+        <source>Set single values.</source>
+        <translation>Fixer des valeurs isolées.</translation>
+    </message>
+    <message>
+        <source>A scale is 1:100, &quot;20 ft&quot; (to the inch of the drawing) or none. A page is the name of a paper size such as A3, &quot;17 x 11&quot; (in inches) or none. If one of the values is wrong, nothing is changed.</source>
+        <translation>Une échelle est 1:100, &quot;20 ft&quot; (par pouce du dessin) ou none. Une page est le nom d&apos;un format de papier comme A3, &quot;17 x 11&quot; (en pouces) ou none. Si l&apos;une des valeurs est incorrecte, rien n&apos;est modifié.</translation>
+    </message>
+    <message>
+        <source>Add a column with the tags, and the elements without a name.</source>
+        <translation>Ajouter une colonne avec les balises, et les éléments sans nom.</translation>
+    </message>
+    <message>
+        <source>Print a table as CSV.</source>
+        <translation>Afficher un tableau en CSV.</translation>
+    </message>
+    <message>
+        <source>&quot;table import&quot; reads it.</source>
+        <translation>&quot;table import&quot; le lit.</translation>
+    </message>
+    <message>
+        <source>The table, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Le tableau, un fichier CSV, ou &quot;-&quot; pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Change elements by a table.</source>
+        <translation>Modifier des éléments d&apos;après un tableau.</translation>
+    </message>
+    <message>
+        <source>Each row names an element by its columns, such as floor, room and id. The column &quot;action&quot; says what happens to it: add, change, rename (to new_id), move (to new_floor, new_room or new_sheet) or remove. Without it, the element is changed, or added if there is none. If the table has a problem, nothing is changed. An import can be repeated: the second one changes nothing.</source>
+        <translation>Chaque ligne nomme un élément par des colonnes telles que floor, room et id. La colonne &quot;action&quot; dit ce qui lui arrive : add, change, rename (en new_id), move (vers new_floor, new_room ou new_sheet) ou remove. Sans elle, l&apos;élément est modifié, ou ajouté s&apos;il n&apos;existe pas. Si le tableau a un problème, rien n&apos;est modifié. Une importation peut être répétée : la seconde ne modifie rien.</translation>
+    </message>
+    <message>
+        <source>What is copied.</source>
+        <translation>Ce qui est copié.</translation>
+    </message>
+    <message>
+        <source>The floor or sheet.</source>
+        <translation>L&apos;étage ou la feuille.</translation>
+    </message>
+    <message>
+        <source>The name of the copy.</source>
+        <translation>Le nom de la copie.</translation>
+    </message>
+    <message>
+        <source>Copy a floor or sheet.</source>
+        <translation>Copier un étage ou une feuille.</translation>
+    </message>
+    <message>
+        <source>All that is on it is copied. The cables that end on a floor are copied too. The copies are untested and get new names. Ports keep their names. The connections of a sheet are not copied.</source>
+        <translation>Tout ce qui s&apos;y trouve est copié. Les câbles qui finissent sur un étage sont copiés aussi. Leurs copies ne sont pas testées et reçoivent de nouveaux noms. Les prises gardent leurs noms. Les connexions d&apos;une feuille ne sont pas copiées.</translation>
+    </message>
+    <message>
+        <source>List the elements of a kind.</source>
+        <translation>Lister les éléments d&apos;une sorte.</translation>
+    </message>
+    <message>
+        <source>The list has the columns of &quot;table export&quot;, and also the number of cables of ports and the status and length of cables. As text, it leaves out empty columns and tags unless --columns asks for them.</source>
+        <translation>La liste a les colonnes de &quot;table export&quot;, et aussi le nombre de câbles des prises, l&apos;état et la longueur des câbles. En texte, elle omet les colonnes vides et les balises, sauf si --columns les demande.</translation>
+    </message>
+    <message>
+        <source>The text to look for, in upper or lower case.</source>
+        <translation>Le texte à chercher, en majuscules ou en minuscules.</translation>
+    </message>
+    <message>
+        <source>Find a text in all tables and values.</source>
+        <translation>Chercher un texte dans tous les tableaux et valeurs.</translation>
+    </message>
+    <message>
+        <source>Names, texts, types, uses, colours and tags are searched.</source>
+        <translation>Les noms, textes, types, usages, couleurs et balises sont parcourus.</translation>
+    </message>
+    <message>
+        <source>List the ports without a cable.</source>
+        <translation>Lister les prises sans câble.</translation>
+    </message>
+    <message>
+        <source>The name of a port, vertical run or cable. If several ports have the name, give ROOM/PORT or FLOOR/ROOM/PORT.</source>
+        <translation>Le nom d&apos;une prise, d&apos;une colonne montante ou d&apos;un câble. Si plusieurs prises ont ce nom, donnez ROOM/PORT ou FLOOR/ROOM/PORT.</translation>
+    </message>
+    <message>
+        <source>Trace a cable, even if a port has the same name.</source>
+        <translation>Suivre un câble, même si une prise a le même nom.</translation>
+    </message>
+    <message>
+        <source>Trace the cables at all ports of a room, given as ROOM or FLOOR/ROOM.</source>
+        <translation>Suivre les câbles de toutes les prises d&apos;une pièce, donnée sous la forme ROOM ou FLOOR/ROOM.</translation>
+    </message>
+    <message>
+        <source>Trace the connections of a network device, given as DEVICE or SHEET/DEVICE.</source>
+        <translation>Suivre les connexions d&apos;un appareil réseau, donné sous la forme DEVICE ou SHEET/DEVICE.</translation>
+    </message>
+    <message>
+        <source>Show the way of cables from end to end.</source>
+        <translation>Montrer le trajet de câbles de bout en bout.</translation>
+    </message>
+    <message>
+        <source>Each part of the way has its length on the plan: the drops at the ends, the straight ways from place to place, and the ways between floors. If a length is unknown, the cable has at least the sum of the others. At a port where exactly two cables end, the way goes on from one to the other. The same holds for a vertical run, unless one of the cables is not connected to it. Where more cables end, the way ends, and the others are counted. For a vertical run, the cables that pass it are traced too.</source>
+        <translation>Chaque partie du trajet a sa longueur sur le plan : les descentes aux extrémités, les lignes droites d&apos;un endroit à l&apos;autre et les passages entre étages. Si une longueur est inconnue, le câble a au moins la somme des autres. À une prise où finissent exactement deux câbles, le trajet continue de l&apos;un à l&apos;autre. Il en est de même pour une colonne montante, sauf si l&apos;un des câbles n&apos;y est pas connecté. Là où finissent plus de câbles, le trajet finit, et les autres sont comptés. Pour une colonne montante, les câbles qui y passent sont suivis aussi.</translation>
+    </message>
+    <message>
+        <source>Add a percentage to each length of the order, such as 10%.</source>
+        <translation>Ajouter un pourcentage à chaque longueur à commander, tel que 10%.</translation>
+    </message>
+    <message>
+        <source>The length of the coils, such as 305m or 1000ft, or that of one type or bundle, such as CAT6=305m. It can be given several times.</source>
+        <translation>La longueur des bobines, telle que 305m ou 1000ft, ou celle d&apos;un type ou d&apos;un faisceau, telle que CAT6=305m. Peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>Add up cables and what has to be ordered.</source>
+        <translation>Additionner les câbles et ce qu&apos;il faut commander.</translation>
+    </message>
+    <message>
+        <source>The cables are counted by type, use, floor, bundle and test status, with their measured and estimated lengths, and the ports by use. Then follows the order: the estimated length of each type and the number of coils. Each run is cut from one coil, without a splice: the longest runs first, each from the first coil that has enough left (first-fit decreasing). A bundle is ordered as such: its cables with the same group number are one run, as long as the longest of them. Cables of unknown length and cables that are longer than a coil are listed apart.</source>
+        <translation>Les câbles sont comptés par type, usage, étage, faisceau et état des tests, avec leurs longueurs mesurées et estimées, et les prises par usage. Suit ce qui est à commander : la longueur estimée de chaque type et le nombre de bobines. Chaque tirage est coupé dans une seule bobine, sans épissure : d&apos;abord les plus longs, chacun dans la première bobine dont le reste suffit (first-fit decreasing). Un faisceau est commandé comme tel : ses câbles avec le même numéro de groupe sont un tirage, aussi long que le plus long d&apos;entre eux. Les câbles de longueur inconnue et ceux qui sont plus longs qu&apos;une bobine sont listés à part.</translation>
+    </message>
+    <message>
+        <source>The cable schedule, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Le plan de câblage, un fichier CSV, ou &quot;-&quot; pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Floors, rooms, ports and cables that the job lacks are added. Cables that differ are changed. If the schedule has a problem, the job is not changed. Types and uses that are not known, and places that lose their last cable, are warned of. Each of the first 50 problems or warnings is one line; --json prints all of them.</source>
+        <translation>Les étages, pièces, prises et câbles qui manquent au projet sont ajoutés. Les câbles qui diffèrent sont modifiés. Si le plan a un problème, le projet n&apos;est pas modifié. Les types et usages inconnus et les endroits qui perdent leur dernier câble sont signalés par un avertissement. Chacun des 50 premiers problèmes ou avertissements est une ligne ; --json les affiche tous.</translation>
+    </message>
+    <message>
+        <source>The job or template file, or &quot;-&quot; for standard input.</source>
+        <translation>Le fichier de projet ou de modèle, ou &quot;-&quot; pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>The command, such as &quot;check&quot; or &quot;schedule import&quot;.</source>
+        <translation>La commande, telle que &quot;check&quot; ou &quot;schedule import&quot;.</translation>
+    </message>
+    <message>
+        <source>Without a command, show the help of the program.</source>
+        <translation>Sans commande, afficher l&apos;aide du programme.</translation>
+    </message>
+    <message>
+        <source>Print no messages except errors.</source>
+        <translation>N&apos;afficher aucun message sauf les erreurs.</translation>
+    </message>
+    <message>
+        <source>Print the commands with their arguments and options as JSON.</source>
+        <translation>Afficher les commandes avec leurs arguments et options en JSON.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not comma, semicolon or tab</source>
+        <translation>&quot;%1&quot; n&apos;est pas comma, semicolon ou tab</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not UTF-8, UTF-16 or windows-1252</source>
+        <translation>&quot;%1&quot; n&apos;est pas UTF-8, UTF-16 ou windows-1252</translation>
+    </message>
+    <message>
+        <source>standard input is larger than the limit, which --max-size sets</source>
+        <translation>l&apos;entrée standard est plus grande que la limite, que fixe --max-size</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>lecture de %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be changed, so -o is needed</source>
+        <translation>l&apos;entrée standard ne peut pas être modifiée, donc -o est nécessaire</translation>
+    </message>
+    <message>
+        <source>saving %1</source>
+        <translation>enregistrement de %1</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot;; there are %2</source>
+        <translation>il n&apos;y a pas de colonne &quot;%1&quot; ; il y a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a condition such as type=CAT6, type!=CAT6 or id~^A</source>
+        <translation>&quot;%1&quot; n&apos;est pas une condition comme type=CAT6, type!=CAT6 ou id~^A</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; n&apos;est pas une expression régulière</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has several meanings. Use one of these:</source>
+        <translation>&quot;%1&quot; a plusieurs sens. Utilisez l&apos;un de ceux-ci :</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>avertissement : %1</translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1 ; vouliez-vous dire &quot;%2&quot; ?</translation>
+    </message>
+    <message>
+        <source>there is no table &quot;%1&quot;; there are %2</source>
+        <translation>il n&apos;y a pas de tableau &quot;%1&quot; ; il y a %2</translation>
+    </message>
+    <message>
+        <source>templates do not have the table &quot;%1&quot;</source>
+        <translation>les modèles n&apos;ont pas le tableau &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
+        <translation>&quot;%1&quot; n&apos;est pas une unité ; les unités sont px, ft et m</translation>
     </message>
 </context>
 <context>
@@ -861,10 +1526,6 @@
         <translation>%1 n&apos;a pas de liste de câbles ou pas de liste d&apos;étages</translation>
     </message>
     <message>
-        <source>a quotation mark is missing or is in the wrong place</source>
-        <translation>un guillemet manque ou se trouve au mauvais endroit</translation>
-    </message>
-    <message>
         <source>the column &quot;%1&quot; is missing</source>
         <translation>la colonne &quot;%1&quot; manque</translation>
     </message>
@@ -883,10 +1544,6 @@
     <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
-    </message>
-    <message>
-        <source>the text is not UTF-8</source>
-        <translation>le texte n&apos;est pas en UTF-8</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains a character that a job file cannot hold</source>
@@ -908,12 +1565,39 @@
         <source>the end has a port, but no floor</source>
         <translation>l&apos;extrémité a une prise, mais pas d&apos;étage</translation>
     </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de définition de test &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>usage inconnu &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>no cable ends in &quot;%1&quot; any more</source>
+        <translation>plus aucun câble ne finit dans &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>no cable ends at &quot;%1&quot; any more</source>
+        <translation>plus aucun câble ne finit à &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStrings</name>
     <message>
         <source>Network</source>
         <translation>Réseau</translation>
+    </message>
+</context>
+<context>
+    <name>Table</name>
+    <message>
+        <source>the sheets have no scale for feet or metres</source>
+        <translation>les feuilles n&apos;ont pas d&apos;échelle pour des pieds ou des mètres</translation>
+    </message>
+    <message>
+        <source>the floor plans have no scale for feet or metres</source>
+        <translation>les plans d&apos;étage n&apos;ont pas d&apos;échelle pour des pieds ou des mètres</translation>
     </message>
 </context>
 <context>
@@ -1116,6 +1800,277 @@ de plus de 330 ft (100 m).</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Un autre programme a modifié le fichier depuis sa lecture. Il n&apos;est pas remplacé.</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni une échelle comme 1:100 ou &quot;20 ft&quot; (par pouce), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni une page comme A3 ou &quot;17 x 11&quot; (en pouces), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; n&apos;est pas un format de papier ; il y a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre que %2 peut avoir</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>définition de test</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>faisceau</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>étage</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>pièce</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>prise</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>colonne montante</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>feuille</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>appareil</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>coude</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>connexion</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>câble</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>prise active</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>révision</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::Planner</name>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>la ligne %1 concerne déjà cet élément : %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>la ligne %1 donne déjà ce nom : %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>le nom &quot;%1&quot; est déjà utilisé</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>introuvable : %1</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>ajouter %1</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>renommer %1 en &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>déplacer %1 vers &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>existe déjà avec d&apos;autres valeurs : %1</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>modifier %1 : %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>supprimer %1</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> avec ses câbles : %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>introuvable : %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un élément</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>un projet ne contient pas plus de %1 révisions</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>la balise &quot;%1&quot; est déjà utilisée</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableFile</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la colonne &quot;%1&quot; est en double</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de colonne &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>la colonne &quot;%1&quot; manque</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la ligne a plus de champs que l&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; n&apos;est pas une action ; les actions sont add, change, rename, move et remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>la ligne ne dit pas où est l&apos;élément</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>la pièce &quot;Undefined&quot; ne peut pas être modifiée</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>la ligne ne donne pas de new_id</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>la ligne ne dit pas où l&apos;élément est déplacé</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>un élément qui est ajouté ou supprimé ne peut pas être renommé ni déplacé</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::TableValues</name>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; n&apos;est pas valable ici</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre entier dans l&apos;intervalle de cette colonne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre dans l&apos;intervalle de cette colonne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; n&apos;est ni 1 ni 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de point, de prise ni de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>un faisceau peut avoir au plus %1 types</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de définition de test &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas d&apos;appareil ni de coude &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise ni de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de faisceau &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; n&apos;est pas un usage habituel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
+    </message>
+</context>
+<context>
+    <name>cabledoc::ValueSetter</name>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de valeur &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre entier</translation>
     </message>
 </context>
 </TS>
