@@ -1599,6 +1599,230 @@
         <source>the floor plans have no scale for feet or metres</source>
         <translation>die Etagenpläne haben keinen Maßstab für Fuß oder Meter</translation>
     </message>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>die Spalte &quot;%1&quot; fehlt</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>die Zeile hat mehr Felder als die Überschrift</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; ist keine Aktion; es gibt add, change, rename, move und remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>die Zeile hat keine ID</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>die Zeile sagt nicht, wo das Element ist</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>der Raum &quot;Undefined&quot; kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>die Zeile gibt keine new_id an</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>die Zeile sagt nicht, wohin das Element verschoben wird</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>ein Element, das ergänzt oder entfernt wird, kann nicht umbenannt oder verschoben werden</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>Prüfdefinition</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>Bündel</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>Raum</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>Steigleitung</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>Knickpunkt</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>Aktivanschluss</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>um dieses Element geht es schon in Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>diesen Namen vergibt schon Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>der Name &quot;%1&quot; ist schon vergeben</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>%1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>%1 ergänzen</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>%1 umbenennen in &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>%1 verschieben nach &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>%1 gibt es schon, mit anderen Werten</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>%1 ändern: %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> samt Kabeln: %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>%1 &quot;%2&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; kann nicht der Name eines Elements sein</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>ein Auftrag enthält höchstens %1 Ausgaben</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>das Tag &quot;%1&quot; ist schon vergeben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; ist hier nicht gültig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; ist keine ganze Zahl im Bereich dieser Spalte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; ist keine Zahl im Bereich dieser Spalte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; ist weder 1 noch 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>es gibt keinen Punkt, keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>es gibt keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>ein Bündel kann höchstens %1 Typen haben</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>es gibt keine Prüfdefinition &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>es gibt kein Gerät und keinen Knickpunkt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>es gibt keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>es gibt keinen Anschluss &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>es gibt kein Bündel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; ist keine übliche Nutzung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; ist keine Farbe</translation>
+    </message>
 </context>
 <context>
     <name>TestDef</name>
@@ -1748,6 +1972,37 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
     </message>
 </context>
 <context>
+    <name>Values</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; ist weder ein Maßstab wie 1:100 oder &quot;20 ft&quot; (je Zoll) noch &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; ist weder eine Seite wie A3 oder &quot;17 x 11&quot; (in Zoll) noch &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; ist kein Papierformat; es gibt %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; ist keine Zahl, die %2 haben kann</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>es gibt keinen Wert &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; ist keine ganze Zahl</translation>
+    </message>
+</context>
+<context>
     <name>XmlFile</name>
     <message>
         <source>The file contains a control character that XML does not allow.</source>
@@ -1800,277 +2055,6 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde. Sie wird nicht ersetzt.</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc</name>
-    <message>
-        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; ist weder ein Maßstab wie 1:100 oder &quot;20 ft&quot; (je Zoll) noch &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; ist weder eine Seite wie A3 oder &quot;17 x 11&quot; (in Zoll) noch &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; ist kein Papierformat; es gibt %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number that %2 can have</source>
-        <translation>&quot;%1&quot; ist keine Zahl, die %2 haben kann</translation>
-    </message>
-    <message>
-        <source>test definition</source>
-        <translation>Prüfdefinition</translation>
-    </message>
-    <message>
-        <source>bundle</source>
-        <translation>Bündel</translation>
-    </message>
-    <message>
-        <source>floor</source>
-        <translation>Etage</translation>
-    </message>
-    <message>
-        <source>room</source>
-        <translation>Raum</translation>
-    </message>
-    <message>
-        <source>port</source>
-        <translation>Anschluss</translation>
-    </message>
-    <message>
-        <source>vertical run</source>
-        <translation>Steigleitung</translation>
-    </message>
-    <message>
-        <source>point</source>
-        <translation>Punkt</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>sheet</source>
-        <translation>Blatt</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>bend</source>
-        <translation>Knickpunkt</translation>
-    </message>
-    <message>
-        <source>connection</source>
-        <translation>Verbindung</translation>
-    </message>
-    <message>
-        <source>cable</source>
-        <translation>Kabel</translation>
-    </message>
-    <message>
-        <source>active port</source>
-        <translation>Aktivanschluss</translation>
-    </message>
-    <message>
-        <source>release</source>
-        <translation>Ausgabe</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::Planner</name>
-    <message>
-        <source>row %1 already is about the %2</source>
-        <translation>um dieses Element geht es schon in Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>diesen Namen vergibt schon Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>the name &quot;%1&quot; is already used</source>
-        <translation>der Name &quot;%1&quot; ist schon vergeben</translation>
-    </message>
-    <message>
-        <source>there is no %1</source>
-        <translation>%1 gibt es nicht</translation>
-    </message>
-    <message>
-        <source>add %1</source>
-        <translation>%1 ergänzen</translation>
-    </message>
-    <message>
-        <source>rename %1 to &quot;%2&quot;</source>
-        <translation>%1 umbenennen in &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>move %1 to &quot;%2&quot;</source>
-        <translation>%1 verschieben nach &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>there already is a different %1</source>
-        <translation>%1 gibt es schon, mit anderen Werten</translation>
-    </message>
-    <message>
-        <source>change %1: %2</source>
-        <translation>%1 ändern: %2</translation>
-    </message>
-    <message>
-        <source>remove %1</source>
-        <translation>%1 entfernen</translation>
-    </message>
-    <message>
-        <source> with its cables: %1</source>
-        <translation> samt Kabeln: %1</translation>
-    </message>
-    <message>
-        <source>there is no %1 &quot;%2&quot;</source>
-        <translation>%1 &quot;%2&quot; gibt es nicht</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be the name of an element</source>
-        <translation>&quot;%1&quot; kann nicht der Name eines Elements sein</translation>
-    </message>
-    <message>
-        <source>a job can hold at most %1 releases</source>
-        <translation>ein Auftrag enthält höchstens %1 Ausgaben</translation>
-    </message>
-    <message>
-        <source>the tag &quot;%1&quot; is already used</source>
-        <translation>das Tag &quot;%1&quot; ist schon vergeben</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>die Zeile hat keine ID</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableFile</name>
-    <message>
-        <source>the column &quot;%1&quot; occurs twice</source>
-        <translation>die Spalte &quot;%1&quot; ist doppelt</translation>
-    </message>
-    <message>
-        <source>unknown column &quot;%1&quot;</source>
-        <translation>eine Spalte &quot;%1&quot; gibt es nicht</translation>
-    </message>
-    <message>
-        <source>the column &quot;%1&quot; is missing</source>
-        <translation>die Spalte &quot;%1&quot; fehlt</translation>
-    </message>
-    <message>
-        <source>the row has more fields than the heading</source>
-        <translation>die Zeile hat mehr Felder als die Überschrift</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; ist keine Aktion; es gibt add, change, rename, move und remove</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>die Zeile hat keine ID</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is</source>
-        <translation>die Zeile sagt nicht, wo das Element ist</translation>
-    </message>
-    <message>
-        <source>the room &quot;Undefined&quot; cannot be changed</source>
-        <translation>der Raum &quot;Undefined&quot; kann nicht geändert werden</translation>
-    </message>
-    <message>
-        <source>the row does not give a new_id</source>
-        <translation>die Zeile gibt keine new_id an</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is moved to</source>
-        <translation>die Zeile sagt nicht, wohin das Element verschoben wird</translation>
-    </message>
-    <message>
-        <source>an element that is added or removed cannot be renamed or moved</source>
-        <translation>ein Element, das ergänzt oder entfernt wird, kann nicht umbenannt oder verschoben werden</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableValues</name>
-    <message>
-        <source>&quot;%1&quot; is not valid here</source>
-        <translation>&quot;%1&quot; ist hier nicht gültig</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
-        <translation>&quot;%1&quot; ist keine ganze Zahl im Bereich dieser Spalte</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number in the range of this column</source>
-        <translation>&quot;%1&quot; ist keine Zahl im Bereich dieser Spalte</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is neither 1 nor 0</source>
-        <translation>&quot;%1&quot; ist weder 1 noch 0</translation>
-    </message>
-    <message>
-        <source>there is no point, port or vertical run &quot;%1&quot;</source>
-        <translation>es gibt keinen Punkt, keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no vertical run &quot;%1&quot;</source>
-        <translation>es gibt keine Steigleitung &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>a bundle can have at most %1 types</source>
-        <translation>ein Bündel kann höchstens %1 Typen haben</translation>
-    </message>
-    <message>
-        <source>there is no test definition &quot;%1&quot;</source>
-        <translation>es gibt keine Prüfdefinition &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no device or bend &quot;%1&quot;</source>
-        <translation>es gibt kein Gerät und keinen Knickpunkt &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port or vertical run &quot;%1&quot;</source>
-        <translation>es gibt keinen Anschluss und keine Steigleitung &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port &quot;%1&quot;</source>
-        <translation>es gibt keinen Anschluss &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no bundle &quot;%1&quot;</source>
-        <translation>es gibt kein Bündel &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; ist keine übliche Nutzung</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a colour</source>
-        <translation>&quot;%1&quot; ist keine Farbe</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::ValueSetter</name>
-    <message>
-        <source>there is no value &quot;%1&quot;</source>
-        <translation>es gibt keinen Wert &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>&quot;%1&quot; ist keine ganze Zahl</translation>
     </message>
 </context>
 </TS>

@@ -1599,6 +1599,230 @@
         <source>the floor plans have no scale for feet or metres</source>
         <translation>los planos de planta no tienen escala para pies o metros</translation>
     </message>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la columna &quot;%1&quot; está repetida</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>no hay ninguna columna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>falta la columna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la fila tiene más campos que el encabezado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; no es una acción; las acciones son add, change, rename, move y remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la fila no tiene identificador</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>la fila no dice dónde está el elemento</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>la sala &quot;Undefined&quot; no se puede cambiar</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>la fila no indica new_id</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>la fila no dice adónde se mueve el elemento</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>un elemento que se añade o se elimina no se puede renombrar ni mover</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>definición de prueba</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>haz</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>planta</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>sala</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>toma</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>montante</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>hoja</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>codo</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>conexión</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>cable</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>toma activa</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>revisión</translation>
+    </message>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>la fila %1 ya trata de este elemento: %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>la fila %1 ya da este nombre: %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>el nombre &quot;%1&quot; ya se usa</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>no existe: %1</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>añadir %1</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>renombrar %1 como &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>mover %1 a &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>ya existe con otros valores: %1</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>cambiar %1: %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>eliminar %1</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> con sus cables: %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>no existe: %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; no puede ser el nombre de un elemento</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>un trabajo no contiene más de %1 revisiones</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>la etiqueta &quot;%1&quot; ya se usa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; no es válido aquí</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; no es un número entero en el intervalo de esta columna</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; no es un número en el intervalo de esta columna</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; no es ni 1 ni 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>no hay ningún punto, toma ni montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>no hay ningún montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>un haz puede tener como máximo %1 tipos</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>no hay ninguna definición de prueba &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>no hay ningún dispositivo ni codo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>no hay ninguna toma ni montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>no hay ninguna toma &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>no hay ningún haz &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; no es un uso habitual</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; no es un color</translation>
+    </message>
 </context>
 <context>
     <name>TestDef</name>
@@ -1748,6 +1972,37 @@ de más de 330 ft (100 m).</translation>
     </message>
 </context>
 <context>
+    <name>Values</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; no es una escala como 1:100 o &quot;20 ft&quot; (por pulgada), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; no es una página como A3 o &quot;17 x 11&quot; (en pulgadas), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; no es un tamaño de papel; hay %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; no es un número que %2 pueda tener</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>no hay ningún valor &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; no es un número entero</translation>
+    </message>
+</context>
+<context>
     <name>XmlFile</name>
     <message>
         <source>The file contains a control character that XML does not allow.</source>
@@ -1800,277 +2055,6 @@ de más de 330 ft (100 m).</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Otro programa ha cambiado el archivo desde que se leyó. No se reemplaza.</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc</name>
-    <message>
-        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; no es una escala como 1:100 o &quot;20 ft&quot; (por pulgada), ni &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; no es una página como A3 o &quot;17 x 11&quot; (en pulgadas), ni &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; no es un tamaño de papel; hay %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number that %2 can have</source>
-        <translation>&quot;%1&quot; no es un número que %2 pueda tener</translation>
-    </message>
-    <message>
-        <source>test definition</source>
-        <translation>definición de prueba</translation>
-    </message>
-    <message>
-        <source>bundle</source>
-        <translation>haz</translation>
-    </message>
-    <message>
-        <source>floor</source>
-        <translation>planta</translation>
-    </message>
-    <message>
-        <source>room</source>
-        <translation>sala</translation>
-    </message>
-    <message>
-        <source>port</source>
-        <translation>toma</translation>
-    </message>
-    <message>
-        <source>vertical run</source>
-        <translation>montante</translation>
-    </message>
-    <message>
-        <source>point</source>
-        <translation>punto</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>texto</translation>
-    </message>
-    <message>
-        <source>sheet</source>
-        <translation>hoja</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>dispositivo</translation>
-    </message>
-    <message>
-        <source>bend</source>
-        <translation>codo</translation>
-    </message>
-    <message>
-        <source>connection</source>
-        <translation>conexión</translation>
-    </message>
-    <message>
-        <source>cable</source>
-        <translation>cable</translation>
-    </message>
-    <message>
-        <source>active port</source>
-        <translation>toma activa</translation>
-    </message>
-    <message>
-        <source>release</source>
-        <translation>revisión</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::Planner</name>
-    <message>
-        <source>row %1 already is about the %2</source>
-        <translation>la fila %1 ya trata de este elemento: %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>la fila %1 ya da este nombre: %2</translation>
-    </message>
-    <message>
-        <source>the name &quot;%1&quot; is already used</source>
-        <translation>el nombre &quot;%1&quot; ya se usa</translation>
-    </message>
-    <message>
-        <source>there is no %1</source>
-        <translation>no existe: %1</translation>
-    </message>
-    <message>
-        <source>add %1</source>
-        <translation>añadir %1</translation>
-    </message>
-    <message>
-        <source>rename %1 to &quot;%2&quot;</source>
-        <translation>renombrar %1 como &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>move %1 to &quot;%2&quot;</source>
-        <translation>mover %1 a &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>there already is a different %1</source>
-        <translation>ya existe con otros valores: %1</translation>
-    </message>
-    <message>
-        <source>change %1: %2</source>
-        <translation>cambiar %1: %2</translation>
-    </message>
-    <message>
-        <source>remove %1</source>
-        <translation>eliminar %1</translation>
-    </message>
-    <message>
-        <source> with its cables: %1</source>
-        <translation> con sus cables: %1</translation>
-    </message>
-    <message>
-        <source>there is no %1 &quot;%2&quot;</source>
-        <translation>no existe: %1 &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be the name of an element</source>
-        <translation>&quot;%1&quot; no puede ser el nombre de un elemento</translation>
-    </message>
-    <message>
-        <source>a job can hold at most %1 releases</source>
-        <translation>un trabajo no contiene más de %1 revisiones</translation>
-    </message>
-    <message>
-        <source>the tag &quot;%1&quot; is already used</source>
-        <translation>la etiqueta &quot;%1&quot; ya se usa</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>la fila no tiene identificador</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableFile</name>
-    <message>
-        <source>the column &quot;%1&quot; occurs twice</source>
-        <translation>la columna &quot;%1&quot; está repetida</translation>
-    </message>
-    <message>
-        <source>unknown column &quot;%1&quot;</source>
-        <translation>no hay ninguna columna &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>the column &quot;%1&quot; is missing</source>
-        <translation>falta la columna &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>the row has more fields than the heading</source>
-        <translation>la fila tiene más campos que el encabezado</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; no es una acción; las acciones son add, change, rename, move y remove</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>la fila no tiene identificador</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is</source>
-        <translation>la fila no dice dónde está el elemento</translation>
-    </message>
-    <message>
-        <source>the room &quot;Undefined&quot; cannot be changed</source>
-        <translation>la sala &quot;Undefined&quot; no se puede cambiar</translation>
-    </message>
-    <message>
-        <source>the row does not give a new_id</source>
-        <translation>la fila no indica new_id</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is moved to</source>
-        <translation>la fila no dice adónde se mueve el elemento</translation>
-    </message>
-    <message>
-        <source>an element that is added or removed cannot be renamed or moved</source>
-        <translation>un elemento que se añade o se elimina no se puede renombrar ni mover</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableValues</name>
-    <message>
-        <source>&quot;%1&quot; is not valid here</source>
-        <translation>&quot;%1&quot; no es válido aquí</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
-        <translation>&quot;%1&quot; no es un número entero en el intervalo de esta columna</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number in the range of this column</source>
-        <translation>&quot;%1&quot; no es un número en el intervalo de esta columna</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is neither 1 nor 0</source>
-        <translation>&quot;%1&quot; no es ni 1 ni 0</translation>
-    </message>
-    <message>
-        <source>there is no point, port or vertical run &quot;%1&quot;</source>
-        <translation>no hay ningún punto, toma ni montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no vertical run &quot;%1&quot;</source>
-        <translation>no hay ningún montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>a bundle can have at most %1 types</source>
-        <translation>un haz puede tener como máximo %1 tipos</translation>
-    </message>
-    <message>
-        <source>there is no test definition &quot;%1&quot;</source>
-        <translation>no hay ninguna definición de prueba &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no device or bend &quot;%1&quot;</source>
-        <translation>no hay ningún dispositivo ni codo &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port or vertical run &quot;%1&quot;</source>
-        <translation>no hay ninguna toma ni montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port &quot;%1&quot;</source>
-        <translation>no hay ninguna toma &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no bundle &quot;%1&quot;</source>
-        <translation>no hay ningún haz &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; no es un uso habitual</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a colour</source>
-        <translation>&quot;%1&quot; no es un color</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::ValueSetter</name>
-    <message>
-        <source>there is no value &quot;%1&quot;</source>
-        <translation>no hay ningún valor &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>&quot;%1&quot; no es un número entero</translation>
     </message>
 </context>
 </TS>

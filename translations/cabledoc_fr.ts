@@ -1599,6 +1599,230 @@
         <source>the floor plans have no scale for feet or metres</source>
         <translation>les plans d&apos;étage n&apos;ont pas d&apos;échelle pour des pieds ou des mètres</translation>
     </message>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la colonne &quot;%1&quot; est en double</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de colonne &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>la colonne &quot;%1&quot; manque</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la ligne a plus de champs que l&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
+        <translation>&quot;%1&quot; n&apos;est pas une action ; les actions sont add, change, rename, move et remove</translation>
+    </message>
+    <message>
+        <source>the row has no id</source>
+        <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is</source>
+        <translation>la ligne ne dit pas où est l&apos;élément</translation>
+    </message>
+    <message>
+        <source>the room &quot;Undefined&quot; cannot be changed</source>
+        <translation>la pièce &quot;Undefined&quot; ne peut pas être modifiée</translation>
+    </message>
+    <message>
+        <source>the row does not give a new_id</source>
+        <translation>la ligne ne donne pas de new_id</translation>
+    </message>
+    <message>
+        <source>the row does not say where the element is moved to</source>
+        <translation>la ligne ne dit pas où l&apos;élément est déplacé</translation>
+    </message>
+    <message>
+        <source>an element that is added or removed cannot be renamed or moved</source>
+        <translation>un élément qui est ajouté ou supprimé ne peut pas être renommé ni déplacé</translation>
+    </message>
+    <message>
+        <source>test definition</source>
+        <translation>définition de test</translation>
+    </message>
+    <message>
+        <source>bundle</source>
+        <translation>faisceau</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>étage</translation>
+    </message>
+    <message>
+        <source>room</source>
+        <translation>pièce</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>prise</translation>
+    </message>
+    <message>
+        <source>vertical run</source>
+        <translation>colonne montante</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>feuille</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>appareil</translation>
+    </message>
+    <message>
+        <source>bend</source>
+        <translation>coude</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>connexion</translation>
+    </message>
+    <message>
+        <source>cable</source>
+        <translation>câble</translation>
+    </message>
+    <message>
+        <source>active port</source>
+        <translation>prise active</translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation>révision</translation>
+    </message>
+    <message>
+        <source>row %1 already is about the %2</source>
+        <translation>la ligne %1 concerne déjà cet élément : %2</translation>
+    </message>
+    <message>
+        <source>row %1 already names the %2</source>
+        <translation>la ligne %1 donne déjà ce nom : %2</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; is already used</source>
+        <translation>le nom &quot;%1&quot; est déjà utilisé</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>introuvable : %1</translation>
+    </message>
+    <message>
+        <source>add %1</source>
+        <translation>ajouter %1</translation>
+    </message>
+    <message>
+        <source>rename %1 to &quot;%2&quot;</source>
+        <translation>renommer %1 en &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>move %1 to &quot;%2&quot;</source>
+        <translation>déplacer %1 vers &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>there already is a different %1</source>
+        <translation>existe déjà avec d&apos;autres valeurs : %1</translation>
+    </message>
+    <message>
+        <source>change %1: %2</source>
+        <translation>modifier %1 : %2</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <translation>supprimer %1</translation>
+    </message>
+    <message>
+        <source> with its cables: %1</source>
+        <translation> avec ses câbles : %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>introuvable : %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of an element</source>
+        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un élément</translation>
+    </message>
+    <message>
+        <source>a job can hold at most %1 releases</source>
+        <translation>un projet ne contient pas plus de %1 révisions</translation>
+    </message>
+    <message>
+        <source>the tag &quot;%1&quot; is already used</source>
+        <translation>la balise &quot;%1&quot; est déjà utilisée</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid here</source>
+        <translation>&quot;%1&quot; n&apos;est pas valable ici</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre entier dans l&apos;intervalle de cette colonne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number in the range of this column</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre dans l&apos;intervalle de cette colonne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither 1 nor 0</source>
+        <translation>&quot;%1&quot; n&apos;est ni 1 ni 0</translation>
+    </message>
+    <message>
+        <source>there is no point, port or vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de point, de prise ni de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a bundle can have at most %1 types</source>
+        <translation>un faisceau peut avoir au plus %1 types</translation>
+    </message>
+    <message>
+        <source>there is no test definition &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de définition de test &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no device or bend &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas d&apos;appareil ni de coude &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port or vertical run &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise ni de colonne montante &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no port &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no bundle &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de faisceau &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a usual use</source>
+        <translation>&quot;%1&quot; n&apos;est pas un usage habituel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
+    </message>
 </context>
 <context>
     <name>TestDef</name>
@@ -1748,6 +1972,37 @@ de plus de 330 ft (100 m).</translation>
     </message>
 </context>
 <context>
+    <name>Values</name>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni une échelle comme 1:100 ou &quot;20 ft&quot; (par pouce), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni une page comme A3 ou &quot;17 x 11&quot; (en pouces), ni &quot;none&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a paper size: %2 are</source>
+        <translation>&quot;%1&quot; n&apos;est pas un format de papier ; il y a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number that %2 can have</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre que %2 peut avoir</translation>
+    </message>
+    <message>
+        <source>there is no value &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de valeur &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre entier</translation>
+    </message>
+</context>
+<context>
     <name>XmlFile</name>
     <message>
         <source>The file contains a control character that XML does not allow.</source>
@@ -1800,277 +2055,6 @@ de plus de 330 ft (100 m).</translation>
     <message>
         <source>Another program has changed the file since it was read. It is not replaced.</source>
         <translation>Un autre programme a modifié le fichier depuis sa lecture. Il n&apos;est pas remplacé.</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc</name>
-    <message>
-        <source>&quot;%1&quot; is not a scale such as 1:100 or &quot;20 ft&quot; (to the inch), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; n&apos;est ni une échelle comme 1:100 ou &quot;20 ft&quot; (par pouce), ni &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a page such as A3 or &quot;17 x 11&quot; (in inches), nor &quot;none&quot;</source>
-        <translation>&quot;%1&quot; n&apos;est ni une page comme A3 ou &quot;17 x 11&quot; (en pouces), ni &quot;none&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; n&apos;est pas un format de papier ; il y a %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number that %2 can have</source>
-        <translation>&quot;%1&quot; n&apos;est pas un nombre que %2 peut avoir</translation>
-    </message>
-    <message>
-        <source>test definition</source>
-        <translation>définition de test</translation>
-    </message>
-    <message>
-        <source>bundle</source>
-        <translation>faisceau</translation>
-    </message>
-    <message>
-        <source>floor</source>
-        <translation>étage</translation>
-    </message>
-    <message>
-        <source>room</source>
-        <translation>pièce</translation>
-    </message>
-    <message>
-        <source>port</source>
-        <translation>prise</translation>
-    </message>
-    <message>
-        <source>vertical run</source>
-        <translation>colonne montante</translation>
-    </message>
-    <message>
-        <source>point</source>
-        <translation>point</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>texte</translation>
-    </message>
-    <message>
-        <source>sheet</source>
-        <translation>feuille</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>appareil</translation>
-    </message>
-    <message>
-        <source>bend</source>
-        <translation>coude</translation>
-    </message>
-    <message>
-        <source>connection</source>
-        <translation>connexion</translation>
-    </message>
-    <message>
-        <source>cable</source>
-        <translation>câble</translation>
-    </message>
-    <message>
-        <source>active port</source>
-        <translation>prise active</translation>
-    </message>
-    <message>
-        <source>release</source>
-        <translation>révision</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::Planner</name>
-    <message>
-        <source>row %1 already is about the %2</source>
-        <translation>la ligne %1 concerne déjà cet élément : %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>la ligne %1 donne déjà ce nom : %2</translation>
-    </message>
-    <message>
-        <source>the name &quot;%1&quot; is already used</source>
-        <translation>le nom &quot;%1&quot; est déjà utilisé</translation>
-    </message>
-    <message>
-        <source>there is no %1</source>
-        <translation>introuvable : %1</translation>
-    </message>
-    <message>
-        <source>add %1</source>
-        <translation>ajouter %1</translation>
-    </message>
-    <message>
-        <source>rename %1 to &quot;%2&quot;</source>
-        <translation>renommer %1 en &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>move %1 to &quot;%2&quot;</source>
-        <translation>déplacer %1 vers &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>there already is a different %1</source>
-        <translation>existe déjà avec d&apos;autres valeurs : %1</translation>
-    </message>
-    <message>
-        <source>change %1: %2</source>
-        <translation>modifier %1 : %2</translation>
-    </message>
-    <message>
-        <source>remove %1</source>
-        <translation>supprimer %1</translation>
-    </message>
-    <message>
-        <source> with its cables: %1</source>
-        <translation> avec ses câbles : %1</translation>
-    </message>
-    <message>
-        <source>there is no %1 &quot;%2&quot;</source>
-        <translation>introuvable : %1 &quot;%2&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be the name of an element</source>
-        <translation>&quot;%1&quot; ne peut pas être le nom d&apos;un élément</translation>
-    </message>
-    <message>
-        <source>a job can hold at most %1 releases</source>
-        <translation>un projet ne contient pas plus de %1 révisions</translation>
-    </message>
-    <message>
-        <source>the tag &quot;%1&quot; is already used</source>
-        <translation>la balise &quot;%1&quot; est déjà utilisée</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableFile</name>
-    <message>
-        <source>the column &quot;%1&quot; occurs twice</source>
-        <translation>la colonne &quot;%1&quot; est en double</translation>
-    </message>
-    <message>
-        <source>unknown column &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de colonne &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>the column &quot;%1&quot; is missing</source>
-        <translation>la colonne &quot;%1&quot; manque</translation>
-    </message>
-    <message>
-        <source>the row has more fields than the heading</source>
-        <translation>la ligne a plus de champs que l&apos;en-tête</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
-        <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; n&apos;est pas une action ; les actions sont add, change, rename, move et remove</translation>
-    </message>
-    <message>
-        <source>the row has no id</source>
-        <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is</source>
-        <translation>la ligne ne dit pas où est l&apos;élément</translation>
-    </message>
-    <message>
-        <source>the room &quot;Undefined&quot; cannot be changed</source>
-        <translation>la pièce &quot;Undefined&quot; ne peut pas être modifiée</translation>
-    </message>
-    <message>
-        <source>the row does not give a new_id</source>
-        <translation>la ligne ne donne pas de new_id</translation>
-    </message>
-    <message>
-        <source>the row does not say where the element is moved to</source>
-        <translation>la ligne ne dit pas où l&apos;élément est déplacé</translation>
-    </message>
-    <message>
-        <source>an element that is added or removed cannot be renamed or moved</source>
-        <translation>un élément qui est ajouté ou supprimé ne peut pas être renommé ni déplacé</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::TableValues</name>
-    <message>
-        <source>&quot;%1&quot; is not valid here</source>
-        <translation>&quot;%1&quot; n&apos;est pas valable ici</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number in the range of this column</source>
-        <translation>&quot;%1&quot; n&apos;est pas un nombre entier dans l&apos;intervalle de cette colonne</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number in the range of this column</source>
-        <translation>&quot;%1&quot; n&apos;est pas un nombre dans l&apos;intervalle de cette colonne</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is neither 1 nor 0</source>
-        <translation>&quot;%1&quot; n&apos;est ni 1 ni 0</translation>
-    </message>
-    <message>
-        <source>there is no point, port or vertical run &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de point, de prise ni de colonne montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no vertical run &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de colonne montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>a bundle can have at most %1 types</source>
-        <translation>un faisceau peut avoir au plus %1 types</translation>
-    </message>
-    <message>
-        <source>there is no test definition &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de définition de test &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no device or bend &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas d&apos;appareil ni de coude &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port or vertical run &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de prise ni de colonne montante &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no port &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de prise &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>there is no bundle &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de faisceau &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; n&apos;est pas un usage habituel</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a colour</source>
-        <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
-    </message>
-</context>
-<context>
-    <name>cabledoc::ValueSetter</name>
-    <message>
-        <source>there is no value &quot;%1&quot;</source>
-        <translation>il n&apos;y a pas de valeur &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>&quot;%1&quot; n&apos;est pas un nombre entier</translation>
     </message>
 </context>
 </TS>
