@@ -112,6 +112,8 @@ private:
         const QString newId = newIdIn(change);
         for (const QDomElement &type : found.bundleTypes)
             m_tree.setAttribute(type, words::Id, newId);
+        if (m_job == nullptr)
+            return;
         for (const QString &cable : found.cables)
             (m_job->*(m_isOfDefinitions ? &JobEditor::setCableType : &JobEditor::setCableBundleName))(cable, newId);
     }

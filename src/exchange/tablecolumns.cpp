@@ -485,6 +485,8 @@ QString TableReader::text(const TableColumn &column, TableUnit unit, int positio
         return length < 0 ? QString() : QString::number(double(length), 'g', 7);
     }
     case Content::EstimatedLength: {
+        if (m_feetInAPixel <= 0.0)
+            return QString();
         const double length = job.estimatedLength(position, unit == TableUnit::Metres);
         return length < 0 ? QString() : roundedText(length);
     }
@@ -517,6 +519,8 @@ QString TableReader::pathText(int position) const
 
 QString TableReader::runsText(int cable, bool isConnected) const
 {
+    if (m_names.job().verticalRuns().isEmpty())
+        return QString();
     if (m_runsOfCables[0].isEmpty())
         findRuns();
     return nameListText(m_runsOfCables[isConnected ? 0 : 1].at(cable));

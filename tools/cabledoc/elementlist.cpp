@@ -188,15 +188,19 @@ QString ElementList::text() const
     std::vector<TextColumn> columns;
     for (const int column : m_columns) {
         const ElementTable::Column &description = m_table->columns().at(column);
-        TextColumn texts{description.name, description.isNumber, {}};
-        texts.cells.reserve(m_rows.size());
-        bool isFilled = m_hasChosenColumns;
-        for (const int row : m_rows) {
-            texts.cells.append(inOneLine(m_table->text(row, column)));
-            isFilled = isFilled || !texts.cells.constLast().isEmpty();
-        }
-        if (isFilled && (m_hasChosenColumns || description.name != QLatin1String("tag")))
-            columns.push_back(std::move(texts));
+        columns.push_back({description.name, description.isNumber, {}});
+        columns.back().cells.reserve(m_rows.size());
     }
+    for (const int row : m_rows) {
+        for (std::size_t number = 0; number < columns.size(); ++number)
+            columns[number].cells.append(inOneLine(m_table->text(row, m_columns.at(int(number)))));
+    }
+    const auto isLeftOut = [](const TextColumn &column) {
+        return column.heading == QLatin1String("tag")
+               || std::all_of(column.cells.cbegin(), column.cells.cend(),
+                              [](const QString &cell) { return cell.isEmpty(); });
+    };
+    if (!m_hasChosenColumns)
+        columns.erase(std::remove_if(columns.begin(), columns.end(), isLeftOut), columns.end());
     return textOf(columns);
 }

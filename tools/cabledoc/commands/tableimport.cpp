@@ -11,6 +11,7 @@
 #include <cabledoc/tableplan.h>
 
 #include <array>
+#include <memory>
 
 using namespace cabledoc;
 
@@ -73,6 +74,21 @@ ExitCode printChanges(const CommandLine &line, const TablePlan &plan)
                              .arg(counts[4]));
 }
 
+/// Compares the table with the file of the command line. Both are no longer in memory afterwards.
+ExitCode makePlan(const CommandLine &line, TableKind kind, const CsvOptions &options,
+                  std::unique_ptr<const TablePlan> *plan)
+{
+    JobSnapshot document;
+    if (const ExitCode error = readDocument(line, &document))
+        return error;
+    QByteArray csv;
+    if (const ExitCode error = readData(line, line.argument(2), &csv))
+        return error;
+    *plan = std::make_unique<const TablePlan>(document, kind, csv, options);
+    const QString problem = (*plan)->error();
+    return problem.isEmpty() ? Done : fail(CannotLoad, line.argument(2), problem);
+}
+
 /// Makes the changes in the file of the command line.
 ExitCode apply(const CommandLine &line, const TablePlan &plan)
 {
@@ -102,15 +118,10 @@ ExitCode runTableImport(const CommandLine &line)
         if (const ExitCode error = lockForChange(line))
             return error;
     }
-    JobSnapshot document;
-    if (const ExitCode error = readDocument(line, &document))
+    std::unique_ptr<const TablePlan> readPlan;
+    if (const ExitCode error = makePlan(line, kind, options, &readPlan))
         return error;
-    QByteArray csv;
-    if (const ExitCode error = readData(line, line.argument(2), &csv))
-        return error;
-    const TablePlan plan(document, kind, csv, options);
-    if (!plan.error().isEmpty())
-        return fail(CannotLoad, line.argument(2), plan.error());
+    const TablePlan &plan = *readPlan;
     const bool printsJson = line.isSet("json");
     if (!printsJson) {
         printProblems(line.argument(2), plan.problems());
