@@ -1041,10 +1041,6 @@
         <translation>CSV statt Text ausgeben.</translation>
     </message>
     <message>
-        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
-        <translation>Das Trennzeichen der Felder: comma, semicolon oder tab. Sonst ergibt es sich aus der ersten Zeile.</translation>
-    </message>
-    <message>
         <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
         <translation>Die Kodierung der CSV-Datei: UTF-8, UTF-16 oder windows-1252. Sonst ist es UTF-8 oder UTF-16.</translation>
     </message>
@@ -1369,8 +1365,12 @@
         <translation>Vorlagen haben die Tabelle &quot;%1&quot; nicht</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
-        <translation>&quot;%1&quot; ist keine Einheit; es gibt px, ft und m</translation>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, it is found in the first row.</source>
+        <translation>Das Trennzeichen der Felder: comma, semicolon oder tab. Ohne Angabe wird es in der ersten Zeile gefunden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the units px, ft and m</source>
+        <translation>&quot;%1&quot; ist keine der Einheiten px, ft und m</translation>
     </message>
 </context>
 <context>
@@ -1620,10 +1620,6 @@
         <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; ist keine Aktion; es gibt add, change, rename, move und remove</translation>
-    </message>
-    <message>
         <source>the row has no id</source>
         <translation>die Zeile hat keine ID</translation>
     </message>
@@ -1710,10 +1706,6 @@
     <message>
         <source>row %1 already is about the %2</source>
         <translation>um dieses Element geht es schon in Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>diesen Namen vergibt schon Zeile %1: %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; is already used</source>
@@ -1816,12 +1808,20 @@
         <translation>es gibt kein Bündel &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; ist keine übliche Nutzung</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; ist keine Farbe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of add, change, rename, move and remove</source>
+        <translation>&quot;%1&quot; ist keines von add, change, rename, move und remove</translation>
+    </message>
+    <message>
+        <source>row %1 already uses the name &quot;%2&quot;</source>
+        <translation>schon Zeile %1 verwendet den Namen &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>unbekannte Nutzung &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -1986,10 +1986,6 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
         <translation>&quot;%1&quot; hat ein Zeichen, das in einer Datei nicht stehen kann</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; ist kein Papierformat; es gibt %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a number that %2 can have</source>
         <translation>&quot;%1&quot; ist keine Zahl, die %2 haben kann</translation>
     </message>
@@ -2000,6 +1996,10 @@ von mehr als 330 ft (100 m) fehlschlagen.</translation>
     <message>
         <source>&quot;%1&quot; is not a whole number</source>
         <translation>&quot;%1&quot; ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the paper sizes: %2</source>
+        <translation>&quot;%1&quot; ist keine der Papiergrößen: %2</translation>
     </message>
 </context>
 <context>

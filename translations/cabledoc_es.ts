@@ -1041,10 +1041,6 @@
         <translation>Mostrar CSV en lugar de texto.</translation>
     </message>
     <message>
-        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
-        <translation>El separador de los campos: comma, semicolon o tab. Si no, lo determina la primera fila.</translation>
-    </message>
-    <message>
         <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
         <translation>La codificación del archivo CSV: UTF-8, UTF-16 o windows-1252. Si no, es UTF-8 o UTF-16.</translation>
     </message>
@@ -1369,8 +1365,12 @@
         <translation>las plantillas no tienen la tabla &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
-        <translation>&quot;%1&quot; no es una unidad; las unidades son px, ft y m</translation>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, it is found in the first row.</source>
+        <translation>El separador de los campos: comma, semicolon o tab. Por defecto se detecta en la primera fila.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the units px, ft and m</source>
+        <translation>&quot;%1&quot; no es una de las unidades px, ft y m</translation>
     </message>
 </context>
 <context>
@@ -1620,10 +1620,6 @@
         <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; no es una acción; las acciones son add, change, rename, move y remove</translation>
-    </message>
-    <message>
         <source>the row has no id</source>
         <translation>la fila no tiene identificador</translation>
     </message>
@@ -1710,10 +1706,6 @@
     <message>
         <source>row %1 already is about the %2</source>
         <translation>la fila %1 ya trata de este elemento: %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>la fila %1 ya da este nombre: %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; is already used</source>
@@ -1816,12 +1808,20 @@
         <translation>no hay ningún haz &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; no es un uso habitual</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; no es un color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of add, change, rename, move and remove</source>
+        <translation>&quot;%1&quot; no es add, change, rename, move ni remove</translation>
+    </message>
+    <message>
+        <source>row %1 already uses the name &quot;%2&quot;</source>
+        <translation>la fila %1 ya usa el nombre &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>uso desconocido &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -1986,10 +1986,6 @@ de más de 330 ft (100 m).</translation>
         <translation>&quot;%1&quot; tiene un carácter que un archivo no puede contener</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; no es un tamaño de papel; hay %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a number that %2 can have</source>
         <translation>&quot;%1&quot; no es un número que %2 pueda tener</translation>
     </message>
@@ -2000,6 +1996,10 @@ de más de 330 ft (100 m).</translation>
     <message>
         <source>&quot;%1&quot; is not a whole number</source>
         <translation>&quot;%1&quot; no es un número entero</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the paper sizes: %2</source>
+        <translation>&quot;%1&quot; no es uno de los tamaños de papel: %2</translation>
     </message>
 </context>
 <context>

@@ -1041,10 +1041,6 @@
         <translation>Afficher du CSV au lieu de texte.</translation>
     </message>
     <message>
-        <source>The delimiter of the fields: comma, semicolon or tab. By default, the first row tells.</source>
-        <translation>Le séparateur des champs : comma, semicolon ou tab. Sinon, la première ligne le détermine.</translation>
-    </message>
-    <message>
         <source>The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By default, it is UTF-8 or UTF-16.</source>
         <translation>Le codage du fichier CSV : UTF-8, UTF-16 ou windows-1252. Sinon, c&apos;est UTF-8 ou UTF-16.</translation>
     </message>
@@ -1369,8 +1365,12 @@
         <translation>les modèles n&apos;ont pas le tableau &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a unit: px, ft and m are</source>
-        <translation>&quot;%1&quot; n&apos;est pas une unité ; les unités sont px, ft et m</translation>
+        <source>The delimiter of the fields: comma, semicolon or tab. By default, it is found in the first row.</source>
+        <translation>Le séparateur des champs : comma, semicolon ou tab. Par défaut, il est trouvé dans la première ligne.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the units px, ft and m</source>
+        <translation>&quot;%1&quot; n&apos;est pas une des unités px, ft et m</translation>
     </message>
 </context>
 <context>
@@ -1620,10 +1620,6 @@
         <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not an action: add, change, rename, move and remove are</source>
-        <translation>&quot;%1&quot; n&apos;est pas une action ; les actions sont add, change, rename, move et remove</translation>
-    </message>
-    <message>
         <source>the row has no id</source>
         <translation>la ligne n&apos;a pas d&apos;identifiant</translation>
     </message>
@@ -1710,10 +1706,6 @@
     <message>
         <source>row %1 already is about the %2</source>
         <translation>la ligne %1 concerne déjà cet élément : %2</translation>
-    </message>
-    <message>
-        <source>row %1 already names the %2</source>
-        <translation>la ligne %1 donne déjà ce nom : %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; is already used</source>
@@ -1816,12 +1808,20 @@
         <translation>il n&apos;y a pas de faisceau &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a usual use</source>
-        <translation>&quot;%1&quot; n&apos;est pas un usage habituel</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a colour</source>
         <translation>&quot;%1&quot; n&apos;est pas une couleur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of add, change, rename, move and remove</source>
+        <translation>&quot;%1&quot; n&apos;est ni add, ni change, ni rename, ni move, ni remove</translation>
+    </message>
+    <message>
+        <source>row %1 already uses the name &quot;%2&quot;</source>
+        <translation>la ligne %1 utilise déjà le nom &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>unknown use &quot;%1&quot;</source>
+        <translation>usage inconnu &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -1986,10 +1986,6 @@ de plus de 330 ft (100 m).</translation>
         <translation>&quot;%1&quot; a un caractère qu&apos;un fichier ne peut pas contenir</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a paper size: %2 are</source>
-        <translation>&quot;%1&quot; n&apos;est pas un format de papier ; il y a %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a number that %2 can have</source>
         <translation>&quot;%1&quot; n&apos;est pas un nombre que %2 peut avoir</translation>
     </message>
@@ -2000,6 +1996,10 @@ de plus de 330 ft (100 m).</translation>
     <message>
         <source>&quot;%1&quot; is not a whole number</source>
         <translation>&quot;%1&quot; n&apos;est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of the paper sizes: %2</source>
+        <translation>&quot;%1&quot; n&apos;est pas un des formats de papier : %2</translation>
     </message>
 </context>
 <context>

@@ -187,7 +187,7 @@ QString readField(const AttributeRow &row, const QString &text, void *fields)
     } else if (row.name == words::PaperSize || row.name == words::PageSize) {
         stored = paperSize(text);
         if (stored.isEmpty())
-            return ValueText::tr("\"%1\" is not a paper size: %2 are")
+            return ValueText::tr("\"%1\" is not one of the paper sizes: %2")
                 .arg(excerpt(text), SettingsStrings::paperSizes().join(QLatin1String(", ")));
     }
     if (row.isValid != nullptr && (stored.isEmpty() || !row.isValid(stored)))

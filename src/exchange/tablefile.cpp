@@ -184,7 +184,7 @@ void TableFile::readAction(const CsvRow &csv, FileRow *row)
         row->action = TableAction(action);
     else
         report(csv.number, field,
-               TableText::tr("\"%1\" is not an action: add, change, rename, move and remove are").arg(excerpt(word)));
+               TableText::tr("\"%1\" is not one of add, change, rename, move and remove").arg(excerpt(word)));
 }
 
 void TableFile::readName(FileRow *row)

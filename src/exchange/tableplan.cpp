@@ -159,6 +159,8 @@ void Planner::plan()
     }
     findMovedElements();
     checkNames();
+    m_plan.changes.reserve(int(m_rows.size()));
+    m_plan.elements.reserve(int(m_rows.size()));
     for (const PlannedRow &row : m_rows)
         planRow(row);
 }
@@ -271,7 +273,8 @@ void Planner::checkNames()
         const auto other = rowOfName.insert({nameText(row.newName), number});
         if (!other.second)
             report(*row.file, idField(),
-                   TableText::tr("row %1 already names the %2").arg(other.first->second).arg(named(row.newName)));
+                   TableText::tr("row %1 already uses the name \"%2\"")
+                       .arg(QString::number(other.first->second), excerpt(nameText(row.newName))));
         else if ((row.position < 0 || row.isMoved()) && isTaken(row.newName, leaving))
             report(*row.file, idField(),
                    TableText::tr("the name \"%1\" is already used").arg(excerpt(nameText(row.newName))));
@@ -480,8 +483,9 @@ TablePlan::TablePlan(const JobSnapshot &document, TableKind kind, const QByteArr
     std::stable_sort(d->problems.begin(), d->problems.end(), isBefore);
     std::stable_sort(d->warnings.begin(), d->warnings.end(), isBefore);
     // A name that is removed may be used again.
-    std::stable_partition(d->elements.begin(), d->elements.end(),
-                          [](const ElementChange &change) { return change.action == TableAction::Remove; });
+    const auto isRemoval = [](const ElementChange &change) { return change.action == TableAction::Remove; };
+    if (std::any_of(d->elements.cbegin(), d->elements.cend(), isRemoval))
+        std::stable_partition(d->elements.begin(), d->elements.end(), isRemoval);
     if (!d->problems.isEmpty()) {
         d->changes.clear();
         d->elements.clear();

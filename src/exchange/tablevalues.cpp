@@ -313,7 +313,7 @@ void TableValues::checkWord(const Field &field)
         break;
     case Content::Use:
         if (!isKnownUse(text))
-            warn(field, TableText::tr("\"%1\" is not a usual use").arg(excerpt(text)));
+            warn(field, TableText::tr("unknown use \"%1\"").arg(excerpt(text)));
         break;
     case Content::Color:
         if (!qtcompat::isColorName(text))

@@ -187,7 +187,7 @@ private Q_SLOTS:
         JobEditor &job = openJob(testData("trace.job"));
         const QStringList runs = job.getVertRuns("FFloor_1", "Room1", true);
         QVERIFY(!runs.isEmpty());
-        const QString run = runs.constFirst();
+        const QString &run = runs.constFirst();
         const QStringList before = job.getVertRunConnected(run);
         const QString cable = job.addCable("", "New", 1);
         const ElementTable table(JobSnapshot(job), TableKind::VerticalRuns);

@@ -16,9 +16,9 @@ const QVector<Command> &commands()
     static const Parameter metric{"[--metric]", Program::tr("Print lengths in metres instead of feet.")};
     static const Parameter maximumSize{"[--max-size SIZE]",
                                        Program::tr("The largest file to read, such as 500M; 4G by default.")};
-    static const Parameter delimiter{
-        "[--delimiter NAME]", Program::tr("The delimiter of the fields: comma, semicolon or tab. By default, the "
-                                          "first row tells.")};
+    static const Parameter delimiter{"[--delimiter NAME]",
+                                     Program::tr("The delimiter of the fields: comma, semicolon or tab. By default, it "
+                                                 "is found in the first row.")};
     static const Parameter encoding{"[--encoding NAME]",
                                     Program::tr("The encoding of the CSV file: UTF-8, UTF-16 or windows-1252. By "
                                                 "default, it is UTF-8 or UTF-16.")};

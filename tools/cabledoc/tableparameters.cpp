@@ -23,7 +23,7 @@ ExitCode readTableUnit(const CommandLine &line, cabledoc::TableUnit *unit)
         return Done;
     const auto number = names.indexOf(line.value("unit"));
     if (number < 0)
-        return line.usageError(Program::tr("\"%1\" is not a unit: px, ft and m are").arg(line.value("unit")));
+        return line.usageError(Program::tr("\"%1\" is not one of the units px, ft and m").arg(line.value("unit")));
     *unit = cabledoc::TableUnit(number);
     return Done;
 }
