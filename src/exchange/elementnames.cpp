@@ -2,6 +2,8 @@
 
 #include "jobwords.h"
 
+#include <algorithm>
+
 namespace cabledoc {
 
 namespace {
@@ -185,6 +187,20 @@ TableKind holderKind(TableKind kind)
     return rowOf(kind).holder;
 }
 
+QVector<TableKind> kindsWithNamesOf(TableKind kind)
+{
+    switch (kind) {
+    case TableKind::Ports:
+    case TableKind::VerticalRuns:
+        return {TableKind::Ports, TableKind::VerticalRuns};
+    case TableKind::Devices:
+    case TableKind::Bends:
+        return {TableKind::Devices, TableKind::Bends};
+    default:
+        return {kind};
+    }
+}
+
 ElementNames::ElementNames(const JobSnapshot &job)
     : m_job(job)
 {
@@ -251,6 +267,7 @@ void ElementNames::makeIndex(TableKind kind, Index *index) const
     index->positions.reserve(std::size_t(count));
     index->isNamed.resize(count);
     TextMap<int> roomTags;
+    const QVector<TableKind> kinds = kindsWithNamesOf(kind);
     // The elements of a holder follow one another.
     int holder = -1;
     QString holderKey;
@@ -266,8 +283,8 @@ void ElementNames::makeIndex(TableKind kind, Index *index) const
             holderKey = keyOf(partsOf(holderKind(kind), holder)) + partSeparator();
         }
         const QString key = holderKey + partOf(kind, position, 0);
-        const bool isTaken = (kind == TableKind::VerticalRuns && hasKey(TableKind::Ports, key))
-                             || (kind == TableKind::Bends && hasKey(TableKind::Devices, key));
+        const bool isTaken = std::any_of(kinds.cbegin(), kinds.cend(),
+                                         [&](TableKind other) { return other < kind && hasKey(other, key); });
         index->isNamed[position] = !isTaken && index->positions.insert({key, position}).second;
     }
 }

@@ -29,6 +29,10 @@ ElementKind elementKind(TableKind kind);
 /// Returns the kind of the elements that hold those of a kind, or Count if the document itself holds them.
 TableKind holderKind(TableKind kind);
 
+/// Returns the kinds that have their names in common with a kind. If elements of several kinds have a name, it leads to
+/// that of the first kind.
+QVector<TableKind> kindsWithNamesOf(TableKind kind);
+
 /// The names of the elements of a job, as the user sees them. The name of a port has three parts: the ids of its floor,
 /// its room and its own id. The part of the room is empty for the room "Undefined".
 ///

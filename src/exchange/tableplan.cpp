@@ -7,15 +7,13 @@
 #include "tabletext.h"
 #include "tablevalues.h"
 #include "xmlnames.h"
+#include "xmlscan.h"
 
 #include <algorithm>
 
 namespace cabledoc {
 
 namespace {
-
-/// Largest number of releases that a job holds.
-constexpr int maximumReleases = 4096;
 
 /// Returns what messages call an element of the kind.
 QString nounOf(TableKind kind)
@@ -55,21 +53,6 @@ QString nounOf(TableKind kind)
         break;
     }
     return TableText::tr("release");
-}
-
-/// Returns the kinds that have their names in common with a kind.
-QVector<TableKind> kindsWithNamesOf(TableKind kind)
-{
-    switch (kind) {
-    case TableKind::Ports:
-    case TableKind::VerticalRuns:
-        return {TableKind::Ports, TableKind::VerticalRuns};
-    case TableKind::Devices:
-    case TableKind::Bends:
-        return {TableKind::Devices, TableKind::Bends};
-    default:
-        return {kind};
-    }
 }
 
 /// A row with the element that it leads to.
@@ -120,7 +103,9 @@ private:
     void planRemoval(const PlannedRow &row);
     QStringList holderTags(const PlannedRow &row);
     QStringList tagsOf(TableKind kind, int position) const;
-    void checkNewNames(const PlannedRow &row);
+    void checkRelease(const PlannedRow &row);
+    void checkTag(const PlannedRow &row);
+    void planChange(const PlannedRow &row, ElementChange change, QStringList words);
     int removedCables(int position) const;
     void addPlace(const PlannedRow &row, ElementChange *change);
     void append(const PlannedRow &row, const ElementChange &change, const QString &text);
@@ -148,6 +133,7 @@ private:
     FreePlaces m_places;
     std::vector<PlannedRow> m_rows;
     int m_newReleases = 0;
+    TextMap<bool> m_newTags;
 };
 
 void Planner::plan()
@@ -304,6 +290,8 @@ void Planner::planRow(const PlannedRow &row)
         report(file, idField(), TableText::tr("there is no %1").arg(named(row.name)));
         return;
     }
+    if (m_kind == TableKind::Releases)
+        checkRelease(row);
     ElementChange change;
     change.action = isNew ? TableAction::Add : TableAction::Change;
     change.id = row.name.constLast();
@@ -311,7 +299,7 @@ void Planner::planRow(const PlannedRow &row)
         change.newHolders = holderTags(row);
     if (isNew) {
         change.tag = file.tag;
-        checkNewNames(row);
+        checkTag(row);
     } else {
         const ElementView element = elementOf(m_job, m_kind, row.position);
         change.tag = element.tag;
@@ -319,21 +307,27 @@ void Planner::planRow(const PlannedRow &row)
     }
     if (row.newName.constLast() != change.id || isNew)
         change.attributes.append({words::Id, row.newName.constLast()});
-    QStringList words = m_values.read(file, row.position, &change);
+    const QStringList words = m_values.read(file, row.position, &change);
     if (isNew) {
         addPlace(row, &change);
         append(row, change, TableText::tr("add %1").arg(named(row.name)));
-        return;
+    } else if (row.isMoved() || !words.isEmpty()) {
+        planChange(row, change, words);
     }
+}
+
+/// Plans what differs between an element and its row. The words say what differs apart from the name.
+void Planner::planChange(const PlannedRow &row, ElementChange change, QStringList words)
+{
     if (row.isMoved()) {
         const bool staysInHolder = change.newHolders.isEmpty();
         change.action = staysInHolder ? TableAction::Rename : TableAction::Move;
         const QString text = staysInHolder ? TableText::tr("rename %1 to \"%2\"") : TableText::tr("move %1 to \"%2\"");
         words.prepend(text.arg(named(row.name), excerpt(nameText(row.newName))));
         append(row, change, words.join(QLatin1String(", ")));
-    } else if (!words.isEmpty() && file.action == TableAction::Add) {
-        report(file, idField(), TableText::tr("there already is a different %1").arg(named(row.name)));
-    } else if (!words.isEmpty()) {
+    } else if (row.file->action == TableAction::Add) {
+        report(*row.file, idField(), TableText::tr("there already is a different %1").arg(named(row.name)));
+    } else {
         append(row, change, TableText::tr("change %1: %2").arg(named(row.name), words.join(QLatin1String(", "))));
     }
 }
@@ -400,26 +394,32 @@ QStringList Planner::holderTags(const PlannedRow &row)
     return {};
 }
 
-/// Reports a tag or a name that a new element cannot have.
-void Planner::checkNewNames(const PlannedRow &row)
+/// Reports the name of a release that a file cannot have. Releases are attributes of one element.
+void Planner::checkRelease(const PlannedRow &row)
+{
+    const QString &name = row.newName.constLast();
+    if (!isXmlName(name))
+        report(*row.file, idField(), TableText::tr("\"%1\" cannot be the name of an element").arg(excerpt(name)));
+    if (row.position < 0 && m_job.releases().size() + ++m_newReleases > maximumAttributes)
+        report(*row.file, idField(), TableText::tr("a job can hold at most %1 releases").arg(maximumAttributes));
+}
+
+/// Reports a tag that a new element cannot have.
+void Planner::checkTag(const PlannedRow &row)
 {
     const QString &tag = row.file->tag;
-    const bool isRelease = m_kind == TableKind::Releases;
-    const QString &xmlName = isRelease ? row.name.constLast() : tag;
-    if (!xmlName.isEmpty() && !isXmlName(xmlName))
-        report(*row.file, isRelease ? idField() : m_file.fieldOf(Content::Tag),
-               TableText::tr("\"%1\" cannot be the name of an element").arg(excerpt(xmlName)));
-    if (isRelease && m_job.releases().size() + ++m_newReleases > maximumReleases)
-        report(*row.file, idField(), TableText::tr("a job can hold at most %1 releases").arg(maximumReleases));
     if (tag.isEmpty())
         return;
+    const int field = m_file.fieldOf(Content::Tag);
+    if (!isXmlName(tag))
+        report(*row.file, field, TableText::tr("\"%1\" cannot be the name of an element").arg(excerpt(tag)));
     // Cables name ports, vertical runs and points by their tags only, and connections devices and bends.
-    for (const TableKind kind :
-         {TableKind::Ports, TableKind::VerticalRuns, TableKind::Points, TableKind::Devices, TableKind::Bends, m_kind}) {
-        if (m_names.findTag(kind, tag) >= 0)
-            report(*row.file, m_file.fieldOf(Content::Tag),
-                   TableText::tr("the tag \"%1\" is already used").arg(excerpt(tag)));
-    }
+    const QVector<TableKind> kinds{TableKind::Ports,   TableKind::VerticalRuns, TableKind::Points,
+                                   TableKind::Devices, TableKind::Bends,        m_kind};
+    const bool isUsed =
+        std::any_of(kinds.cbegin(), kinds.cend(), [&](TableKind kind) { return m_names.findTag(kind, tag) >= 0; });
+    if (isUsed || !m_newTags.insert({tag, true}).second)
+        report(*row.file, field, TableText::tr("the tag \"%1\" is already used").arg(excerpt(tag)));
     if (row.name.constLast().isEmpty())
         report(*row.file, idField(), TableText::tr("the row has no id"));
 }

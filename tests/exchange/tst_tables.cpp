@@ -166,6 +166,8 @@ private Q_SLOTS:
         QCOMPARE(import(job, TableKind::Points, "tag,floor,id\nMine," + floor + ",P\n"), QString("1"));
         QVERIFY(job.pointExists("Mine", true));
         QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id\nMine," + floor + ",,1\n"), QString("2:1"));
+        QCOMPARE(import(job, TableKind::Points, "tag,floor,id\nTwo," + floor + ",A\nTwo," + floor + ",B\n"),
+                 QString("3:1"));
         QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id\n1x," + floor + ",,1\n"), QString("2:1"));
         QCOMPARE(import(job, TableKind::Ports, "tag,floor,room,id,action\nNew," + floor + ",,1,change\n"),
                  QString("2:4"));
@@ -235,6 +237,7 @@ private Q_SLOTS:
         QCOMPARE(job.getRelease("Two") + job.getRelease("Three") + job.getRelease("One"), QString("12"));
         QCOMPARE(import(job, TableKind::Releases, "action,id\nremove,Two\nremove,Two\n"), QString("3:2"));
         QCOMPARE(import(job, TableKind::Releases, "id,value\nNot a name,1\n"), QString("2:1"));
+        QCOMPARE(import(job, TableKind::Releases, "action,id,new_id\nrename,Three,Not a name\n"), QString("2:2"));
         QByteArray many = "id\n";
         for (int i = 0; i < 4096; ++i)
             many += 'R' + QByteArray::number(i) + '\n';
