@@ -182,6 +182,13 @@ ElementKind elementKind(TableKind kind)
     return rowOf(kind).elements;
 }
 
+TableKind tableOf(ElementKind kind)
+{
+    const auto row = std::find_if(kindRows().cbegin(), kindRows().cend(),
+                                  [kind](const KindRow &other) { return other.elements == kind; });
+    return TableKind(row - kindRows().cbegin());
+}
+
 TableKind holderKind(TableKind kind)
 {
     return rowOf(kind).holder;

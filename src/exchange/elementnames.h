@@ -26,6 +26,8 @@ ElementView elementOf(const JobSnapshot &job, TableKind kind, int position);
 bool isUndefinedRoom(TableKind kind, const ElementView &element);
 /// Returns the kind of elements as the schema knows it, or None for test definitions, bundles and releases.
 ElementKind elementKind(TableKind kind);
+/// Returns the table of a kind of elements.
+TableKind tableOf(ElementKind kind);
 /// Returns the kind of the elements that hold those of a kind, or Count if the document itself holds them.
 TableKind holderKind(TableKind kind);
 

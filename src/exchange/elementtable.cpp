@@ -2,7 +2,7 @@
 
 #include "csvtext.h"
 #include "elementnames.h"
-#include "tablecolumns.h"
+#include "tablereader.h"
 
 #include <QtCore/QCoreApplication>
 

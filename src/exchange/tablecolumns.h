@@ -77,55 +77,10 @@ bool isName(Content content);
 /// Returns the name of a column with its unit, such as "x_m".
 QString columnName(const TableColumn &column, TableUnit unit);
 
-/// Reads the texts of the elements of a kind.
-class TableReader
-{
-public:
-    /// Which names of other elements are shown.
-    enum class Names {
-        All,    ///< also those that an earlier element has
-        Unique, ///< those that lead to the elements, so that they can be read again
-    };
-
-    TableReader(const ElementNames &names, TableKind kind, Names shownNames);
-
-    TableKind kind() const { return m_kind; }
-    /// Returns the text of an element in a column, or an empty text for a position of -1.
-    QString text(const TableColumn &column, TableUnit unit, int position) const;
-    /// Returns the length of a pixel of the plan or sheet in a unit. Returns 0 if it has no scale.
-    double pixelIn(TableUnit unit) const;
-
-private:
-    QString endText(const TableColumn &column, int position) const;
-    QString pathText(int position) const;
-    QString runsText(int cable, bool isConnected) const;
-    void findRuns() const;
-
-    const ElementNames &m_names;
-    TableKind m_kind;
-    Names m_shownNames;
-    double m_feetInAPixel;
-    /// The vertical runs of each cable: the connected ones, and the disconnected ones.
-    mutable std::array<QVector<QStringList>, 2> m_runsOfCables;
-};
-
-/// Returns the table of a kind of elements that others name.
-TableKind tableOf(ElementKind kind);
-
 /// Returns the text that an attribute has after an element with the given text has been read and written.
 QString canonicalText(TableKind kind, const AttributeRow &attribute, const QString &text);
 
 /// Returns the colour of a cable: that of its type if the text is not the name of a colour.
 QString cableColor(const JobSnapshot &job, const QString &text, const QString &type);
-
-/// Returns the text of a number in a unit: at most three digits after the point, and no zeros at its end.
-QString roundedText(double number);
-
-/// Returns why a table cannot have a unit: it has positions, and its plan or sheets have no scale. Returns an empty
-/// text if it can.
-QString missingScale(const JobSnapshot &job, TableKind kind, TableUnit unit);
-
-/// Returns the length of a pixel of floor plans or sheets in feet. Returns 0 if they have no scale.
-double feetInAPixel(const JobSnapshot &job, TableKind kind);
 
 } // namespace cabledoc

@@ -2,6 +2,7 @@
 
 #include "tablefile.h"
 #include "tableplan_p.h"
+#include "tablereader.h"
 
 namespace cabledoc {
 

@@ -249,6 +249,13 @@ private Q_SLOTS:
         JobEditor &job = openJob();
         job.setFloorId(job.getFloorTags().constFirst(), "A.picture");
         QVector<DocumentValue> before = valuesOfJob(JobSnapshot(job));
+        // All settings have values.
+        const auto count = [&before](const char *end) {
+            return std::count_if(before.cbegin(), before.cend(),
+                                 [end](const DocumentValue &value) { return value.name.endsWith(QString(end)); });
+        };
+        QCOMPARE(int(count(".print_zoom")), int(JobSnapshot(job).printSettings().size()));
+        QCOMPARE(int(count(".page_units")), int(JobSnapshot(job).pageSettings().size()));
         // Each value can be set to the text that it has.
         for (const DocumentValue &value : std::as_const(before))
             QVERIFY2(setValue(job, value.name, value.text).isEmpty(), qPrintable(value.name));
