@@ -443,15 +443,15 @@ void Planner::addPlace(const PlannedRow &row, ElementChange *change)
         if (floor < 0)
             return;
         const RoomFields place = m_places.nextRoom(floor);
-        set(words::X, place.x);
-        set(words::Y, place.y);
-        if (!isGiven(words::Width) && !isGiven(words::Height)) {
-            set(words::Width, place.width);
-            set(words::Height, place.height);
-        }
-        if (!isGiven(words::NameX) && !isGiven(words::NameY)) {
-            set(words::NameX, place.roomNameX);
-            set(words::NameY, place.roomNameY);
+        const std::pair<QString, double> values[] = {{words::X, place.x},
+                                                     {words::Y, place.y},
+                                                     {words::Width, place.width},
+                                                     {words::Height, place.height},
+                                                     {words::NameX, place.roomNameX},
+                                                     {words::NameY, place.roomNameY}};
+        for (const auto &[attribute, value] : values) {
+            if (!isGiven(attribute))
+                set(attribute, value);
         }
     } else if (m_kind == TableKind::Ports || m_kind == TableKind::VerticalRuns) {
         const QPointF place = m_places.nextPort(m_names.find(TableKind::Rooms, holderOf(row.newName)));

@@ -228,6 +228,114 @@ private Q_SLOTS:
         QCOMPARE(bkt.getBundledCableTypeIds(), QStringList("Trio"));
     }
 
+    /// New rooms and ports without a position are put where there is space.
+    void placesOfNewElements()
+    {
+        JobEditor &job = openJob();
+        const QString floor = job.getFloorTags().constFirst();
+        const QByteArray name = job.getFloorIdByTag(floor).toUtf8();
+        job.addRoom(floor, 0, 0, 900, 900, "", "Old", 0, 0, 3, 3, 3, 1);
+        QByteArray rooms = "floor,id,width\n";
+        QByteArray ports = "floor,room,id,x\n" + name + ",Old,here,7\n";
+        for (int i = 0; i < 8; ++i) {
+            rooms += name + ",Room " + QByteArray::number(i) + (i == 3 ? ",500\n" : ",\n");
+            ports += name + ",Room 3,port " + QByteArray::number(i) + ",\n";
+        }
+        QCOMPARE(import(job, TableKind::Rooms, rooms), QString("8"));
+        QVector<QRectF> areas;
+        for (const QString &tag : job.getRooms(floor, true)) {
+            const Room room = job.getRoomByTag(floor, tag);
+            const QRectF area(room.x(), room.y(), room.width(), room.height());
+            for (const QRectF &other : std::as_const(areas))
+                QVERIFY2(tag == "Undefined" || room.id() == "Room 3" || !area.intersects(other), qPrintable(room.id()));
+            if (tag != "Undefined" && room.id() != "Room 3")
+                areas.append(area);
+        }
+        QCOMPARE(areas.size(), 8);
+        QCOMPARE(job.getRoomById(floor, "Room 3").width(), 500.0);
+        QCOMPARE(import(job, TableKind::Ports, ports), QString("9"));
+        QCOMPARE(job.getPortPos(job.getPortTagById("here")).x(), 7.0);
+        const Room room = job.getRoomById(floor, "Room 3");
+        const QRectF area(room.x(), room.y(), room.width(), room.height());
+        QVector<QPointF> places;
+        for (const QString &port : job.getPorts(floor, room.element(), true)) {
+            QVERIFY(area.contains(job.getPortPos(port)) && !places.contains(job.getPortPos(port)));
+            places.append(job.getPortPos(port));
+        }
+        QCOMPARE(places.size(), 8);
+    }
+
+    void movesKeepWhatBelongsToAnElement()
+    {
+        JobEditor &job = openJob(testData("trace.job"));
+        const QStringList dangling = JobEditorProbe(job).danglingReferences();
+        const QString sheet = job.getSheetIdByTag("SSheet_1");
+        const QString device = job.getDevices("SSheet_1", true).constFirst();
+        const QStringList connections = job.getConnections(true);
+        job.addSheet("", "Other", 1);
+        QCOMPARE(import(job, TableKind::Devices,
+                        ("action,sheet,id,new_sheet,type\nmove," + sheet + "," + job.getDeviceIdByTag(device)
+                         + ",Other,router\n")
+                            .toUtf8()),
+                 QString("1"));
+        QCOMPARE(job.getSheetIdByTag(job.getDeviceSheet(device)), QString("Other"));
+        QCOMPARE(job.getDeviceType(device), QString("router"));
+        QCOMPARE(job.getConnections(true), connections);
+
+        const QString port = job.getPortTagById("Speaker");
+        const QStringList cables = job.getCablesByPort(port);
+        QVERIFY(!cables.isEmpty());
+        const QByteArray move = "action,floor,room,id,new_floor,new_room,new_id\n"
+                                "move,Upper,Office,Speaker,Ground,Undefined,Horn\n";
+        QCOMPARE(import(job, TableKind::Ports, move), QString("1"));
+        QCOMPARE(job.getPortFloor(port) + '/' + job.getPortRoom(port), QString("FFloor_1/Undefined"));
+        QCOMPARE(job.getPortIdByTag(port), QString("Horn"));
+        QCOMPARE(job.getCablesByPort(port), cables);
+        QCOMPARE(import(job, TableKind::Ports, move), QString("0"));
+        QCOMPARE(import(job, TableKind::Rooms, "action,floor,id,new_floor\nmove,Upper,Office,Ground\n"),
+                 QString("1:4"));
+
+        // The ports of a removed room stay on the floor.
+        const QStringList inRoom = job.getPorts("FFloor_2", "Room2", true);
+        QVERIFY(!inRoom.isEmpty());
+        QCOMPARE(import(job, TableKind::Rooms, "action,floor,id\nremove,Upper,Office\n"), QString("1"));
+        QCOMPARE(job.getPorts("FFloor_2", "Undefined", true).mid(0, inRoom.size()).isEmpty(), false);
+        QCOMPARE(JobEditorProbe(job).danglingReferences(), dangling);
+        QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+    }
+
+    void changesInWords()
+    {
+        JobEditor &job = openJob(testData("site.job"));
+        const TablePlan plan(JobSnapshot(job), TableKind::Cables,
+                             "action;id;use;bundle_number;new_id\r\n;Cable001;voice;3;\r\nremove;Cable002;;;\r\n"
+                             "rename;Cable003;;;C3\r\n;New;;;\r\n");
+        QCOMPARE(plan.changes().size(), 4);
+        const QVector<TableAction> actions{TableAction::Change, TableAction::Remove, TableAction::Rename,
+                                           TableAction::Add};
+        const QVector<QStringList> words{{"\"Cable001\"", "use \"data\" -> \"voice\"", "bundle_number"},
+                                         {"\"Cable002\""},
+                                         {"\"Cable003\"", "\"C3\""},
+                                         {"\"New\""}};
+        for (int number = 0; number < actions.size(); ++number) {
+            const TableChange &change = plan.changes().at(number);
+            QCOMPARE(change.row, number + 2);
+            QCOMPARE(change.action, actions.at(number));
+            for (const QString &word : words.at(number))
+                QVERIFY2(change.text.contains(word), qPrintable(change.text));
+        }
+        // A removal says how many cables go with the element.
+        const TablePlan floors(JobSnapshot(job), TableKind::Floors, "action,id\nremove,Ground\n");
+        const auto cables = job.getCables(true).size();
+        floors.applyTo(job);
+        const QString gone = QString::number(cables - job.getCables(true).size());
+        QVERIFY2(floors.changes().constFirst().text.endsWith(gone), qPrintable(floors.changes().constFirst().text));
+        BktEditor &bkt = BktEditor::Instance();
+        QVERIFY(bkt.New(m_directory.filePath("shop.bkt")));
+        floors.applyTo(bkt);
+        QVERIFY(!bkt.fileChanged());
+    }
+
     void releases()
     {
         JobEditor &job = openJob();
