@@ -9,6 +9,8 @@
 
 #include <QtCore/QTemporaryDir>
 
+#include <random>
+
 using namespace cabledoc;
 
 namespace {
@@ -334,6 +336,83 @@ private Q_SLOTS:
         QVERIFY(bkt.New(m_directory.filePath("shop.bkt")));
         floors.applyTo(bkt);
         QVERIFY(!bkt.fileChanged());
+    }
+
+    /// The texts of a table are those that the operations of the job return.
+    void textsOfTables()
+    {
+        JobEditor &job = openJob(testData("trace.job"));
+        job.setPortUse(job.getPortTagById("Speaker"), "audio");
+        const JobSnapshot snapshot(job);
+        const ElementTable ports(snapshot, TableKind::Ports);
+        const int tagColumn = ports.columnOf("tag");
+        QCOMPARE(tagColumn, 0);
+        for (int row = 0; row < ports.rowCount(); ++row) {
+            const Port port = job.getPortByTag(ports.text(row, tagColumn));
+            const auto text = [&](const char *column) { return ports.text(row, ports.columnOf(column)); };
+            QCOMPARE(text("id"), port.id());
+            QCOMPARE(text("use"), port.use());
+            QCOMPARE(text("floor"), job.getFloorIdByTag(port.floor()));
+            const Room room = job.getRoomByTag(port.floor(), port.room());
+            QCOMPARE(text("room"), room.element() == "Undefined" ? QString() : room.id());
+            QCOMPARE(text("x").toDouble(), port.x());
+            QCOMPARE(text("drop_height").toDouble(), port.dropHeight());
+            QCOMPARE(text("cables").toInt(), int(job.getCablesByPort(port.element()).size()));
+            QCOMPARE(ports.name(row), nameText({text("floor"), text("room"), text("id")}));
+            QCOMPARE(snapshot.ports().at(ports.positionOf(row)).element, port.element());
+        }
+        const ElementTable cables(snapshot, TableKind::Cables, TableUnit::Metres);
+        for (int row = 0; row < cables.rowCount(); ++row) {
+            const QString tag = cables.text(row, 0);
+            const double estimate = job.estimateCableLength(tag, true);
+            const QString shown = cables.text(row, cables.columnOf("estimated_length_m"));
+            QVERIFY2(estimate < 0 ? shown.isEmpty() : qAbs(shown.toDouble() - estimate) < 0.001, qPrintable(tag));
+            QCOMPARE(cables.text(row, cables.columnOf("status")), job.getCableStatus(tag));
+        }
+        QCOMPARE(cables.columnOf("x"), -1);
+        for (const TableKind kind : allKinds()) {
+            const ElementTable table(snapshot, kind);
+            for (const ElementTable::Column &column : table.columns())
+                QVERIFY(!column.name.isEmpty() && !(column.isNumber && column.isSearchable));
+            QVERIFY2(table.columnOf("id") >= 0, qPrintable(tableName(kind)));
+        }
+        QVERIFY(!tableOfName("chairs"));
+    }
+
+    /// Tables in which random fields were exchanged are refused, or change the job once.
+    void randomTables()
+    {
+        std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same tables in each run
+        const auto number = [&random](int below) { return std::uniform_int_distribution<int>(0, below - 1)(random); };
+        int imported = 0;
+        constexpr int runs = 150;
+        for (int run = 0; run < runs; ++run) {
+            JobEditor &job = openJob(testData("trace.job"));
+            const TableKind kind = allKinds().at(number(int(allKinds().size())));
+            TableExportOptions options;
+            options.tags = number(2) == 0;
+            QList<QByteArray> lines = exported(job, kind, options).trimmed().split('\n');
+            if (lines.size() < 2)
+                continue;
+            for (int change = number(2); change < 2; ++change) {
+                QByteArray &line = lines[1 + number(int(lines.size()) - 1)];
+                QList<QByteArray> fields = line.split(',');
+                const QList<QByteArray> others = lines.at(number(int(lines.size()))).split(',');
+                fields[number(int(fields.size()))] = others.at(number(int(others.size())));
+                line = fields.join(',');
+            }
+            const QByteArray table = lines.join('\n');
+            const QByteArray before = JobEditorProbe(job).text();
+            const TablePlan plan(JobSnapshot(job), kind, table);
+            plan.applyTo(job);
+            QVERIFY2(JobEditorProbe(job).indexesMatchTheTree(), table.constData());
+            QVERIFY2((JobEditorProbe(job).text() == before) == plan.changes().isEmpty(), table.constData());
+            if (!plan.problems().isEmpty() || !plan.error().isEmpty())
+                continue;
+            ++imported;
+            QVERIFY2(TablePlan(JobSnapshot(job), kind, table).changes().isEmpty(), table.constData());
+        }
+        QVERIFY2(imported > runs / 10 && imported < runs, qPrintable(QString::number(imported)));
     }
 
     void releases()
