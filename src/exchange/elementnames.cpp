@@ -308,7 +308,7 @@ bool ElementNames::isReachable(TableKind kind, int position, const ElementView &
     if (elementKind(kind) == ElementKind::None || kind == TableKind::Rooms)
         return true;
     // A tag that a port and a vertical run share leads to the port.
-    return findTag(kind, element.tag) == position
+    return (!m_job.hasRepeatedTags(elementKind(kind)) || findTag(kind, element.tag) == position)
            && (kind != TableKind::VerticalRuns || findTag(TableKind::Ports, element.tag) < 0);
 }
 

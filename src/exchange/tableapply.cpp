@@ -160,7 +160,8 @@ public:
             change.action == TableAction::Add
                 ? add(change)
                 : element(m_kind, QStringList(change.tag) + (isMoved ? change.newHolders : change.holders));
-        write(&m_tree, changed, change);
+        for (const auto &[name, text] : change.attributes)
+            m_tree.setAttribute(changed, elementKind(m_kind), name, text);
         noteRuns(changed.tagName(), words::Connected, change.connected);
         noteRuns(changed.tagName(), words::Disconnected, change.disconnected);
     }

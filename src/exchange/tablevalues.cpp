@@ -240,10 +240,29 @@ std::optional<QStringList> TableValues::readTypes(const Field &field)
     return types;
 }
 
+/// Returns the field of a row in a column of an end.
+QString TableValues::endField(const FileRow &row, const FileColumn &column)
+{
+    const QString part = TableFile::field(row, column.field);
+    return column.column->content == Content::EndRoom && part == words::Undefined ? QString() : part;
+}
+
+/// Returns whether the columns of one end are as in the element.
+bool TableValues::hasEqualEnd(const FileRow &row, const AttributeRow *attribute, int position) const
+{
+    const auto &columns = m_file.columns();
+    return std::all_of(columns.cbegin(), columns.cend(), [&](const FileColumn &column) {
+        return column.column->attribute != attribute
+               || endField(row, column) == m_reader.text(*column.column, TableUnit::Pixels, position);
+    });
+}
+
 /// Reads the columns of one end of a cable, a connection or an active port.
 void TableValues::readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change,
                           QStringList *words)
 {
+    if (hasEqualEnd(row, first.column->attribute, position))
+        return;
     const QString &attribute = first.column->attribute->name;
     QStringList before;
     QStringList parts;
@@ -252,13 +271,8 @@ void TableValues::readEnd(const FileRow &row, const FileColumn &first, int posit
             continue;
         before.append(m_reader.text(column, TableUnit::Pixels, position));
         const FileColumn *inFile = m_file.columnOf(column);
-        QString part = inFile == nullptr ? before.constLast() : TableFile::field(row, inFile->field);
-        if (column.content == Content::EndRoom && part == words::Undefined)
-            part.clear();
-        parts.append(part);
+        parts.append(inFile == nullptr ? before.constLast() : endField(row, *inFile));
     }
-    if (parts == before)
-        return;
     const Field field{row, placeOfEnd(first.column->attribute), position, nameText(parts), nameText(before)};
     const bool isEmpty = isAllEmpty(parts);
     const snapshot::Target target = isEmpty ? snapshot::Target() : findEnd(parts);

@@ -34,6 +34,8 @@ private:
     std::optional<QString> readPath(const Field &field);
     std::optional<QStringList> readRuns(const Field &field);
     std::optional<QStringList> readTypes(const Field &field);
+    static QString endField(const FileRow &row, const FileColumn &column);
+    bool hasEqualEnd(const FileRow &row, const AttributeRow *attribute, int position) const;
     void readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change, QStringList *words);
     const FileColumn &placeOfEnd(const AttributeRow *attribute) const;
     snapshot::Target findEnd(const QStringList &parts) const;

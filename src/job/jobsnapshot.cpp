@@ -151,6 +151,11 @@ const QMap<QString, ScaleSettingsFields> &JobSnapshot::scaleSettings() const
     return d->scaleSettings;
 }
 
+bool JobSnapshot::hasRepeatedTags(ElementKind kind) const
+{
+    return d->hasRepeatedTags[std::size_t(kind)];
+}
+
 int JobSnapshot::positionOfTag(ElementKind kind, const QString &tag) const
 {
     return d->positionOfTag(kind, tag);

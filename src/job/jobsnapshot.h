@@ -232,6 +232,9 @@ public:
 
     /// Returns the position of the first element of the kind with the given tag, or -1 if there is none.
     int positionOfTag(ElementKind kind, const QString &tag) const;
+    /// Returns whether several elements of the kind have the same tag, as in damaged files. Every floor has a room with
+    /// the tag "Undefined".
+    bool hasRepeatedTags(ElementKind kind) const;
     /// Returns the position of the element of the kind with the given id, or -1 if there is none. If several elements
     /// have the id, returns the one whose tag comes first in string order.
     int positionOfId(ElementKind kind, const QString &id) const;

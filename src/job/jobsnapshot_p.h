@@ -124,6 +124,7 @@ struct JobSnapshot::Data
 
     std::array<TextPositions, kindCount> tags;
     std::array<TextPositions, kindCount> ids;
+    std::array<bool, kindCount> hasRepeatedTags{};
     TextPositions definitionNames;
     TextPositions bundleNames;
     CablesOfEnds cablesOfPorts;

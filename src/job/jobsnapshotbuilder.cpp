@@ -266,7 +266,7 @@ private:
         for (const ElementSchema *schema : jobSchema()) {
             const auto kind = std::size_t(schema->kind);
             m_data.withElements(schema->kind, [this, kind](const auto &elements) {
-                findNamesOf(elements, &m_data.tags[kind], &m_data.ids[kind]);
+                m_data.hasRepeatedTags[kind] = findNamesOf(elements, &m_data.tags[kind], &m_data.ids[kind]);
             });
         }
         enterNames(m_data.definitions, &m_data.definitionNames);
@@ -274,19 +274,23 @@ private:
     }
 
     /// Finds tags and ids as the index of a document does: the first element with a tag, and of these the one with the
-    /// first tag in string order that has an id.
+    /// first tag in string order that has an id. Returns whether several elements have the same tag.
     template <typename Elements>
-    static void findNamesOf(const Elements &elements, TextPositions *tags, TextPositions *ids)
+    static bool findNamesOf(const Elements &elements, TextPositions *tags, TextPositions *ids)
     {
         tags->reserve(int(elements.size()));
         ids->reserve(int(elements.size()));
+        bool hasRepeatedTags = false;
         for (int position = 0; position < elements.size(); ++position) {
-            if (tags->insert(position, tagsIn(elements)) != position)
+            if (tags->insert(position, tagsIn(elements)) != position) {
+                hasRepeatedTags = true;
                 continue;
+            }
             const int known = ids->insert(position, idsIn(elements));
             if (elements.at(position).element < elements.at(known).element)
                 ids->replace(position, idsIn(elements));
         }
+        return hasRepeatedTags;
     }
 
     template <typename Elements> static void enterNames(const Elements &elements, TextPositions *names)

@@ -179,6 +179,8 @@ private Q_SLOTS:
     void tagsOfRooms()
     {
         JobEditor &job = openJob(testData("site.job"));
+        QVERIFY(JobSnapshot(job).hasRepeatedTags(ElementKind::Ports));
+        QVERIFY(!JobSnapshot(job).hasRepeatedTags(ElementKind::Cables));
         QCOMPARE(job.getRooms("FFloor_1", true), QStringList({"Undefined", "Room1"}));
         QCOMPARE(import(job, TableKind::Rooms, "tag,floor,id\nRoom1,Upper,Attic\nRoom1,Ground,Hall\n"), QString("2"));
         QCOMPARE(job.getRooms("FFloor_1", false), QStringList({"Undefined", "Hall"}));

@@ -61,6 +61,9 @@ public:
     /// Writes an attribute of the element with the given tag. The schema tells whether this adds an attribute that is
     /// missing.
     void set(ElementKind kind, const QString &tag, const QString &name, const QString &value);
+    /// Writes an attribute of an element of the kind, or of another element if the kind is None. Creates it if it is
+    /// missing.
+    void setAttribute(const QDomElement &element, ElementKind kind, const QString &name, const QString &value);
     /// Removes the element with the given tag.
     void remove(ElementKind kind, const QString &tag) { remove(element(kind, tag)); }
     /// Moves the element with the given tag to the list of its kind in another holder. Adds the list if it is missing.
@@ -74,7 +77,6 @@ public:
 
 private:
     void insert(const QDomElement &element, ElementKind kind, const QDomNode &parent);
-    void setAttribute(const QDomElement &element, ElementKind kind, const QString &name, const QString &value);
     void noteTest(const QDomElement &element);
     QDomElement holder(const ElementSchema &kind, const QStringList &tags) const;
     QDomElement listForNew(const ElementSchema &kind, const QDomElement &holder);
