@@ -74,7 +74,7 @@ public:
     const QString &error() const;
     /// Returns what is wrong with the table, in the order of its rows.
     const QVector<CsvProblem> &problems() const;
-    /// Returns what may be a mistake in the table, in the order of its rows.
+    /// Returns what may be a mistake in the table, in the order of its rows. A word that is not known is reported once.
     const QVector<CsvProblem> &warnings() const;
     /// Returns the changes in the order of the rows. There are none if there is an error or a problem.
     const QVector<TableChange> &changes() const;

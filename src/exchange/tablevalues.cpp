@@ -314,7 +314,8 @@ snapshot::Target TableValues::findEnd(const QStringList &parts) const
 void TableValues::checkWord(const Field &field)
 {
     const QString &text = field.text;
-    if (text.isEmpty())
+    // Each word is worth one warning, however many rows have it.
+    if (text.isEmpty() || !m_checkedWords.insert({field.column.column->name + QLatin1Char('=') + text, true}).second)
         return;
     switch (field.column.column->content) {
     case Content::Definition:

@@ -51,7 +51,8 @@ private:
     const TableFile &m_file;
     TablePlanData &m_plan;
     TableReader m_reader;
-    TextMap<bool> m_knownUses; ///< the words of the vocabulary and of the job; empty until they are needed
+    TextMap<bool> m_checkedWords; ///< with the columns in which they stand
+    TextMap<bool> m_knownUses;    ///< the words of the vocabulary and of the job; empty until they are needed
 };
 
 } // namespace cabledoc
