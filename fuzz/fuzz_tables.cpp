@@ -15,14 +15,6 @@ using namespace cabledoc;
 
 namespace {
 
-QVector<TableKind> allKinds()
-{
-    QVector<TableKind> kinds;
-    for (const QString &name : tableNames())
-        kinds.append(*tableOfName(name));
-    return kinds;
-}
-
 QString pathOf(const char *name, const QByteArray &bytes)
 {
     return inputFile(name, reinterpret_cast<const std::uint8_t *>(bytes.constData()), std::size_t(bytes.size()));
@@ -77,7 +69,7 @@ void testRoundTrip(const JobSnapshot &job, TableUnit unit, JobEditor *copy)
 {
     for (const QString &entry : {QStringLiteral("FloorPlan_Settings"), QStringLiteral("NetView_Settings")})
         copy->setScaleSettings(ScaleSettings(job.scaleSettings().value(entry)), entry);
-    for (const TableKind kind : allKinds()) {
+    for (const TableKind kind : tableKinds()) {
         const QByteArray table = exported(job, kind, unit);
         expect(import(copy, kind, table), "an exported table can be imported");
         expect(TablePlan(JobSnapshot(*copy), kind, table).changes().isEmpty(),
@@ -85,7 +77,7 @@ void testRoundTrip(const JobSnapshot &job, TableUnit unit, JobEditor *copy)
         expect(TablePlan(job, kind, table).changes().isEmpty(), "the table of a job has nothing new for it");
     }
     const JobSnapshot made(*copy);
-    for (const TableKind kind : allKinds()) {
+    for (const TableKind kind : tableKinds()) {
         const QByteArray again = exported(made, kind, unit);
         const QByteArray first = exported(job, kind, unit);
         if (again != first)
@@ -103,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto mark = bytes.indexOf("\n\n");
     Choices choices(data, mark < 0 ? size : std::size_t(mark));
     const QByteArray table = mark < 0 ? QByteArray() : bytes.mid(mark + 2);
-    const TableKind kind = allKinds().at(choices.number(int(allKinds().size())));
+    const TableKind kind = tableKinds().at(choices.number(int(tableKinds().size())));
     const TableUnit unit = choices.oneIn(3) ? TableUnit::Metres : TableUnit::Pixels;
 
     const QString fileName = pathOf("fuzzed.job", plainText(randomJob(choices)));

@@ -1704,10 +1704,6 @@
         <translation>Ausgabe</translation>
     </message>
     <message>
-        <source>row %1 already is about the %2</source>
-        <translation>um dieses Element geht es schon in Zeile %1: %2</translation>
-    </message>
-    <message>
         <source>the name &quot;%1&quot; is already used</source>
         <translation>der Name &quot;%1&quot; ist schon vergeben</translation>
     </message>
@@ -1822,6 +1818,10 @@
     <message>
         <source>unknown use &quot;%1&quot;</source>
         <translation>unbekannte Nutzung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>row %1 already changes this: %2</source>
+        <translation>schon Zeile %1 ändert dies: %2</translation>
     </message>
 </context>
 <context>

@@ -1206,7 +1206,7 @@
     </message>
     <message>
         <source>All that is on it is copied. The cables that end on a floor are copied too. The copies are untested and get new names. Ports keep their names. The connections of a sheet are not copied.</source>
-        <translation>Se copia todo lo que contiene. También se copian los cables que terminan en una planta. Sus copias están sin probar y reciben nombres nuevos. Las tomas conservan sus nombres. Las conexiones de una hoja no se copian.</translation>
+        <translation>Se copia cuanto contiene. También se copian los cables que terminan en una planta. Sus copias están sin probar y reciben nombres nuevos. Las tomas conservan sus nombres. Las conexiones de una hoja no se copian.</translation>
     </message>
     <message>
         <source>List the elements of a kind.</source>
@@ -1704,10 +1704,6 @@
         <translation>revisión</translation>
     </message>
     <message>
-        <source>row %1 already is about the %2</source>
-        <translation>la fila %1 ya trata de este elemento: %2</translation>
-    </message>
-    <message>
         <source>the name &quot;%1&quot; is already used</source>
         <translation>el nombre &quot;%1&quot; ya se usa</translation>
     </message>
@@ -1822,6 +1818,10 @@
     <message>
         <source>unknown use &quot;%1&quot;</source>
         <translation>uso desconocido &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>row %1 already changes this: %2</source>
+        <translation>la fila %1 ya cambia esto: %2</translation>
     </message>
 </context>
 <context>

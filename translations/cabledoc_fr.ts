@@ -1704,10 +1704,6 @@
         <translation>révision</translation>
     </message>
     <message>
-        <source>row %1 already is about the %2</source>
-        <translation>la ligne %1 concerne déjà cet élément : %2</translation>
-    </message>
-    <message>
         <source>the name &quot;%1&quot; is already used</source>
         <translation>le nom &quot;%1&quot; est déjà utilisé</translation>
     </message>
@@ -1822,6 +1818,10 @@
     <message>
         <source>unknown use &quot;%1&quot;</source>
         <translation>usage inconnu &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>row %1 already changes this: %2</source>
+        <translation>la ligne %1 modifie déjà ceci : %2</translation>
     </message>
 </context>
 <context>

@@ -31,7 +31,7 @@ struct CsvOptions
 /// How a CSV text is written. It is always UTF-8, with "\n" at the ends of lines.
 struct CsvStyle
 {
-    /// Character that separates the fields: a comma, a semicolon or a tab. Any other value stands for a comma.
+    /// Character that separates the fields: a comma, a semicolon or a tab. Any other value means a comma.
     char delimiter = ',';
     /// Whether the text begins with a byte order mark, by which some spreadsheets recognise UTF-8.
     bool byteOrderMark = false;

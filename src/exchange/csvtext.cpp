@@ -201,6 +201,23 @@ CsvText::CsvText(const QByteArray &data, const CsvOptions &options)
     m_delimiter = isDelimiter(options.delimiter) ? options.delimiter : detectedDelimiter(m_utf8);
 }
 
+CsvProblem CsvText::readTable(const std::function<bool(const CsvRow &heading)> &readHeading,
+                              const std::function<void(const CsvRow &row)> &readRow) const
+{
+    bool isHeading = true;
+    bool isReadable = false;
+    const CsvProblem mistake = read([&](const CsvRow &row) {
+        if (isHeading)
+            isReadable = readHeading(row);
+        else if (isReadable && !row.isEmpty())
+            readRow(row);
+        isHeading = false;
+    });
+    if (isHeading && mistake.row == 0)
+        readHeading(CsvRow());
+    return mistake;
+}
+
 CsvProblem CsvText::read(const std::function<void(const CsvRow &)> &takeRow) const
 {
     return RowReader(takeRow, m_removesProtection)

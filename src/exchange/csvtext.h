@@ -32,13 +32,17 @@ public:
     /// options give them.
     CsvText(const QByteArray &data, const CsvOptions &options);
 
-    /// Returns why the data cannot be CSV, or an empty string. There are no rows if there is an error.
+    /// Returns why the data cannot be read as CSV, or an empty string if it can.
     const QString &error() const { return m_error; }
     /// Returns the character that separates the fields.
     char delimiter() const { return m_delimiter; }
     /// Calls takeRow with each row that has fields, up to the first mistake in the quotation marks or in the encoding.
     /// Returns this mistake, or a problem in row 0 if there is none.
     CsvProblem read(const std::function<void(const CsvRow &row)> &takeRow) const;
+    /// Calls readHeading with the first row, which is empty if the text has none. If it returns true, calls readRow
+    /// with each other row that is not empty. Returns what read() returns.
+    CsvProblem readTable(const std::function<bool(const CsvRow &heading)> &readHeading,
+                         const std::function<void(const CsvRow &row)> &readRow) const;
 
 private:
     QString wrongEncoding() const;

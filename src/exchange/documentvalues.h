@@ -39,14 +39,16 @@ struct DocumentValue
     QString text; ///< its text
 };
 
-/// Returns all values of a job.
+/// Returns all values of a job. Settings that the file lacks have their defaults.
 CABLEDOC_EXPORT QVector<DocumentValue> valuesOfJob(const JobSnapshot &job);
-/// Returns all values of a template.
+/// Returns all values of a template. Settings that the file lacks have their defaults.
 CABLEDOC_EXPORT QVector<DocumentValue> valuesOfTemplate(const JobSnapshot &bkt);
 
-/// Sets the value of a job with the given name. Returns why this cannot be done, or an empty text.
+/// Sets the value of a job with the given name. Returns why this cannot be done, or an empty text. If it cannot be
+/// done, the job only gets the settings that it lacks.
 CABLEDOC_EXPORT QString setValue(JobEditor &job, const QString &name, const QString &text);
-/// Sets the value of a template with the given name. Returns why this cannot be done, or an empty text.
+/// Sets the value of a template with the given name. Returns why this cannot be done, or an empty text. If it cannot
+/// be done, the template only gets the settings that it lacks.
 CABLEDOC_EXPORT QString setValue(BktEditor &bkt, const QString &name, const QString &text);
 
 } // namespace cabledoc

@@ -124,6 +124,17 @@ QString keyOfRoom(const ElementView &room)
 
 } // namespace
 
+const QVector<TableKind> &tableKinds()
+{
+    static const QVector<TableKind> kinds = [] {
+        QVector<TableKind> all;
+        for (std::size_t number = 0; number < kindRows().size(); ++number)
+            all.append(TableKind(number));
+        return all;
+    }();
+    return kinds;
+}
+
 const QStringList &tableNames()
 {
     static const QStringList names = [] {
@@ -228,7 +239,7 @@ QString ElementNames::partOf(TableKind kind, int position, int numberFromEnd) co
     const ElementView element = elementOf(m_job, kind, position);
     if (numberFromEnd > 0)
         return partOf(holderKind(kind), element.holder, numberFromEnd - 1);
-    // The room "Undefined" stands for no room.
+    // The name of the room "Undefined" is empty.
     return isUndefinedRoom(kind, element) ? QString() : element.id;
 }
 

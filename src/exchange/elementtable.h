@@ -24,6 +24,8 @@ class JobSnapshot;
 /// Positions are in pixels and heights in feet by default. In other units the names of these columns end with "_ft" or
 /// "_m". Positions need the scale of the floor plans (settings "FloorPlan_Settings") or of the sheets
 /// ("NetView_Settings"). Without a scale they are empty. Flags are "1" or "0".
+///
+/// Rows and columns are counted from 0. Those that are asked for must exist.
 class CABLEDOC_EXPORT ElementTable
 {
 public:
@@ -76,7 +78,7 @@ struct TableExportOptions
 /// The result of exportTable().
 struct TableExport
 {
-    /// Why there is no table, or empty if there is one.
+    /// Why the table cannot be made, or empty if it was made.
     QString error;
     /// Table as CSV.
     QByteArray text;
@@ -87,8 +89,8 @@ struct TableExport
 /// Returns the table of a kind as CSV, with all columns that a TablePlan reads.
 ///
 /// Importing the tables of all kinds into a job without elements, in the order of TableKind, and exporting them again
-/// gives the same bytes. Elements whose names do not lead to them are left out if there is no column "tag". The table
-/// cannot be made in feet or metres if the plan has no scale.
+/// gives the same bytes. Without the column "tag", the table lacks the elements that their names do not lead to. A
+/// table of positions cannot be made in feet or metres if the plan has no scale. The document is not changed.
 CABLEDOC_EXPORT TableExport exportTable(const JobSnapshot &document, TableKind kind,
                                         const TableExportOptions &options = {});
 

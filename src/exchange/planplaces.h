@@ -31,7 +31,7 @@ public:
 
     /// Returns a place for one more room on the floor at a position.
     RoomFields nextRoom(int floor);
-    /// Returns a place for one more port in the room at a position. -1 stands for a room that is not drawn.
+    /// Returns a place for one more port in the room at a position. The position is -1 for a room that is not drawn.
     QPointF nextPort(int room);
 
 private:

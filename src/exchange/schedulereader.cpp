@@ -42,19 +42,10 @@ private:
 
     void readRows(const CsvText &text)
     {
-        bool isHeading = true;
-        bool isReadable = false;
-        const CsvProblem mistake = text.read([&](const CsvRow &row) {
-            if (isHeading)
-                isReadable = readHeading(row);
-            else if (isReadable && !row.isEmpty())
-                readRow(row);
-            isHeading = false;
-        });
+        const CsvProblem mistake = text.readTable([this](const CsvRow &heading) { return readHeading(heading); },
+                                                  [this](const CsvRow &row) { readRow(row); });
         if (mistake.row > 0)
             m_file.problems.append(mistake);
-        else if (isHeading)
-            readHeading(CsvRow());
     }
 
     /// Returns false if every row under this heading would be wrong.

@@ -26,12 +26,6 @@ template <typename Fields> Fields fieldsOf(const AttributeTable<Fields> &table, 
     return fields;
 }
 
-void write(DocumentTree *tree, const QDomElement &element, const ElementChange &change)
-{
-    for (const auto &[name, text] : change.attributes)
-        tree->setAttribute(element, name, text);
-}
-
 /// Returns the new id, or an empty text if the element keeps its id.
 QString newIdIn(const ElementChange &change)
 {
@@ -106,7 +100,8 @@ private:
             add(change);
             return;
         }
-        write(&m_tree, found.element, change);
+        for (const auto &[name, text] : change.attributes)
+            m_tree.setAttribute(found.element, name, text);
         if (change.types)
             writeBundleTypes(&m_tree, found.element, *change.types);
         const QString newId = newIdIn(change);
@@ -246,9 +241,6 @@ private:
     /// Returns the fields of a new element, with the tags of its holders.
     template <typename Fields> Fields newFields(const Kind<Fields> &kind, const ElementChange &change)
     {
-        // A floor of a damaged file may lack the room.
-        if (change.newHolders.value(0) == words::Undefined)
-            element(TableKind::Rooms, change.newHolders);
         Fields fields = fieldsOf(kind.table, change);
         fields.element = change.tag;
         for (int holder = 0; holder < kind.holders.size(); ++holder)
@@ -261,7 +253,7 @@ private:
         return change.tag.isEmpty() ? addmode::GivenId : addmode::GivenNames;
     }
 
-    /// Adds the list of the kind if a damaged file lacks it.
+    /// Adds the list of the kind, and the room "Undefined", if a damaged file lacks them.
     void ensureList(const ElementChange &change)
     {
         const ElementSchema &schema = schemaOf(elementKind(m_kind));

@@ -72,19 +72,10 @@ TableFile::TableFile(TableKind kind, const QByteArray &csv, const CsvOptions &op
     m_delimiter = text.delimiter();
     if (!m_error.isEmpty())
         return;
-    bool isHeading = true;
-    bool isReadable = false;
-    const CsvProblem mistake = text.read([&](const CsvRow &row) {
-        if (isHeading)
-            isReadable = readHeading(row);
-        else if (isReadable && !row.isEmpty())
-            readRow(row);
-        isHeading = false;
-    });
+    const CsvProblem mistake = text.readTable([this](const CsvRow &heading) { return readHeading(heading); },
+                                              [this](const CsvRow &row) { readRow(row); });
     if (mistake.row > 0)
         m_problems.append(mistake);
-    else if (isHeading)
-        readHeading(CsvRow());
 }
 
 int TableFile::fieldOf(Content content) const

@@ -3,6 +3,7 @@
 #include "cabledoc_export.h"
 
 #include <QtCore/QStringList>
+#include <QtCore/QVector>
 
 #include <optional>
 
@@ -31,6 +32,8 @@ enum class TableKind {
     Count,           ///< the number of kinds
 };
 
+/// Returns all tables in the order of TableKind.
+CABLEDOC_EXPORT const QVector<TableKind> &tableKinds();
 /// Returns the names of all tables in the order of TableKind, such as "vertical-runs".
 CABLEDOC_EXPORT const QStringList &tableNames();
 /// Returns the name of a table, such as "vertical-runs".

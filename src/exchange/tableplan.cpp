@@ -4,6 +4,7 @@
 #include "messagetext.h"
 #include "planplaces.h"
 #include "tablefile.h"
+#include "tablerows.h"
 #include "tabletext.h"
 #include "tablevalues.h"
 #include "xmlnames.h"
@@ -14,63 +15,6 @@
 namespace cabledoc {
 
 namespace {
-
-/// Returns what messages call an element of the kind.
-QString nounOf(TableKind kind)
-{
-    switch (kind) {
-    case TableKind::TestDefinitions:
-        return TableText::tr("test definition");
-    case TableKind::Bundles:
-        return TableText::tr("bundle");
-    case TableKind::Floors:
-        return TableText::tr("floor");
-    case TableKind::Rooms:
-        return TableText::tr("room");
-    case TableKind::Ports:
-        return TableText::tr("port");
-    case TableKind::VerticalRuns:
-        return TableText::tr("vertical run");
-    case TableKind::Points:
-        return TableText::tr("point");
-    case TableKind::FloorTexts:
-    case TableKind::SheetTexts:
-        return TableText::tr("text");
-    case TableKind::Sheets:
-        return TableText::tr("sheet");
-    case TableKind::Devices:
-        return TableText::tr("device");
-    case TableKind::Bends:
-        return TableText::tr("bend");
-    case TableKind::Connections:
-        return TableText::tr("connection");
-    case TableKind::Cables:
-        return TableText::tr("cable");
-    case TableKind::ActivePorts:
-        return TableText::tr("active port");
-    case TableKind::Releases:
-    case TableKind::Count:
-        break;
-    }
-    return TableText::tr("release");
-}
-
-/// A row with the element that it leads to.
-struct PlannedRow
-{
-    const FileRow *file = nullptr;
-    int position = -1;   ///< of the element, or -1 if there is none
-    QStringList name;    ///< parts of the name of the element
-    QStringList newName; ///< parts of its name after the change; the same if it keeps its name
-
-    bool isMoved() const { return newName != name; }
-};
-
-/// Returns the name of what holds the element with a name.
-QStringList holderOf(const QStringList &name)
-{
-    return name.mid(0, name.size() - 1);
-}
 
 /// Compares a table with a document.
 class Planner
@@ -90,15 +34,6 @@ public:
     void plan();
 
 private:
-    // Finding the elements of the rows
-    void findElement(PlannedRow *row);
-    int roomOfTag(const FileRow &file) const;
-    void findMovedElements();
-    void findElementsOf(const std::vector<PlannedRow *> &chain, bool isCycle);
-    void checkNames();
-    bool isTaken(const QStringList &name, const TextMap<int> &leaving) const;
-
-    // Comparing them with the rows
     void planRow(const PlannedRow &row);
     void planRemoval(const PlannedRow &row);
     QStringList holderTags(const PlannedRow &row);
@@ -114,14 +49,7 @@ private:
     {
         m_plan.problems.append({row.number, field + 1, message});
     }
-    void warn(const FileRow &row, int field, const QString &message)
-    {
-        m_plan.warnings.append({row.number, field + 1, message});
-    }
-    QString named(const QStringList &name) const
-    {
-        return nounOf(m_kind) + QLatin1String(" \"") + excerpt(nameText(name)) + QLatin1Char('"');
-    }
+    QString named(const QStringList &name) const { return namedElement(m_kind, name); }
     int idField() const { return std::max(m_file.fieldOf(Content::Id), 0); }
 
     const JobSnapshot &m_job;
@@ -131,149 +59,17 @@ private:
     ElementNames m_names;
     TableValues m_values;
     FreePlaces m_places;
-    std::vector<PlannedRow> m_rows;
     int m_newReleases = 0;
     TextMap<bool> m_newTags;
 };
 
 void Planner::plan()
 {
-    m_rows.resize(m_file.rows().size());
-    for (std::size_t number = 0; number < m_rows.size(); ++number) {
-        m_rows[number].file = &m_file.rows()[number];
-        findElement(&m_rows[number]);
-    }
-    findMovedElements();
-    checkNames();
-    m_plan.changes.reserve(int(m_rows.size()));
-    m_plan.elements.reserve(int(m_rows.size()));
-    for (const PlannedRow &row : m_rows)
+    const std::vector<PlannedRow> rows = TableRows(m_names, m_file, &m_plan).find();
+    m_plan.changes.reserve(int(rows.size()));
+    m_plan.elements.reserve(int(rows.size()));
+    for (const PlannedRow &row : rows)
         planRow(row);
-}
-
-/// Finds the element of a row, unless another row may have moved it.
-void Planner::findElement(PlannedRow *row)
-{
-    const FileRow &file = *row->file;
-    row->name = file.name;
-    row->newName = file.name;
-    if (!file.tag.isEmpty()) {
-        row->position = m_kind == TableKind::Rooms ? roomOfTag(file) : m_names.findTag(m_kind, file.tag);
-        if (row->position >= 0) {
-            row->name = m_names.partsOf(m_kind, row->position);
-            // The columns that the file lacks, and empty ids, leave the name as it is.
-            const QVector<Content> contents = nameContents(m_kind);
-            for (int part = 0; part < contents.size(); ++part) {
-                const bool isGiven = m_file.fieldOf(contents.at(part)) >= 0
-                                     && (contents.at(part) == Content::Room || !file.name.at(part).isEmpty());
-                row->newName[part] = isGiven ? file.name.at(part) : row->name.at(part);
-            }
-        }
-    }
-    for (auto part = file.newParts.cbegin(); part != file.newParts.cend(); ++part)
-        row->newName[part.key()] = part.value();
-    if (row->position < 0 && !row->isMoved())
-        row->position = m_names.find(m_kind, row->name);
-}
-
-/// Returns the position of the room with the tag of a row. Rooms on several floors can have the same tag.
-int Planner::roomOfTag(const FileRow &file) const
-{
-    const int floor = m_names.find(TableKind::Floors, holderOf(file.name));
-    if (floor < 0)
-        return m_names.findTag(TableKind::Rooms, file.tag);
-    const snapshot::Range &rooms = m_job.floors().at(floor).rooms;
-    for (int position = rooms.first; position < rooms.end(); ++position) {
-        if (m_job.rooms().at(position).element == file.tag)
-            return position;
-    }
-    return -1;
-}
-
-/// Finds the elements of the rows that rename or move something. Rows form a chain if each of them gives its element
-/// the name that the element of the next row has before.
-void Planner::findMovedElements()
-{
-    TextMap<PlannedRow *> rowOfName;
-    TextMap<bool> isNewName;
-    for (PlannedRow &row : m_rows) {
-        if (row.position < 0 && row.isMoved()) {
-            rowOfName.insert({nameText(row.name), &row});
-            isNewName.insert({nameText(row.newName), true});
-        }
-    }
-    TextMap<bool> isDone;
-    const auto findChain = [&](PlannedRow *first, bool isCycle) {
-        std::vector<PlannedRow *> chain;
-        for (auto next = rowOfName.find(nameText(first->name));
-             next != rowOfName.end() && isDone.insert({next->first, true}).second;
-             next = rowOfName.find(nameText(chain.back()->newName)))
-            chain.push_back(next->second);
-        findElementsOf(chain, isCycle);
-    };
-    for (const auto &[name, row] : rowOfName) {
-        if (isNewName.find(name) == isNewName.end())
-            findChain(row, false);
-    }
-    for (const auto &[name, row] : rowOfName) {
-        if (isDone.find(name) == isDone.end())
-            findChain(row, true);
-    }
-}
-
-void Planner::findElementsOf(const std::vector<PlannedRow *> &chain, bool isCycle)
-{
-    // A chain has been followed before if its first name is gone and its last name exists.
-    const bool isDone =
-        !isCycle && m_names.find(m_kind, chain.front()->name) < 0 && m_names.find(m_kind, chain.back()->newName) >= 0;
-    for (PlannedRow *row : chain) {
-        if (isDone)
-            row->name = row->newName;
-        row->position = m_names.find(m_kind, row->name);
-    }
-}
-
-/// Reports elements that two rows name, and names that two elements would have.
-void Planner::checkNames()
-{
-    std::vector<int> rowOfElement(std::size_t(countOf(m_job, m_kind))); // 0 if there is none
-    TextMap<int> rowOfName;                                             // names that elements get, or keep
-    TextMap<int> leaving;                                               // names that elements lose
-    for (const PlannedRow &row : m_rows) {
-        if (row.position >= 0 && (row.isMoved() || row.file->action == TableAction::Remove))
-            leaving.insert({nameText(row.name), row.position});
-    }
-    for (const PlannedRow &row : m_rows) {
-        const int number = row.file->number;
-        if (row.position >= 0) {
-            int &rowBefore = rowOfElement[std::size_t(row.position)];
-            if (rowBefore > 0) {
-                report(*row.file, idField(),
-                       TableText::tr("row %1 already is about the %2").arg(rowBefore).arg(named(row.name)));
-                continue;
-            }
-            rowBefore = number;
-        }
-        if (row.file->action == TableAction::Remove)
-            continue;
-        const auto other = rowOfName.insert({nameText(row.newName), number});
-        if (!other.second)
-            report(*row.file, idField(),
-                   TableText::tr("row %1 already uses the name \"%2\"")
-                       .arg(QString::number(other.first->second), excerpt(nameText(row.newName))));
-        else if ((row.position < 0 || row.isMoved()) && isTaken(row.newName, leaving))
-            report(*row.file, idField(),
-                   TableText::tr("the name \"%1\" is already used").arg(excerpt(nameText(row.newName))));
-    }
-}
-
-/// Returns whether an element has the name and keeps it.
-bool Planner::isTaken(const QStringList &name, const TextMap<int> &leaving) const
-{
-    const QVector<TableKind> kinds = kindsWithNamesOf(m_kind);
-    return std::any_of(kinds.cbegin(), kinds.cend(), [&](TableKind kind) {
-        return m_names.find(kind, name) >= 0 && (kind != m_kind || leaving.find(nameText(name)) == leaving.end());
-    });
 }
 
 void Planner::planRow(const PlannedRow &row)
@@ -477,15 +273,8 @@ TablePlan::TablePlan(const JobSnapshot &document, TableKind kind, const QByteArr
     d->problems = file.problems();
     if (d->error.isEmpty() && d->problems.isEmpty())
         Planner(document, file, d.get()).plan();
-    const auto isBefore = [](const CsvProblem &a, const CsvProblem &b) {
-        return std::tie(a.row, a.column) < std::tie(b.row, b.column);
-    };
-    std::stable_sort(d->problems.begin(), d->problems.end(), isBefore);
-    std::stable_sort(d->warnings.begin(), d->warnings.end(), isBefore);
-    // A name that is removed may be used again.
-    const auto isRemoval = [](const ElementChange &change) { return change.action == TableAction::Remove; };
-    if (std::any_of(d->elements.cbegin(), d->elements.cend(), isRemoval))
-        std::stable_partition(d->elements.begin(), d->elements.end(), isRemoval);
+    sortByPlace(d->problems);
+    sortByPlace(d->warnings);
     if (!d->problems.isEmpty()) {
         d->changes.clear();
         d->elements.clear();

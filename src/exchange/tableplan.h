@@ -79,8 +79,8 @@ public:
     /// Returns the changes in the order of the rows. There are none if there is an error or a problem.
     const QVector<TableChange> &changes() const;
 
-    /// Makes the changes in a job. The job must have the content from which the plan was made. Does nothing if there is
-    /// an error or a problem.
+    /// Makes the changes in a job, which is marked as changed if there are any. The job must have the content from
+    /// which the plan was made. Does nothing if there is an error or a problem.
     void applyTo(JobEditor &job) const;
     /// Makes the changes in a template. Does nothing if templates do not have the table. See isTableOfTemplates().
     void applyTo(BktEditor &bkt) const;

@@ -36,7 +36,7 @@ struct TablePlanData
     QVector<CsvProblem> problems;
     QVector<CsvProblem> warnings;
     QVector<TableChange> changes;
-    QVector<ElementChange> elements; ///< of each change, with removals before all others
+    QVector<ElementChange> elements; ///< of each change
 };
 
 } // namespace cabledoc

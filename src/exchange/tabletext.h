@@ -1,6 +1,9 @@
 #pragma once
 
+#include "tablekind.h"
+
 #include <QtCore/QCoreApplication>
+#include <QtCore/QStringList>
 
 namespace cabledoc {
 
@@ -9,5 +12,10 @@ struct TableText
 {
     Q_DECLARE_TR_FUNCTIONS(Table)
 };
+
+/// Returns what messages call an element of the kind.
+QString nounOf(TableKind kind);
+/// Returns what messages call an element with a name, such as: port "Ground/Office/7".
+QString namedElement(TableKind kind, const QStringList &name);
 
 } // namespace cabledoc

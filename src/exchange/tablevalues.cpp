@@ -97,12 +97,11 @@ QStringList TableValues::read(const FileRow &row, int position, ElementChange *c
 
 void TableValues::readField(const Field &field, ElementChange *change, QStringList *words)
 {
-    if (field.text == field.before && field.position >= 0)
+    // The default of an attribute may be another text than an empty one.
+    if (field.text == field.before && (field.position >= 0 || field.column.column->attribute == nullptr))
         return;
     const Content content = field.column.column->content;
     if (content == Content::Connected || content == Content::Disconnected) {
-        if (field.text == field.before)
-            return;
         (content == Content::Connected ? change->connected : change->disconnected) = readRuns(field);
     } else if (content == Content::Types) {
         change->types = readTypes(field);

@@ -15,14 +15,6 @@ using namespace cabledoc;
 
 namespace {
 
-QVector<TableKind> allKinds()
-{
-    QVector<TableKind> kinds;
-    for (const QString &name : tableNames())
-        kinds.append(*tableOfName(name));
-    return kinds;
-}
-
 QStringList placesOf(const QVector<CsvProblem> &problems)
 {
     QStringList places;
@@ -110,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(setValue(job, "scale.network-view", "10 ft"), QString());
         const JobSnapshot original(job);
         QMap<TableKind, QByteArray> tables;
-        for (const TableKind kind : allKinds()) {
+        for (const TableKind kind : tableKinds()) {
             const TableExport table = exportTable(original, kind, options);
             QCOMPARE(table.error, QString());
             tables.insert(kind, table.text);
@@ -118,13 +110,13 @@ private Q_SLOTS:
         JobEditor &copy = openEmptyJob();
         for (const char *entry : {"FloorPlan_Settings", "NetView_Settings"})
             copy.setScaleSettings(ScaleSettings(original.scaleSettings().value(entry)), entry);
-        for (const TableKind kind : allKinds()) {
+        for (const TableKind kind : tableKinds()) {
             const QString places = import(copy, kind, tables.value(kind));
             QVERIFY2(!places.contains(':'), qPrintable(tableName(kind) + ' ' + places));
             QVERIFY(JobEditorProbe(copy).indexesMatchTheTree());
             QCOMPARE(import(copy, kind, tables.value(kind)), QString("0"));
         }
-        for (const TableKind kind : allKinds())
+        for (const TableKind kind : tableKinds())
             COMPARE_TEXTS(QString(exported(copy, kind, options)), QString(tables.value(kind)), tableName(kind));
         QVERIFY(JobEditorProbe(copy).danglingReferences().isEmpty());
     }
@@ -303,7 +295,9 @@ private Q_SLOTS:
         const QStringList inRoom = job.getPorts("FFloor_2", "Room2", true);
         QVERIFY(!inRoom.isEmpty());
         QCOMPARE(import(job, TableKind::Rooms, "action,floor,id\nremove,Upper,Office\n"), QString("1"));
-        QCOMPARE(job.getPorts("FFloor_2", "Undefined", true).mid(0, inRoom.size()).isEmpty(), false);
+        const QStringList onFloor = job.getPorts("FFloor_2", "Undefined", true);
+        for (const QString &moved : inRoom)
+            QVERIFY2(onFloor.contains(moved), qPrintable(moved));
         QCOMPARE(JobEditorProbe(job).danglingReferences(), dangling);
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
     }
@@ -372,7 +366,7 @@ private Q_SLOTS:
             QCOMPARE(cables.text(row, cables.columnOf("status")), job.getCableStatus(tag));
         }
         QCOMPARE(cables.columnOf("x"), -1);
-        for (const TableKind kind : allKinds()) {
+        for (const TableKind kind : tableKinds()) {
             const ElementTable table(snapshot, kind);
             for (const ElementTable::Column &column : table.columns())
                 QVERIFY(!column.name.isEmpty() && !(column.isNumber && column.isSearchable));
@@ -390,7 +384,7 @@ private Q_SLOTS:
         constexpr int runs = 150;
         for (int run = 0; run < runs; ++run) {
             JobEditor &job = openJob(testData("trace.job"));
-            const TableKind kind = allKinds().at(number(int(allKinds().size())));
+            const TableKind kind = tableKinds().at(number(int(tableKinds().size())));
             TableExportOptions options;
             options.tags = number(2) == 0;
             QList<QByteArray> lines = exported(job, kind, options).trimmed().split('\n');

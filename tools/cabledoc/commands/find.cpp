@@ -71,8 +71,8 @@ ExitCode runFind(const CommandLine &line)
     if (const ExitCode error = readDocument(line, &document))
         return error;
     Search search(line.argument(1));
-    for (const QString &name : cabledoc::tableNames())
-        search.searchIn(document, *cabledoc::tableOfName(name));
+    for (const TableKind kind : cabledoc::tableKinds())
+        search.searchIn(document, kind);
     search.searchIn(isTemplate(line.argument(0)) ? cabledoc::valuesOfTemplate(document)
                                                  : cabledoc::valuesOfJob(document));
 
