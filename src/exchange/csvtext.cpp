@@ -1,6 +1,7 @@
 #include "csvtext.h"
 
 #include "csvencoding.h"
+#include "sharedtexts.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -48,10 +49,10 @@ bool isSpreadsheet(const QByteArray &data)
 }
 
 /// Returns the text of a field, or nothing if it is not valid UTF-8.
-std::optional<QString> fieldText(const char *text, int size)
+std::optional<QString> fieldText(const char *text, int size, SharedTexts *texts)
 {
     if (std::all_of(text, text + size, [](char c) { return uchar(c) < 0x80; }))
-        return QString::fromLatin1(text, size);
+        return texts->text(std::string_view(text, std::size_t(size)));
     // What is not valid becomes a replacement character. Qt removes a byte order mark, which begins with 0xEF.
     const QString field = QString::fromUtf8(text, size);
     if (uchar(*text) != 0xEF && !field.contains(QChar(QChar::ReplacementCharacter)))
@@ -125,7 +126,7 @@ private:
         // The parser cannot be stopped.
         if (m_wrongRow > 0)
             return;
-        const std::optional<QString> field = fieldText(text, size);
+        const std::optional<QString> field = fieldText(text, size, &m_texts);
         if (field) {
             m_row.fields.append(m_removesProtection ? unprotectedField(*field) : *field);
             return;
@@ -143,11 +144,15 @@ private:
             return;
         if (!m_row.fields.isEmpty() && m_wrongRow == 0)
             m_takeRow(m_row);
+        const auto size = m_row.fields.size();
         m_row = {m_row.number + 1, {}};
+        // The next row is likely to have as many fields.
+        m_row.fields.reserve(size);
     }
 
     const std::function<void(const CsvRow &)> &m_takeRow;
     const bool m_removesProtection;
+    SharedTexts m_texts;
     CsvRow m_row;
     int m_lastTerminator = 0;
     // The first field that cannot be decoded, or 0

@@ -4,8 +4,10 @@
 #include "elementnames.h"
 #include "jobeditor_p.h"
 #include "jobwords.h"
+#include "tablecolumns.h"
 #include "tableplan_p.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -57,14 +59,14 @@ public:
     {
     }
 
-    void make(const QVector<ElementChange> &changes)
+    void make(const std::vector<ElementChange> &changes)
     {
         // All elements are found before the first of them gets a new name, which another one may have had.
         std::vector<SharedElement> elements;
         for (const ElementChange &change : changes)
             elements.push_back(find(change));
         for (std::size_t number = 0; number < elements.size(); ++number)
-            make(changes.at(int(number)), elements[number]);
+            make(changes[number], elements[number]);
     }
 
 private:
@@ -74,16 +76,17 @@ private:
         if (change.action == TableAction::Add)
             return found;
         const QDomElement bundles = m_tree.child(words::BundledCableList);
-        found.element = m_isOfDefinitions ? m_tree.definition(change.id) : childWithId(bundles, change.id);
+        found.element = m_isOfDefinitions ? m_tree.definition(change.id()) : childWithId(bundles, change.id());
         if (change.action == TableAction::Remove || newIdIn(change).isEmpty())
             return found;
         if (m_job != nullptr)
-            found.cables = m_isOfDefinitions ? m_job->getCablesByType(change.id) : m_job->getCablesByBundle(change.id);
+            found.cables =
+                m_isOfDefinitions ? m_job->getCablesByType(change.id()) : m_job->getCablesByBundle(change.id());
         if (!m_isOfDefinitions)
             return found;
         for (const QDomElement &bundle : ChildElements(bundles)) {
             for (const QDomElement &type : ChildElements(bundle.firstChildElement(words::BundledCableTypeList))) {
-                if (type.attribute(words::Id) == change.id)
+                if (type.attribute(words::Id) == change.id())
                     found.bundleTypes.append(type);
             }
         }
@@ -154,9 +157,11 @@ public:
         const QDomElement changed =
             change.action == TableAction::Add
                 ? add(change)
-                : element(m_kind, QStringList(change.tag) + (isMoved ? change.newHolders : change.holders));
-        for (const auto &[name, text] : change.attributes)
-            m_tree.setAttribute(changed, elementKind(m_kind), name, text);
+                : element(m_kind, QStringList(change.tag) + (isMoved ? change.newHolders : QStringList(change.floor)));
+        for (const auto &[name, text] : change.attributes) {
+            if (change.action != TableAction::Add || !isWrittenWithRecord(name))
+                m_tree.setAttribute(changed, elementKind(m_kind), name, text);
+        }
         noteRuns(changed.tagName(), words::Connected, change.connected);
         noteRuns(changed.tagName(), words::Disconnected, change.disconnected);
     }
@@ -190,7 +195,7 @@ private:
     void remove(const ElementChange &change)
     {
         if (m_kind == TableKind::Rooms)
-            m_job.removeRoom(change.holders.constFirst(), change.tag);
+            m_job.removeRoom(change.floor, change.tag);
         else
             m_tree.remove(elementKind(m_kind), change.tag);
     }
@@ -231,6 +236,14 @@ private:
             break;
         }
         return addTo(activePortKind(), change);
+    }
+
+    bool isWrittenWithRecord(const QString &attribute) const
+    {
+        const QVector<AttributeRow> &rows = attributesOf(m_kind).rows();
+        return std::any_of(rows.cbegin(), rows.cend(), [&](const AttributeRow &row) {
+            return row.name == attribute && row.text != nullptr && row.parse != nullptr;
+        });
     }
 
     template <typename Fields> QDomElement addTo(const Kind<Fields> &kind, const ElementChange &change)
@@ -290,20 +303,20 @@ private:
     std::map<std::pair<QString, QString>, RunChanges> m_runs; ///< by the tag of the run and the attribute
 };
 
-void makeReleases(JobEditor *job, const QVector<ElementChange> &changes)
+void makeReleases(JobEditor *job, const std::vector<ElementChange> &changes)
 {
     // Names that are lost go first, because another release may get one of them.
     QMap<QString, QString> values;
     for (const ElementChange &change : changes) {
         if (change.action != TableAction::Remove) {
             const QString newId = newIdIn(change);
-            values.insert(newId.isEmpty() ? change.id : newId,
-                          change.releaseValue.value_or(job->getRelease(change.id)));
+            values.insert(newId.isEmpty() ? change.id() : newId,
+                          change.releaseValue.value_or(job->getRelease(change.id())));
         }
     }
     for (const ElementChange &change : changes) {
-        if (change.action != TableAction::Add && !values.contains(change.id))
-            job->removeRelease(change.id);
+        if (change.action != TableAction::Add && !values.contains(change.id()))
+            job->removeRelease(change.id());
     }
     for (auto release = values.cbegin(); release != values.cend(); ++release)
         job->addRelease(release.key(), release.value());

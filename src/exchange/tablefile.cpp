@@ -104,6 +104,10 @@ bool TableFile::readHeading(const CsvRow &heading)
     for (int field = 0; field < m_fieldsInHeading; ++field)
         readColumnName(heading, field);
     requireColumns(heading);
+    for (const Content content : nameContents(m_kind))
+        m_nameParts.push_back({content, fieldOf(content), m_extraFields.value(newColumn(content), -1)});
+    m_tagField = fieldOf(Content::Tag);
+    m_actionField = m_extraFields.value(actionColumn(), -1);
     return m_problems.isEmpty();
 }
 
@@ -127,7 +131,7 @@ bool TableFile::addElementColumn(const QString &name, int field)
                 continue;
             if (columnOf(column) != nullptr)
                 report(1, field, TableText::tr("the column \"%1\" occurs twice").arg(excerpt(name)));
-            m_columns.push_back({&column, unit, field});
+            m_columns.push_back({&column, name, unit, field});
             return true;
         }
     }
@@ -157,57 +161,57 @@ void TableFile::readRow(const CsvRow &csv)
     FileRow row;
     row.number = csv.number;
     row.fields = csv.fields;
-    row.tag = field(row, fieldOf(Content::Tag));
-    readAction(csv, &row);
+    row.tag = field(row, m_tagField);
+    readAction(&row);
     readName(&row);
     readNewParts(&row);
-    m_rows.push_back(row);
+    m_rows.push_back(std::move(row));
 }
 
-void TableFile::readAction(const CsvRow &csv, FileRow *row)
+void TableFile::readAction(FileRow *row)
 {
-    const int field = m_extraFields.value(actionColumn(), -1);
-    const QString word = this->field(*row, field).trimmed().toLower();
+    const QString word = field(*row, m_actionField).trimmed().toLower();
     if (word.isEmpty())
         return;
     const auto action = actionWords().indexOf(word);
     if (action >= 0)
         row->action = TableAction(action);
     else
-        report(csv.number, field,
+        report(row->number, m_actionField,
                TableText::tr("\"%1\" is not one of add, change, rename, move and remove").arg(excerpt(word)));
 }
 
 void TableFile::readName(FileRow *row)
 {
-    for (const Content content : nameContents(m_kind)) {
-        const QString part = field(*row, fieldOf(content));
-        const bool isUndefined = content == Content::Room && part == words::Undefined;
-        row->name.append(isUndefined ? QString() : part);
+    row->name.reserve(int(m_nameParts.size()));
+    for (const NamePart &part : m_nameParts) {
+        const QString text = field(*row, part.field);
+        const bool isRoom = part.content == Content::Room;
+        row->name.append(isRoom && text == words::Undefined ? QString() : text);
         // A tag is enough.
-        if (part.isEmpty() && content != Content::Room && row->tag.isEmpty())
-            report(row->number, fieldOf(content),
-                   content == Content::Id ? TableText::tr("the row has no id")
-                                          : TableText::tr("the row does not say where the element is"));
+        if (text.isEmpty() && !isRoom && row->tag.isEmpty())
+            report(row->number, part.field,
+                   part.content == Content::Id ? TableText::tr("the row has no id")
+                                               : TableText::tr("the row does not say where the element is"));
     }
     if (m_kind == TableKind::Rooms && row->name.constLast() == words::Undefined)
-        report(row->number, fieldOf(Content::Id), TableText::tr("the room \"Undefined\" cannot be changed"));
+        report(row->number, m_nameParts.back().field, TableText::tr("the room \"Undefined\" cannot be changed"));
 }
 
 void TableFile::readNewParts(FileRow *row)
 {
-    const QVector<Content> contents = nameContents(m_kind);
     bool isRenamed = false;
     bool isMoved = false;
-    for (int part = 0; part < contents.size(); ++part) {
-        const QString text = field(*row, m_extraFields.value(newColumn(contents.at(part)), -1));
+    for (std::size_t number = 0; number < m_nameParts.size(); ++number) {
+        const NamePart &part = m_nameParts[number];
+        const QString text = field(*row, part.newField);
         if (text.isEmpty())
             continue;
-        const bool isUndefined = contents.at(part) == Content::Room && text == words::Undefined;
-        row->newParts.insert(part, isUndefined ? QString() : text);
-        (contents.at(part) == Content::Id ? isRenamed : isMoved) = true;
+        const bool isUndefined = part.content == Content::Room && text == words::Undefined;
+        row->newParts.insert(int(number), isUndefined ? QString() : text);
+        (part.content == Content::Id ? isRenamed : isMoved) = true;
     }
-    const int field = m_extraFields.value(actionColumn(), 0);
+    const int field = std::max(m_actionField, 0);
     if (row->action == TableAction::Rename && !isRenamed)
         report(row->number, field, TableText::tr("the row does not give a new_id"));
     else if (row->action == TableAction::Move && !isMoved)

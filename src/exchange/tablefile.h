@@ -15,6 +15,7 @@ namespace cabledoc {
 struct FileColumn
 {
     const TableColumn *column;
+    QString name; ///< with the unit
     TableUnit unit;
     int field; ///< number of its field, from 0
 };
@@ -55,7 +56,7 @@ private:
     bool addElementColumn(const QString &name, int field);
     void requireColumns(const CsvRow &heading);
     void readRow(const CsvRow &csv);
-    void readAction(const CsvRow &csv, FileRow *row);
+    void readAction(FileRow *row);
     void readName(FileRow *row);
     void readNewParts(FileRow *row);
     void report(int row, int field, const QString &message);
@@ -65,6 +66,17 @@ private:
     QVector<CsvProblem> m_problems;
     std::vector<FileColumn> m_columns;
     QMap<QString, int> m_extraFields; ///< the fields of the columns "action", "new_id" and so on
+
+    /// Where a part of the names of elements and its new text are. A field is -1 if the file does not have it.
+    struct NamePart
+    {
+        Content content;
+        int field;
+        int newField;
+    };
+    std::vector<NamePart> m_nameParts;
+    int m_tagField = -1;
+    int m_actionField = -1;
     std::vector<FileRow> m_rows;
     char m_delimiter = ',';
     int m_fieldsInHeading = 0;

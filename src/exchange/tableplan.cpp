@@ -36,14 +36,14 @@ public:
 private:
     void planRow(const PlannedRow &row);
     void planRemoval(const PlannedRow &row);
+    ElementChange changeOf(const PlannedRow &row) const;
     QStringList holderTags(const PlannedRow &row);
     QStringList tagsOf(TableKind kind, int position) const;
     void checkRelease(const PlannedRow &row);
     void checkTag(const PlannedRow &row);
-    void planChange(const PlannedRow &row, ElementChange change, QStringList words);
     int removedCables(int position) const;
     void addPlace(const PlannedRow &row, ElementChange *change);
-    void append(const PlannedRow &row, const ElementChange &change, const QString &text);
+    void append(const PlannedRow &row, ElementChange change);
 
     void report(const FileRow &row, int field, const QString &message)
     {
@@ -67,7 +67,7 @@ void Planner::plan()
 {
     const std::vector<PlannedRow> rows = TableRows(m_names, m_file, &m_plan).find();
     m_plan.changes.reserve(int(rows.size()));
-    m_plan.elements.reserve(int(rows.size()));
+    m_plan.elements.reserve(rows.size());
     for (const PlannedRow &row : rows)
         planRow(row);
 }
@@ -88,59 +88,50 @@ void Planner::planRow(const PlannedRow &row)
     }
     if (m_kind == TableKind::Releases)
         checkRelease(row);
-    ElementChange change;
+    ElementChange change = changeOf(row);
     change.action = isNew ? TableAction::Add : TableAction::Change;
-    change.id = row.name.constLast();
-    if (isNew || holderOf(row.newName) != holderOf(row.name))
+    if (isNew || !hasSameHolder(row))
         change.newHolders = holderTags(row);
     if (isNew) {
         change.tag = file.tag;
         checkTag(row);
-    } else {
-        const ElementView element = elementOf(m_job, m_kind, row.position);
-        change.tag = element.tag;
-        change.holders = tagsOf(holderKind(m_kind), element.holder);
     }
-    if (row.newName.constLast() != change.id || isNew)
+    if (isNew || row.newName.constLast() != row.name.constLast())
         change.attributes.append({words::Id, row.newName.constLast()});
-    const QStringList words = m_values.read(file, row.position, &change);
+    m_values.read(file, row.position, &change);
     if (isNew) {
         addPlace(row, &change);
-        append(row, change, TableText::tr("add %1").arg(named(row.name)));
-    } else if (row.isMoved() || !words.isEmpty()) {
-        planChange(row, change, words);
+    } else if (row.isMoved()) {
+        change.action = change.newHolders.isEmpty() ? TableAction::Rename : TableAction::Move;
+    } else if (change.differences.empty()) {
+        return;
+    } else if (file.action == TableAction::Add) {
+        report(file, idField(), TableText::tr("there already is a different %1").arg(named(row.name)));
     }
-}
-
-/// Plans what differs between an element and its row. The words say what differs apart from the name.
-void Planner::planChange(const PlannedRow &row, ElementChange change, QStringList words)
-{
-    if (row.isMoved()) {
-        const bool staysInHolder = change.newHolders.isEmpty();
-        change.action = staysInHolder ? TableAction::Rename : TableAction::Move;
-        const QString text = staysInHolder ? TableText::tr("rename %1 to \"%2\"") : TableText::tr("move %1 to \"%2\"");
-        words.prepend(text.arg(named(row.name), excerpt(nameText(row.newName))));
-        append(row, change, words.join(QLatin1String(", ")));
-    } else if (row.file->action == TableAction::Add) {
-        report(*row.file, idField(), TableText::tr("there already is a different %1").arg(named(row.name)));
-    } else {
-        append(row, change, TableText::tr("change %1: %2").arg(named(row.name), words.join(QLatin1String(", "))));
-    }
+    append(row, std::move(change));
 }
 
 void Planner::planRemoval(const PlannedRow &row)
 {
-    const ElementView element = elementOf(m_job, m_kind, row.position);
-    ElementChange change;
+    ElementChange change = changeOf(row);
     change.action = TableAction::Remove;
-    change.tag = element.tag;
-    change.id = element.id;
-    change.holders = tagsOf(holderKind(m_kind), element.holder);
-    QString text = TableText::tr("remove %1").arg(named(row.name));
-    const int cables = removedCables(row.position);
-    if (cables > 0)
-        text += TableText::tr(" with its cables: %1").arg(cables);
-    append(row, change, text);
+    change.removedCables = removedCables(row.position);
+    append(row, std::move(change));
+}
+
+/// Returns a change of the element of a row that does not change anything yet.
+ElementChange Planner::changeOf(const PlannedRow &row) const
+{
+    ElementChange change;
+    change.name = row.name;
+    change.newName = row.newName;
+    if (row.position >= 0) {
+        const ElementView element = elementOf(m_job, m_kind, row.position);
+        change.tag = element.tag;
+        if (m_kind == TableKind::Rooms)
+            change.floor = m_job.floors().at(element.holder).element;
+    }
+    return change;
 }
 
 /// Returns the number of cables that are removed with an element.
@@ -256,10 +247,10 @@ void Planner::addPlace(const PlannedRow &row, ElementChange *change)
     }
 }
 
-void Planner::append(const PlannedRow &row, const ElementChange &change, const QString &text)
+void Planner::append(const PlannedRow &row, ElementChange change)
 {
-    m_plan.changes.append({change.action, row.file->number, text});
-    m_plan.elements.append(change);
+    m_plan.changes.append({change.action, row.file->number});
+    m_plan.elements.push_back(std::move(change));
 }
 
 } // namespace
@@ -301,6 +292,32 @@ const QVector<CsvProblem> &TablePlan::warnings() const
 const QVector<TableChange> &TablePlan::changes() const
 {
     return d->changes;
+}
+
+QString TablePlan::changeText(int index) const
+{
+    const ElementChange &change = d->elements[std::size_t(index)];
+    QStringList words;
+    for (const ElementChange::Difference &difference : change.differences)
+        words.append(QStringLiteral("%1 \"%2\" -> \"%3\"")
+                         .arg(difference.column, excerpt(difference.before), excerpt(difference.after)));
+    const QString name = namedElement(d->kind, change.name);
+    switch (change.action) {
+    case TableAction::Add:
+        return TableText::tr("add %1").arg(name);
+    case TableAction::Change:
+        return TableText::tr("change %1: %2").arg(name, words.join(QLatin1String(", ")));
+    case TableAction::Rename:
+        words.prepend(TableText::tr("rename %1 to \"%2\"").arg(name, excerpt(nameText(change.newName))));
+        return words.join(QLatin1String(", "));
+    case TableAction::Move:
+        words.prepend(TableText::tr("move %1 to \"%2\"").arg(name, excerpt(nameText(change.newName))));
+        return words.join(QLatin1String(", "));
+    case TableAction::Remove:
+        break;
+    }
+    const QString text = TableText::tr("remove %1").arg(name);
+    return change.removedCables > 0 ? text + TableText::tr(" with its cables: %1").arg(change.removedCables) : text;
 }
 
 } // namespace cabledoc

@@ -33,8 +33,6 @@ struct TableChange
     TableAction action = TableAction::Add;
     /// Number of the row in the table.
     int row = 0;
-    /// Translated description, such as "change cable A-1: type "CAT5E" -> "CAT6"".
-    QString text;
 };
 
 /// The changes that a table asks for in a job or template.
@@ -78,6 +76,9 @@ public:
     const QVector<CsvProblem> &warnings() const;
     /// Returns the changes in the order of the rows. There are none if there is an error or a problem.
     const QVector<TableChange> &changes() const;
+    /// Returns a translated description of the change at an index of changes(), such as
+    /// "change cable A-1: type "CAT5E" -> "CAT6"".
+    QString changeText(int index) const;
 
     /// Makes the changes in a job, which is marked as changed if there are any. The job must have the content from
     /// which the plan was made. Does nothing if there is an error or a problem.

@@ -4,8 +4,10 @@
 
 #include <QtCore/QPair>
 #include <QtCore/QStringList>
+#include <QtCore/QVarLengthArray>
 
 #include <optional>
+#include <vector>
 
 namespace cabledoc {
 
@@ -14,18 +16,34 @@ struct ElementChange
 {
     TableAction action = TableAction::Add;
     QString tag;         ///< of the element; empty for a new element whose tag is to be generated
-    QString id;          ///< before the change; test definitions, bundles and releases are found by it
-    QStringList holders; ///< tags of the holders of the element before the change, the innermost first
+    QStringList name;    ///< parts of the name before the change
+    QStringList newName; ///< parts of the name after the change
+    QString floor;       ///< tag of the floor of a room before the change
     /// Tags of the new holders, or empty if the element stays where it is.
     QStringList newHolders;
     /// Names of attributes and their new texts.
-    QVector<QPair<QString, QString>> attributes;
+    QVarLengthArray<QPair<QString, QString>, 1> attributes;
     /// Tags of the vertical runs to which a cable is to be connected, and from which it is to be disconnected.
     std::optional<QStringList> connected;
     std::optional<QStringList> disconnected;
     /// Cable types of a bundle.
     std::optional<QStringList> types;
     std::optional<QString> releaseValue;
+
+    // What describes the change
+
+    /// A column, with its text in the element and in the table.
+    struct Difference
+    {
+        QString column;
+        QString before;
+        QString after;
+    };
+    QVarLengthArray<Difference, 1> differences;
+    int removedCables = 0;
+
+    /// Returns the id before the change. Test definitions, bundles and releases are found by it.
+    const QString &id() const { return name.constLast(); }
 };
 
 /// The inside of a plan.
@@ -36,7 +54,7 @@ struct TablePlanData
     QVector<CsvProblem> problems;
     QVector<CsvProblem> warnings;
     QVector<TableChange> changes;
-    QVector<ElementChange> elements; ///< of each change
+    std::vector<ElementChange> elements; ///< of each change
 };
 
 } // namespace cabledoc

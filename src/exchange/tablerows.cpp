@@ -12,6 +12,11 @@ QStringList holderOf(const QStringList &name)
     return name.mid(0, name.size() - 1);
 }
 
+bool hasSameHolder(const PlannedRow &row)
+{
+    return std::equal(row.name.cbegin(), std::prev(row.name.cend()), row.newName.cbegin());
+}
+
 TableRows::TableRows(const ElementNames &names, const TableFile &file, TablePlanData *plan)
     : m_names(names)
     , m_file(file)
@@ -132,7 +137,9 @@ void TableRows::checkNames()
     std::vector<int> rowOfElement(std::size_t(countOf(m_names.job(), m_kind))); // 0 if there is none
     TextMap<int> rowOfName;                                                     // names that elements get, or keep
     TextMap<int> leaving;                                                       // names that elements lose
+    bool areNamesNew = false;
     for (const PlannedRow &row : m_rows) {
+        areNamesNew = areNamesNew || row.position < 0 || row.isMoved();
         if (row.position >= 0 && (row.isMoved() || row.file->action == TableAction::Remove))
             leaving.insert({nameText(row.name), row.position});
     }
@@ -147,7 +154,7 @@ void TableRows::checkNames()
             }
             rowBefore = number;
         }
-        if (row.file->action == TableAction::Remove)
+        if (row.file->action == TableAction::Remove || !areNamesNew)
             continue;
         const auto other = rowOfName.insert({nameText(row.newName), number});
         if (!other.second)

@@ -16,6 +16,8 @@ struct PlannedRow
     bool isMoved() const { return newName != name; }
 };
 
+/// Returns whether the element of a row stays in the room, or on the floor or sheet, that it is in.
+bool hasSameHolder(const PlannedRow &row);
 /// Returns the name of what holds the element with a name.
 QStringList holderOf(const QStringList &name);
 

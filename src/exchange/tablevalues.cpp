@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace cabledoc {
 
@@ -27,14 +28,15 @@ QString flagText(const QString &text)
     return off.contains(word) ? off.constFirst() : QString();
 }
 
-QString changeText(const QString &name, const QString &before, const QString &after)
-{
-    return QStringLiteral("%1 \"%2\" -> \"%3\"").arg(name, excerpt(before), excerpt(after));
-}
-
 bool isAllEmpty(const QStringList &parts)
 {
     return std::all_of(parts.cbegin(), parts.cend(), [](const QString &part) { return part.isEmpty(); });
+}
+
+/// Returns the name of an end, or an empty text if there is no end.
+QString nameOfEnd(const QStringList &parts)
+{
+    return isAllEmpty(parts) ? QString() : nameText(parts);
 }
 
 /// Returns whether a number in a column loses its fraction.
@@ -61,6 +63,14 @@ TableValues::TableValues(const ElementNames &names, TableKind kind, const TableF
     , m_plan(*plan)
     , m_reader(names, kind, TableReader::Names::Unique)
 {
+    std::set<const AttributeRow *> ends;
+    for (const FileColumn &column : file.columns()) {
+        const Content content = column.column->content;
+        // The columns of one end are read together.
+        const bool isRead = isEnd(content) && !ends.insert(column.column->attribute).second;
+        if (content != Content::Tag && !isName(content) && isImported(content) && !isRead)
+            m_columns.push_back(&column);
+    }
 }
 
 void TableValues::report(const Field &field, const QString &message)
@@ -73,29 +83,19 @@ void TableValues::warn(const Field &field, const QString &message)
     m_plan.warnings.append({field.row.number, field.column.field + 1, message});
 }
 
-QStringList TableValues::read(const FileRow &row, int position, ElementChange *change)
+void TableValues::read(const FileRow &row, int position, ElementChange *change)
 {
-    QStringList words;
-    QStringList ends;
-    for (const FileColumn &column : m_file.columns()) {
-        const Content content = column.column->content;
-        if (content == Content::Tag || isName(content) || !isImported(content))
-            continue;
-        const AttributeRow *attribute = column.column->attribute;
-        if (!isEnd(content) || attribute == nullptr) {
-            readField({row, column, position, TableFile::field(row, column.field),
-                       m_reader.text(*column.column, column.unit, position)},
-                      change, &words);
-        } else if (!ends.contains(attribute->name)) {
-            // The columns of one end are read together.
-            ends.append(attribute->name);
-            readEnd(row, column, position, change, &words);
-        }
+    for (const FileColumn *column : m_columns) {
+        if (isEnd(column->column->content))
+            readEnd(row, *column, position, change);
+        else
+            readField({row, *column, position, TableFile::field(row, column->field),
+                       m_reader.text(*column->column, column->unit, position)},
+                      change);
     }
-    return words;
 }
 
-void TableValues::readField(const Field &field, ElementChange *change, QStringList *words)
+void TableValues::readField(const Field &field, ElementChange *change)
 {
     // The default of an attribute may be another text than an empty one.
     if (field.text == field.before && (field.position >= 0 || field.column.column->attribute == nullptr))
@@ -110,15 +110,17 @@ void TableValues::readField(const Field &field, ElementChange *change, QStringLi
     } else {
         const AttributeRow &attribute = *field.column.column->attribute;
         const std::optional<QString> stored = attributeText(field);
-        const QString present = field.position < 0
-                                    ? attribute.defaultText
+        const QString present = field.position < 0 ? attribute.defaultText
+                                : field.column.unit == TableUnit::Pixels
+                                    ? field.before
                                     : m_reader.text(*field.column.column, TableUnit::Pixels, field.position);
         if (!stored || *stored == present)
             return;
         checkWord(field);
         change->attributes.append({attribute.name, *stored});
     }
-    words->append(changeText(columnName(*field.column.column, field.column.unit), field.before, field.text));
+    if (field.position >= 0)
+        change->differences.push_back({field.column.name, field.before, field.text});
 }
 
 /// Returns the text that the attribute of a column is to have. Returns nothing if it stays as it is, or if there is a
@@ -146,7 +148,7 @@ std::optional<QString> TableValues::attributeText(const Field &field)
     }
     const QString stored = canonicalText(m_kind, *column.attribute, field.text);
     if (stored == field.text)
-        return stored;
+        return field.text;
     report(field, TableText::tr("\"%1\" is not valid here").arg(excerpt(field.text)));
     return std::nullopt;
 }
@@ -177,8 +179,11 @@ std::optional<QString> TableValues::readNumber(const Field &field)
     const QString exact = isMeasure ? toText(isWhole ? std::round(number) : rounded(number)) : text;
     const bool isValid =
         isNumber && std::isfinite(number) && (column.attribute->isValid == nullptr || column.attribute->isValid(exact));
-    if (isValid && (isMeasure || !isWhole || isPosition(column.content) || number == std::round(number)))
-        return canonicalText(m_kind, *column.attribute, exact);
+    if (isValid && (isMeasure || !isWhole || isPosition(column.content) || number == std::round(number))) {
+        const QString stored = canonicalText(m_kind, *column.attribute, exact);
+        // The fields of a table share their memory.
+        return stored == field.text ? field.text : stored;
+    }
     report(field,
            isWhole && isNumber
                ? TableText::tr("\"%1\" is not a whole number in the range of this column").arg(excerpt(field.text))
@@ -257,8 +262,7 @@ bool TableValues::hasEqualEnd(const FileRow &row, const AttributeRow *attribute,
 }
 
 /// Reads the columns of one end of a cable, a connection or an active port.
-void TableValues::readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change,
-                          QStringList *words)
+void TableValues::readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change)
 {
     if (hasEqualEnd(row, first.column->attribute, position))
         return;
@@ -272,21 +276,17 @@ void TableValues::readEnd(const FileRow &row, const FileColumn &first, int posit
         const FileColumn *inFile = m_file.columnOf(column);
         parts.append(inFile == nullptr ? before.constLast() : endField(row, *inFile));
     }
-    const Field field{row, placeOfEnd(first.column->attribute), position, nameText(parts), nameText(before)};
     const bool isEmpty = isAllEmpty(parts);
     const snapshot::Target target = isEmpty ? snapshot::Target() : findEnd(parts);
     if (!isEmpty && !target.exists()) {
-        report(field, m_kind == TableKind::Connections
-                          ? TableText::tr("there is no device or bend \"%1\"").arg(excerpt(field.text))
-                      : m_kind == TableKind::Cables
-                          ? TableText::tr("there is no port or vertical run \"%1\"").arg(excerpt(field.text))
-                          : TableText::tr("there is no port \"%1\"").arg(excerpt(field.text)));
+        const int place = placeOfEnd(first.column->attribute).field + 1;
+        m_plan.problems.append({row.number, place, missingEnd().arg(excerpt(nameText(parts)))});
         return;
     }
     change->attributes.append(
         {attribute, isEmpty ? QString() : elementOf(m_job, tableOf(target.kind), target.position).tag});
-    words->append(
-        changeText(attribute, isAllEmpty(before) ? QString() : field.before, isEmpty ? QString() : field.text));
+    if (position >= 0)
+        change->differences.push_back({attribute, nameOfEnd(before), nameOfEnd(parts)});
 }
 
 /// Returns the last column of an end that the file has. This is where problems are reported.
@@ -295,6 +295,19 @@ const FileColumn &TableValues::placeOfEnd(const AttributeRow *attribute) const
     const auto &columns = m_file.columns();
     return *std::find_if(columns.crbegin(), columns.crend(),
                          [attribute](const FileColumn &column) { return column.column->attribute == attribute; });
+}
+
+/// Returns the message about an end that does not exist. "%1" is its name.
+QString TableValues::missingEnd() const
+{
+    switch (m_kind) {
+    case TableKind::Connections:
+        return TableText::tr("there is no device or bend \"%1\"");
+    case TableKind::Cables:
+        return TableText::tr("there is no port or vertical run \"%1\"");
+    default:
+        return TableText::tr("there is no port \"%1\"");
+    }
 }
 
 snapshot::Target TableValues::findEnd(const QStringList &parts) const

@@ -13,8 +13,8 @@ public:
     TableValues(const ElementNames &names, TableKind kind, const TableFile &file, TablePlanData *plan);
 
     /// Compares a row with the element at a position, or with the defaults of a new one if the position is -1. Adds
-    /// what differs to the change, and problems and warnings to the plan. Returns what differs in words.
-    QStringList read(const FileRow &row, int position, ElementChange *change);
+    /// what differs to the change, and problems and warnings to the plan.
+    void read(const FileRow &row, int position, ElementChange *change);
 
 private:
     /// A field of a row, and the text that the element has in its column.
@@ -27,7 +27,7 @@ private:
         QString before;
     };
 
-    void readField(const Field &field, ElementChange *change, QStringList *words);
+    void readField(const Field &field, ElementChange *change);
     std::optional<QString> attributeText(const Field &field);
     std::optional<QString> readNumber(const Field &field);
     std::optional<QString> readFlag(const Field &field);
@@ -36,8 +36,9 @@ private:
     std::optional<QStringList> readTypes(const Field &field);
     static QString endField(const FileRow &row, const FileColumn &column);
     bool hasEqualEnd(const FileRow &row, const AttributeRow *attribute, int position) const;
-    void readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change, QStringList *words);
+    void readEnd(const FileRow &row, const FileColumn &first, int position, ElementChange *change);
     const FileColumn &placeOfEnd(const AttributeRow *attribute) const;
+    QString missingEnd() const;
     snapshot::Target findEnd(const QStringList &parts) const;
     void checkWord(const Field &field);
     bool isKnownUse(const QString &use);
@@ -51,8 +52,9 @@ private:
     const TableFile &m_file;
     TablePlanData &m_plan;
     TableReader m_reader;
-    TextMap<bool> m_checkedWords; ///< with the columns in which they stand
-    TextMap<bool> m_knownUses;    ///< the words of the vocabulary and of the job; empty until they are needed
+    std::vector<const FileColumn *> m_columns; ///< that are compared; only the first one of each end
+    TextMap<bool> m_checkedWords;              ///< with the columns in which they stand
+    TextMap<bool> m_knownUses; ///< the words of the vocabulary and of the job; empty until they are needed
 };
 
 } // namespace cabledoc

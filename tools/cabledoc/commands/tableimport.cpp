@@ -48,7 +48,7 @@ ExitCode printAsJson(const CommandLine &line, const TablePlan &plan)
                           const TableChange &change = plan.changes().at(number);
                           return QJsonObject{{QStringLiteral("row"), change.row},
                                              {QStringLiteral("action"), nameOf(change.action)},
-                                             {QStringLiteral("text"), change.text}};
+                                             {QStringLiteral("text"), plan.changeText(number)}};
                       }});
 }
 
@@ -57,8 +57,8 @@ ExitCode printChanges(const CommandLine &line, const TablePlan &plan)
 {
     if (line.isSet("dry-run")) {
         QString text;
-        for (const TableChange &change : plan.changes())
-            text += change.text + QLatin1Char('\n');
+        for (int index = 0; index < plan.changes().size(); ++index)
+            text += plan.changeText(index) + QLatin1Char('\n');
         return printText({}, printable(text));
     }
     if (isQuiet() || isDocumentPrinted(line))
