@@ -74,33 +74,71 @@ ExitCode printChanges(const CommandLine &line, const TablePlan &plan)
                              .arg(counts[4]));
 }
 
-/// Compares the table with the file of the command line. Both are no longer in memory afterwards.
-ExitCode makePlan(const CommandLine &line, TableKind kind, const CsvOptions &options,
-                  std::unique_ptr<const TablePlan> *plan)
+/// What an import does: its parameters, the table, and the changes that it asks for.
+struct Import
 {
-    JobSnapshot document;
-    if (const ExitCode error = readDocument(line, &document))
-        return error;
+    const CommandLine &line;
+    TableKind kind;
+    CsvOptions options;
     QByteArray csv;
-    if (const ExitCode error = readData(line, line.argument(2), &csv))
+    std::unique_ptr<const TablePlan> plan;
+
+    void makePlan(const JobSnapshot &document)
+    {
+        plan = std::make_unique<const TablePlan>(document, kind, csv, options);
+    }
+    bool isPossible() const { return plan->error().isEmpty() && plan->problems().isEmpty(); }
+    /// Returns whether a document is to be saved.
+    bool isSaved() const
+    {
+        const bool isNew = !plan->changes().isEmpty() || line.isSet("output");
+        return isPossible() && isNew && !line.isSet("dry-run");
+    }
+};
+
+/// Makes the plan for a job. Then loads the job if it is to be saved. Returns what went wrong, or an empty text.
+QString planAndLoad(const QString &path, Import *import)
+{
+    {
+        const JobSnapshot snapshot = JobSnapshot::read(path, import->line.maximumSize());
+        if (!snapshot.error().isEmpty())
+            return snapshot.error();
+        import->makePlan(snapshot);
+    }
+    JobEditor &job = JobEditor::Instance();
+    return !import->isSaved() || job.Load(path) ? QString() : job.error();
+}
+
+/// Reads the table and makes the plan. Also loads the document if it is to be changed.
+ExitCode prepare(Import *import)
+{
+    const CommandLine &line = import->line;
+    if (const ExitCode error = readData(line, line.argument(2), &import->csv))
         return error;
-    *plan = std::make_unique<const TablePlan>(document, kind, csv, options);
-    const QString problem = (*plan)->error();
+    if (isTemplate(line.argument(0))) {
+        JobSnapshot document;
+        if (const ExitCode error = readDocument(line, &document))
+            return error;
+        import->makePlan(document);
+    } else {
+        const auto read = [&](const QString &path) { return planAndLoad(path, import); };
+        if (const ExitCode error = readFile(line, line.argument(0), read))
+            return error;
+    }
+    const QString problem = import->plan->error();
     return problem.isEmpty() ? Done : fail(CannotLoad, line.argument(2), problem);
 }
 
-/// Makes the changes in the file of the command line.
-ExitCode apply(const CommandLine &line, const TablePlan &plan)
+/// Makes the changes in the document, which was loaded, and saves it.
+ExitCode apply(const Import &import)
 {
-    if (plan.changes().isEmpty() && !line.isSet("output"))
+    if (!import.isSaved())
         return Done;
-    if (const ExitCode error = loadDocument(line))
-        return error;
-    if (isTemplate(line.argument(0)))
-        plan.applyTo(BktEditor::Instance());
+    if (isTemplate(import.line.argument(0)))
+        import.plan->applyTo(BktEditor::Instance());
     else
-        plan.applyTo(JobEditor::Instance());
-    return saveChangedDocument(line);
+        import.plan->applyTo(JobEditor::Instance());
+    return saveChangedDocument(import.line);
 }
 
 } // namespace
@@ -118,23 +156,20 @@ ExitCode runTableImport(const CommandLine &line)
         if (const ExitCode error = lockForChange(line))
             return error;
     }
-    std::unique_ptr<const TablePlan> readPlan;
-    if (const ExitCode error = makePlan(line, kind, options, &readPlan))
+    Import import{line, kind, options, {}, {}};
+    if (const ExitCode error = prepare(&import))
         return error;
-    const TablePlan &plan = *readPlan;
+    const TablePlan &plan = *import.plan;
     const bool printsJson = line.isSet("json");
     if (!printsJson) {
         printProblems(line.argument(2), plan.problems());
         printWarnings(line.argument(2), plan.warnings());
     }
-    const bool isPossible = plan.problems().isEmpty();
-    if (isPossible && !isDryRun) {
-        if (const ExitCode error = apply(line, plan))
-            return error;
-    }
+    if (const ExitCode error = apply(import))
+        return error;
     if (printsJson) {
         const ExitCode printed = printAsJson(line, plan);
-        return isPossible ? printed : CannotLoad;
+        return import.isPossible() ? printed : CannotLoad;
     }
-    return isPossible ? printChanges(line, plan) : CannotLoad;
+    return import.isPossible() ? printChanges(line, plan) : CannotLoad;
 }
