@@ -13,6 +13,7 @@
 #include "room.h"
 #include "sheet.h"
 #include "sitedata.h"
+#include "testdetails.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
@@ -1061,6 +1062,22 @@ public:
     /// Returns the test results of a cable, or default results if there is none. Adds to the document what an older
     /// file lacks, except for the status and the time, with its default values.
     TestResults getCableTestResults(const QString &cable);
+    /// Returns what is known of the current test of a cable beyond its results. Returns empty details if there are
+    /// none, or if they belong to a test at another time.
+    TestDetails getCableTestDetails(const QString &cable) const;
+    /// Stores what is known of the current test of a cable. An element for it is created or removed as needed. Does
+    /// nothing if the cable does not exist or has no element for test results.
+    ///
+    /// setCableTestResults() keeps the details. They no longer count if it changes the time of the test.
+    void setCableTestDetails(const QString &cable, const TestDetails &details);
+    /// Returns the earlier tests of a cable in the order in which they became earlier ones. Returns an empty vector if
+    /// there are none.
+    QVector<cabledoc::CableTest> getCableTestHistory(const QString &cable) const;
+    /// Adds a test after all other earlier tests of a cable. Does nothing if the cable does not exist.
+    void addEarlierCableTest(const QString &cable, const cabledoc::CableTest &test);
+    /// Makes a test the current one of a cable. The test that was current before is added to the earlier ones, unless
+    /// CableTest::isEmpty() holds for it. Does nothing if the cable does not exist.
+    void setCurrentCableTest(const QString &cable, const cabledoc::CableTest &test);
     /// Returns the test status of the cable with the given tag, or an empty string if there is none. Returns "UNTESTED"
     /// if the cable has no test results or no status in them.
     QString getCableStatus(const QString &tag) const;

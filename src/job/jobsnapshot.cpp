@@ -4,6 +4,7 @@
 #include "jobeditor_p.h"
 #include "jobwords.h"
 #include "numbers.h"
+#include "readtestdetails.h"
 #include "units.h"
 
 #include <algorithm>
@@ -188,13 +189,63 @@ int JobSnapshot::cableCountAt(const snapshot::Target &end) const
     return d->cablesOfEnds(end.kind).cablesOf(end.position).count;
 }
 
+namespace {
+
+template <typename Fields> Fields fieldsIn(const AttributeTable<Fields> &table, FlatNode element)
+{
+    FlatAttributes attributes;
+    attributes.read(element);
+    return table.read(attributes);
+}
+
+TestDetails detailsIn(FlatNode test)
+{
+    FlatAttributes attributes;
+    attributes.read(test);
+    return readTestDetails(test, attributes.attribute(words::Time),
+                           [](const auto &table, FlatNode element) { return fieldsIn(table, element); });
+}
+
+} // namespace
+
+FlatNode JobSnapshot::Data::resultsOf(int cable) const
+{
+    return cable < 0 || cable >= cables.size() ? FlatNode() : results[std::size_t(cable)];
+}
+
+QVector<FlatNode> JobSnapshot::Data::historyOf(int cable) const
+{
+    QVector<FlatNode> tests;
+    if (cable < 0 || cable >= cables.size())
+        return tests;
+    for (const FlatNode &test : ChildElements(histories[std::size_t(cable)])) {
+        if (test.hasName(words::EarlierTest))
+            tests.append(test);
+    }
+    return tests;
+}
+
 TestResults JobSnapshot::testResults(int cable) const
 {
-    if (cable < 0 || cable >= d->cables.size())
-        return TestResults();
-    FlatAttributes attributes;
-    attributes.read(d->results[std::size_t(cable)]);
-    return TestResults(testResultsAttributes().read(attributes));
+    return TestResults(fieldsIn(testResultsAttributes(), d->resultsOf(cable)));
+}
+
+TestDetails JobSnapshot::testDetails(int cable) const
+{
+    return detailsIn(d->resultsOf(cable));
+}
+
+int JobSnapshot::earlierTestCount(int cable) const
+{
+    return int(d->historyOf(cable).size());
+}
+
+QVector<CableTest> JobSnapshot::testHistory(int cable) const
+{
+    QVector<CableTest> tests;
+    for (const FlatNode &test : d->historyOf(cable))
+        tests.append({TestResults(fieldsIn(testResultsAttributes(), test)), detailsIn(test)});
+    return tests;
 }
 
 float JobSnapshot::measuredLength(int cable, bool metric) const
@@ -293,7 +344,8 @@ bool operator==(const JobSnapshot &a, const JobSnapshot &b)
     };
     const auto sameResults = [&] {
         for (int cable = 0; cable < a.cables().size(); ++cable) {
-            if (a.testResults(cable) != b.testResults(cable))
+            if (a.testResults(cable) != b.testResults(cable) || a.testDetails(cable) != b.testDetails(cable)
+                || a.testHistory(cable) != b.testHistory(cable))
                 return false;
         }
         return true;

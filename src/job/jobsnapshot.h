@@ -14,6 +14,7 @@
 #include "room.h"
 #include "sheet.h"
 #include "sitedata.h"
+#include "testdetails.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QPoint>
@@ -251,6 +252,13 @@ public:
 
     /// Returns all results of the cable at the given position, with the response curves.
     TestResults testResults(int cable) const;
+    /// Returns what is known of the current test of the cable at the given position beyond its results, as
+    /// JobEditor::getCableTestDetails() does.
+    TestDetails testDetails(int cable) const;
+    /// Returns the number of earlier tests of the cable at the given position.
+    int earlierTestCount(int cable) const;
+    /// Returns the earlier tests of the cable at the given position, as JobEditor::getCableTestHistory() does.
+    QVector<CableTest> testHistory(int cable) const;
     /// Returns the shortest measured length of the cable at the given position, as
     /// JobEditor::getMaxRoundedCableLength() does: corrected by the length constant of the cable's type, in feet
     /// rounded to tenths or in metres rounded to halves. Returns a negative number if no length was measured.

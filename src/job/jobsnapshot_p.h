@@ -133,7 +133,10 @@ struct JobSnapshot::Data
 
     /// The file. The curves are read from it when they are asked for.
     FlatTree tree;
-    std::vector<FlatNode> results; ///< of each cable
+    std::vector<FlatNode> results;   ///< of each cable
+    std::vector<FlatNode> histories; ///< of each cable
+    FlatNode resultsOf(int cable) const;
+    QVector<FlatNode> historyOf(int cable) const;
 
     /// Calls a function with the elements of a kind.
     template <typename Use> auto withElements(ElementKind kind, Use use) const

@@ -36,6 +36,7 @@ private:
         readList(connectionKind(), root, {}, &m_data.connections);
         readList(cableKind(), root, {}, &m_data.cables, [this](FlatNode node, snapshot::Cable *cable) {
             m_data.results.push_back(node.firstChildElement(words::TestResults));
+            m_data.histories.push_back(node.firstChildElement(words::TestHistory));
             readFields(measurementAttributes(), m_data.results.back(), &cable->test);
         });
         readList(activePortKind(), root, {}, &m_data.activePorts, [this](FlatNode node, snapshot::ActivePort *port) {

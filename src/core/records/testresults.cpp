@@ -52,6 +52,21 @@ int TestResults::cableLength() const
     return cabledoc::shortestReading(m_fields.results);
 }
 
+bool cabledoc::isUntested(const cable_struct &results)
+{
+    const auto areUnset = [](const auto &codes) {
+        return std::all_of(std::begin(codes), std::end(codes), [](quint8 code) { return code == 0xFF; });
+    };
+    // A file holds the lower 16 bits of a word.
+    const auto hasNoWords = [](const auto &words) {
+        return std::all_of(std::begin(words), std::end(words), [](qint32 word) { return (word & 0xFFFF) == 0xFFFF; });
+    };
+    const quint8 codes[] = {results.map_flag, results.byte_c, results.byte_d};
+    return areUnset(results.flag_bytes) && areUnset(results.wire_map) && areUnset(codes)
+           && hasNoWords(results.word_group_a) && hasNoWords(results.pair_length) && hasNoWords(results.word_group_c)
+           && hasNoWords(results.word_group_d);
+}
+
 int cabledoc::shortestReading(const cable_struct &results)
 {
     constexpr int notMeasured = 60000;

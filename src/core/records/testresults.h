@@ -34,6 +34,8 @@ inline auto members(const MeasurementFields &fields)
 
 /// Returns the shortest length reading of all pairs that is above 0 and below 60000, or -1 if there is none.
 CABLEDOC_EXPORT int shortestReading(const cable_struct &results);
+/// Returns whether the results are those of an untested cable, as a file can hold them.
+CABLEDOC_EXPORT bool isUntested(const cable_struct &results);
 
 /// The fields of a TestResults.
 struct TestResultsFields : MeasurementFields

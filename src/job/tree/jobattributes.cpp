@@ -108,6 +108,36 @@ const AttributeTable<TestResultsFields> &testResultsAttributes()
     return table;
 }
 
+const AttributeTable<StoredTestDetails> &testDetailsAttributes()
+{
+    using F = StoredTestDetails;
+    static const AttributeTable<F> table{
+        attribute<&F::time>(words::Time),
+        attribute<&F::operatorName, F>(words::Operator),
+        attribute<&F::limit, F>(words::Limit),
+        attribute<&F::standard, F>(words::Standard),
+        attribute<&F::linkType, F>(words::LinkType),
+        attribute<&F::nvp, F>(words::Nvp),
+        attribute<&F::temperature, F>(words::Temperature),
+        attribute<&F::wireMap, F>(words::WireMap),
+        attribute<&F::attachment, F>(words::Attachment),
+        attribute<&F::attachmentSize, F>(words::AttachmentSize),
+        attribute<&F::attachmentSha256, F>(words::AttachmentSha256),
+    };
+    return table;
+}
+
+const AttributeTable<TestParameter> &testParameterAttributes()
+{
+    using F = TestParameter;
+    static const AttributeTable<F> table{
+        attribute<&F::name>(words::Name),   attribute<&F::margin>(words::Margin),
+        attribute<&F::value>(words::Value), attribute<&F::frequency>(words::Frequency),
+        attribute<&F::pair>(words::Pair),   attribute<&F::end>(words::End),
+    };
+    return table;
+}
+
 QString testStatus(const QDomElement &cable)
 {
     static const QString untested = testResultsAttributes().defaultText(words::Status);

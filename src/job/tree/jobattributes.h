@@ -12,6 +12,7 @@
 #include "room.h"
 #include "sheet.h"
 #include "sitedata.h"
+#include "testdetails.h"
 #include "xmlfile.h"
 
 namespace cabledoc {
@@ -23,6 +24,14 @@ const AttributeTable<CableFields> &cableAttributes();
 const AttributeTable<PlannedCableFields> &plannedCableAttributes();
 const AttributeTable<TestResultsFields> &testResultsAttributes();
 const AttributeTable<MeasurementFields> &measurementAttributes();
+/// The details of a test as a file has them, with the time of the test to which they belong.
+struct StoredTestDetails : TestDetailsFields
+{
+    QString time;
+};
+/// Returns the attributes of the details of a test. The parameters are elements of their own.
+const AttributeTable<StoredTestDetails> &testDetailsAttributes();
+const AttributeTable<TestParameter> &testParameterAttributes();
 const AttributeTable<DeviceConnectionFields> &connectionAttributes();
 const AttributeTable<PortFields> &portAttributes();
 const AttributeTable<VertRunElementFields> &vertRunAttributes();

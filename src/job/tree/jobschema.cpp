@@ -198,6 +198,9 @@ const FileAttributes &jobFileAttributes()
             all.inList.insert(row->listName(), &row->attributes);
         all.ofElement.insert(words::ActiveTestResult, &activeTestResultAttributes());
         all.ofElement.insert(words::TestResults, &testResultsAttributes());
+        all.ofElement.insert(words::EarlierTest, &testResultsAttributes());
+        all.ofElement.insert(words::TestDetails, &testDetailsAttributes());
+        all.ofElement.insert(words::TestParameter, &testParameterAttributes());
         all.ofElement.insert(words::SiteInfo, &siteInfoAttributes());
         return all;
     }();

@@ -108,6 +108,28 @@ inline const QString Echo = QStringLiteral("echo");
 inline const QString Next = QStringLiteral("next");
 inline const QString Chan = QStringLiteral("chan");
 
+// What other readers of the file do not know. They skip it. docs/file-format.md describes it.
+/// A child of the results of a test.
+inline const QString TestDetails = QStringLiteral("Test_Details");
+inline const QString TestParameter = QStringLiteral("Test_Parameter");
+/// A child of a cable, with its earlier tests.
+inline const QString TestHistory = QStringLiteral("Test_History");
+inline const QString EarlierTest = QStringLiteral("Earlier_Test");
+inline const QString Operator = QStringLiteral("operator");
+inline const QString Limit = QStringLiteral("limit");
+inline const QString Standard = QStringLiteral("standard");
+inline const QString LinkType = QStringLiteral("link_type");
+inline const QString Nvp = QStringLiteral("nvp");
+inline const QString Temperature = QStringLiteral("temperature");
+inline const QString WireMap = QStringLiteral("wire_map");
+inline const QString Attachment = QStringLiteral("attachment");
+inline const QString AttachmentSize = QStringLiteral("attachment_size");
+inline const QString AttachmentSha256 = QStringLiteral("attachment_sha256");
+inline const QString Margin = QStringLiteral("margin");
+inline const QString Frequency = QStringLiteral("frequency");
+inline const QString Pair = QStringLiteral("pair");
+inline const QString End = QStringLiteral("end");
+
 // Attributes of the site
 inline const QString Contact = QStringLiteral("contact");
 inline const QString JobID = QStringLiteral("jobid");
