@@ -28,8 +28,8 @@ prepare_build() {
     shift 2
     [ "$preset" != sanitize ] || install_packages clang libclang-rt-dev
     case $qt in
-        6) install_packages g++ cmake ninja-build python3 qt6-l10n-tools libcsv-dev libtsl-ordered-map-dev libxxhash-dev qt6-base-dev qt6-svg-dev ;;
-        5) install_packages g++ cmake ninja-build python3 qt6-l10n-tools libcsv-dev libtsl-ordered-map-dev libxxhash-dev qtbase5-dev libqt5svg5-dev ;;
+        6) install_packages g++ cmake ninja-build python3 qt6-l10n-tools libcsv-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev qt6-base-dev qt6-svg-dev ;;
+        5) install_packages g++ cmake ninja-build python3 qt6-l10n-tools libcsv-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev qtbase5-dev libqt5svg5-dev ;;
         *) say "there is no Qt $qt for this project: 6 or 5"; return 2 ;;
     esac
     build_dir=build/$preset-qt$qt

@@ -1372,6 +1372,66 @@
         <source>&quot;%1&quot; is not one of the units px, ft and m</source>
         <translation>&quot;%1&quot; ist keine der Einheiten px, ft und m</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>„%1“ ist keines von %2</translation>
+    </message>
+    <message>
+        <source>the file cannot be written: %1</source>
+        <translation>Die Datei kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>passed %1, passed within accuracy %2, failed %3, others %4
+</source>
+        <translation>bestanden %1, innerhalb der Messgenauigkeit bestanden %2, nicht bestanden %3, andere %4
+</translation>
+    </message>
+    <message>
+        <source>new %1, of these retests %2; already known %3, left out %4; still untested %5
+</source>
+        <translation>neu %1, davon erneute Tests %2; schon bekannt %3, ausgelassen %4; noch ungetestet %5
+</translation>
+    </message>
+    <message>
+        <source>the files of the tests cannot be stored beside standard output</source>
+        <translation>Die Dateien der Tests können nicht neben der Standardausgabe abgelegt werden</translation>
+    </message>
+    <message>
+        <source>The test results, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Die Testergebnisse, eine CSV-Datei, oder „-“ für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>A mapping file: how another program names the columns, and gives units, numbers, dates and verdicts.</source>
+        <translation>Eine Zuordnungsdatei: wie ein anderes Programm die Spalten nennt und Einheiten, Zahlen, Zeiten und Urteile angibt.</translation>
+    </message>
+    <message>
+        <source>Which of several tests of a cable is the current one: latest (the default) or worst. With refuse, another test of a tested cable is a problem.</source>
+        <translation>Welcher von mehreren Tests eines Kabels der aktuelle ist: latest (der neueste, die Vorgabe) oder worst (der schlechteste). Mit refuse ist ein weiterer Test eines getesteten Kabels ein Problem.</translation>
+    </message>
+    <message>
+        <source>Leave out the rows with unknown cables, and write them to this file.</source>
+        <translation>Zeilen mit unbekannten Kabeln auslassen und in diese Datei schreiben.</translation>
+    </message>
+    <message>
+        <source>Add test results to the cables of a job.</source>
+        <translation>Testergebnisse zu den Kabeln eines Auftrags hinzufügen.</translation>
+    </message>
+    <message>
+        <source>A later test becomes the current one of its cable. The test before is kept as an earlier one. A table with the column &quot;active_port&quot; has tests of ports in the working network. If the table has a problem, nothing is added. An import can be repeated: the second one changes nothing.</source>
+        <translation>Ein späterer Test wird der aktuelle seines Kabels. Der vorherige Test bleibt als früherer erhalten. Eine Tabelle mit der Spalte „active_port“ hat Tests von Anschlüssen im laufenden Netz. Hat die Tabelle ein Problem, wird nichts hinzugefügt. Ein Import kann wiederholt werden: Der zweite ändert nichts.</translation>
+    </message>
+    <message>
+        <source>Print the tests of ports in the working network.</source>
+        <translation>Die Tests von Anschlüssen im laufenden Netz ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the test results of a job as CSV.</source>
+        <translation>Die Testergebnisse eines Auftrags als CSV ausgeben.</translation>
+    </message>
+    <message>
+        <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
+        <translation>Jeder Test ist eine Zeile. Frühere Tests haben den Zustand „earlier“. „results import“ liest die Tabelle.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1517,6 +1577,193 @@
     <message>
         <source>Dec</source>
         <translation>Dez</translation>
+    </message>
+</context>
+<context>
+    <name>Results</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>Die Spalte „%1“ kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>unbekannte Spalte „%1“</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>Die Spalte „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>[%1] %2</source>
+        <translation>[%1] %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no value</source>
+        <translation>%1: Es gibt keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1: there is no such section</source>
+        <translation>%1: Diesen Abschnitt gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not one of %3</source>
+        <translation>%1: „%2“ ist keines von %3</translation>
+    </message>
+    <message>
+        <source>%1 occurs twice</source>
+        <translation>%1 kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>%1: there is no such column</source>
+        <translation>%1: Diese Spalte gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not possible</source>
+        <translation>%1: „%2“ ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1: there is no such key</source>
+        <translation>%1: Diesen Schlüssel gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the mapping is not a text in UTF-8</source>
+        <translation>Die Zuordnung ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>the mapping cannot be read</source>
+        <translation>Die Zuordnung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>several have the id &quot;%1&quot;</source>
+        <translation>Mehrere haben die Kennung „%1“</translation>
+    </message>
+    <message>
+        <source>there is no active port &quot;%1&quot;</source>
+        <translation>Es gibt keinen aktiven Anschluss „%1“</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>Es gibt kein Kabel „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not count as passed: it is not one of %2</source>
+        <translation>„%1“ zählt nicht als bestanden: Es ist keines von %2</translation>
+    </message>
+    <message>
+        <source>row %1 already has this test</source>
+        <translation>Zeile %1 hat diesen Test schon</translation>
+    </message>
+    <message>
+        <source>the job already has another test of the same time and tester</source>
+        <translation>Der Auftrag hat schon einen anderen Test derselben Zeit und desselben Testers</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not &quot;%2&quot;</source>
+        <translation>„%1“ ist nicht „%2“</translation>
+    </message>
+    <message>
+        <source>several cables have the tag &quot;%1&quot;</source>
+        <translation>Mehrere Kabel haben das Tag „%1“</translation>
+    </message>
+    <message>
+        <source>the cable already has a test</source>
+        <translation>Das Kabel hat schon einen Test</translation>
+    </message>
+    <message>
+        <source>several active ports have the tag &quot;%1&quot;</source>
+        <translation>Mehrere aktive Anschlüsse haben das Tag „%1“</translation>
+    </message>
+    <message>
+        <source>active port &quot;%1&quot;: %2, %3</source>
+        <translation>aktiver Anschluss „%1“: %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3</source>
+        <translation>Kabel „%1“: %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3, as an earlier test</source>
+        <translation>Kabel „%1“: %2, %3, als früherer Test</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time</source>
+        <translation>„%1“ ist keine Zeit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the future</source>
+        <translation>„%1“ liegt in der Zukunft</translation>
+    </message>
+    <message>
+        <source>the row has no verdict</source>
+        <translation>Die Zeile hat kein Urteil</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>Die Zeile hat mehr Felder als die Überschrift</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>„%1“ enthält ein Zeichen, das eine Datei nicht aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from 0</source>
+        <translation>„%1“ ist keine ganze Zahl ab 0</translation>
+    </message>
+    <message>
+        <source>the cable was tested as &quot;%1&quot;, but its type is &quot;%2&quot;</source>
+        <translation>Das Kabel wurde als „%1“ getestet, hat aber den Typ „%2“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a block of 96 hexadecimal digits</source>
+        <translation>„%1“ ist kein Block aus 96 hexadezimalen Ziffern</translation>
+    </message>
+    <message>
+        <source>a row with a block cannot have lengths or a wire map</source>
+        <translation>Eine Zeile mit einem Block kann keine Längen und keine Verdrahtung haben</translation>
+    </message>
+    <message>
+        <source>the unit of the length is neither &quot;ft&quot; nor &quot;m&quot;</source>
+        <translation>Die Einheit der Länge ist weder „ft“ noch „m“</translation>
+    </message>
+    <message>
+        <source>the type of the cable has no length constant between 10.0 and 65.0 pF/ft</source>
+        <translation>Der Kabeltyp hat keine Längenkonstante zwischen 10,0 und 65,0 pF/ft</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a possible length</source>
+        <translation>„%1“ ist keine mögliche Länge</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives a pair two far ends</source>
+        <translation>„%1“ gibt einem Paar zwei ferne Enden</translation>
+    </message>
+    <message>
+        <source>the curve does not consist of %1 numbers</source>
+        <translation>Die Kurve besteht nicht aus %1 Zahlen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>Es gibt keine Datei „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the folder of the table</source>
+        <translation>„%1“ ist nicht im Ordner der Tabelle</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is larger than 64 MB</source>
+        <translation>„%1“ ist größer als 64 MB</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256</source>
+        <translation>„%1“ ist kein SHA-256</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is another file than that of the test</source>
+        <translation>„%1“ ist eine andere Datei als die des Tests</translation>
     </message>
 </context>
 <context>

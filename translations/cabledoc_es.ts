@@ -1372,6 +1372,66 @@
         <source>&quot;%1&quot; is not one of the units px, ft and m</source>
         <translation>&quot;%1&quot; no es una de las unidades px, ft y m</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>&quot;%1&quot; no es ninguno de %2</translation>
+    </message>
+    <message>
+        <source>the file cannot be written: %1</source>
+        <translation>no se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>passed %1, passed within accuracy %2, failed %3, others %4
+</source>
+        <translation>superadas %1, superadas dentro de la precisión %2, no superadas %3, otras %4
+</translation>
+    </message>
+    <message>
+        <source>new %1, of these retests %2; already known %3, left out %4; still untested %5
+</source>
+        <translation>nuevas %1, de ellas repetidas %2; ya conocidas %3, omitidas %4; aún sin probar %5
+</translation>
+    </message>
+    <message>
+        <source>the files of the tests cannot be stored beside standard output</source>
+        <translation>los archivos de las pruebas no se pueden guardar junto a la salida estándar</translation>
+    </message>
+    <message>
+        <source>The test results, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Los resultados de las pruebas, un archivo CSV, o &quot;-&quot; para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>A mapping file: how another program names the columns, and gives units, numbers, dates and verdicts.</source>
+        <translation>Un archivo de correspondencias: cómo otro programa llama a las columnas e indica unidades, números, fechas y veredictos.</translation>
+    </message>
+    <message>
+        <source>Which of several tests of a cable is the current one: latest (the default) or worst. With refuse, another test of a tested cable is a problem.</source>
+        <translation>Cuál de varias pruebas de un cable es la actual: latest (la última, por defecto) o worst (la peor). Con refuse, otra prueba de un cable ya probado es un problema.</translation>
+    </message>
+    <message>
+        <source>Leave out the rows with unknown cables, and write them to this file.</source>
+        <translation>Omitir las filas con cables desconocidos y escribirlas en este archivo.</translation>
+    </message>
+    <message>
+        <source>Add test results to the cables of a job.</source>
+        <translation>Añadir resultados de pruebas a los cables de un trabajo.</translation>
+    </message>
+    <message>
+        <source>A later test becomes the current one of its cable. The test before is kept as an earlier one. A table with the column &quot;active_port&quot; has tests of ports in the working network. If the table has a problem, nothing is added. An import can be repeated: the second one changes nothing.</source>
+        <translation>Una prueba posterior pasa a ser la actual de su cable. La prueba previa se conserva como anterior. Una tabla con la columna &quot;active_port&quot; tiene pruebas de tomas en la red en funcionamiento. Si la tabla tiene un problema, no se añade nada. La importación se puede repetir: la segunda no cambia nada.</translation>
+    </message>
+    <message>
+        <source>Print the tests of ports in the working network.</source>
+        <translation>Mostrar las pruebas de tomas en la red en funcionamiento.</translation>
+    </message>
+    <message>
+        <source>Print the test results of a job as CSV.</source>
+        <translation>Mostrar los resultados de pruebas de un trabajo como CSV.</translation>
+    </message>
+    <message>
+        <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
+        <translation>Cada prueba es una fila. Las pruebas anteriores tienen el estado &quot;earlier&quot;. &quot;results import&quot; lee la tabla.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1517,6 +1577,193 @@
     <message>
         <source>Dec</source>
         <translation>dic</translation>
+    </message>
+</context>
+<context>
+    <name>Results</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la columna &quot;%1&quot; aparece dos veces</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>columna desconocida &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>falta la columna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>[%1] %2</source>
+        <translation>[%1] %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no value</source>
+        <translation>%1: no hay ningún valor</translation>
+    </message>
+    <message>
+        <source>%1: there is no such section</source>
+        <translation>%1: esa sección no existe</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not one of %3</source>
+        <translation>%1: &quot;%2&quot; no es ninguno de %3</translation>
+    </message>
+    <message>
+        <source>%1 occurs twice</source>
+        <translation>%1 aparece dos veces</translation>
+    </message>
+    <message>
+        <source>%1: there is no such column</source>
+        <translation>%1: esa columna no existe</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not possible</source>
+        <translation>%1: &quot;%2&quot; no es posible</translation>
+    </message>
+    <message>
+        <source>%1: there is no such key</source>
+        <translation>%1: esa clave no existe</translation>
+    </message>
+    <message>
+        <source>the mapping is not a text in UTF-8</source>
+        <translation>las correspondencias no son un texto en UTF-8</translation>
+    </message>
+    <message>
+        <source>the mapping cannot be read</source>
+        <translation>no se pueden leer las correspondencias</translation>
+    </message>
+    <message>
+        <source>several have the id &quot;%1&quot;</source>
+        <translation>varios tienen el identificador &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no active port &quot;%1&quot;</source>
+        <translation>no existe la toma activa &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>no existe el cable &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not count as passed: it is not one of %2</source>
+        <translation>&quot;%1&quot; no cuenta como superada: no es ninguno de %2</translation>
+    </message>
+    <message>
+        <source>row %1 already has this test</source>
+        <translation>la fila %1 ya tiene esta prueba</translation>
+    </message>
+    <message>
+        <source>the job already has another test of the same time and tester</source>
+        <translation>el trabajo ya tiene otra prueba de la misma hora y el mismo comprobador</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; no es &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>several cables have the tag &quot;%1&quot;</source>
+        <translation>varios cables tienen la etiqueta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the cable already has a test</source>
+        <translation>el cable ya tiene una prueba</translation>
+    </message>
+    <message>
+        <source>several active ports have the tag &quot;%1&quot;</source>
+        <translation>varias tomas activas tienen la etiqueta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>active port &quot;%1&quot;: %2, %3</source>
+        <translation>toma activa &quot;%1&quot;: %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3</source>
+        <translation>cable &quot;%1&quot;: %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3, as an earlier test</source>
+        <translation>cable &quot;%1&quot;: %2, %3, como prueba anterior</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time</source>
+        <translation>&quot;%1&quot; no es una fecha y hora</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the future</source>
+        <translation>&quot;%1&quot; está en el futuro</translation>
+    </message>
+    <message>
+        <source>the row has no verdict</source>
+        <translation>la fila no tiene veredicto</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la fila tiene más campos que el encabezado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>&quot;%1&quot; contiene un carácter que un archivo no puede guardar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from 0</source>
+        <translation>&quot;%1&quot; no es un número entero a partir de 0</translation>
+    </message>
+    <message>
+        <source>the cable was tested as &quot;%1&quot;, but its type is &quot;%2&quot;</source>
+        <translation>el cable se probó como &quot;%1&quot;, pero su tipo es &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a block of 96 hexadecimal digits</source>
+        <translation>&quot;%1&quot; no es un bloque de 96 dígitos hexadecimales</translation>
+    </message>
+    <message>
+        <source>a row with a block cannot have lengths or a wire map</source>
+        <translation>una fila con un bloque no puede tener longitudes ni mapa de cableado</translation>
+    </message>
+    <message>
+        <source>the unit of the length is neither &quot;ft&quot; nor &quot;m&quot;</source>
+        <translation>la unidad de la longitud no es &quot;ft&quot; ni &quot;m&quot;</translation>
+    </message>
+    <message>
+        <source>the type of the cable has no length constant between 10.0 and 65.0 pF/ft</source>
+        <translation>el tipo del cable no tiene una constante de longitud entre 10,0 y 65,0 pF/ft</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a possible length</source>
+        <translation>&quot;%1&quot; no es una longitud posible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives a pair two far ends</source>
+        <translation>&quot;%1&quot; da a un par dos extremos lejanos</translation>
+    </message>
+    <message>
+        <source>the curve does not consist of %1 numbers</source>
+        <translation>la curva no consta de %1 números</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>&quot;%1&quot; no es un número</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>no existe el archivo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the folder of the table</source>
+        <translation>&quot;%1&quot; no está en la carpeta de la tabla</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is larger than 64 MB</source>
+        <translation>&quot;%1&quot; es mayor que 64 MB</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256</source>
+        <translation>&quot;%1&quot; no es un SHA-256</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is another file than that of the test</source>
+        <translation>&quot;%1&quot; es un archivo distinto del de la prueba</translation>
     </message>
 </context>
 <context>

@@ -1372,6 +1372,66 @@
         <source>&quot;%1&quot; is not one of the units px, ft and m</source>
         <translation>&quot;%1&quot; n&apos;est pas une des unités px, ft et m</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>« %1 » n&apos;est pas parmi %2</translation>
+    </message>
+    <message>
+        <source>the file cannot be written: %1</source>
+        <translation>impossible d&apos;écrire le fichier : %1</translation>
+    </message>
+    <message>
+        <source>passed %1, passed within accuracy %2, failed %3, others %4
+</source>
+        <translation>réussis %1, réussis dans les limites de précision %2, échoués %3, autres %4
+</translation>
+    </message>
+    <message>
+        <source>new %1, of these retests %2; already known %3, left out %4; still untested %5
+</source>
+        <translation>nouveaux %1, dont %2 répétés ; déjà connus %3, omis %4 ; encore non testés %5
+</translation>
+    </message>
+    <message>
+        <source>the files of the tests cannot be stored beside standard output</source>
+        <translation>les fichiers des tests ne peuvent pas être rangés à côté de la sortie standard</translation>
+    </message>
+    <message>
+        <source>The test results, a CSV file, or &quot;-&quot; for standard input.</source>
+        <translation>Les résultats des tests, un fichier CSV, ou « - » pour l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>A mapping file: how another program names the columns, and gives units, numbers, dates and verdicts.</source>
+        <translation>Un fichier de correspondance : comment un autre programme nomme les colonnes et donne les unités, les nombres, les dates et les verdicts.</translation>
+    </message>
+    <message>
+        <source>Which of several tests of a cable is the current one: latest (the default) or worst. With refuse, another test of a tested cable is a problem.</source>
+        <translation>Lequel de plusieurs tests d&apos;un câble est le test actuel : latest (le dernier, par défaut) ou worst (le pire). Avec refuse, un autre test d&apos;un câble testé est un problème.</translation>
+    </message>
+    <message>
+        <source>Leave out the rows with unknown cables, and write them to this file.</source>
+        <translation>Omettre les lignes dont le câble est inconnu et les écrire dans ce fichier.</translation>
+    </message>
+    <message>
+        <source>Add test results to the cables of a job.</source>
+        <translation>Ajouter des résultats de tests aux câbles d&apos;un projet.</translation>
+    </message>
+    <message>
+        <source>A later test becomes the current one of its cable. The test before is kept as an earlier one. A table with the column &quot;active_port&quot; has tests of ports in the working network. If the table has a problem, nothing is added. An import can be repeated: the second one changes nothing.</source>
+        <translation>Un test ultérieur devient le test actuel de son câble. Le test précédent est conservé comme test antérieur. Un tableau avec la colonne « active_port » contient des tests de prises dans le réseau en service. Si le tableau a un problème, rien n&apos;est ajouté. L&apos;importation peut être répétée : la seconde ne change rien.</translation>
+    </message>
+    <message>
+        <source>Print the tests of ports in the working network.</source>
+        <translation>Afficher les tests de prises dans le réseau en service.</translation>
+    </message>
+    <message>
+        <source>Print the test results of a job as CSV.</source>
+        <translation>Afficher les résultats de tests d&apos;un projet en CSV.</translation>
+    </message>
+    <message>
+        <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
+        <translation>Chaque test est une ligne. Les tests antérieurs ont l&apos;état « earlier ». « results import » lit le tableau.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1517,6 +1577,193 @@
     <message>
         <source>Dec</source>
         <translation>déc</translation>
+    </message>
+</context>
+<context>
+    <name>Results</name>
+    <message>
+        <source>the column &quot;%1&quot; occurs twice</source>
+        <translation>la colonne « %1 » apparaît deux fois</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;</source>
+        <translation>colonne inconnue « %1 »</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>la colonne « %1 » manque</translation>
+    </message>
+    <message>
+        <source>[%1] %2</source>
+        <translation>[%1] %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no value</source>
+        <translation>%1 : il n&apos;y a pas de valeur</translation>
+    </message>
+    <message>
+        <source>%1: there is no such section</source>
+        <translation>%1 : cette section n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not one of %3</source>
+        <translation>%1 : « %2 » n&apos;est pas parmi %3</translation>
+    </message>
+    <message>
+        <source>%1 occurs twice</source>
+        <translation>%1 apparaît deux fois</translation>
+    </message>
+    <message>
+        <source>%1: there is no such column</source>
+        <translation>%1 : cette colonne n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not possible</source>
+        <translation>%1 : « %2 » n&apos;est pas possible</translation>
+    </message>
+    <message>
+        <source>%1: there is no such key</source>
+        <translation>%1 : cette clé n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>the mapping is not a text in UTF-8</source>
+        <translation>la correspondance n&apos;est pas un texte en UTF-8</translation>
+    </message>
+    <message>
+        <source>the mapping cannot be read</source>
+        <translation>la correspondance ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>several have the id &quot;%1&quot;</source>
+        <translation>plusieurs ont l&apos;identifiant « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no active port &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de prise active « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no cable &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de câble « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not count as passed: it is not one of %2</source>
+        <translation>« %1 » ne compte pas comme réussi : ce mot n&apos;est pas parmi %2</translation>
+    </message>
+    <message>
+        <source>row %1 already has this test</source>
+        <translation>la ligne %1 contient déjà ce test</translation>
+    </message>
+    <message>
+        <source>the job already has another test of the same time and tester</source>
+        <translation>le projet contient déjà un autre test de la même heure et du même testeur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not &quot;%2&quot;</source>
+        <translation>« %1 » n&apos;est pas « %2 »</translation>
+    </message>
+    <message>
+        <source>several cables have the tag &quot;%1&quot;</source>
+        <translation>plusieurs câbles ont la balise « %1 »</translation>
+    </message>
+    <message>
+        <source>the cable already has a test</source>
+        <translation>le câble a déjà un test</translation>
+    </message>
+    <message>
+        <source>several active ports have the tag &quot;%1&quot;</source>
+        <translation>plusieurs prises actives ont la balise « %1 »</translation>
+    </message>
+    <message>
+        <source>active port &quot;%1&quot;: %2, %3</source>
+        <translation>prise active « %1 » : %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3</source>
+        <translation>câble « %1 » : %2, %3</translation>
+    </message>
+    <message>
+        <source>cable &quot;%1&quot;: %2, %3, as an earlier test</source>
+        <translation>câble « %1 » : %2, %3, comme test antérieur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time</source>
+        <translation>« %1 » n&apos;est pas une date</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the future</source>
+        <translation>« %1 » est dans le futur</translation>
+    </message>
+    <message>
+        <source>the row has no verdict</source>
+        <translation>la ligne n&apos;a pas de verdict</translation>
+    </message>
+    <message>
+        <source>the row has more fields than the heading</source>
+        <translation>la ligne a plus de champs que l&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a file cannot hold</source>
+        <translation>« %1 » contient un caractère qu&apos;un fichier ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from 0</source>
+        <translation>« %1 » n&apos;est pas un nombre entier à partir de 0</translation>
+    </message>
+    <message>
+        <source>the cable was tested as &quot;%1&quot;, but its type is &quot;%2&quot;</source>
+        <translation>le câble a été testé comme « %1 », mais son type est « %2 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a block of 96 hexadecimal digits</source>
+        <translation>« %1 » n&apos;est pas un bloc de 96 chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>a row with a block cannot have lengths or a wire map</source>
+        <translation>une ligne avec un bloc ne peut pas avoir de longueurs ni de schéma de câblage</translation>
+    </message>
+    <message>
+        <source>the unit of the length is neither &quot;ft&quot; nor &quot;m&quot;</source>
+        <translation>l&apos;unité de la longueur n&apos;est ni « ft » ni « m »</translation>
+    </message>
+    <message>
+        <source>the type of the cable has no length constant between 10.0 and 65.0 pF/ft</source>
+        <translation>le type du câble n&apos;a pas de constante de longueur entre 10,0 et 65,0 pF/ft</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a possible length</source>
+        <translation>« %1 » n&apos;est pas une longueur possible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives a pair two far ends</source>
+        <translation>« %1 » donne à une paire deux extrémités distantes</translation>
+    </message>
+    <message>
+        <source>the curve does not consist of %1 numbers</source>
+        <translation>la courbe n&apos;est pas faite de %1 nombres</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>« %1 » n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de fichier « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the folder of the table</source>
+        <translation>« %1 » n&apos;est pas dans le dossier du tableau</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is larger than 64 MB</source>
+        <translation>« %1 » est plus grand que 64 Mo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a SHA-256</source>
+        <translation>« %1 » n&apos;est pas un SHA-256</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is another file than that of the test</source>
+        <translation>« %1 » est un autre fichier que celui du test</translation>
     </message>
 </context>
 <context>

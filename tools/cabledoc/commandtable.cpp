@@ -5,7 +5,8 @@
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runCopy, runExport, runFind, runFree, runGet, runHelp, runImport, runInfo, runList,
-    runNew, runScheduleExport, runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
+    runNew, runResultsExport, runResultsImport, runScheduleExport, runScheduleImport, runSet, runTableExport,
+    runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -247,6 +248,42 @@ const QVector<Command> &commands()
          Program::tr("Print the cable schedule of a job as CSV."),
          {},
          runScheduleExport},
+        {"results import",
+         {jobFile,
+          {"FILE.csv", Program::tr("The test results, a CSV file, or \"-\" for standard input.")},
+          {"[--map FILE.ini]", Program::tr("A mapping file: how another program names the columns, and gives units, "
+                                           "numbers, dates and verdicts.")},
+          {"[--retest RULE]", Program::tr("Which of several tests of a cable is the current one: latest (the default) "
+                                          "or worst. With refuse, another test of a tested cable is a problem.")},
+          {"[--skip-unknown NEW.csv]", Program::tr("Leave out the rows with unknown cables, and write them to this "
+                                                   "file.")},
+          dryRun,
+          delimiter,
+          encoding,
+          unprotect,
+          json,
+          jobOutput,
+          overwrite,
+          maximumSize},
+         Program::tr("Add test results to the cables of a job."),
+         Program::tr("A later test becomes the current one of its cable. The test before is kept as an earlier one. A "
+                     "table with the column \"active_port\" has tests of ports in the working network. If the table "
+                     "has a problem, nothing is added. An import can be repeated: the second one changes nothing."),
+         runResultsImport},
+        {"results export",
+         {jobFile,
+          {"[--active-ports]", Program::tr("Print the tests of ports in the working network.")},
+          metric,
+          newDelimiter,
+          mark,
+          protect,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Print the test results of a job as CSV."),
+         Program::tr("Each test is one row. Earlier tests have the state \"earlier\". \"results import\" reads the "
+                     "table."),
+         runResultsExport},
         {"import",
          {jobFile,
           {"--template FILE.bkt", Program::tr("The template. It is not changed.")},

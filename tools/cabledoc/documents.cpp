@@ -120,12 +120,32 @@ ExitCode readJob(const CommandLine &line, cabledoc::JobSnapshot *job)
     });
 }
 
+namespace {
+
+/// Loads a job. Returns what went wrong, or an empty text.
+QString load(const QString &path)
+{
+    JobEditor &job = JobEditor::Instance();
+    return job.Load(path) ? QString() : job.error();
+}
+
+} // namespace
+
+ExitCode readAndLoadJob(const CommandLine &line, const std::function<bool(const cabledoc::JobSnapshot &job)> &isNeeded)
+{
+    return readFile(line, line.argument(0), [&](const QString &path) {
+        {
+            const auto job = cabledoc::JobSnapshot::read(path, line.maximumSize());
+            if (!job.error().isEmpty() || !isNeeded(job))
+                return job.error();
+        }
+        return load(path);
+    });
+}
+
 ExitCode loadJob(const CommandLine &line)
 {
-    return readFile(line, line.argument(0), [](const QString &path) {
-        JobEditor &job = JobEditor::Instance();
-        return job.Load(path) ? QString() : job.error();
-    });
+    return readFile(line, line.argument(0), load);
 }
 
 ExitCode lockForChange(const CommandLine &line)

@@ -122,7 +122,9 @@ namespace cabledoc {
 /// One test of a cable: its results and its details.
 struct CableTest
 {
+    /// What was measured.
     TestResults results;
+    /// What is known of the test beyond what was measured.
     TestDetails details;
 
     /// Returns whether nothing was measured: the status is "UNTESTED", and there are no measurements and no details.

@@ -96,19 +96,6 @@ struct Import
     }
 };
 
-/// Makes the plan for a job. Then loads the job if it is to be saved. Returns what went wrong, or an empty text.
-QString planAndLoad(const QString &path, Import *import)
-{
-    {
-        const JobSnapshot snapshot = JobSnapshot::read(path, import->line.maximumSize());
-        if (!snapshot.error().isEmpty())
-            return snapshot.error();
-        import->makePlan(snapshot);
-    }
-    JobEditor &job = JobEditor::Instance();
-    return !import->isSaved() || job.Load(path) ? QString() : job.error();
-}
-
 /// Reads the table and makes the plan. Also loads the document if it is to be changed.
 ExitCode prepare(Import *import)
 {
@@ -121,8 +108,11 @@ ExitCode prepare(Import *import)
             return error;
         import->makePlan(document);
     } else {
-        const auto read = [&](const QString &path) { return planAndLoad(path, import); };
-        if (const ExitCode error = readFile(line, line.argument(0), read))
+        const auto planJob = [import](const JobSnapshot &job) {
+            import->makePlan(job);
+            return import->isSaved();
+        };
+        if (const ExitCode error = readAndLoadJob(line, planJob))
             return error;
     }
     const QString problem = import->plan->error();

@@ -1,0 +1,245 @@
+#include "jobeditorprobe.h"
+#include "jobsnapshot.h"
+#include "measurementtext.h"
+#include "resultsplan.h"
+#include "resultstable.h"
+#include "testcases.h"
+#include "testtime.h"
+#include "units.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <random>
+
+using namespace cabledoc;
+
+/// Tests the import and export of test results in open documents. The sessions of the program test the same with files.
+class ResultsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_directory;
+    std::mt19937 m_random{42};
+
+    int number(int count) { return int(m_random() % unsigned(count)); }
+
+    /// Opens a job with four cables. Their type has the length constant, and that of "D" has none.
+    JobEditor &openJob(const QString &name, double lengthConstant = 1420)
+    {
+        JobEditor::Destroy();
+        JobEditor &job = JobEditor::Instance();
+        if (!job.New(m_directory.filePath(name)))
+            qFatal("no job: %s", qPrintable(job.error()));
+        TestDef definition("CAT6");
+        definition.setLengthConstant(float(lengthConstant));
+        job.addTestDef(definition);
+        for (const char *id : {"A", "B", "C", "D"})
+            job.addCable("", id, "data", "", "", QString(id) == "D" ? "" : "CAT6", addmode::GivenId);
+        return job;
+    }
+
+    /// Imports a table, and returns the number of new tests, or the messages of the problems.
+    static QString import(JobEditor &job, const QByteArray &csv, const ResultsOptions &options = {})
+    {
+        const ResultsPlan plan(JobSnapshot(job), csv, options);
+        QStringList messages{plan.error()};
+        for (const CsvProblem &problem : plan.problems())
+            messages.append(problem.message);
+        const QByteArray before = JobEditorProbe(job).text();
+        plan.applyTo(job);
+        if (plan.changes().isEmpty() != (JobEditorProbe(job).text() == before))
+            messages.append("the changes are not those of the job");
+        messages.removeAll(QString());
+        return messages.isEmpty() ? QString::number(plan.changes().size()) : messages.join('\n');
+    }
+
+    /// Returns a row of a test with random measurements.
+    QString randomRow(int second)
+    {
+        const QStringList verdicts{"PASS", "PASS*", "FAIL", "UNTESTED", "Aborted"};
+        const QStringList wireMaps{"", "12>12 36>36 45>45 78>78", "12>36 36>12", "12>12 36 open", "short"};
+        const QString id = QString("ABCD").mid(number(4), 1);
+        QStringList fields{id,
+                           QString("2026-01-01T00:%1:%2")
+                               .arg(second / 60, 2, 10, QLatin1Char('0'))
+                               .arg(second % 60, 2, 10, QLatin1Char('0')),
+                           verdicts.at(number(5)), number(5) == 0 ? "earlier" : "", QString::number(number(2))};
+        const bool hasBlock = number(4) == 0;
+        const bool hasLengths = !hasBlock && id != "D";
+        for (int pair = 0; pair < 4; ++pair)
+            fields.append(hasLengths && number(3) > 0 ? QString::number(number(2000) / 10.0 + 0.1) : QString());
+        fields.append(number(2) == 0 ? "m" : "ft");
+        fields.append(hasBlock ? QString() : wireMaps.at(number(5)));
+        QString block;
+        while (hasBlock && block.size() < 96)
+            block += QString("0123456789ABCDEF").mid(number(16), 1);
+        fields.append(block);
+        fields.append(number(3) == 0 ? QString::number(number(99)) : QString());
+        fields.append(number(3) == 0 ? "line\nbreak, \"quoted\" \u00fc" : "");
+        for (int part = 0; part < 3; ++part)
+            fields.append(number(3) == 0 ? QString::number(number(99)) : QString());
+        return QString::fromUtf8(csvLine(fields));
+    }
+    QByteArray randomTable(int rows)
+    {
+        QByteArray table = "cable_id,tested_at,verdict,state,tester_serial,length_12,length_36,length_45,length_78,"
+                           "length_unit,wiremap,results_block,bit_errors,operator,m:RL,p:NEXT,v:NEXT\n";
+        std::vector<int> seconds;
+        for (int i = 0; i < rows; ++i)
+            seconds.push_back(i);
+        std::shuffle(seconds.begin(), seconds.end(), m_random);
+        for (const int second : seconds)
+            table += randomRow(second).toUtf8();
+        return table;
+    }
+
+private Q_SLOTS:
+    void cleanup() { JobEditor::Destroy(); }
+
+    void lengthsComeBack()
+    {
+        for (int lengthConstant = 1000; lengthConstant <= 6500; lengthConstant += 275) {
+            for (int decimetres = 1; decimetres <= 2000; decimetres += 7) {
+                const double feet = decimetres / 10.0 * feetInAMeter;
+                const std::optional<int> reading = readingOf(feet, lengthConstant);
+                QVERIFY(reading.has_value());
+                for (const bool metric : {false, true}) {
+                    const double factor = metric ? feetInAMeter : 1.0;
+                    const double length = lengthText(*reading, lengthConstant, metric).toDouble() * factor;
+                    QVERIFY2(std::abs(length - feet) <= 0.1, qPrintable(QString::number(length - feet)));
+                    QCOMPARE(readingOf(length, lengthConstant), reading);
+                }
+            }
+        }
+        QVERIFY(!readingOf(0.0, 1420) && !readingOf(-3.0, 1420) && !readingOf(60000.0, 100));
+    }
+
+    void times_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("2026-11-20T14:05:00") << "2026-11-20T14:05:00";
+        QTest::newRow("2026-11-20 14:05") << "2026-11-20T14:05:00";
+        QTest::newRow("2026-11-20") << "2026-11-20T00:00:00";
+        QTest::newRow("2026-11-20T14:05:00.250+01:30") << "2026-11-20T12:35:00.250Z";
+        QTest::newRow("2026-11-20T14:05:00-05") << "2026-11-20T19:05:00Z";
+        for (const char *wrong : {"", "2026", "2026-13-01", "2026-02-30", "2026-01-01T25:00:00", "20.11.2026",
+                                  "2026-01-01T14:05:00 ", "2026-01-01T14", "x2026-01-01"})
+            QTest::newRow(wrong) << QString();
+    }
+    void times()
+    {
+        QFETCH(QString, stored);
+        const std::optional<TestTime> time = TestTime::fromText(QTest::currentDataTag());
+        QCOMPARE(time.has_value(), !stored.isEmpty());
+        if (time)
+            QCOMPARE(time->toText(), stored);
+    }
+
+    void timesOfOtherPrograms()
+    {
+        QCOMPARE(TestTime::fromText("11/20/26 2:05 PM", "MM/dd/yy h:mm AP")->toText(), QString("2026-11-20T14:05:00"));
+        QVERIFY(!TestTime::fromText("20/11/26", "MM/dd/yy"));
+        // A time of the summer that exists nowhere in Europe stands as it is.
+        QVERIFY(*TestTime::fromText("2026-03-29T02:30:00") < *TestTime::fromText("2026-03-29T02:30:01"));
+        const QDateTime now(QDate(2026, 1, 1), QTime(12, 0));
+        QVERIFY(TestTime::fromText("2026-01-01T12:00:01")->isAfter(now));
+        QVERIFY(!TestTime::fromText("2026-01-01T12:00:00")->isAfter(now));
+    }
+
+    /// What is exported makes the same job again, with the same bytes. No failed test gets lost on the way.
+    void exportIsTheInverseOfTheImport()
+    {
+        for (int round = 0; round < 25; ++round) {
+            QMap<QString, int> failures; // by the time and the tester
+            JobEditor &job = openJob("a.job", 1000 + number(5500));
+            for (int table = 0; table < 3; ++table) {
+                ResultsOptions options;
+                options.retest = number(2) == 0 ? RetestRule::Latest : RetestRule::Worst;
+                const QByteArray csv = randomTable(1 + number(20));
+                const QByteArray before = JobEditorProbe(job).text();
+                bool isNumber = false;
+                import(job, csv, options).toInt(&isNumber);
+                QVERIFY(isNumber || JobEditorProbe(job).text() == before);
+                QCOMPARE(isNumber ? import(job, csv, options) : QString("0"), QString("0"));
+                QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
+                if (!isNumber)
+                    continue;
+                for (const QByteArray &line : csv.split('\n')) {
+                    const QList<QByteArray> fields = line.split(',');
+                    if (fields.value(2) == "FAIL")
+                        failures[fields.value(1) + ' ' + fields.value(4)] += 1;
+                }
+            }
+            const QByteArray text = JobEditorProbe(job).text();
+            for (auto failure = failures.cbegin(); failure != failures.cend(); ++failure) {
+                const QString element = QString("status=\"FAIL\" software_version=\"\" serial=\"%1\" time=\"%2\"")
+                                            .arg(failure.key().section(' ', 1), failure.key().section(' ', 0, 0));
+                QCOMPARE(text.count(element.toLatin1()) >= 1, true);
+            }
+            const JobSnapshot original(job);
+            const double lengthConstant = job.getTestDef("CAT6").length_constant();
+            for (const bool metric : {false, true}) {
+                ResultsExportOptions options;
+                options.metric = metric;
+                const QByteArray csv = exportResults(original, options);
+                JobEditor &copy = openJob("a.job", lengthConstant);
+                QVERIFY(!import(copy, csv).contains('\n'));
+                COMPARE_TEXTS(QString(JobEditorProbe(copy).text()), QString(text), QString(csv));
+                QCOMPARE(exportResults(JobSnapshot(copy), options), csv);
+            }
+        }
+    }
+
+    void rulesForRetests()
+    {
+        // The verdict of the current test before, that of the row, whether the row is later, and the rule.
+        const struct
+        {
+            const char *before;
+            const char *row;
+            bool isLater;
+            RetestRule rule;
+            bool isCurrent;
+        } cases[] = {
+            {"FAIL", "PASS", true, RetestRule::Latest, true},  {"PASS", "FAIL", false, RetestRule::Latest, false},
+            {"FAIL", "PASS", true, RetestRule::Worst, false},  {"PASS", "FAIL", false, RetestRule::Worst, true},
+            {"PASS", "PASS*", false, RetestRule::Worst, true}, {"PASS*", "Odd", false, RetestRule::Worst, true},
+            {"Odd", "PASS", true, RetestRule::Worst, false},   {"FAIL", "FAIL", true, RetestRule::Worst, true},
+            {"FAIL", "FAIL", false, RetestRule::Worst, false},
+        };
+        for (const auto &row : cases) {
+            JobEditor &job = openJob("a.job");
+            const QByteArray heading = "cable_id,tested_at,verdict\n";
+            QCOMPARE(import(job, heading + "A,2026-01-02," + row.before), QString("1"));
+            ResultsOptions options;
+            options.retest = row.rule;
+            const QByteArray day = row.isLater ? "3" : "1";
+            QCOMPARE(import(job, heading + "A,2026-01-0" + day + ',' + row.row, options), QString("1"));
+            const JobSnapshot after(job);
+            const QString current = after.cables().at(0).test.time;
+            QVERIFY2((current == "2026-01-0" + day) == row.isCurrent, qPrintable(QString(row.before) + ' ' + row.row));
+            QCOMPARE(after.earlierTestCount(0), 1);
+        }
+    }
+
+    void ambiguousIdsAndOtherTests()
+    {
+        JobEditor &job = openJob("a.job");
+        const QByteArray heading = "cable_id,tested_at,verdict,bit_errors,length_12,length_unit\n";
+        QCOMPARE(import(job, heading + "A,2026-01-01,PASS,1,,\n"), QString("1"));
+        // The same time and tester, but other values.
+        QVERIFY(!import(job, heading + "A,2026-01-01T00:00:00,PASS,2,,\n").contains(QRegularExpression("^[0-9]+$")));
+        // A cable without a type has no length constant.
+        QVERIFY(!import(job, heading + "D,2026-01-01,PASS,,3,m\n").contains(QRegularExpression("^[0-9]+$")));
+        job.addCable("", "A", "data", addmode::GivenId);
+        QVERIFY(!import(job, heading + "A,2026-01-02,PASS,,,\n").contains(QRegularExpression("^[0-9]+$")));
+        // A test that another program has stored without a readable time is earlier than every other.
+        job.setCableTestResults("B", TestResults("May 3rd", "FAIL", "", "", cable_struct::untested(), 4));
+        QCOMPARE(import(job, heading + "B,2020-01-01,PASS,,,\nC,2020-01-01,UNTESTED,,,\n"), QString("1"));
+        QCOMPARE(job.getCableTestHistory("B").constFirst().results.status(), QString("FAIL"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ResultsTest)
+#include "tst_results.moc"
