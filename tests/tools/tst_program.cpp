@@ -38,7 +38,8 @@ private Q_SLOTS:
     void sessions_data()
     {
         addCases({"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt",
-                  "cases/program-new.txt", "cases/results.txt", "cases/tables.txt", "cases/trace.txt"});
+                  "cases/program-new.txt", "cases/results.txt", "cases/results-status.txt", "cases/tables.txt",
+                  "cases/trace.txt"});
     }
 
     void sessions()

@@ -5,8 +5,8 @@
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runCopy, runExport, runFind, runFree, runGet, runHelp, runImport, runInfo, runList,
-    runNew, runResultsExport, runResultsImport, runScheduleExport, runScheduleImport, runSet, runTableExport,
-    runTableImport, runTotals, runTrace;
+    runNew, runResultsExport, runResultsImport, runResultsStatus, runScheduleExport, runScheduleImport, runSet,
+    runTableExport, runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -284,6 +284,25 @@ const QVector<Command> &commands()
          Program::tr("Each test is one row. Earlier tests have the state \"earlier\". \"results import\" reads the "
                      "table."),
          runResultsExport},
+        {"results status",
+         {jobFile,
+          {"[--older-than DATE]", Program::tr("Also show tests before this day, such as 2026-01-31.")},
+          {"[--fail-on KINDS]...",
+           Program::tr("End with exit code 1 if there are such cables: untested, failed or both, separated by "
+                       "commas.")},
+          metric,
+          csv,
+          json,
+          output,
+          overwrite,
+          maximumSize},
+         Program::tr("Show missing, failed and doubtful tests."),
+         Program::tr("Cables are shown that are untested, have failed, have a verdict that is not known, or were "
+                     "tested more than once, and those that are outside the limits of their test definition: the "
+                     "maximum length, the skew and the wiring. A limit is only checked if the job has the limit and "
+                     "the measurement. Earlier tests are counted, but --fail-on only looks at the current ones. The "
+                     "last line has the numbers of cables."),
+         runResultsStatus},
         {"import",
          {jobFile,
           {"--template FILE.bkt", Program::tr("The template. It is not changed.")},
@@ -341,7 +360,7 @@ const QVector<QPair<ExitCode, QString>> &exitCodes()
 {
     static const QVector<QPair<ExitCode, QString>> codes{
         {Done, Program::tr("The command did its work.")},
-        {HasFindings, Program::tr("\"check\" found something wrong.")},
+        {HasFindings, Program::tr("\"check\" or \"results status\" found something wrong.")},
         {WrongUsage, Program::tr("The command line is wrong.")},
         {CannotLoad, Program::tr("A file could not be loaded.")},
         {CannotSave, Program::tr("A file could not be saved.")},
