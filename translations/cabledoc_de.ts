@@ -623,10 +623,6 @@
         <translation>Der Befehl ist ausgeführt.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; found something wrong.</source>
-        <translation>&quot;check&quot; hat etwas gefunden.</translation>
-    </message>
-    <message>
         <source>The command line is wrong.</source>
         <translation>Der Aufruf ist falsch.</translation>
     </message>
@@ -1432,6 +1428,86 @@
         <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
         <translation>Jeder Test ist eine Zeile. Frühere Tests haben den Zustand „earlier“. „results import“ liest die Tabelle.</translation>
     </message>
+    <message>
+        <source>failed</source>
+        <translation>nicht bestanden</translation>
+    </message>
+    <message>
+        <source>untested</source>
+        <translation>nicht geprüft</translation>
+    </message>
+    <message>
+        <source>unknown verdict</source>
+        <translation>unbekanntes Urteil</translation>
+    </message>
+    <message>
+        <source>tested more than once</source>
+        <translation>mehr als einmal geprüft</translation>
+    </message>
+    <message>
+        <source>old</source>
+        <translation>alt</translation>
+    </message>
+    <message>
+        <source>unreadable time</source>
+        <translation>Zeit nicht lesbar</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>zu lang</translation>
+    </message>
+    <message>
+        <source>too much skew</source>
+        <translation>zu große Laufzeitdifferenz</translation>
+    </message>
+    <message>
+        <source>wrong wiring</source>
+        <translation>falsch beschaltet</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>cables</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>bestanden</translation>
+    </message>
+    <message>
+        <source>passed within accuracy</source>
+        <translation>bestanden innerhalb der Genauigkeit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as 2026-01-31</source>
+        <translation>&quot;%1&quot; ist kein Datum wie 2026-01-31</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;untested&quot; nor &quot;failed&quot;</source>
+        <translation>&quot;%1&quot; ist weder &quot;untested&quot; noch &quot;failed&quot;</translation>
+    </message>
+    <message>
+        <source>Also show tests before this day, such as 2026-01-31.</source>
+        <translation>Auch Prüfungen vor diesem Tag zeigen, etwa 2026-01-31.</translation>
+    </message>
+    <message>
+        <source>End with exit code 1 if there are such cables: untested, failed or both, separated by commas.</source>
+        <translation>Mit dem Rückgabewert 1 enden, wenn es solche Kabel gibt: untested (nicht geprüft), failed (nicht bestanden) oder beides, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>Show missing, failed and doubtful tests.</source>
+        <translation>Fehlende, nicht bestandene und zweifelhafte Prüfungen zeigen.</translation>
+    </message>
+    <message>
+        <source>Cables are shown that are untested, have failed, have a verdict that is not known, or were tested more than once, and those that are outside the limits of their test definition: the maximum length, the skew and the wiring. A limit is only checked if the job has the limit and the measurement. Earlier tests are counted, but --fail-on only looks at the current ones. The last line has the numbers of cables.</source>
+        <translation>Gezeigt werden Kabel, die nicht geprüft sind, nicht bestanden haben, ein unbekanntes Urteil haben oder mehr als einmal geprüft wurden, und solche, die außerhalb der Grenzen ihrer Prüfdefinition liegen: Höchstlänge, Laufzeitdifferenz und Beschaltung. Eine Grenze wird nur geprüft, wenn der Auftrag die Grenze und den Messwert enthält. Frühere Prüfungen werden gezählt, aber --fail-on beachtet nur die aktuellen. Die letzte Zeile nennt die Anzahlen der Kabel.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot; oder &quot;results status&quot; hat etwas gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1764,6 +1840,49 @@
     <message>
         <source>&quot;%1&quot; is another file than that of the test</source>
         <translation>„%1“ ist eine andere Datei als die des Tests</translation>
+    </message>
+</context>
+<context>
+    <name>ResultsStatus</name>
+    <message>
+        <source>the cable is not tested</source>
+        <translation>das Kabel ist nicht geprüft</translation>
+    </message>
+    <message>
+        <source>the test has failed</source>
+        <translation>die Prüfung ist nicht bestanden</translation>
+    </message>
+    <message>
+        <source>the verdict &quot;%1&quot; is not known</source>
+        <translation>das Urteil &quot;%1&quot; ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>tests: %1, earlier tests that failed: %2</source>
+        <translation>Prüfungen: %1, frühere nicht bestandene Prüfungen: %2</translation>
+    </message>
+    <message>
+        <source>the test has no time</source>
+        <translation>die Prüfung hat keine Zeit</translation>
+    </message>
+    <message>
+        <source>the time &quot;%1&quot; cannot be read</source>
+        <translation>die Zeit &quot;%1&quot; ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>the test is of %1, before %2</source>
+        <translation>die Prüfung ist vom %1, vor %2</translation>
+    </message>
+    <message>
+        <source>pair %1 is %2 long, the maximum length of &quot;%3&quot; is %4</source>
+        <translation>Paar %1 ist %2 lang, die Höchstlänge von &quot;%3&quot; ist %4</translation>
+    </message>
+    <message>
+        <source>the skew is %1 ns, the maximum skew of &quot;%2&quot; is %3 ns</source>
+        <translation>die Laufzeitdifferenz ist %1 ns, die größte von &quot;%2&quot; ist %3 ns</translation>
+    </message>
+    <message>
+        <source>pair %1 is wired to %2, and must be wired to %3 in &quot;%4&quot;</source>
+        <translation>Paar %1 ist mit %2 verbunden, nach &quot;%4&quot; muss es mit %3 verbunden sein</translation>
     </message>
 </context>
 <context>

@@ -623,10 +623,6 @@
         <translation>La orden ha hecho su trabajo.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; found something wrong.</source>
-        <translation>&quot;check&quot; ha encontrado algo.</translation>
-    </message>
-    <message>
         <source>The command line is wrong.</source>
         <translation>La línea de órdenes es incorrecta.</translation>
     </message>
@@ -1432,6 +1428,86 @@
         <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
         <translation>Cada prueba es una fila. Las pruebas anteriores tienen el estado &quot;earlier&quot;. &quot;results import&quot; lee la tabla.</translation>
     </message>
+    <message>
+        <source>failed</source>
+        <translation>no superadas</translation>
+    </message>
+    <message>
+        <source>untested</source>
+        <translation>sin probar</translation>
+    </message>
+    <message>
+        <source>unknown verdict</source>
+        <translation>veredicto desconocido</translation>
+    </message>
+    <message>
+        <source>tested more than once</source>
+        <translation>probados más de una vez</translation>
+    </message>
+    <message>
+        <source>old</source>
+        <translation>antiguas</translation>
+    </message>
+    <message>
+        <source>unreadable time</source>
+        <translation>hora ilegible</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>demasiado largos</translation>
+    </message>
+    <message>
+        <source>too much skew</source>
+        <translation>desfase excesivo</translation>
+    </message>
+    <message>
+        <source>wrong wiring</source>
+        <translation>mal conectados</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Hallazgo</translation>
+    </message>
+    <message>
+        <source>cables</source>
+        <translation>cables</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>superadas</translation>
+    </message>
+    <message>
+        <source>passed within accuracy</source>
+        <translation>superadas dentro de la precisión</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as 2026-01-31</source>
+        <translation>&quot;%1&quot; no es una fecha como 2026-01-31</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;untested&quot; nor &quot;failed&quot;</source>
+        <translation>&quot;%1&quot; no es ni &quot;untested&quot; ni &quot;failed&quot;</translation>
+    </message>
+    <message>
+        <source>Also show tests before this day, such as 2026-01-31.</source>
+        <translation>Mostrar también las pruebas anteriores a este día, como 2026-01-31.</translation>
+    </message>
+    <message>
+        <source>End with exit code 1 if there are such cables: untested, failed or both, separated by commas.</source>
+        <translation>Terminar con el código 1 si hay cables así: untested (sin probar), failed (no superados) o ambos, separados por comas.</translation>
+    </message>
+    <message>
+        <source>Show missing, failed and doubtful tests.</source>
+        <translation>Mostrar las pruebas que faltan, no superadas o dudosas.</translation>
+    </message>
+    <message>
+        <source>Cables are shown that are untested, have failed, have a verdict that is not known, or were tested more than once, and those that are outside the limits of their test definition: the maximum length, the skew and the wiring. A limit is only checked if the job has the limit and the measurement. Earlier tests are counted, but --fail-on only looks at the current ones. The last line has the numbers of cables.</source>
+        <translation>Se muestran los cables que no se han probado, no han superado la prueba, tienen un veredicto desconocido o se han probado más de una vez, y los que están fuera de los límites de su definición de prueba: la longitud máxima, el desfase y el conexionado. Un límite solo se comprueba si el trabajo tiene el límite y la medida. Las pruebas anteriores se cuentan, pero --fail-on solo mira las actuales. La última línea tiene los números de cables.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot; o &quot;results status&quot; encontró algo mal.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1764,6 +1840,49 @@
     <message>
         <source>&quot;%1&quot; is another file than that of the test</source>
         <translation>&quot;%1&quot; es un archivo distinto del de la prueba</translation>
+    </message>
+</context>
+<context>
+    <name>ResultsStatus</name>
+    <message>
+        <source>the cable is not tested</source>
+        <translation>el cable no se ha probado</translation>
+    </message>
+    <message>
+        <source>the test has failed</source>
+        <translation>la prueba no se ha superado</translation>
+    </message>
+    <message>
+        <source>the verdict &quot;%1&quot; is not known</source>
+        <translation>el veredicto &quot;%1&quot; no se conoce</translation>
+    </message>
+    <message>
+        <source>tests: %1, earlier tests that failed: %2</source>
+        <translation>pruebas: %1, pruebas anteriores no superadas: %2</translation>
+    </message>
+    <message>
+        <source>the test has no time</source>
+        <translation>la prueba no tiene hora</translation>
+    </message>
+    <message>
+        <source>the time &quot;%1&quot; cannot be read</source>
+        <translation>la hora &quot;%1&quot; no se puede leer</translation>
+    </message>
+    <message>
+        <source>the test is of %1, before %2</source>
+        <translation>la prueba es de %1, antes de %2</translation>
+    </message>
+    <message>
+        <source>pair %1 is %2 long, the maximum length of &quot;%3&quot; is %4</source>
+        <translation>el par %1 mide %2, la longitud máxima de &quot;%3&quot; es %4</translation>
+    </message>
+    <message>
+        <source>the skew is %1 ns, the maximum skew of &quot;%2&quot; is %3 ns</source>
+        <translation>el desfase es de %1 ns, el máximo de &quot;%2&quot; es de %3 ns</translation>
+    </message>
+    <message>
+        <source>pair %1 is wired to %2, and must be wired to %3 in &quot;%4&quot;</source>
+        <translation>el par %1 está conectado a %2 y, según &quot;%4&quot;, debe estarlo a %3</translation>
     </message>
 </context>
 <context>

@@ -623,10 +623,6 @@
         <translation>La commande a fait son travail.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; found something wrong.</source>
-        <translation>&quot;check&quot; a trouvé quelque chose.</translation>
-    </message>
-    <message>
         <source>The command line is wrong.</source>
         <translation>La ligne de commande est incorrecte.</translation>
     </message>
@@ -1432,6 +1428,86 @@
         <source>Each test is one row. Earlier tests have the state &quot;earlier&quot;. &quot;results import&quot; reads the table.</source>
         <translation>Chaque test est une ligne. Les tests antérieurs ont l&apos;état « earlier ». « results import » lit le tableau.</translation>
     </message>
+    <message>
+        <source>failed</source>
+        <translation>échouées</translation>
+    </message>
+    <message>
+        <source>untested</source>
+        <translation>non testées</translation>
+    </message>
+    <message>
+        <source>unknown verdict</source>
+        <translation>verdict inconnu</translation>
+    </message>
+    <message>
+        <source>tested more than once</source>
+        <translation>testés plusieurs fois</translation>
+    </message>
+    <message>
+        <source>old</source>
+        <translation>anciens</translation>
+    </message>
+    <message>
+        <source>unreadable time</source>
+        <translation>heure illisible</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>trop longs</translation>
+    </message>
+    <message>
+        <source>too much skew</source>
+        <translation>décalage excessif</translation>
+    </message>
+    <message>
+        <source>wrong wiring</source>
+        <translation>mal raccordés</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Constat</translation>
+    </message>
+    <message>
+        <source>cables</source>
+        <translation>câbles</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>réussis</translation>
+    </message>
+    <message>
+        <source>passed within accuracy</source>
+        <translation>réussis dans la précision</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as 2026-01-31</source>
+        <translation>&quot;%1&quot; n&apos;est pas une date comme 2026-01-31</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;untested&quot; nor &quot;failed&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni &quot;untested&quot; ni &quot;failed&quot;</translation>
+    </message>
+    <message>
+        <source>Also show tests before this day, such as 2026-01-31.</source>
+        <translation>Afficher aussi les tests antérieurs à ce jour, comme 2026-01-31.</translation>
+    </message>
+    <message>
+        <source>End with exit code 1 if there are such cables: untested, failed or both, separated by commas.</source>
+        <translation>Terminer avec le code 1 s&apos;il y a de tels câbles : untested (non testés), failed (échoués) ou les deux, séparés par des virgules.</translation>
+    </message>
+    <message>
+        <source>Show missing, failed and doubtful tests.</source>
+        <translation>Afficher les tests manquants, échoués ou douteux.</translation>
+    </message>
+    <message>
+        <source>Cables are shown that are untested, have failed, have a verdict that is not known, or were tested more than once, and those that are outside the limits of their test definition: the maximum length, the skew and the wiring. A limit is only checked if the job has the limit and the measurement. Earlier tests are counted, but --fail-on only looks at the current ones. The last line has the numbers of cables.</source>
+        <translation>Sont affichés les câbles qui ne sont pas testés, ont échoué, ont un verdict inconnu ou ont été testés plusieurs fois, et ceux qui sont hors des limites de leur définition de test : la longueur maximale, le décalage et le raccordement. Une limite n&apos;est vérifiée que si le projet contient la limite et la mesure. Les tests précédents sont comptés, mais --fail-on ne regarde que les tests actuels. La dernière ligne donne les nombres de câbles.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot; ou &quot;results status&quot; a trouvé une anomalie.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1764,6 +1840,49 @@
     <message>
         <source>&quot;%1&quot; is another file than that of the test</source>
         <translation>« %1 » est un autre fichier que celui du test</translation>
+    </message>
+</context>
+<context>
+    <name>ResultsStatus</name>
+    <message>
+        <source>the cable is not tested</source>
+        <translation>le câble n&apos;est pas testé</translation>
+    </message>
+    <message>
+        <source>the test has failed</source>
+        <translation>le test a échoué</translation>
+    </message>
+    <message>
+        <source>the verdict &quot;%1&quot; is not known</source>
+        <translation>le verdict &quot;%1&quot; n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>tests: %1, earlier tests that failed: %2</source>
+        <translation>tests : %1, tests précédents échoués : %2</translation>
+    </message>
+    <message>
+        <source>the test has no time</source>
+        <translation>le test n&apos;a pas d&apos;heure</translation>
+    </message>
+    <message>
+        <source>the time &quot;%1&quot; cannot be read</source>
+        <translation>l&apos;heure &quot;%1&quot; est illisible</translation>
+    </message>
+    <message>
+        <source>the test is of %1, before %2</source>
+        <translation>le test est du %1, avant %2</translation>
+    </message>
+    <message>
+        <source>pair %1 is %2 long, the maximum length of &quot;%3&quot; is %4</source>
+        <translation>la paire %1 mesure %2, la longueur maximale de &quot;%3&quot; est %4</translation>
+    </message>
+    <message>
+        <source>the skew is %1 ns, the maximum skew of &quot;%2&quot; is %3 ns</source>
+        <translation>le décalage est de %1 ns, le maximum de &quot;%2&quot; est de %3 ns</translation>
+    </message>
+    <message>
+        <source>pair %1 is wired to %2, and must be wired to %3 in &quot;%4&quot;</source>
+        <translation>la paire %1 est reliée à %2 et, selon &quot;%4&quot;, doit l&apos;être à %3</translation>
     </message>
 </context>
 <context>
