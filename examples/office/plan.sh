@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Plans a sample office from the tables in this folder: three floors at a scale of 1:100 with their rooms, ports, cables
-# and the ways of the cables, and two sheets with network devices. Makes office.bkt and office.job in the present folder.
-# The program "cabledoc" must be in the path.
+# and the ways of the cables, two sheets with network devices, and test results. Makes office.bkt and office.job in the
+# present folder. The program "cabledoc" must be in the path.
 set -euo pipefail
 tables=$(cd "$(dirname "$0")" && pwd)
 
@@ -30,3 +30,11 @@ cabledoc table import office.job cables "$tables/paths.csv"
 for table in sheets devices bends sheet-texts connections active-ports; do
     cabledoc table import office.job "$table" "$tables/$table.csv"
 done
+
+# The test results. Two of the testers have other headings, units and languages, so each has a mapping.
+results=$tables/results
+cabledoc results import office.job "$results/cables.csv"
+for tester in german-tester feet-tester; do
+    cabledoc results import office.job "$results/$tester.csv" --map "$results/$tester.ini"
+done
+cabledoc results import office.job "$results/active-ports.csv"
