@@ -221,6 +221,18 @@
         <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; ist keine brauchbare Zahl</translation>
     </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>es gibt keine Datei &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>&quot;%1&quot; kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the content of the test</source>
+        <translation>&quot;%1&quot; hat nicht den Inhalt der Prüfung</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

@@ -221,6 +221,18 @@
         <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot;: &quot;%2&quot; no es un número que se pueda usar</translation>
     </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>no existe el archivo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>&quot;%1&quot; no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the content of the test</source>
+        <translation>&quot;%1&quot; no tiene el contenido de la prueba</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

@@ -221,6 +221,18 @@
         <source>&quot;%1&quot;: &quot;%2&quot; is not a usable number</source>
         <translation>&quot;%1&quot; : &quot;%2&quot; n&apos;est pas un nombre utilisable</translation>
     </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de fichier &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>&quot;%1&quot; est illisible : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the content of the test</source>
+        <translation>&quot;%1&quot; n&apos;a pas le contenu du test</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

@@ -6,10 +6,15 @@
 #include "jobschema.h"
 #include "jobwords.h"
 #include "messagetext.h"
+#include "testdetails.h"
 #include "texthash.h"
 #include "xmlnames.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -62,17 +67,18 @@ class DocumentCheck
     Q_DECLARE_TR_FUNCTIONS(DocumentCheck)
 
 public:
-    explicit DocumentCheck(const CheckOptions &options)
-        : m_options(options)
+    DocumentCheck(const QString &filename, const CheckOptions &options)
+        : m_filename(filename)
+        , m_options(options)
     {
     }
 
-    CheckReport check(const QString &filename)
+    CheckReport check()
     {
-        if (const auto tree = xmlfile::readCurrent(filename, rootNames(), m_options.maximumFileSize)) {
+        if (const auto tree = xmlfile::readCurrent(m_filename, rootNames(), m_options.maximumFileSize)) {
             checkTree(*tree);
         } else {
-            LoadedDocument document(filename, m_options);
+            LoadedDocument document(m_filename, m_options);
             m_report.error = document.readingError();
             if (m_report.error.isEmpty() && mayBeConverted(document.tree(), &document))
                 checkTree(document.tree());
@@ -287,6 +293,29 @@ private:
             reportMissing(element, tr("there is no bundle \"%1\"").arg(excerpt(bundle)));
     }
 
+    // Attachments
+
+    /// Checks that the attachment of a test is there, if the test has one. The attributes have been read.
+    void checkAttachment(FlatNode element)
+    {
+        const QString name = m_attributes.attribute(words::Attachment);
+        if (name.isEmpty() || !m_options.attachments)
+            return;
+        const QString sha256 = m_attributes.attribute(words::AttachmentSha256);
+        const QString fileName = attachmentFileName(name, sha256);
+        QFile file(QDir(attachmentFolder(m_filename)).filePath(fileName));
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        // The job may come from anybody. It does not lead out of the folder.
+        if (fileName.contains(QLatin1Char('/')) || !QFileInfo(file).isFile())
+            report("missing-attachment", element, tr("there is no file \"%1\"").arg(excerpt(file.fileName())));
+        else if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+            report("missing-attachment", element,
+                   tr("\"%1\" cannot be read: %2").arg(excerpt(file.fileName()), file.errorString()));
+        else if (hash.result().toHex() != sha256.toLatin1())
+            report("missing-attachment", element,
+                   tr("\"%1\" does not have the content of the test").arg(excerpt(file.fileName())));
+    }
+
     // Characters and numbers
 
     /// Checks an element and all that it holds. The attributes are those of the elements in its list.
@@ -301,6 +330,8 @@ private:
         const QString name = element.tagName();
         checkNumbers(element, attributes);
         checkNumbers(element, jobFileAttributes().ofElement.value(name));
+        if (name == words::TestDetails)
+            checkAttachment(element);
         const AttributeList *attributesOfChildren = jobFileAttributes().inList.value(name);
         for (FlatNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
             if (child.isElement())
@@ -332,7 +363,8 @@ private:
                    tr("\"%1\" contains \"%2\", which a save cannot write").arg(excerpt(name), lost));
     }
 
-    CheckOptions m_options;
+    const QString m_filename;
+    const CheckOptions m_options;
     CheckReport m_report;
     SharedTexts m_texts;
     FlatAttributes m_attributes{&m_texts};
@@ -346,5 +378,5 @@ private:
 
 CheckReport cabledoc::checkFile(const QString &filename, const CheckOptions &options)
 {
-    return DocumentCheck(options).check(filename);
+    return DocumentCheck(filename, options).check();
 }

@@ -35,6 +35,8 @@ struct CheckOptions
 {
     /// Whether the file will be saved with character references, see BKXMLEditor::setCharacterReferences().
     bool characterReferences = false;
+    /// Whether the attachments of tests are looked for in the folder that attachmentFolder() returns, and read.
+    bool attachments = true;
     /// Size in bytes above which a file is not read.
     qint64 maximumFileSize = BKXMLEditor::defaultMaximumFileSize;
 };
@@ -52,6 +54,7 @@ struct CheckOptions
 ///     missing-reference    An element refers to another one that does not exist.
 ///     invalid-definition   A test definition cannot be used, see TestDef::validDef().
 ///     invalid-number       A number is not finite, or its field cannot hold it.
+///     missing-attachment   An attachment of a test cannot be read, or its content is not that of the test.
 ///     lost-character       A save will write a character as "?".
 CABLEDOC_EXPORT CheckReport checkFile(const QString &filename, const CheckOptions &options = {});
 

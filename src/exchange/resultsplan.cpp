@@ -291,18 +291,6 @@ void ResultsPlanner::countUntested()
 
 } // namespace
 
-QString attachmentFolder(const QString &jobFileName)
-{
-    const QFileInfo job(jobFileName);
-    return job.path() + QLatin1Char('/') + job.completeBaseName() + QStringLiteral(".attachments");
-}
-
-QString attachmentFileName(const QString &name, const QString &sha256)
-{
-    constexpr int digits = 16;
-    return sha256.left(digits) + QLatin1Char('-') + name;
-}
-
 ResultsPlan::ResultsPlan(const JobSnapshot &job, const QByteArray &csv, const ResultsOptions &options)
     : d(std::make_unique<ResultsPlanData>())
 {

@@ -71,12 +71,6 @@ struct TestAttachment
     QString name;
 };
 
-/// Returns the folder with the attachments of the tests of a job: "office.attachments" beside "office.job".
-CABLEDOC_EXPORT QString attachmentFolder(const QString &jobFileName);
-/// Returns the name of a file in that folder. The name begins with a part of the hash, so that different files with the
-/// same name have different names there.
-CABLEDOC_EXPORT QString attachmentFileName(const QString &name, const QString &sha256);
-
 /// The tests that a table adds to a job.
 ///
 /// A table is CSV text, as exportResults() writes it. Its first row names the columns, in any order:

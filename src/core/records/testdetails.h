@@ -139,4 +139,10 @@ struct CableTest
     friend bool operator!=(const CableTest &a, const CableTest &b) { return !(a == b); }
 };
 
+/// Returns the folder with the attachments of the tests of a job: "office.attachments" beside "office.job".
+CABLEDOC_EXPORT QString attachmentFolder(const QString &jobFileName);
+/// Returns the name of an attachment in that folder. The name begins with a part of the hash, so that different files
+/// with the same name have different names there.
+CABLEDOC_EXPORT QString attachmentFileName(const QString &name, const QString &sha256);
+
 } // namespace cabledoc

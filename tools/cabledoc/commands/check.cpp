@@ -41,6 +41,7 @@ public:
     CheckReport check(const QString &fileName)
     {
         CheckReport report;
+        m_options.attachments = fileName != standardStream; // a file without a folder has none
         ExitCode code = readFile(m_line, fileName, [&](const QString &path) {
             report = checkFile(path, m_options);
             return report.error;
