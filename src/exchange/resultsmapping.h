@@ -50,6 +50,7 @@ struct ResultsMappingReport
 {
     /// Why the text cannot be read as a mapping, or empty if it can.
     QString error;
+    /// The mapping. It has no values if the text cannot be read.
     ResultsMapping mapping;
 };
 

@@ -28,9 +28,11 @@ enum class RetestRule {
 /// How test results are imported.
 struct ResultsOptions
 {
+    /// How the CSV text is read.
     CsvOptions csv;
     /// How the table differs from one of exportResults().
     ResultsMapping mapping;
+    /// Which of several tests of a cable is the current one.
     RetestRule retest = RetestRule::Latest;
     /// Whether rows with an unknown cable or active port are left out. Otherwise they are problems.
     bool skipUnknown = false;

@@ -12,6 +12,7 @@ class JobSnapshot;
 /// How test results are exported.
 struct ResultsExportOptions
 {
+    /// How the CSV text is written.
     CsvStyle style;
     /// Whether lengths are in metres. Otherwise they are in feet.
     bool metric = false;
