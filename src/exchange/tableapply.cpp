@@ -63,6 +63,7 @@ public:
     {
         // All elements are found before the first of them gets a new name, which another one may have had.
         std::vector<SharedElement> elements;
+        elements.reserve(changes.size());
         for (const ElementChange &change : changes)
             elements.push_back(find(change));
         for (std::size_t number = 0; number < elements.size(); ++number)

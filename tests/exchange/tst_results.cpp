@@ -9,6 +9,8 @@
 
 #include <QtCore/QTemporaryDir>
 
+#include <algorithm>
+#include <numeric>
 #include <random>
 
 using namespace cabledoc;
@@ -85,9 +87,8 @@ private:
     {
         QByteArray table = "cable_id,tested_at,verdict,state,tester_serial,length_12,length_36,length_45,length_78,"
                            "length_unit,wiremap,results_block,bit_errors,operator,m:RL,p:NEXT,v:NEXT\n";
-        std::vector<int> seconds;
-        for (int i = 0; i < rows; ++i)
-            seconds.push_back(i);
+        std::vector<int> seconds(std::size_t(rows), 0);
+        std::iota(seconds.begin(), seconds.end(), 0);
         std::shuffle(seconds.begin(), seconds.end(), m_random);
         for (const int second : seconds)
             table += randomRow(second).toUtf8();
@@ -193,20 +194,20 @@ private Q_SLOTS:
 
     void rulesForRetests()
     {
-        // The verdict of the current test before, that of the row, whether the row is later, and the rule.
+        // The verdict of the current test before, that of the row, the rule, and whether the row is later.
         const struct
         {
             const char *before;
             const char *row;
-            bool isLater;
             RetestRule rule;
+            bool isLater;
             bool isCurrent;
         } cases[] = {
-            {"FAIL", "PASS", true, RetestRule::Latest, true},  {"PASS", "FAIL", false, RetestRule::Latest, false},
-            {"FAIL", "PASS", true, RetestRule::Worst, false},  {"PASS", "FAIL", false, RetestRule::Worst, true},
-            {"PASS", "PASS*", false, RetestRule::Worst, true}, {"PASS*", "Odd", false, RetestRule::Worst, true},
-            {"Odd", "PASS", true, RetestRule::Worst, false},   {"FAIL", "FAIL", true, RetestRule::Worst, true},
-            {"FAIL", "FAIL", false, RetestRule::Worst, false},
+            {"FAIL", "PASS", RetestRule::Latest, true, true},  {"PASS", "FAIL", RetestRule::Latest, false, false},
+            {"FAIL", "PASS", RetestRule::Worst, true, false},  {"PASS", "FAIL", RetestRule::Worst, false, true},
+            {"PASS", "PASS*", RetestRule::Worst, false, true}, {"PASS*", "Odd", RetestRule::Worst, false, true},
+            {"Odd", "PASS", RetestRule::Worst, true, false},   {"FAIL", "FAIL", RetestRule::Worst, true, true},
+            {"FAIL", "FAIL", RetestRule::Worst, false, false},
         };
         for (const auto &row : cases) {
             JobEditor &job = openJob("a.job");
