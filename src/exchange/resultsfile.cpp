@@ -2,6 +2,7 @@
 
 #include "messagetext.h"
 #include "resultstext.h"
+#include "xmlnames.h"
 
 #include <algorithm>
 
@@ -78,6 +79,9 @@ bool ResultsFile::addParameterColumn(const QString &name, int field)
             known = m_parameters.insert(known, {parameter, QVector<int>(parts.size(), -1)});
         if (known->fields.at(part) >= 0)
             report(field, ResultsText::tr("the column \"%1\" occurs twice").arg(excerpt(name)));
+        if (!firstLostCharacter(parameter, true).isEmpty())
+            report(field,
+                   ResultsText::tr("\"%1\" contains a character that a file cannot hold").arg(excerpt(parameter)));
         known->fields[part] = field;
         return true;
     }

@@ -240,6 +240,16 @@ private Q_SLOTS:
         QCOMPARE(import(job, heading + "B,2020-01-01,PASS,,,\nC,2020-01-01,UNTESTED,,,\n"), QString("1"));
         QCOMPARE(job.getCableTestHistory("B").constFirst().results.status(), QString("FAIL"));
     }
+
+    /// What a file cannot hold, or an export cannot give, is refused.
+    void whatCannotComeBack()
+    {
+        JobEditor &job = openJob("a.job");
+        for (const char *table : {
+                 "cable_id,tested_at,verdict,m:\x01\nA,2026-01-01,PASS,1\n",
+             })
+            QVERIFY2(!import(job, table).contains(QRegularExpression("^[0-9]+$")), table);
+    }
 };
 
 QTEST_GUILESS_MAIN(ResultsTest)
