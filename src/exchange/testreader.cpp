@@ -293,7 +293,9 @@ void TestReader::readAttachment(const CsvRow &row, TestDetailsFields *details)
     }
     const std::optional<int> size = readNumber(row, ResultsColumn::AttachmentSize);
     const std::optional<QString> real = pathOfFile(path);
-    if (size && !hash.isEmpty() && real && real->isEmpty()) {
+    const QStringList folders{QString(), QStringLiteral("."), QStringLiteral("..")};
+    const bool isName = !folders.contains(details->attachment);
+    if (size && !hash.isEmpty() && real && real->isEmpty() && isName) {
         details->attachmentSize = *size;
         details->attachmentSha256 = hash;
         return;

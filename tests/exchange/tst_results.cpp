@@ -245,10 +245,13 @@ private Q_SLOTS:
     void whatCannotComeBack()
     {
         JobEditor &job = openJob("a.job");
-        for (const char *table : {
-                 "cable_id,tested_at,verdict,m:\x01\nA,2026-01-01,PASS,1\n",
-             })
-            QVERIFY2(!import(job, table).contains(QRegularExpression("^[0-9]+$")), table);
+        QByteArrayList tables{"cable_id,tested_at,verdict,m:\x01\nA,2026-01-01,PASS,1\n"};
+        for (const char *file : {"folder/", "folder/..", "folder/."})
+            tables.append(QByteArray("cable_id,tested_at,verdict,attachment,attachment_size,attachment_sha256\n"
+                                     "A,2026-01-01,PASS,")
+                          + file + ",3," + QByteArray(64, '0') + '\n');
+        for (const QByteArray &table : std::as_const(tables))
+            QVERIFY2(!import(job, table).contains(QRegularExpression("^[0-9]+$")), table.constData());
     }
 };
 
