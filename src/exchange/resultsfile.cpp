@@ -32,6 +32,8 @@ void ResultsFile::report(int field, const QString &message)
 bool ResultsFile::readHeading(const CsvRow &heading)
 {
     m_heading = heading.fields;
+    for (auto name = m_mapping.headings.cbegin(); name != m_mapping.headings.cend(); ++name)
+        m_columnsOfHeading[name.value()].append(name.key());
     const QString portHeading = m_mapping.headings.value(resultsColumnName(ResultsColumn::ActivePort),
                                                          resultsColumnName(ResultsColumn::ActivePort));
     m_isOfActivePorts = std::any_of(m_heading.cbegin(), m_heading.cend(),
@@ -47,8 +49,11 @@ bool ResultsFile::readHeading(const CsvRow &heading)
 void ResultsFile::readColumnName(const QString &heading, int field)
 {
     // A heading can be that of several columns.
-    QStringList names = m_mapping.headings.keys(heading);
-    if (names.isEmpty() && !m_mapping.headings.contains(heading))
+    const auto mapped = m_columnsOfHeading.find(heading);
+    QStringList names;
+    if (mapped != m_columnsOfHeading.end())
+        names = mapped->second;
+    else if (!m_mapping.headings.contains(heading))
         names.append(heading);
     for (const QString &name : names) {
         const std::optional<ResultsColumn> column = resultsColumnOfName(name);
@@ -73,16 +78,16 @@ bool ResultsFile::addParameterColumn(const QString &name, int field)
         const QString parameter = name.mid(prefix.size()).trimmed();
         if (!isPart || !name.startsWith(prefix) || parameter.isEmpty())
             continue;
-        auto known = std::find_if(m_parameters.begin(), m_parameters.end(),
-                                  [&parameter](const Parameter &other) { return other.name == parameter; });
-        if (known == m_parameters.end())
-            known = m_parameters.insert(known, {parameter, QVector<int>(parts.size(), -1)});
-        if (known->fields.at(part) >= 0)
+        const auto [known, isNew] = m_parameterOfName.insert({parameter, m_parameters.size()});
+        if (isNew)
+            m_parameters.push_back({parameter, QVector<int>(parts.size(), -1)});
+        int &knownField = m_parameters[known->second].fields[part];
+        if (knownField >= 0)
             report(field, ResultsText::tr("the column \"%1\" occurs twice").arg(excerpt(name)));
         if (!firstLostCharacter(parameter, true).isEmpty())
             report(field,
                    ResultsText::tr("\"%1\" contains a character that a file cannot hold").arg(excerpt(parameter)));
-        known->fields[part] = field;
+        knownField = field;
         return true;
     }
     return false;

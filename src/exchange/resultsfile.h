@@ -3,6 +3,7 @@
 #include "csvtext.h"
 #include "resultscolumns.h"
 #include "resultsmapping.h"
+#include "texthash.h"
 
 #include <array>
 #include <vector>
@@ -45,6 +46,8 @@ private:
     void report(int field, const QString &message);
 
     const ResultsMapping &m_mapping;
+    TextMap<QStringList> m_columnsOfHeading; ///< the columns that the mapping gives for a heading
+    TextMap<std::size_t> m_parameterOfName;  ///< position in m_parameters while the heading is read
     QString m_error;
     QVector<CsvProblem> m_problems;
     QStringList m_heading;
