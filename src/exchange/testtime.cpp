@@ -3,7 +3,23 @@
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
+
 namespace cabledoc {
+
+namespace {
+
+/// Returns whether a format of QDateTime::fromString() has the zone of the time.
+bool hasZoneIn(const QString &format)
+{
+    bool isQuoted = false;
+    return std::any_of(format.begin(), format.end(), [&isQuoted](QChar c) {
+        isQuoted ^= c == QLatin1Char('\'');
+        return !isQuoted && c == QLatin1Char('t');
+    });
+}
+
+} // namespace
 
 TestTime::TestTime(const QDateTime &time, bool hasZone)
     : m_time(time)
@@ -38,14 +54,19 @@ std::optional<TestTime> TestTime::fromText(const QString &text)
 
 std::optional<TestTime> TestTime::fromText(const QString &text, const QString &format)
 {
-    QDateTime time = QLocale::c().toDateTime(text, format);
-    if (!time.isValid())
-        return std::nullopt;
+    const bool hasZone = hasZoneIn(format);
+    // With the zone of UTC, no hour of a local summer time is missing.
+    QDateTime time = hasZone ? QLocale::c().toDateTime(text, format)
+                             : QLocale::c().toDateTime(text + QStringLiteral(" UTC"), format + QStringLiteral(" t"));
     constexpr int firstYear = 1970;
     constexpr int century = 100;
     if (!format.contains(QLatin1String("yyyy")) && time.date().year() < firstYear)
         time = time.addYears(century);
-    return TestTime(QDateTime(time.date(), time.time(), Qt::UTC), false);
+    time = time.toUTC();
+    // ISO 8601 has no sign before a year.
+    if (!time.isValid() || time.date().year() < 1)
+        return std::nullopt;
+    return TestTime(time, hasZone);
 }
 
 QString TestTime::toText() const

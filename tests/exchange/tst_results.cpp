@@ -171,6 +171,14 @@ private Q_SLOTS:
     {
         QCOMPARE(TestTime::fromText("11/20/26 2:05 PM", "MM/dd/yy h:mm AP")->toText(), QString("2026-11-20T14:05:00"));
         QVERIFY(!TestTime::fromText("20/11/26", "MM/dd/yy"));
+        QVERIFY(!TestTime::fromText("-0044-03-15", "yyyy-MM-dd"));
+        QCOMPARE(TestTime::fromText("2026-05-03 14:05 +02:00", "yyyy-MM-dd hh:mm t")->toText(),
+                 QString("2026-05-03T12:05:00Z"));
+        // An hour that is missing where the computer is.
+        qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+        const std::optional<TestTime> missing = TestTime::fromText("29.03.2026 02:30", "dd.MM.yyyy hh:mm");
+        qunsetenv("TZ");
+        QCOMPARE(missing ? missing->toText() : QString(), QString("2026-03-29T02:30:00"));
         // A time of the summer that exists nowhere in Europe stands as it is.
         QVERIFY(*TestTime::fromText("2026-03-29T02:30:00") < *TestTime::fromText("2026-03-29T02:30:01"));
         const QDateTime now(QDate(2026, 1, 1), QTime(12, 0));
