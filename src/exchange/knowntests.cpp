@@ -3,8 +3,6 @@
 #include "jobattributes.h"
 #include "jobwords.h"
 
-#include <algorithm>
-
 namespace cabledoc {
 
 namespace {
@@ -13,6 +11,15 @@ QString textOf(const StoredTest &test, const QString &attribute)
 {
     static const QStringList names = testResultsAttributes().names();
     return test.texts.value(int(names.indexOf(attribute)));
+}
+
+/// Returns a text that only tests of the same time and the same tester have. A time that cannot be read stands for
+/// itself.
+QString identityOf(const KnownTests::Entry &entry)
+{
+    const QString time = entry.time ? QString::number(entry.time->milliseconds())
+                                    : QLatin1Char('"') + entry.test.time() + QLatin1Char('"');
+    return time + QLatin1Char(' ') + entry.test.serial();
 }
 
 } // namespace
@@ -64,19 +71,15 @@ KnownTests::KnownTests(const JobSnapshot &job, int cable)
 
 const KnownTests::Entry *KnownTests::find(const Entry &test) const
 {
-    const auto isSameTest = [&test](const Entry &other) {
-        const bool isSameTime =
-            test.time && other.time ? *test.time == *other.time : test.test.time() == other.test.time();
-        return isSameTime && test.test.serial() == other.test.serial();
-    };
-    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(), isSameTest);
-    return found == m_entries.cend() ? nullptr : &*found;
+    const auto found = m_positions.find(identityOf(test));
+    return found == m_positions.end() ? nullptr : &m_entries[found->second];
 }
 
 void KnownTests::add(const Entry &entry, bool isCurrent)
 {
     if (isCurrent)
         m_current = int(m_entries.size());
+    m_positions.insert({identityOf(entry), m_entries.size()});
     m_entries.push_back(entry);
 }
 

@@ -2,6 +2,7 @@
 
 #include "jobsnapshot.h"
 #include "testtime.h"
+#include "texthash.h"
 
 #include <QtCore/QStringList>
 
@@ -51,6 +52,7 @@ public:
 
 private:
     std::vector<Entry> m_entries;
+    TextMap<std::size_t> m_positions; ///< in m_entries, by the time and the tester
     int m_current = -1;
 };
 

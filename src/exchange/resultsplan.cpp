@@ -93,6 +93,14 @@ public:
 private:
     static constexpr int ambiguous = -1;
 
+    /// A test of an active port: one of the job, in row 0, or one of the table.
+    struct KnownActiveTest
+    {
+        ActiveTestResult test;
+        int row;
+    };
+    using KnownActiveTests = TextMap<KnownActiveTest>; ///< by the time
+
     template <typename Elements> void findIds(const Elements &elements)
     {
         for (int position = 0; position < elements.size(); ++position) {
@@ -110,7 +118,7 @@ private:
     void count(const QString &verdict);
     void countUntested();
     void checkVerdict(const CsvRow &row, const QString &verdict);
-    QVector<ActiveTestResult> &activeTestsOf(int port);
+    KnownActiveTests &activeTestsOf(int port);
     int lengthConstantOf(int cable) const;
 
     void report(const CsvRow &row, ResultsColumn column, const QString &message)
@@ -127,8 +135,7 @@ private:
     ResultsColumn m_idColumn;
     TextMap<int> m_positions; ///< of the elements, by their ids
     std::map<int, KnownTests> m_tests;
-    std::map<int, QVector<ActiveTestResult>> m_activeTests;
-    std::map<std::pair<int, QString>, int> m_rowOfActiveTest; ///< by the port and the time
+    std::map<int, KnownActiveTests> m_activeTests;
     TextMap<bool> m_unknownVerdicts;
 };
 
@@ -249,24 +256,25 @@ void ResultsPlanner::planActiveTest(const CsvRow &row, int port, const TestReade
                ResultsText::tr("several active ports have the tag \"%1\"").arg(excerpt(tested.element)));
     const ActiveTestResult test = m_reader.readActiveTest(row, heading);
     count(heading.verdict);
-    QVector<ActiveTestResult> &known = activeTestsOf(port);
-    const auto same = std::find_if(known.cbegin(), known.cend(),
-                                   [&](const ActiveTestResult &other) { return other.time() == test.time(); });
-    if (same != known.cend()) {
-        const bool isOfTable = same - known.cbegin() >= tested.results.size();
-        reportKnown(row, *same == test, isOfTable ? m_rowOfActiveTest.at({port, test.time()}) : 0);
+    KnownActiveTests &known = activeTestsOf(port);
+    const auto [same, isNew] = known.insert({test.time(), {test, row.number}});
+    if (!isNew) {
+        reportKnown(row, same->second.test == test, same->second.row);
         return;
     }
-    m_plan.counts.retested += known.isEmpty() ? 0 : 1;
-    known.append(test);
-    m_rowOfActiveTest.insert({{port, test.time()}, row.number});
+    m_plan.counts.retested += known.size() > 1 ? 1 : 0;
     m_plan.changes.append({row.number, true});
     m_plan.tests.push_back({tested.element, tested.id, std::nullopt, test});
 }
 
-QVector<ActiveTestResult> &ResultsPlanner::activeTestsOf(int port)
+ResultsPlanner::KnownActiveTests &ResultsPlanner::activeTestsOf(int port)
 {
-    return m_activeTests.try_emplace(port, m_job.activePorts().at(port).results).first->second;
+    const auto [known, isNew] = m_activeTests.try_emplace(port);
+    if (isNew) {
+        for (const ActiveTestResult &test : m_job.activePorts().at(port).results)
+            known->second.insert({test.time(), {test, 0}});
+    }
+    return known->second;
 }
 
 /// Counts what has no test after the import.
