@@ -1853,6 +1853,10 @@
         <source>&quot;%1&quot; is another file than that of the test</source>
         <translation>&quot;%1&quot; es un archivo distinto del de la prueba</translation>
     </message>
+    <message>
+        <source>%1: another column has the heading &quot;%2&quot;</source>
+        <translation>%1: otra columna tiene el encabezado &quot;%2&quot;</translation>
+    </message>
 </context>
 <context>
     <name>ResultsStatus</name>

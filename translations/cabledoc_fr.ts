@@ -1853,6 +1853,10 @@
         <source>&quot;%1&quot; is another file than that of the test</source>
         <translation>« %1 » est un autre fichier que celui du test</translation>
     </message>
+    <message>
+        <source>%1: another column has the heading &quot;%2&quot;</source>
+        <translation>%1 : une autre colonne a l&apos;en-tête &quot;%2&quot;</translation>
+    </message>
 </context>
 <context>
     <name>ResultsStatus</name>

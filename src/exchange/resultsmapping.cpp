@@ -9,6 +9,8 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
+#include <QtCore/QSet>
+
 #include <algorithm>
 
 namespace cabledoc {
@@ -72,6 +74,9 @@ private:
             });
         if (!isParameter && !resultsColumnOfName(key))
             return ResultsText::tr("%1: there is no such column").arg(place);
+        if (m_known.contains(heading))
+            return ResultsText::tr("%1: another column has the heading \"%2\"").arg(place, excerpt(heading));
+        m_known.insert(heading);
         return insert(place, key, heading, &m_mapping.headings);
     }
 
@@ -92,6 +97,7 @@ private:
     }
 
     ResultsMapping &m_mapping;
+    QSet<QString> m_known; ///< the headings so far
 };
 
 } // namespace

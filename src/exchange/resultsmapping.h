@@ -54,8 +54,8 @@ struct ResultsMappingReport
     ResultsMapping mapping;
 };
 
-/// Reads a mapping from the content of a file. Fails if it is not UTF-8, and for a section, a key or a value that is
-/// not known.
+/// Reads a mapping from the content of a file. Fails if it is not UTF-8, for a section, a key or a value that is
+/// not known, and for two columns with the same heading.
 CABLEDOC_EXPORT ResultsMappingReport readResultsMapping(const QByteArray &data);
 
 } // namespace cabledoc

@@ -2,6 +2,7 @@
 
 #include "cablelength.h"
 #include "messagetext.h"
+#include "resultscolumns.h"
 #include "testdef.h"
 #include "testtime.h"
 #include "units.h"
@@ -129,17 +130,17 @@ private:
         checkWiring(limits, cable.test.results, details);
     }
 
-    static bool isUntested(const MeasurementFields &test) { return test.status == QLatin1String("UNTESTED"); }
+    static bool isUntested(const MeasurementFields &test) { return test.status == verdicts::Untested; }
 
     void checkVerdict(const MeasurementFields &test)
     {
         if (isUntested(test))
             report(Kind::Untested, tr("the cable is not tested"));
-        else if (test.status == QLatin1String("FAIL"))
+        else if (test.status == verdicts::Fail)
             report(Kind::Failed, tr("the test has failed"));
-        else if (test.status == QLatin1String("PASS"))
+        else if (test.status == verdicts::Pass)
             ++m_status.passed;
-        else if (test.status == QLatin1String("PASS*"))
+        else if (test.status == verdicts::PassWithinAccuracy)
             ++m_status.passedWithinAccuracy;
         else
             report(Kind::UnknownVerdict, tr("the verdict \"%1\" is not known").arg(excerpt(test.status)));
@@ -151,7 +152,7 @@ private:
             return;
         const QVector<CableTest> earlier = m_job.testHistory(m_cable);
         const auto failed = std::count_if(earlier.cbegin(), earlier.cend(), [](const CableTest &candidate) {
-            return candidate.results.status() == QLatin1String("FAIL");
+            return candidate.results.status() == verdicts::Fail;
         });
         const auto tests = earlier.size() + (isUntested(test) ? 0 : 1);
         report(Kind::Retested,

@@ -21,8 +21,8 @@ ExitCode readFile(const CommandLine &line, const QString &fileName,
 
 /// Reads the job that the first argument of the command line names.
 ExitCode readJob(const CommandLine &line, cabledoc::JobSnapshot *job);
-/// Calls the function with the job that the first argument of the command line names. If the function returns true, also
-/// loads the job into the job document. The job that the function gets is no longer in memory then.
+/// Calls the function with the job that the first argument of the command line names. If the function returns true,
+/// also loads the job into the job document. The job that the function gets is no longer in memory then.
 ExitCode readAndLoadJob(const CommandLine &line, const std::function<bool(const cabledoc::JobSnapshot &job)> &isNeeded);
 /// Loads the job that the first argument of the command line names into the job document.
 ExitCode loadJob(const CommandLine &line);
