@@ -83,30 +83,40 @@ QString CommandLine::missingOrExcess() const
 QString CommandLine::wrongFiles() const
 {
     QStringList filesToRead;
+    QStringList filesToWrite;
     for (const Parameter &parameter : m_parameters) {
         const QStringList values = valuesOf(parameter);
         if (parameter.isFileToRead())
             filesToRead += values;
+        if (parameter.isOption() && parameter.isFileToWrite())
+            filesToWrite += values;
         if ((parameter.isFileToRead() || parameter.isFileToWrite()) && values.contains(QString()))
             return Program::tr("%1 is empty").arg(parameter.valueName);
     }
     if (filesToRead.count(standardStream) > 1)
         return Program::tr("standard input, \"-\", can be read only once");
 
-    const Output output = this->output();
     for (const Parameter &parameter : m_parameters) {
         const QString extension = parameter.extension();
-        const bool isDocument = parameter.isOption() && parameter.isFileToWrite() && !extension.isEmpty();
-        if (isDocument && !output.isStandard() && QFileInfo(output.fileName).suffix().toLower() != extension)
-            return Program::tr("\"%1\" does not end in \".%2\"").arg(output.fileName, extension);
-        if (isDocument && output.fileName == standardStream && isSet("json"))
-            return Program::tr("a file and JSON cannot both be written to standard output");
+        if (!parameter.isOption() || !parameter.isFileToWrite() || extension.isEmpty())
+            continue;
+        for (const QString &file : valuesOf(parameter)) {
+            const bool isStandard = file == standardStream;
+            if (!isStandard && QFileInfo(file).suffix().toLower() != extension)
+                return Program::tr("\"%1\" does not end in \".%2\"").arg(file, extension);
+            if (isStandard && isSet("json"))
+                return Program::tr("a file and JSON cannot both be written to standard output");
+        }
     }
-    const QString written = QFileInfo(output.fileName).canonicalFilePath();
-    const bool isRead = std::any_of(filesToRead.cbegin(), filesToRead.cend(), [&written](const QString &file) {
-        return !written.isEmpty() && QFileInfo(file).canonicalFilePath() == written;
-    });
-    return isRead ? Program::tr("the output would replace \"%1\", which is read").arg(output.fileName) : QString();
+    for (const QString &file : filesToWrite) {
+        const QString written = QFileInfo(file).canonicalFilePath();
+        const bool isRead = std::any_of(filesToRead.cbegin(), filesToRead.cend(), [&written](const QString &read) {
+            return !written.isEmpty() && QFileInfo(read).canonicalFilePath() == written;
+        });
+        if (isRead)
+            return Program::tr("the output would replace \"%1\", which is read").arg(file);
+    }
+    return {};
 }
 
 bool CommandLine::readMaximumSize()
