@@ -1,11 +1,13 @@
 #include "vocabulary.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
 
 #include <algorithm>
+#include <map>
 
 // Q_INIT_RESOURCE works only outside of namespaces. Without it, a program that links the objects from an archive would
 // leave out the pictures, because nothing else refers to them.
@@ -15,6 +17,20 @@ static void initPictures()
 }
 
 namespace cabledoc {
+
+namespace {
+
+/// Returns what paints a picture file. A plan has thousands of the same picture, so each file is read once.
+QSvgRenderer *rendererOf(const QString &fileName)
+{
+    thread_local std::map<QString, QSvgRenderer> renderers;
+    auto found = renderers.find(fileName);
+    if (found == renderers.end())
+        found = renderers.try_emplace(fileName, fileName).first;
+    return &found->second;
+}
+
+} // namespace
 
 Vocabulary::Vocabulary(const char *context, const QString &pictures, const QVector<Entry> &entries)
     : m_context(context)
@@ -87,18 +103,35 @@ QString Vocabulary::name(const QString &word) const
     return entry == nullptr ? word : QCoreApplication::translate(m_context, entry->name);
 }
 
+void Vocabulary::paint(QPainter *painter, const QString &word, const QRectF &area) const
+{
+    QRectF square(area.topLeft(), QSizeF(1.0, 1.0).scaled(area.size(), Qt::KeepAspectRatio));
+    square.moveCenter(area.center());
+    rendererOf(fileName(word))->render(painter, square);
+}
+
+QByteArray Vocabulary::svg(const QString &word) const
+{
+    QFile file(fileName(word));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QPixmap Vocabulary::pixmap(const QString &word, int size) const
 {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return {};
     image.fill(Qt::transparent);
-    const QString shown = contains(word) ? word : QStringLiteral("other");
-    QSvgRenderer renderer(QStringLiteral(":/cabledoc/vocabulary/%1%2.svg").arg(m_pictures, shown));
     QPainter painter(&image);
-    renderer.render(&painter);
+    paint(&painter, word, image.rect());
     painter.end();
     return QPixmap::fromImage(image);
+}
+
+QString Vocabulary::fileName(const QString &word) const
+{
+    const QString shown = contains(word) ? word : QStringLiteral("other");
+    return QStringLiteral(":/cabledoc/vocabulary/%1%2.svg").arg(m_pictures, shown);
 }
 
 const Vocabulary::Entry *Vocabulary::find(const QString &word) const

@@ -2,9 +2,13 @@
 
 #include "cabledoc_export.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QRectF>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 #include <QtGui/QPixmap>
+
+class QPainter;
 
 namespace cabledoc {
 
@@ -26,6 +30,12 @@ public:
     bool contains(const QString &word) const;
     /// Returns the translated name of the word, or the word itself if it is not in the vocabulary.
     QString name(const QString &word) const;
+    /// Paints the picture of the word into the largest square in the middle of the area, in the coordinates of the
+    /// painter. Paints the picture of "other" if the word is not in the vocabulary. The state of the painter is kept.
+    void paint(QPainter *painter, const QString &word, const QRectF &area) const;
+    /// Returns the picture of the word as an SVG file with a square view box. Returns the picture of "other" if the
+    /// word is not in the vocabulary.
+    QByteArray svg(const QString &word) const;
     /// Returns the picture of the word on a transparent square with sides of size device pixels. Returns the picture of
     /// "other" if the word is not in the vocabulary, and a null pixmap for a size below 1.
     ///
@@ -40,6 +50,8 @@ private:
     };
 
     Vocabulary(const char *context, const QString &pictures, const QVector<Entry> &entries);
+    /// Returns the name of the picture file of a word.
+    QString fileName(const QString &word) const;
     const Entry *find(const QString &word) const;
 
     // Context of the translations of the names.

@@ -1,6 +1,7 @@
 #include "testlanguage.h"
 #include "vocabulary.h"
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
 using namespace cabledoc;
@@ -71,6 +72,25 @@ private Q_SLOTS:
             QCOMPARE(picture(uses, word, 16), picture(uses, "other", 16));
         }
         QVERIFY(uses.contains("TV"));
+    }
+
+    void picturesAreSharpAtAnySize()
+    {
+        QImage image(400, 200, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        Vocabulary::portUses().paint(&painter, "data", image.rect());
+        painter.end();
+        QCOMPARE(image.copy(100, 0, 200, 200), picture(Vocabulary::portUses(), "data", 200));
+        QCOMPARE(image.pixelColor(99, 133).alpha(), 0); // the picture does not leave the square in the middle
+    }
+
+    void picturesAsFiles()
+    {
+        const QByteArray data = Vocabulary::portUses().svg("data");
+        QVERIFY(data.startsWith("<svg ") && data.contains("viewBox=\"0 0 24 24\""));
+        QVERIFY(data != Vocabulary::portUses().svg("voice"));
+        QCOMPARE(Vocabulary::portUses().svg("computer"), Vocabulary::portUses().svg("other"));
     }
 
     void noPictureWithoutSize()
