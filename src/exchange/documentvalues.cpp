@@ -7,6 +7,7 @@
 #include "jobsnapshot.h"
 #include "jobwords.h"
 #include "messagetext.h"
+#include "papersizes.h"
 #include "settingsstrings.h"
 #include "xmlnames.h"
 
@@ -69,18 +70,6 @@ const QString &none()
     return word;
 }
 
-/// Returns the paper size that begins with the given text and a colon, or that is the text. Returns an empty text if
-/// there is none.
-QString paperSize(const QString &text)
-{
-    for (const QString &name : SettingsStrings::paperSizes()) {
-        if (name.compare(text, Qt::CaseInsensitive) == 0
-            || name.startsWith(text + QLatin1Char(':'), Qt::CaseInsensitive))
-            return name;
-    }
-    return QString();
-}
-
 QString scaleText(const ScaleSettingsFields &fields)
 {
     if (fields.style != predefinedStyle && fields.style != customStyle)
@@ -123,7 +112,7 @@ QString readPage(const QString &text, PageSettingsFields *fields)
 {
     static const QRegularExpression form(QStringLiteral("^(\\d+(?:\\.\\d+)?)\\s*x\\s*(\\d+(?:\\.\\d+)?)$"));
     const QRegularExpressionMatch match = form.match(text.trimmed());
-    const QString size = paperSize(text.trimmed());
+    const QString size = paperSizeNamed(text.trimmed());
     if (text.trimmed() == none()) {
         fields->pageSizeStyle = noStyle;
     } else if (match.hasMatch()) {
@@ -185,7 +174,7 @@ QString readField(const AttributeRow &row, const QString &text, void *fields)
     if (row.name == words::Orientation && orientations().contains(text)) {
         stored = toText(int(orientations().indexOf(text)));
     } else if (row.name == words::PaperSize || row.name == words::PageSize) {
-        stored = paperSize(text);
+        stored = paperSizeNamed(text);
         if (stored.isEmpty())
             return ValueText::tr("\"%1\" is not one of the paper sizes: %2")
                 .arg(excerpt(text), SettingsStrings::paperSizes().join(QLatin1String(", ")));

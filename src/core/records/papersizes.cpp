@@ -73,6 +73,16 @@ QStringList cabledoc::paperSizeNames()
     return names;
 }
 
+QString cabledoc::paperSizeNamed(const QString &text)
+{
+    for (const PaperSize &paper : paperSizeTable()) {
+        if (paper.name.compare(text, Qt::CaseInsensitive) == 0
+            || paper.name.startsWith(text + QLatin1Char(':'), Qt::CaseInsensitive))
+            return paper.name;
+    }
+    return QString();
+}
+
 QSizeF cabledoc::paperDimensions(const QString &name, int orientation)
 {
     const QVector<PaperSize> &table = paperSizeTable();
