@@ -1,0 +1,101 @@
+#include "drawingfonts.h"
+
+#include "drawingtext.h"
+#include "scene.h"
+
+#include <QtCore/QDir>
+#include <QtGui/QFontDatabase>
+#include <QtGui/QGuiApplication>
+
+namespace cabledoc {
+
+namespace {
+
+QString fontFolder()
+{
+    return qEnvironmentVariable("CABLEDOC_FONT_FOLDER", QStringLiteral(CABLEDOC_FONT_FOLDER));
+}
+
+/// Loads a font file. Returns whether it has the fonts of drawings.
+bool load(const QString &fileName)
+{
+    const int id = QFontDatabase::addApplicationFont(fileName);
+    return id >= 0 && QFontDatabase::applicationFontFamilies(id).contains(drawingFontFamily());
+}
+
+QFont measuredFont(bool isBold)
+{
+    QFont font(drawingFontFamily());
+    font.setPixelSize(fontPixels);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setBold(isBold);
+    return font;
+}
+
+bool isInstalled(const QString &family)
+{
+    static const QStringList families = QFontDatabase().families();
+    return families.contains(family, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+QString loadDrawingFonts()
+{
+    static bool areLoaded = false;
+    if (areLoaded)
+        return {};
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
+        return DrawingText::tr("Drawings need an application with fonts, which is a QGuiApplication.");
+    const QDir folder(fontFolder());
+    for (const QString &name : {QStringLiteral("DejaVuSans.ttf"), QStringLiteral("DejaVuSans-Bold.ttf")}) {
+        if (!load(folder.filePath(name)))
+            return DrawingText::tr("There is no usable font \"%1\". It is part of the package fonts-dejavu-core.")
+                .arg(folder.filePath(name));
+    }
+    areLoaded = true;
+    return {};
+}
+
+QString drawingFontFamily()
+{
+    return QStringLiteral("DejaVu Sans");
+}
+
+QFont fontOf(const SceneText &text)
+{
+    QFont font = measuredFont(text.isBold);
+    font.setItalic(text.isItalic);
+    if (!text.family.isEmpty() && isInstalled(text.family))
+        font.setFamily(text.family);
+    return font;
+}
+
+TextMeasure::TextMeasure()
+    : m_regular(measuredFont(false))
+    , m_bold(measuredFont(true))
+{
+}
+
+double TextMeasure::width(const QString &text, double size, bool isBold) const
+{
+    return (isBold ? m_bold : m_regular).horizontalAdvance(text) * size / fontPixels;
+}
+
+void TextMeasure::measure(SceneText *text) const
+{
+    text->width = width(text->text, text->size, text->isBold);
+}
+
+QString TextMeasure::elided(const QString &text, double size, double width) const
+{
+    if (this->width(text, size) <= width)
+        return text;
+    const QString ellipsis(QChar(0x2026));
+    int kept = int(text.size()) - 1;
+    while (kept > 0 && this->width(text.left(kept) + ellipsis, size) > width)
+        --kept;
+    return text.left(kept) + ellipsis;
+}
+
+} // namespace cabledoc

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+#include <QtGui/QFont>
+#include <QtGui/QFontMetricsF>
+
+namespace cabledoc {
+
+struct SceneText;
+
+/// Size in pixels in which fonts are measured and painted. At this size the widths of texts are the same on all
+/// versions of Qt and at all resolutions.
+constexpr int fontPixels = 1000;
+
+/// Loads the fonts of drawings, once for the process. They are in the folder that the environment variable
+/// CABLEDOC_FONT_FOLDER names, or else in that which was configured. Returns what is wrong, or an empty string if the
+/// fonts can be used. The program must have a QGuiApplication.
+QString loadDrawingFonts();
+
+/// Returns the family of the fonts of drawings.
+QString drawingFontFamily();
+
+/// Returns the font of a text at the size of fontPixels. If the family of the text is not installed, it is that of
+/// drawings.
+QFont fontOf(const SceneText &text);
+
+/// Measures texts in the fonts of drawings, which must be loaded.
+class TextMeasure
+{
+public:
+    TextMeasure();
+
+    /// Returns the width in millimetres of a text in a font of the given size.
+    double width(const QString &text, double size, bool isBold = false) const;
+    /// Sets the width of a text.
+    void measure(SceneText *text) const;
+    /// Returns the text, or its beginning and an ellipsis if it is wider than the given width.
+    QString elided(const QString &text, double size, double width) const;
+
+private:
+    QFontMetricsF m_regular;
+    QFontMetricsF m_bold;
+};
+
+} // namespace cabledoc
