@@ -1,0 +1,500 @@
+#include "floorplan.h"
+
+#include "cableways.h"
+#include "drawingtext.h"
+#include "labelplacement.h"
+#include "symbolsizes.h"
+#include "units.h"
+#include "vocabulary.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QSet>
+#include <QtGui/QImage>
+
+#include <algorithm>
+#include <cmath>
+
+namespace cabledoc {
+
+namespace {
+
+// Millimetres of the drawing
+constexpr double symbolSize = 3.8;
+constexpr double runSize = 4.5;
+constexpr double pointSize = 1.2;
+constexpr double wallWidth = 0.35;
+constexpr double labelSize = 2.0;
+constexpr double roomNameSize = 2.6;
+constexpr double dimensionSize = 2.0;
+constexpr double margin = 25.0; // around the elements, for labels
+
+constexpr double maximumIconScale = 3.0;
+constexpr double pointsInAnInch = 72.0;
+
+const QColor wallColor(0x26, 0x26, 0x26);
+const QColor dimColor(0x5a, 0x5a, 0x5a);
+const QColor pointColor(0x40, 0x40, 0x40);
+const QColor leaderColor(0x80, 0x80, 0x80);
+
+/// Builds the plan of a floor.
+class FloorPlanBuilder
+{
+public:
+    FloorPlanBuilder(const PlanContext &context, int number)
+        : m_context(context)
+        , m_job(context.job)
+        , m_number(number)
+        , m_floor(context.job.floors().at(number))
+        , m_ways(isShown(Layer::Cables) ? waysOnFloor(m_job, number, context.palette) : QVector<CableWay>())
+    {
+        m_plan.name = m_floor.id;
+    }
+
+    FloorPlan build()
+    {
+        addPicture();
+        addRooms();
+        addWays();
+        addPoints();
+        addVerticalRuns();
+        addPorts();
+        addTexts();
+        placeLabels();
+        for (const SceneItem &item : std::as_const(m_plan.items))
+            m_plan.bounds |= boundsOf(item);
+        addLegend();
+        addLists();
+        return std::move(m_plan);
+    }
+
+private:
+    bool isShown(Layer layer) const
+    {
+        return m_context.options.layers.isEmpty() || m_context.options.layers.contains(layer);
+    }
+
+    QPointF inMillimeters(double x, double y) const { return QPointF(x, y) * m_context.millimetersInAPixel; }
+
+    void add(Layer layer, ElementKind kind, const QString &tag, const QString &title, const SceneShape &shape)
+    {
+        m_plan.items.append({layer, kind, tag, title, shape});
+    }
+
+    // Background
+
+    void addPicture()
+    {
+        if (m_floor.pic.isEmpty() || !isShown(Layer::Background))
+            return;
+        QFile file(QDir(m_context.options.folder).filePath(m_floor.pic));
+        ScenePicture picture;
+        if (file.open(QIODevice::ReadOnly))
+            picture.data = file.readAll();
+        const QImage image = QImage::fromData(picture.data);
+        if (image.isNull()) {
+            m_plan.warnings.append(
+                DrawingText::tr("%1: the background picture %2 cannot be read").arg(m_floor.id, m_floor.pic));
+            return;
+        }
+        picture.area = QRectF(inMillimeters(m_floor.picturePosition.x(), m_floor.picturePosition.y()),
+                              QSizeF(image.size()) * m_context.millimetersInAPixel);
+        add(Layer::Background, ElementKind::Floors, m_floor.element, m_floor.id, picture);
+    }
+
+    // Rooms
+
+    static bool hasPlace(const snapshot::Room &room)
+    {
+        return isPlaced(room.x, room.y) && isPlaced(room.x + room.width, room.y + room.height) && room.width > 0.0
+               && room.height > 0.0;
+    }
+
+    void addRooms()
+    {
+        if (!isShown(Layer::Rooms))
+            return;
+        QVector<int> rooms;
+        for (int room = m_floor.rooms.first; room < m_floor.rooms.end(); ++room) {
+            if (hasPlace(m_job.rooms().at(room)))
+                rooms.append(room);
+            else if (m_job.rooms().at(room).id != QLatin1String("Undefined"))
+                m_roomsWithoutPlace.append(m_job.rooms().at(room).id);
+        }
+        std::stable_sort(rooms.begin(), rooms.end(),
+                         [this](int a, int b) { return m_job.rooms().at(a).layer < m_job.rooms().at(b).layer; });
+        for (const int room : rooms)
+            addRoom(m_job.rooms().at(room));
+    }
+
+    void addRoom(const snapshot::Room &room)
+    {
+        const QRectF area(inMillimeters(room.x, room.y),
+                          QSizeF(room.width, room.height) * m_context.millimetersInAPixel);
+        // A background picture is seen through the rooms.
+        const QColor fill = m_floor.pic.isEmpty() ? QColor(Qt::white) : QColor();
+        add(Layer::Rooms, ElementKind::Rooms, room.element, room.id,
+            rectangle(area, fill, {wallColor, wallWidth, LineStyle::Solid}));
+        m_walls.append({area.topLeft(), area.topRight()});
+        m_walls.append({area.topRight(), area.bottomRight()});
+        m_walls.append({area.bottomRight(), area.bottomLeft()});
+        m_walls.append({area.bottomLeft(), area.topLeft()});
+        m_rooms.append(&room);
+    }
+
+    // Cables
+
+    void addWays()
+    {
+        for (const CableWay &way : m_ways) {
+            const ColorGroup &group = m_context.palette.groups().at(way.group);
+            m_groups.insert(way.group);
+            SceneItem item{Layer::Cables, ElementKind::Cables, {}, {}, SceneLine()};
+            item.title = DrawingText::tr("%1 cables").arg(way.count);
+            if (way.cable >= 0) {
+                item.tag = m_job.cables().at(way.cable).element;
+                item.title = m_job.cables().at(way.cable).id;
+            }
+            item.shape = SceneLine{{inMillimeters(way.from.x(), way.from.y()), inMillimeters(way.to.x(), way.to.y())},
+                                   {group.color, widthOf(way.count), group.pattern}};
+            m_plan.items.append(item);
+        }
+    }
+
+    /// Returns the width of a line for a number of cables. It grows slowly, so that a single cable is still seen beside
+    /// hundreds.
+    static double widthOf(int cables)
+    {
+        constexpr double single = 0.18;
+        constexpr double forEachDoubling = 0.13;
+        return single + forEachDoubling * std::log2(cables);
+    }
+
+    // Points, vertical runs and ports
+
+    void addPoints()
+    {
+        if (!isShown(Layer::Points))
+            return;
+        for (int i = m_floor.points.first; i < m_floor.points.end(); ++i) {
+            const snapshot::Point &point = m_job.points().at(i);
+            if (!isPlaced(point.x, point.y)) {
+                m_pointsWithoutPlace.append(point.id);
+                continue;
+            }
+            const QPointF center = inMillimeters(point.x, point.y);
+            const double half = pointSize / 2;
+            const QPolygonF corners({center + QPointF(0, -half), center + QPointF(half, 0), center + QPointF(0, half),
+                                     center + QPointF(-half, 0)});
+            add(Layer::Points, ElementKind::Points, point.element, point.id,
+                SceneArea{corners, pointColor, {pointColor, 0.0, LineStyle::Solid}});
+            m_obstacles.append(corners.boundingRect());
+        }
+    }
+
+    void addVerticalRuns()
+    {
+        if (!isShown(Layer::VerticalRuns))
+            return;
+        for (int r = m_floor.rooms.first; r < m_floor.rooms.end(); ++r) {
+            const snapshot::Range runs = m_job.rooms().at(r).verticalRuns;
+            for (int i = runs.first; i < runs.end(); ++i)
+                addVerticalRun(m_job.verticalRuns().at(i));
+        }
+    }
+
+    /// Draws a shaft, as plans of buildings do: a rectangle with its diagonals.
+    void addVerticalRun(const snapshot::VerticalRun &run)
+    {
+        if (!isPlaced(run.x, run.y)) {
+            m_runsWithoutPlace.append(run.id);
+            return;
+        }
+        const int cables = int(run.connectedCables.size() + run.disconnectedCables.size());
+        const QString name = cables == 0 ? run.id : DrawingText::tr("%1 (%2 cables)").arg(run.id).arg(cables);
+        QRectF area(0.0, 0.0, runSize, runSize);
+        area.moveCenter(inMillimeters(run.x, run.y));
+        const LineStyle style{wallColor, 0.3, LineStyle::Solid};
+        add(Layer::VerticalRuns, ElementKind::VerticalRuns, run.element, name, rectangle(area, Qt::white, style));
+        add(Layer::VerticalRuns, ElementKind::None, {}, {}, SceneLine{{area.topLeft(), area.bottomRight()}, style});
+        add(Layer::VerticalRuns, ElementKind::None, {}, {}, SceneLine{{area.bottomLeft(), area.topRight()}, style});
+        m_obstacles.append(area);
+        m_hasRuns = true;
+        Label label{name, area, labelSize, true};
+        m_runLabels.append(label);
+    }
+
+    void addPorts()
+    {
+        if (!isShown(Layer::Ports))
+            return;
+        QVector<int> ports;
+        QVector<SymbolPlace> symbols;
+        for (int r = m_floor.rooms.first; r < m_floor.rooms.end(); ++r) {
+            const snapshot::Range range = m_job.rooms().at(r).ports;
+            for (int i = range.first; i < range.end(); ++i) {
+                const snapshot::Port &port = m_job.ports().at(i);
+                if (!isPlaced(port.x, port.y)) {
+                    m_portsWithoutPlace.append(fullName(port));
+                    continue;
+                }
+                ports.append(i);
+                const double scale = port.iconScale > 0.0 ? std::min(port.iconScale, maximumIconScale) : 1.0;
+                symbols.append({inMillimeters(port.x, port.y), symbolSize * scale});
+            }
+        }
+        shrinkCrowdedSymbols(&symbols);
+        for (int i = 0; i < ports.size(); ++i)
+            addPort(ports.at(i), symbols.at(i));
+    }
+
+    QString fullName(const snapshot::Port &port) const
+    {
+        return m_job.rooms().at(port.holder).id + QLatin1Char('/') + port.id;
+    }
+
+    void addPort(int number, const SymbolPlace &place)
+    {
+        const snapshot::Port &port = m_job.ports().at(number);
+        QRectF area(0.0, 0.0, place.size, place.size);
+        area.moveCenter(place.center);
+        add(Layer::Ports, ElementKind::Ports, port.element,
+            QStringLiteral("%1 (%2)").arg(fullName(port), Vocabulary::portUses().name(port.use)),
+            SceneSymbol{SceneSymbol::PortUse, port.use, area});
+        m_uses.insert(Vocabulary::portUses().contains(port.use) ? port.use : QString());
+        m_obstacles.append(area);
+        Label label{port.id, area, labelSize};
+        label.isInRow = true;
+        const QString mark = markOf(number, &label.color);
+        label.text = mark.isEmpty() ? port.id : mark + QLatin1Char(' ') + port.id;
+        m_portLabels.append(label);
+    }
+
+    /// Returns the mark of the cables that end at a port, and sets their colour. The mark is empty if their colours
+    /// need no marks.
+    QString markOf(int port, QColor *color) const
+    {
+        if (m_context.options.colors != CableColors::Status)
+            return {};
+        QMap<int, int> groups;
+        const QVector<int> cables = m_job.cablesAt({ElementKind::Ports, port});
+        for (const int cable : cables)
+            ++groups[m_context.palette.groupOf(cable)];
+        if (groups.isEmpty())
+            return {};
+        const ColorGroup &group = m_context.palette.groups().at(m_context.palette.groupOfAll(groups));
+        *color = group.color;
+        return group.mark;
+    }
+
+    // Texts
+
+    void addTexts()
+    {
+        if (!isShown(Layer::Texts))
+            return;
+        for (int i = m_floor.texts.first; i < m_floor.texts.end(); ++i) {
+            const snapshot::FreeText &text = m_job.floorTexts().at(i);
+            if (isPlaced(text.x, text.y))
+                addText(text);
+            else
+                m_textsWithoutPlace.append(text.text);
+        }
+    }
+
+    /// Adds a text, line by line. Its position is its top left corner.
+    void addText(const snapshot::FreeText &text)
+    {
+        constexpr double lineHeight = 1.2;
+        SceneText line;
+        line.size = std::clamp(text.fontSize, 1.0, 1000.0) / pointsInAnInch * millimetersInAnInch;
+        line.isBold = text.bold;
+        line.isItalic = text.italic;
+        line.family = text.fontFamily;
+        line.color.setNamedColor(text.color);
+        if (!line.color.isValid())
+            line.color = Qt::black;
+        line.position = inMillimeters(text.x, text.y) + QPointF(0.0, line.size);
+        const QStringList lines = text.text.split(QLatin1Char('\n'));
+        for (const QString &one : lines) {
+            line.text = one;
+            m_context.measure.measure(&line);
+            add(Layer::Texts, ElementKind::FloorFreeTexts, text.element, {}, line);
+            m_obstacles.append(boxOf(line));
+            line.position.ry() += line.size * lineHeight;
+        }
+    }
+
+    // Labels
+
+    void placeLabels()
+    {
+        if (!isShown(Layer::Labels))
+            return;
+        QRectF area;
+        for (const SceneItem &item : std::as_const(m_plan.items))
+            area |= boundsOf(item);
+        LabelPlacement placement(area.marginsAdded({margin, margin, margin, margin}),
+                                 int(m_obstacles.size() * 2 + m_ways.size()), int(m_ways.size() + m_walls.size()),
+                                 m_context.measure);
+        for (const QRectF &obstacle : std::as_const(m_obstacles))
+            placement.addObstacle(obstacle);
+        for (const QLineF &wall : std::as_const(m_walls))
+            placement.addWall(wall);
+        for (const CableWay &way : m_ways) {
+            placement.addLine({inMillimeters(way.from.x(), way.from.y()), inMillimeters(way.to.x(), way.to.y())});
+        }
+        for (const snapshot::Room *room : std::as_const(m_rooms))
+            placeRoomLabels(&placement, *room);
+        for (const Label &label : std::as_const(m_runLabels))
+            addLabel(placement.place(label), label.text);
+        for (const Label &label : std::as_const(m_portLabels))
+            addLabel(placement.place(label), label.text);
+        for (const CableWay &way : m_ways)
+            placeWayLabel(&placement, way);
+    }
+
+    bool isShownHere(int flags) const { return (flags & m_context.options.medium) != 0; }
+
+    void placeRoomLabels(LabelPlacement *placement, const snapshot::Room &room)
+    {
+        const QPointF corner = room.roomNameX == 0.0 && room.roomNameY == 0.0
+                                   ? inMillimeters(room.x, room.y) + QPointF(1.0, 1.0)
+                                   : inMillimeters(room.roomNameX, room.roomNameY);
+        Label label{room.id, QRectF(corner, QSizeF(1.0, 1.0)), roomNameSize, true};
+        label.corner = corner;
+        QPointF next = corner;
+        if (isShownHere(room.showRoomName)) {
+            const PlacedLabel name = placement->place(label);
+            addLabel(name, label.text);
+            next = boxOf(name.text).bottomLeft() + QPointF(0.0, 0.4);
+        }
+        if (!isShownHere(room.showDimensions) || !m_context.scale.exists())
+            return;
+        label.text = QStringLiteral("%1 \u00d7 %2")
+                         .arg(m_context.scale.lengthText(room.width * m_context.millimetersInAPixel),
+                              m_context.scale.lengthText(room.height * m_context.millimetersInAPixel));
+        label.size = dimensionSize;
+        label.isBold = false;
+        label.color = dimColor;
+        label.corner = next;
+        label.anchor.moveTopLeft(next);
+        addLabel(placement->place(label), label.text);
+    }
+
+    /// Writes the number of cables on a way on its middle.
+    void placeWayLabel(LabelPlacement *placement, const CableWay &way)
+    {
+        if (way.count < 2)
+            return;
+        QRectF middle(0.0, 0.0, 0.6, 0.6);
+        middle.moveCenter(inMillimeters((way.from.x() + way.to.x()) / 2, (way.from.y() + way.to.y()) / 2));
+        Label label{QString::number(way.count), middle, labelSize, true};
+        label.color = m_context.palette.groups().at(way.group).color;
+        label.isOnAnchor = true;
+        addLabel(placement->place(label), DrawingText::tr("%1 cables").arg(way.count));
+    }
+
+    void addLabel(const PlacedLabel &label, const QString &text)
+    {
+        if (label.leader) {
+            add(Layer::Labels, ElementKind::None, {}, {},
+                SceneLine{{label.leader->p1(), label.leader->p2()}, {leaderColor, 0.12, LineStyle::Solid}});
+        }
+        if (!label.text.text.isEmpty())
+            add(Layer::Labels, ElementKind::None, {}, text, label.text);
+        if (label.number == 0)
+            return;
+        if (label.number > m_numbered.size())
+            m_numbered.resize(label.number);
+        m_numbered[label.number - 1].append(text);
+    }
+
+    // What stands beside the plan
+
+    static ColumnEntry heading(const QString &text) { return {true, std::nullopt, std::nullopt, {}, text}; }
+    static ColumnEntry entry(const QString &mark, const QString &text)
+    {
+        return {false, std::nullopt, std::nullopt, mark, text};
+    }
+
+    void addLegend()
+    {
+        QVector<ColumnEntry> &legend = m_plan.legend;
+        QStringList uses = Vocabulary::portUses().words();
+        uses.append(QString());
+        for (const QString &use : std::as_const(uses)) {
+            const QString name = use.isEmpty() ? DrawingText::tr("Unknown use") : Vocabulary::portUses().name(use);
+            if (m_uses.contains(use))
+                legend.append({false, SceneSymbol{SceneSymbol::PortUse, use, QRectF()}, std::nullopt, {}, name});
+        }
+        const QVector<ColorGroup> &groups = m_context.palette.groups();
+        for (int i = 0; i < groups.size(); ++i) {
+            const ColorGroup &group = groups.at(i);
+            const LineStyle line{group.color, 0.5, group.pattern};
+            if (m_groups.contains(i))
+                legend.append({false, std::nullopt, line, group.mark, DrawingText::tr("Cables: %1").arg(group.name)});
+        }
+        if (m_hasRuns)
+            legend.append(entry(QString(QChar(0x2327)), DrawingText::tr("Vertical run")));
+        if (!legend.isEmpty())
+            legend.prepend(heading(DrawingText::tr("Legend")));
+    }
+
+    void addLists()
+    {
+        if (!m_numbered.isEmpty())
+            m_plan.lists.append(heading(DrawingText::tr("Numbers on the plan")));
+        for (int i = 0; i < m_numbered.size(); ++i)
+            m_plan.lists.append(entry(QString::number(i + 1), m_numbered.at(i).join(QLatin1String(", "))));
+        addListWithoutPlace(DrawingText::tr("Rooms without a place"), m_roomsWithoutPlace);
+        addListWithoutPlace(DrawingText::tr("Ports without a place"), m_portsWithoutPlace);
+        addListWithoutPlace(DrawingText::tr("Vertical runs without a place"), m_runsWithoutPlace);
+        addListWithoutPlace(DrawingText::tr("Points without a place"), m_pointsWithoutPlace);
+        addListWithoutPlace(DrawingText::tr("Texts without a place"), m_textsWithoutPlace);
+    }
+
+    void addListWithoutPlace(const QString &title, const QStringList &names)
+    {
+        if (!names.isEmpty())
+            m_plan.lists.append(heading(title));
+        for (const QString &name : names)
+            m_plan.lists.append(entry({}, name));
+    }
+
+    const PlanContext &m_context;
+    const JobSnapshot &m_job;
+    const int m_number;
+    const snapshot::Floor &m_floor;
+    const QVector<CableWay> m_ways;
+    FloorPlan m_plan;
+
+    // What labels have to avoid
+    QVector<QRectF> m_obstacles;
+    QVector<QLineF> m_walls;
+
+    QVector<const snapshot::Room *> m_rooms; ///< the rooms that are drawn
+    QVector<Label> m_runLabels;
+    QVector<Label> m_portLabels;
+
+    // What the legend explains
+    QSet<QString> m_uses;
+    QSet<int> m_groups;
+    bool m_hasRuns = false;
+
+    QVector<QStringList> m_numbered; ///< what the numbers on the plan stand for
+    QStringList m_roomsWithoutPlace;
+    QStringList m_portsWithoutPlace;
+    QStringList m_runsWithoutPlace;
+    QStringList m_pointsWithoutPlace;
+    QStringList m_textsWithoutPlace;
+};
+
+} // namespace
+
+FloorPlan planOf(const PlanContext &context, int floor)
+{
+    return FloorPlanBuilder(context, floor).build();
+}
+
+} // namespace cabledoc

@@ -1,0 +1,609 @@
+#include "sheetlayout.h"
+
+#include "drawingtext.h"
+#include "units.h"
+
+#include <QtGui/QImage>
+#include <QtGui/QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace cabledoc {
+
+namespace {
+
+// Millimetres
+constexpr double smallSheet = 140.0; // the short side of sheets up to this size
+constexpr double columnWidth = 72.0;
+constexpr double titleHeight = 58.0;
+constexpr double barHeight = 24.0;
+constexpr double overlap = 10.0; // of tiles
+constexpr double planMargin = 3.0;
+constexpr double entrySize = 2.4;
+constexpr double entryHeight = 4.6;
+constexpr double headingSize = 3.0;
+constexpr double sampleWidth = 9.0; // of symbols, lines and numbers before the text of an entry
+constexpr double padding = 3.0;
+
+constexpr int maximumTiles = 1000;
+
+const QColor dimColor(0x5a, 0x5a, 0x5a);
+const QColor tileColor(0xc6, 0x28, 0x28);
+const LineStyle thinLine{QColor(Qt::black), 0.2, LineStyle::Solid};
+const LineStyle frameLine{QColor(Qt::black), 0.5, LineStyle::Solid};
+
+/// Adds shapes to the layer of the sheet.
+class SheetPen
+{
+public:
+    SheetPen(Scene *sheet, const TextMeasure &measure)
+        : m_sheet(sheet)
+        , m_measure(measure)
+    {
+    }
+
+    void add(const SceneShape &shape) { addToSheet(m_sheet, shape); }
+
+    void line(const QPointF &from, const QPointF &to, const LineStyle &style = thinLine)
+    {
+        add(SceneLine{{from, to}, style});
+    }
+
+    /// Writes a text at the left end of its baseline. Returns its width.
+    double text(const QPointF &position, const QString &words, double size, bool isBold = false,
+                const QColor &color = Qt::black)
+    {
+        SceneText text;
+        text.text = words;
+        text.position = position;
+        text.size = size;
+        text.isBold = isBold;
+        text.color = color;
+        m_measure.measure(&text);
+        add(text);
+        return text.width;
+    }
+
+    /// Writes a text in the middle of a place.
+    void centeredText(const QPointF &center, const QString &words, double size, bool isBold = false,
+                      const QColor &color = Qt::black)
+    {
+        constexpr double halfOfCapital = 0.36;
+        const double width = m_measure.width(words, size, isBold);
+        text(center + QPointF(-width / 2, size * halfOfCapital), words, size, isBold, color);
+    }
+
+    /// Writes a text that is made smaller if it is wider than the given width.
+    void fittedText(const QPointF &position, const QString &words, double size, double width, bool isBold = false)
+    {
+        const double natural = m_measure.width(words, size, isBold);
+        text(position, words, natural > width ? size * width / natural : size, isBold);
+    }
+
+private:
+    Scene *m_sheet;
+    const TextMeasure &m_measure;
+};
+
+/// Divides a text into lines that are no wider than the given width, at blanks if there are any.
+QStringList wrapped(const TextMeasure &measure, const QString &text, double size, double width)
+{
+    QStringList lines;
+    QString rest = text;
+    while (measure.width(rest, size) > width) {
+        int end = int(rest.size()) - 1;
+        while (end > 1 && measure.width(rest.left(end), size) > width)
+            --end;
+        const int blank = int(rest.lastIndexOf(QLatin1Char(' '), end));
+        const int cut = blank > 0 ? blank : end;
+        lines.append(rest.left(cut));
+        rest = rest.mid(cut).trimmed();
+    }
+    lines.append(rest);
+    return lines;
+}
+
+/// Writes entries one below the other into columns, as long as there is room. Goes on with the next area after that.
+class EntryFlow
+{
+public:
+    EntryFlow(const QVector<ColumnEntry> &entries, const TextMeasure &measure)
+        : m_entries(entries)
+        , m_measure(measure)
+    {
+    }
+
+    void prepend(const QVector<ColumnEntry> &entries) { m_entries = entries + m_entries; }
+
+    /// Returns the height of a column with all entries.
+    double height(double width) const
+    {
+        double height = 0.0;
+        for (const ColumnEntry &entry : m_entries)
+            height += heightOf(entry, linesOf(entry, width));
+        return height;
+    }
+
+    bool isAtEnd() const { return m_next >= m_entries.size(); }
+
+    /// Fills an area with columns of entries.
+    void fill(Scene *sheet, const QRectF &area)
+    {
+        const int columns = std::max(1, int(area.width() / columnWidth));
+        const double width = area.width() / columns;
+        for (int i = 0; i < columns; ++i)
+            fillColumn(sheet, QRectF(area.left() + i * width, area.top(), width, area.height()));
+    }
+
+private:
+    void fillColumn(Scene *sheet, const QRectF &area)
+    {
+        double y = area.top();
+        while (!isAtEnd()) {
+            const ColumnEntry &entry = m_entries.at(m_next);
+            const QStringList lines = linesOf(entry, area.width());
+            const double height = heightOf(entry, lines);
+            // An entry that is higher than a whole column is cut off nowhere else.
+            if (y + height > area.bottom() && y > area.top())
+                return;
+            write(sheet, entry, lines, QPointF(area.left(), y + height - double(lines.size()) * entryHeight));
+            y += height;
+            ++m_next;
+        }
+    }
+
+    static double heightOf(const ColumnEntry &entry, const QStringList &lines)
+    {
+        return double(lines.size()) * entryHeight + (entry.isHeading ? padding : 0.0);
+    }
+
+    QStringList linesOf(const ColumnEntry &entry, double width) const
+    {
+        if (entry.isHeading)
+            return {entry.text};
+        return wrapped(m_measure, entry.text, entrySize, width - indent(entry) - padding);
+    }
+
+    static double indent(const ColumnEntry &entry)
+    {
+        const bool hasSample = entry.symbol || entry.line || !entry.mark.isEmpty();
+        return hasSample ? sampleWidth : 0.0;
+    }
+
+    void write(Scene *sheet, const ColumnEntry &entry, const QStringList &lines, const QPointF &corner) const
+    {
+        SheetPen pen(sheet, m_measure);
+        const double middle = corner.y() + entryHeight / 2;
+        constexpr double halfOfCapital = 0.36;
+        if (entry.symbol) {
+            SceneSymbol symbol = *entry.symbol;
+            constexpr double size = 3.4;
+            symbol.area = QRectF(corner.x() + 2.0, middle - size / 2, size, size);
+            pen.add(symbol);
+        }
+        if (entry.line)
+            pen.line({corner.x(), middle}, {corner.x() + sampleWidth - 1.5, middle}, *entry.line);
+        if (!entry.line && !entry.mark.isEmpty())
+            pen.text({corner.x(), middle + entrySize * halfOfCapital}, entry.mark, entrySize, true);
+        const double size = entry.isHeading ? headingSize : entrySize;
+        QPointF position(corner.x() + indent(entry), middle + size * halfOfCapital);
+        for (const QString &line : lines) {
+            const QString shown = entry.line && !entry.mark.isEmpty() ? entry.mark + QLatin1Char(' ') + line : line;
+            pen.text(position, shown, size, entry.isHeading);
+            position.ry() += entryHeight;
+        }
+    }
+
+    QVector<ColumnEntry> m_entries;
+    const TextMeasure &m_measure;
+    int m_next = 0;
+};
+
+/// The lengths that a scale bar shows.
+struct BarUnit
+{
+    QString name;
+    double millimeters; ///< length of a unit in the drawing
+};
+
+/// Draws a bar of five divisions.
+void addBar(SheetPen *pen, const QPointF &corner, double width, const BarUnit &unit)
+{
+    constexpr int divisions = 5;
+    constexpr double height = 1.6;
+    constexpr double labelSize = 1.9;
+    // The longest round length that fits
+    double division = 1.0e6;
+    for (int i = 0; division * divisions * unit.millimeters > width; ++i)
+        division /= i % 3 == 1 ? 2.5 : 2.0;
+    for (int i = 0; i <= divisions; ++i) {
+        const QPointF left = corner + QPointF(i * division * unit.millimeters, 0.0);
+        if (i < divisions)
+            pen->add(rectangle({left, QSizeF(division * unit.millimeters, height)}, i % 2 == 0 ? Qt::black : Qt::white,
+                               {QColor(Qt::black), 0.15, LineStyle::Solid}));
+        const QString number = QString::number(i * division);
+        const QPointF below = left + QPointF(0.0, height + labelSize);
+        if (i < divisions)
+            pen->text(below - QPointF(0.4, 0.0), number, labelSize);
+        else
+            pen->text(below - QPointF(0.4, 0.0), number + QLatin1Char(' ') + unit.name, labelSize);
+    }
+}
+
+void addScaleBar(Scene *sheet, const QRectF &area, const SheetStyle &style)
+{
+    if (!style.scale.exists() || area.isEmpty())
+        return;
+    constexpr double millimetersInAMeter = 1000.0;
+    SheetPen pen(sheet, style.measure);
+    const double width = area.width() - 14.0;
+    const QPointF corner = area.topLeft() + QPointF(padding, 4.0);
+    addBar(&pen, corner, width, {QStringLiteral("m"), millimetersInAMeter / style.scale.factor});
+    addBar(&pen, corner + QPointF(0.0, 10.0), width,
+           {QStringLiteral("ft"), inchesInAFoot * millimetersInAnInch / style.scale.factor});
+}
+
+void addNorthArrow(Scene *sheet, const QRectF &window, const SheetStyle &style)
+{
+    if (!style.north)
+        return;
+    constexpr double radius = 8.0;
+    const QPointF center = window.topRight() + QPointF(-radius - 4.0, radius + 7.0);
+    QTransform turn;
+    turn.translate(center.x(), center.y());
+    turn.rotate(*style.north);
+    SheetPen pen(sheet, style.measure);
+    const LineStyle outline{QColor(Qt::black), 0.25, LineStyle::Solid};
+    pen.add(
+        SceneArea{turn.map(QPolygonF({{0.0, -radius}, {radius / 2, radius}, {0.0, radius / 2}})), Qt::white, outline});
+    pen.add(
+        SceneArea{turn.map(QPolygonF({{0.0, -radius}, {-radius / 2, radius}, {0.0, radius / 2}})), Qt::black, outline});
+    pen.centeredText(turn.map(QPointF(0.0, -radius - 2.5)), DrawingText::tr("N", "north"), 4.0, true);
+}
+
+/// Lays out a plan on sheets.
+class SheetBuilder
+{
+public:
+    SheetBuilder(const FloorPlan &plan, const SheetStyle &style, int firstPage)
+        : m_plan(plan)
+        , m_style(style)
+        , m_firstPage(firstPage)
+        , m_parts(style.paper)
+        , m_lists(plan.lists, style.measure)
+        , m_bounds(plan.bounds.marginsAdded({planMargin, planMargin, planMargin, planMargin}))
+    {
+    }
+
+    PlanSheets build()
+    {
+        if (m_style.overflow == PlanOptions::Grow)
+            grow();
+        // Each sheet has the legend, unless it takes too much room for that.
+        m_repeatsLegend =
+            !m_parts.isSmall
+            && EntryFlow(m_plan.legend, m_style.measure).height(m_parts.column.width()) < m_parts.column.height() / 2;
+        if (!m_repeatsLegend)
+            m_lists.prepend(m_plan.legend);
+        const bool fits = m_bounds.width() <= m_parts.window.width() && m_bounds.height() <= m_parts.window.height();
+        const QString error = fits ? QString() : divide();
+        if (!error.isEmpty())
+            return {{}, error};
+        if (fits)
+            addWholePlan();
+        else
+            addTiles();
+        while (!m_lists.isAtEnd())
+            addListSheet();
+        return {std::move(m_pages), {}};
+    }
+
+private:
+    /// Makes the sheet so large that the plan fits.
+    void grow()
+    {
+        const QSizeF window = m_parts.window.size();
+        const QSizeF more = m_bounds.size().expandedTo(window) - window;
+        m_paper = m_style.paper + more;
+        m_parts = SheetParts(m_paper);
+    }
+
+    Scene newSheet(const QString &title)
+    {
+        Scene sheet;
+        sheet.title = title;
+        sheet.size = m_paper;
+        sheet.window = m_parts.window;
+        SheetPen pen(&sheet, m_style.measure);
+        pen.add(rectangle(m_parts.frame, QColor(), frameLine));
+        return sheet;
+    }
+
+    /// Fills the column beside a plan.
+    void addColumn(Scene *sheet)
+    {
+        if (m_parts.isSmall)
+            return;
+        SheetPen pen(sheet, m_style.measure);
+        pen.line(m_parts.column.topLeft(), {m_parts.column.left(), m_parts.frame.bottom()});
+        QRectF area = m_parts.column.marginsRemoved({padding, padding / 2, padding, padding});
+        if (m_repeatsLegend) {
+            EntryFlow legend(m_plan.legend, m_style.measure);
+            legend.fill(sheet, area);
+            area.setTop(area.top() + legend.height(area.width()));
+        }
+        m_lists.fill(sheet, area);
+    }
+
+    /// Adds what belongs to a plan that is to scale.
+    void addMeasures(Scene *sheet) const
+    {
+        SheetPen(sheet, m_style.measure).line(m_parts.bar.topLeft(), m_parts.bar.topRight());
+        addScaleBar(sheet, m_parts.bar, m_style);
+        addNorthArrow(sheet, m_parts.window, m_style);
+    }
+
+    void addListSheet()
+    {
+        Scene sheet = newSheet(DrawingText::tr("%1: list").arg(m_plan.name));
+        m_lists.fill(&sheet, m_parts.list.marginsRemoved({padding, padding, padding, padding}));
+        m_pages.append(sheet);
+    }
+
+    void addWholePlan()
+    {
+        Scene sheet = newSheet(m_plan.name);
+        const QPointF offset = m_parts.window.center() - m_bounds.center();
+        sheet.items += m_plan.items;
+        for (SceneItem &item : sheet.items) {
+            if (item.layer != Layer::Sheet)
+                moveBy(&item, offset);
+        }
+        addColumn(&sheet);
+        addMeasures(&sheet);
+        m_pages.append(sheet);
+    }
+
+    // Tiles
+
+    QSizeF step() const { return m_parts.window.size() - QSizeF(overlap, overlap); }
+
+    /// Finds out how many tiles there are. Returns why they cannot be drawn, or an empty string.
+    QString divide()
+    {
+        const double columns = std::max(1.0, std::ceil((m_bounds.width() - overlap) / step().width()));
+        const double rows = std::max(1.0, std::ceil((m_bounds.height() - overlap) / step().height()));
+        if (!(columns * rows <= maximumTiles))
+            return DrawingText::tr("%1 would need more than %2 sheets of this paper in this scale.")
+                .arg(m_plan.name)
+                .arg(maximumTiles);
+        m_columns = int(columns);
+        m_rows = int(rows);
+        return {};
+    }
+
+    /// Returns the part of the plan that a tile shows.
+    QRectF tile(int column, int row) const
+    {
+        // In a direction in which there is one tile, it has the plan in its middle.
+        const QSizeF window = m_parts.window.size();
+        QPointF corner = m_bounds.topLeft();
+        if (m_columns == 1)
+            corner.setX(m_bounds.center().x() - window.width() / 2);
+        if (m_rows == 1)
+            corner.setY(m_bounds.center().y() - window.height() / 2);
+        return {corner + QPointF(step().width() * column, step().height() * row), window};
+    }
+
+    int pageOfTile(int column, int row) const { return m_firstPage + 1 + row * m_columns + column; }
+
+    void addTiles()
+    {
+        addOverview();
+        QVector<Scene> tiles;
+        for (int i = 0; i < m_columns * m_rows; ++i)
+            tiles.append(newSheet(DrawingText::tr("%1: part %2").arg(m_plan.name).arg(i + 1)));
+        for (const SceneItem &item : m_plan.items)
+            addToTiles(item, &tiles);
+        for (int i = 0; i < tiles.size(); ++i) {
+            addColumn(&tiles[i]);
+            addOverlapMarks(&tiles[i], i % m_columns, i / m_columns);
+            addMeasures(&tiles[i]);
+        }
+        m_pages += tiles;
+    }
+
+    void addToTiles(const SceneItem &item, QVector<Scene> *tiles) const
+    {
+        const QRectF box = boundsOf(item);
+        const QPointF corner = tile(0, 0).topLeft();
+        const auto first = [](double low, double length, double stepLength) {
+            return std::max(0, int(std::ceil((low - length) / stepLength)));
+        };
+        const auto last = [](double high, double stepLength, int count) {
+            return std::min(count - 1, int(std::floor(high / stepLength)));
+        };
+        const QSizeF window = m_parts.window.size();
+        const int lastRow = last(box.bottom() - corner.y(), step().height(), m_rows);
+        const int lastColumn = last(box.right() - corner.x(), step().width(), m_columns);
+        for (int y = first(box.top() - corner.y(), window.height(), step().height()); y <= lastRow; ++y) {
+            for (int x = first(box.left() - corner.x(), window.width(), step().width()); x <= lastColumn; ++x) {
+                SceneItem copy = item;
+                moveBy(&copy, m_parts.window.topLeft() - tile(x, y).topLeft());
+                (*tiles)[y * m_columns + x].items.append(copy);
+            }
+        }
+    }
+
+    /// Marks where a tile meets its neighbours, in the middle of the overlap.
+    void addOverlapMarks(Scene *sheet, int column, int row) const
+    {
+        const QRectF join = m_parts.window.marginsRemoved({overlap / 2, overlap / 2, overlap / 2, overlap / 2});
+        if (column > 0)
+            addOverlapMark(sheet, {join.topLeft(), join.bottomLeft()}, pageOfTile(column - 1, row));
+        if (column < m_columns - 1)
+            addOverlapMark(sheet, {join.topRight(), join.bottomRight()}, pageOfTile(column + 1, row));
+        if (row > 0)
+            addOverlapMark(sheet, {join.topLeft(), join.topRight()}, pageOfTile(column, row - 1));
+        if (row < m_rows - 1)
+            addOverlapMark(sheet, {join.bottomLeft(), join.bottomRight()}, pageOfTile(column, row + 1));
+    }
+
+    void addOverlapMark(Scene *sheet, const QLineF &join, int neighbour) const
+    {
+        SheetPen pen(sheet, m_style.measure);
+        pen.line(join.p1(), join.p2(), {tileColor, 0.2, LineStyle::Dashed});
+        // Near its end, the label covers less of the plan than in the middle.
+        constexpr double almostAtEnd = 0.9;
+        const double size = m_parts.isSmall ? 1.5 : 2.4;
+        QRectF box(0.0, 0.0, size * 6.5, size * 1.6);
+        box.moveCenter(join.pointAt(almostAtEnd));
+        box.translate(std::min(0.0, m_parts.window.right() - box.right()),
+                      std::min(0.0, m_parts.window.bottom() - box.bottom()));
+        box.translate(std::max(0.0, m_parts.window.left() - box.left()), 0.0);
+        pen.add(rectangle(box, Qt::white, {tileColor, 0.2, LineStyle::Solid}));
+        pen.centeredText(box.center(), DrawingText::tr("Sheet %1").arg(neighbour + 1), size, true, tileColor);
+        pen.add(SceneLink{box, neighbour});
+    }
+
+    /// Adds a small picture of the plan that shows where the tiles are.
+    void addOverview()
+    {
+        Scene sheet = newSheet(m_plan.name);
+        const QRectF all = tile(0, 0).united(tile(m_columns - 1, m_rows - 1));
+        const QRectF place = m_parts.window.marginsRemoved({6.0, 12.0, 6.0, 6.0});
+        const double factor = std::min(place.width() / all.width(), place.height() / all.height());
+        QTransform shrink;
+        shrink.translate(place.center().x(), place.center().y());
+        shrink.scale(factor, factor);
+        shrink.translate(-all.center().x(), -all.center().y());
+        for (const SceneItem &item : m_plan.items) {
+            if (const auto *area = std::get_if<SceneArea>(&item.shape); area != nullptr && item.layer == Layer::Rooms)
+                sheet.items.append({item.layer, item.kind, item.tag, item.title,
+                                    SceneArea{shrink.map(area->corners), area->fill, thinLine}});
+        }
+        SheetPen pen(&sheet, m_style.measure);
+        pen.text(m_parts.window.topLeft() + QPointF(6.0, 8.0),
+                 DrawingText::tr("Overview of %1, not to scale").arg(m_plan.name), m_parts.isSmall ? 2.0 : 4.0, true);
+        for (int row = 0; row < m_rows; ++row) {
+            for (int column = 0; column < m_columns; ++column) {
+                const QRectF box = shrink.mapRect(tile(column, row));
+                const int page = pageOfTile(column, row);
+                pen.add(rectangle(box, QColor(), {tileColor, 0.25, LineStyle::Dashed}));
+                pen.centeredText(box.center(), QString::number(page + 1), std::min(8.0, box.height() / 2), true,
+                                 tileColor);
+                pen.add(SceneLink{box, page});
+            }
+        }
+        addColumn(&sheet);
+        m_pages.append(sheet);
+    }
+
+    const FloorPlan &m_plan;
+    const SheetStyle &m_style;
+    const int m_firstPage;
+    QSizeF m_paper = m_style.paper;
+    SheetParts m_parts;
+    EntryFlow m_lists;
+    bool m_repeatsLegend = false;
+    QRectF m_bounds; ///< of the plan, with a margin
+    int m_columns = 0;
+    int m_rows = 0;
+    QVector<Scene> m_pages;
+};
+
+/// A field of a title block.
+struct TitleField
+{
+    QString name;
+    QString value;
+};
+
+void addField(SheetPen *pen, const QRectF &area, const TitleField &field)
+{
+    pen->add(rectangle(area, QColor(), thinLine));
+    pen->text(area.topLeft() + QPointF(1.5, 2.8), field.name, 1.7, false, dimColor);
+    pen->fittedText(area.topLeft() + QPointF(1.5, 7.2), field.value, 3.0, area.width() - 3.0);
+}
+
+void addSmallTitle(SheetPen *pen, const QRectF &area, const TitleBlock &block)
+{
+    const QStringList words{block.floor, block.scale, block.date, block.sheet};
+    pen->fittedText(area.bottomLeft() + QPointF(1.0, -1.6), words.join(QStringLiteral(" \u00b7 ")), 2.4,
+                    area.width() - 2.0);
+    pen->line(area.topLeft(), area.topRight());
+}
+
+/// Draws the logo at the right of an area, no higher than it. Returns the width that it takes.
+double addLogo(SheetPen *pen, const QRectF &area, const QByteArray &logo)
+{
+    const QSizeF natural = QImage::fromData(logo).size();
+    if (natural.isEmpty())
+        return 0.0;
+    const QSizeF size = natural.scaled({area.width() / 2, area.height()}, Qt::KeepAspectRatio);
+    pen->add(
+        ScenePicture{logo, QRectF(QPointF(area.right() - size.width(), area.center().y() - size.height() / 2), size)});
+    return size.width() + 2.0;
+}
+
+} // namespace
+
+SheetParts::SheetParts(const QSizeF &size)
+    : isSmall(std::min(size.width(), size.height()) <= smallSheet)
+{
+    const double edge = isSmall ? 3.0 : 10.0;
+    frame = QRectF(QPointF(), size).marginsRemoved({edge, edge, edge, edge});
+    if (isSmall) {
+        constexpr double stripHeight = 5.0;
+        title = QRectF(frame.left(), frame.bottom() - stripHeight, frame.width(), stripHeight);
+        window = frame.adjusted(0.0, 0.0, 0.0, -stripHeight);
+        list = window;
+        return;
+    }
+    const double left = frame.right() - columnWidth;
+    title = QRectF(left, frame.bottom() - titleHeight, columnWidth, titleHeight);
+    bar = QRectF(left, title.top() - barHeight, columnWidth, barHeight);
+    column = QRectF(left, frame.top(), columnWidth, bar.top() - frame.top());
+    window = frame.adjusted(0.0, 0.0, -columnWidth, 0.0);
+    list = window;
+}
+
+PlanSheets sheetsWith(const FloorPlan &plan, const SheetStyle &style, int firstPage)
+{
+    return SheetBuilder(plan, style, firstPage).build();
+}
+
+void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &measure)
+{
+    const SheetParts parts(sheet->size);
+    SheetPen pen(sheet, measure);
+    if (parts.isSmall) {
+        addSmallTitle(&pen, parts.title, block);
+        return;
+    }
+    constexpr double headHeight = 12.0;
+    constexpr double rowHeight = 9.2;
+    const QRectF &area = parts.title;
+    pen.line(area.topLeft(), area.bottomLeft());
+    pen.line(area.topLeft(), area.topRight());
+    const QRectF head(area.topLeft(), QSizeF(area.width(), headHeight));
+    const double logoWidth = addLogo(&pen, head.marginsRemoved({1.5, 1.5, 1.5, 1.5}), block.logo);
+    pen.fittedText(head.topLeft() + QPointF(1.5, 7.8), block.contractor, 4.0, head.width() - logoWidth - 3.0, true);
+    const double half = area.width() / 2;
+    const QVector<QVector<TitleField>> rows{
+        {{DrawingText::tr("Site"), block.site}},
+        {{DrawingText::tr("Floor"), block.floor}},
+        {{DrawingText::tr("Scale"), block.scale}, {DrawingText::tr("Date"), block.date}},
+        {{DrawingText::tr("Revision"), block.revision}, {DrawingText::tr("Sheet"), block.sheet}}};
+    double y = head.bottom();
+    const double height = std::max(rowHeight, (area.bottom() - y) / double(rows.size()));
+    for (const QVector<TitleField> &row : rows) {
+        const double width = row.size() == 1 ? area.width() : half;
+        for (int i = 0; i < row.size(); ++i)
+            addField(&pen, QRectF(area.left() + i * width, y, width, height), row.at(i));
+        y += height;
+    }
+}
+
+} // namespace cabledoc

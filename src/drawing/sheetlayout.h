@@ -1,0 +1,57 @@
+#pragma once
+
+#include "floorplan.h"
+
+namespace cabledoc {
+
+/// The parts of a sheet. A small sheet has no column.
+struct SheetParts
+{
+    explicit SheetParts(const QSizeF &size);
+
+    QRectF frame;
+    QRectF window; ///< for the plan
+    QRectF column; ///< for the legend and lists beside the plan
+    QRectF list;   ///< for lists that need sheets of their own
+    QRectF bar;    ///< for the scale bar
+    QRectF title;  ///< for the title block
+    bool isSmall;
+};
+
+/// How sheets are laid out.
+struct SheetStyle
+{
+    const TextMeasure &measure;
+    QSizeF paper;
+    PlanOptions::Overflow overflow;
+    DrawingScale scale;
+    std::optional<double> north;
+};
+
+/// What a title block says.
+struct TitleBlock
+{
+    QString contractor;
+    QByteArray logo; ///< content of the picture file, or empty
+    QString site;
+    QString floor;
+    QString scale;
+    QString date;
+    QString revision;
+    QString sheet;
+};
+
+/// Sheets with a plan, or why there are none.
+struct PlanSheets
+{
+    QVector<Scene> pages;
+    QString error;
+};
+
+/// Lays a plan out on sheets, without their title blocks. The first sheet is the page with the given number.
+PlanSheets sheetsWith(const FloorPlan &plan, const SheetStyle &style, int firstPage);
+
+/// Adds a title block to a sheet.
+void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &measure);
+
+} // namespace cabledoc
