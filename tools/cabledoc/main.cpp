@@ -9,10 +9,12 @@
 #include <cabledoc/version.h>
 
 #include <QtCore/QLoggingCategory>
+#include <QtGui/QGuiApplication>
 
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -70,6 +72,32 @@ ExitCode run(QStringList words)
     return command->run(line);
 }
 
+/// Returns whether the command line has the name of a command that draws.
+bool isDrawing(int argc, char *argv[])
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *word) { return qstrcmp(word, "plan") == 0; });
+}
+
+/// Suppresses warnings.
+void showNoWarnings(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "cabledoc: %s\n", qPrintable(message));
+}
+
+/// Makes the application. One that draws needs fonts, but no display.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char *argv[])
+{
+    if (!isDrawing(argc, argv))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Qt warns of missing folders of the display's session.
+    const QtMessageHandler before = qInstallMessageHandler(showNoWarnings);
+    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    qInstallMessageHandler(before);
+    return application;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -79,7 +107,7 @@ int main(int argc, char *argv[])
     std::signal(SIGXFSZ, SIG_IGN);
     // The debug messages of the library are for its developers.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    const QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("cabledoc"));
     cabledoc::installTranslations(QLocale::system());
     return run(QCoreApplication::arguments().mid(1));
