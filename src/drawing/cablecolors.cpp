@@ -37,20 +37,25 @@ QString orElse(const QString &name, const QString &otherwise)
 }
 
 // The groups of test results, from the best to the worst
-enum Status { Passed, Untested, Failed };
+enum Status { Passed, Untested, Unknown, Failed };
 
 QVector<ColorGroup> statusGroups()
 {
     return {{DrawingText::tr("Passed"), QColor(0x1a, 0x7f, 0x37), LineStyle::Solid, QString(QChar(0x2713))},
             {DrawingText::tr("Untested"), QColor(0x5f, 0x6b, 0x7a), LineStyle::Dashed, QString(QChar(0x25CB))},
+            {DrawingText::tr("Unknown result"), QColor(0xb8, 0x86, 0x0b), LineStyle::Dashed, QStringLiteral("?")},
             {DrawingText::tr("Failed"), QColor(0xc6, 0x28, 0x28), LineStyle::Dotted, QString(QChar(0x2717))}};
 }
 
 Status statusOf(const snapshot::Cable &cable)
 {
-    if (cable.test.status.isEmpty() || cable.test.status == QLatin1String("UNTESTED"))
-        return Untested;
-    return cable.test.status == QLatin1String("PASS") ? Passed : Failed;
+    // A cable that has passed within the accuracy of the tester has passed.
+    static const QHash<QString, Status> known{{QStringLiteral("PASS"), Passed},
+                                              {QStringLiteral("PASS*"), Passed},
+                                              {QStringLiteral("FAIL"), Failed},
+                                              {QStringLiteral("UNTESTED"), Untested},
+                                              {QString(), Untested}};
+    return known.value(cable.test.status, Unknown);
 }
 
 ColorGroup groupFor(const JobSnapshot &job, const snapshot::Cable &cable, CableColors colors)

@@ -3,6 +3,7 @@
 #include "cableways.h"
 #include "drawingtext.h"
 #include "labelplacement.h"
+#include "portrows.h"
 #include "symbolsizes.h"
 #include "units.h"
 #include "vocabulary.h"
@@ -22,6 +23,7 @@ namespace {
 // Millimetres of the drawing
 constexpr double symbolSize = 3.8;
 constexpr double runSize = 4.5;
+constexpr double sampleSize = 3.4; // of symbols in the legend
 constexpr double pointSize = 1.2;
 constexpr double wallWidth = 0.35;
 constexpr double labelSize = 2.0;
@@ -36,6 +38,30 @@ const QColor wallColor(0x26, 0x26, 0x26);
 const QColor dimColor(0x5a, 0x5a, 0x5a);
 const QColor pointColor(0x40, 0x40, 0x40);
 const QColor leaderColor(0x80, 0x80, 0x80);
+
+QRectF squareAround(const QPointF &center, double size)
+{
+    QRectF area(0.0, 0.0, size, size);
+    area.moveCenter(center);
+    return area;
+}
+
+/// Returns the shape of a point: a small diamond.
+SceneArea pointShape(const QPointF &center)
+{
+    const double half = pointSize / 2;
+    const QPolygonF corners(
+        {center + QPointF(0, -half), center + QPointF(half, 0), center + QPointF(0, half), center + QPointF(-half, 0)});
+    return {corners, pointColor, {pointColor, 0.0, LineStyle::Solid}};
+}
+
+/// Returns the shapes of a shaft, as plans of buildings have it: a square with its diagonals.
+QVector<SceneShape> runShapes(const QRectF &area)
+{
+    const LineStyle style{wallColor, 0.3, LineStyle::Solid};
+    return {rectangle(area, Qt::white, style), SceneLine{{area.topLeft(), area.bottomRight()}, style},
+            SceneLine{{area.bottomLeft(), area.topRight()}, style}};
+}
 
 /// Builds the plan of a floor.
 class FloorPlanBuilder
@@ -182,13 +208,10 @@ private:
                 m_pointsWithoutPlace.append(point.id);
                 continue;
             }
-            const QPointF center = inMillimeters(point.x, point.y);
-            const double half = pointSize / 2;
-            const QPolygonF corners({center + QPointF(0, -half), center + QPointF(half, 0), center + QPointF(0, half),
-                                     center + QPointF(-half, 0)});
-            add(Layer::Points, ElementKind::Points, point.element, point.id,
-                SceneArea{corners, pointColor, {pointColor, 0.0, LineStyle::Solid}});
-            m_obstacles.append(corners.boundingRect());
+            const SceneArea shape = pointShape(inMillimeters(point.x, point.y));
+            add(Layer::Points, ElementKind::Points, point.element, point.id, shape);
+            m_obstacles.append(shape.corners.boundingRect());
+            m_hasPoints = true;
         }
     }
 
@@ -203,7 +226,6 @@ private:
         }
     }
 
-    /// Draws a shaft, as plans of buildings do: a rectangle with its diagonals.
     void addVerticalRun(const snapshot::VerticalRun &run)
     {
         if (!isPlaced(run.x, run.y)) {
@@ -212,16 +234,14 @@ private:
         }
         const int cables = int(run.connectedCables.size() + run.disconnectedCables.size());
         const QString name = cables == 0 ? run.id : DrawingText::tr("%1 (%2 cables)").arg(run.id).arg(cables);
-        QRectF area(0.0, 0.0, runSize, runSize);
-        area.moveCenter(inMillimeters(run.x, run.y));
-        const LineStyle style{wallColor, 0.3, LineStyle::Solid};
-        add(Layer::VerticalRuns, ElementKind::VerticalRuns, run.element, name, rectangle(area, Qt::white, style));
-        add(Layer::VerticalRuns, ElementKind::None, {}, {}, SceneLine{{area.topLeft(), area.bottomRight()}, style});
-        add(Layer::VerticalRuns, ElementKind::None, {}, {}, SceneLine{{area.bottomLeft(), area.topRight()}, style});
+        const QRectF area = squareAround(inMillimeters(run.x, run.y), runSize);
+        const QVector<SceneShape> shapes = runShapes(area);
+        add(Layer::VerticalRuns, ElementKind::VerticalRuns, run.element, name, shapes.constFirst());
+        for (const SceneShape &diagonal : shapes.mid(1))
+            add(Layer::VerticalRuns, ElementKind::None, {}, {}, diagonal);
         m_obstacles.append(area);
         m_hasRuns = true;
-        Label label{name, area, labelSize, true};
-        m_runLabels.append(label);
+        m_runLabels.append({name, area, labelSize, true});
     }
 
     void addPorts()
@@ -229,6 +249,7 @@ private:
         if (!isShown(Layer::Ports))
             return;
         QVector<int> ports;
+        QVector<int> rooms;
         QVector<SymbolPlace> symbols;
         for (int r = m_floor.rooms.first; r < m_floor.rooms.end(); ++r) {
             const snapshot::Range range = m_job.rooms().at(r).ports;
@@ -239,6 +260,7 @@ private:
                     continue;
                 }
                 ports.append(i);
+                rooms.append(r);
                 const double scale = port.iconScale > 0.0 ? std::min(port.iconScale, maximumIconScale) : 1.0;
                 symbols.append({inMillimeters(port.x, port.y), symbolSize * scale});
             }
@@ -246,6 +268,7 @@ private:
         shrinkCrowdedSymbols(&symbols);
         for (int i = 0; i < ports.size(); ++i)
             addPort(ports.at(i), symbols.at(i));
+        m_portRows = symbolRows(symbols, rooms);
     }
 
     QString fullName(const snapshot::Port &port) const
@@ -256,18 +279,17 @@ private:
     void addPort(int number, const SymbolPlace &place)
     {
         const snapshot::Port &port = m_job.ports().at(number);
-        QRectF area(0.0, 0.0, place.size, place.size);
-        area.moveCenter(place.center);
+        const QRectF area = squareAround(place.center, place.size);
         add(Layer::Ports, ElementKind::Ports, port.element,
             QStringLiteral("%1 (%2)").arg(fullName(port), Vocabulary::portUses().name(port.use)),
             SceneSymbol{SceneSymbol::PortUse, port.use, area});
-        m_uses.insert(Vocabulary::portUses().contains(port.use) ? port.use : QString());
+        ++m_uses[Vocabulary::portUses().contains(port.use) ? port.use : QString()];
         m_obstacles.append(area);
         Label label{port.id, area, labelSize};
-        label.isInRow = true;
         const QString mark = markOf(number, &label.color);
         label.text = mark.isEmpty() ? port.id : mark + QLatin1Char(' ') + port.id;
         m_portLabels.append(label);
+        m_portNames.append(mark.isEmpty() ? fullName(port) : mark + QLatin1Char(' ') + fullName(port));
     }
 
     /// Returns the mark of the cables that end at a port, and sets their colour. The mark is empty if their colours
@@ -348,8 +370,8 @@ private:
             placeRoomLabels(&placement, *room);
         for (const Label &label : std::as_const(m_runLabels))
             addLabel(placement.place(label), label.text);
-        for (const Label &label : std::as_const(m_portLabels))
-            addLabel(placement.place(label), label.text);
+        for (const QVector<int> &row : std::as_const(m_portRows))
+            placePortLabels(&placement, row);
         for (const CableWay &way : m_ways)
             placeWayLabel(&placement, way);
     }
@@ -382,6 +404,32 @@ private:
         addLabel(placement->place(label), label.text);
     }
 
+    /// Labels a port, or ports that stand side by side.
+    void placePortLabels(LabelPlacement *placement, const QVector<int> &row)
+    {
+        if (row.size() == 1) {
+            addLabel(placement->place(m_portLabels.at(row.constFirst())), m_portNames.at(row.constFirst()));
+            return;
+        }
+        QVector<Label> labels;
+        QStringList ids;
+        QStringList names;
+        for (const int port : row) {
+            labels.append(m_portLabels.at(port));
+            ids.append(m_portLabels.at(port).text);
+            names.append(m_portNames.at(port));
+        }
+        const std::vector<PlacedLabel> placed = placement->placeRow(labels, shortList(ids));
+        if (int(placed.size()) == row.size()) {
+            for (int i = 0; i < row.size(); ++i)
+                addLabel(placed[std::size_t(i)], names.at(i));
+            return;
+        }
+        addLabel(placed.front(), names.join(QLatin1String(", ")),
+                 DrawingText::tr("%1, from left to right: %2")
+                     .arg(m_portNames.at(row.constFirst()).section(QLatin1Char('/'), 0, 0), shortList(ids)));
+    }
+
     /// Writes the number of cables on a way on its middle.
     void placeWayLabel(LabelPlacement *placement, const CableWay &way)
     {
@@ -395,28 +443,27 @@ private:
         addLabel(placement->place(label), DrawingText::tr("%1 cables").arg(way.count));
     }
 
-    void addLabel(const PlacedLabel &label, const QString &text)
+    /// Adds a label for what has the given name. If the label is a number, the list explains it with the name or with
+    /// an explanation of its own.
+    void addLabel(const PlacedLabel &label, const QString &name, const QString &explanation = {})
     {
         if (label.leader) {
             add(Layer::Labels, ElementKind::None, {}, {},
                 SceneLine{{label.leader->p1(), label.leader->p2()}, {leaderColor, 0.12, LineStyle::Solid}});
         }
         if (!label.text.text.isEmpty())
-            add(Layer::Labels, ElementKind::None, {}, text, label.text);
+            add(Layer::Labels, ElementKind::None, {}, name, label.text);
         if (label.number == 0)
             return;
         if (label.number > m_numbered.size())
             m_numbered.resize(label.number);
-        m_numbered[label.number - 1].append(text);
+        m_numbered[label.number - 1].append(explanation.isEmpty() ? name : explanation);
     }
 
     // What stands beside the plan
 
-    static ColumnEntry heading(const QString &text) { return {true, std::nullopt, std::nullopt, {}, text}; }
-    static ColumnEntry entry(const QString &mark, const QString &text)
-    {
-        return {false, std::nullopt, std::nullopt, mark, text};
-    }
+    static ColumnEntry heading(const QString &text) { return {true, {}, {}, text}; }
+    static ColumnEntry entry(const QString &mark, const QString &text) { return {false, {}, mark, text}; }
 
     void addLegend()
     {
@@ -425,18 +472,22 @@ private:
         uses.append(QString());
         for (const QString &use : std::as_const(uses)) {
             const QString name = use.isEmpty() ? DrawingText::tr("Unknown use") : Vocabulary::portUses().name(use);
-            if (m_uses.contains(use))
-                legend.append({false, SceneSymbol{SceneSymbol::PortUse, use, QRectF()}, std::nullopt, {}, name});
+            if (!m_uses.contains(use))
+                continue;
+            const SceneSymbol symbol{SceneSymbol::PortUse, use, squareAround({}, sampleSize)};
+            legend.append({false, {symbol}, {}, QStringLiteral("%1 (%2)").arg(name).arg(m_uses.value(use))});
         }
         const QVector<ColorGroup> &groups = m_context.palette.groups();
         for (int i = 0; i < groups.size(); ++i) {
             const ColorGroup &group = groups.at(i);
-            const LineStyle line{group.color, 0.5, group.pattern};
+            const SceneLine line{{{-sampleSize, 0.0}, {sampleSize, 0.0}}, {group.color, 0.5, group.pattern}};
             if (m_groups.contains(i))
-                legend.append({false, std::nullopt, line, group.mark, DrawingText::tr("Cables: %1").arg(group.name)});
+                legend.append({false, {line}, group.mark, DrawingText::tr("Cables: %1").arg(group.name)});
         }
+        if (m_hasPoints)
+            legend.append({false, {pointShape({})}, {}, DrawingText::tr("Point on the way of cables")});
         if (m_hasRuns)
-            legend.append(entry(QString(QChar(0x2327)), DrawingText::tr("Vertical run")));
+            legend.append({false, runShapes(squareAround({}, sampleSize)), {}, DrawingText::tr("Vertical run")});
         if (!legend.isEmpty())
             legend.prepend(heading(DrawingText::tr("Legend")));
     }
@@ -476,10 +527,13 @@ private:
     QVector<const snapshot::Room *> m_rooms; ///< the rooms that are drawn
     QVector<Label> m_runLabels;
     QVector<Label> m_portLabels;
+    QStringList m_portNames;          ///< what the labels stand for
+    QVector<QVector<int>> m_portRows; ///< positions of labels in the list
 
     // What the legend explains
-    QSet<QString> m_uses;
+    QMap<QString, int> m_uses; ///< numbers of ports
     QSet<int> m_groups;
+    bool m_hasPoints = false;
     bool m_hasRuns = false;
 
     QVector<QStringList> m_numbered; ///< what the numbers on the plan stand for

@@ -10,9 +10,8 @@ namespace cabledoc {
 struct ColumnEntry
 {
     bool isHeading = false;
-    std::optional<SceneSymbol> symbol;
-    std::optional<LineStyle> line;
-    QString mark; ///< a number or a mark, or empty
+    QVector<SceneShape> sample; ///< what the entry explains, around the origin
+    QString mark;               ///< a number or a mark, or empty
     QString text;
 };
 

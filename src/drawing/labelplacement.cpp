@@ -9,10 +9,9 @@ namespace {
 
 constexpr double smallestCell = 3.0; // millimetres
 constexpr std::size_t crowd = 64;
-constexpr double gap = 0.4;           // between an anchor and its label
-constexpr double clearance = 0.35;    // between labels, which is less than the gap
-constexpr double smallSize = 1.4;     // of fonts where there is little room
-constexpr double crowdedAnchor = 2.0; // the height of anchors up to this size is that of their labels
+constexpr double gap = 0.4;        // between an anchor and its label
+constexpr double clearance = 0.35; // between labels, which is less than the gap
+constexpr double smallSize = 1.4;  // of fonts where there is little room
 
 /// Returns whether a line touches a box, by cutting off what is outside of each edge.
 bool touches(const QLineF &line, const QRectF &box)
@@ -154,12 +153,6 @@ LabelPlacement::LabelPlacement(const QRectF &area, int boxes, int lines, const T
 PlacedLabel LabelPlacement::place(const Label &label)
 {
     const double small = std::min(smallSize, label.size);
-    const bool isCrowded = label.isInRow && label.anchor.height() <= crowdedAnchor;
-    if (isCrowded) {
-        // In a row of ports, each label stands upright at its port.
-        if (const auto placed = placeBeside(label, {label.text, sizeInside(label.anchor, small), true}, Nothing))
-            return *placed;
-    }
     const Setting whole{label.text, label.size, false};
     const std::vector<std::pair<Setting, Avoidance>> attempts{{whole, WallsAndLines},
                                                               {whole, Walls},
@@ -177,6 +170,69 @@ PlacedLabel LabelPlacement::place(const Label &label)
     if (const auto placed = placeWithLeader(label, {label.text, small, false}, {2.5, 5.0, 8.0, 12.0, 17.0, 23.0}))
         return *placed;
     return placeNumber(label);
+}
+
+std::vector<PlacedLabel> LabelPlacement::placeRow(const QVector<Label> &row, const QString &all)
+{
+    for (const Side side : {Above, Below}) {
+        std::vector<PlacedLabel> placed = placeUpright(row, side);
+        if (!placed.empty())
+            return placed;
+    }
+    Label label = row.constFirst();
+    label.color = Qt::black;
+    for (const Label &other : row)
+        label.anchor |= other.anchor;
+    constexpr int longest = 16; // what is longer becomes a number
+    const double small = std::min(smallSize, label.size);
+    for (const Avoidance avoidance : {Walls, Nothing}) {
+        if (all.size() > longest)
+            break;
+        if (const auto placed = placeAtEnd(label, {all, small, false}, avoidance))
+            return {*placed};
+    }
+    label.isBold = true;
+    for (const Avoidance avoidance : {Walls, Nothing}) {
+        if (auto placed = placeAtEnd(label, {QString::number(m_numbers + 1), small, false}, avoidance)) {
+            placed->number = ++m_numbers;
+            return {*placed};
+        }
+    }
+    return {placeNumber(label)};
+}
+
+std::optional<PlacedLabel> LabelPlacement::placeAtEnd(const Label &label, const Setting &setting, Avoidance avoidance)
+{
+    const QSizeF size = sizeOf(label, setting);
+    const double y = label.anchor.center().y() - size.height() / 2;
+    for (const double x : {label.anchor.left() - size.width() - gap, label.anchor.right() + gap}) {
+        if (auto placed = placeAt({{x, y}, size}, label, setting, std::nullopt, avoidance))
+            return placed;
+    }
+    return std::nullopt;
+}
+
+std::vector<PlacedLabel> LabelPlacement::placeUpright(const QVector<Label> &row, Side side)
+{
+    std::vector<QRectF> boxes;
+    QVector<Setting> settings;
+    for (const Label &label : row) {
+        settings.append({label.text, sizeInside(label.anchor, std::min(smallSize, label.size)), true});
+        QRectF box(QPointF(), sizeOf(label, settings.constLast()));
+        box.moveCenter(label.anchor.center());
+        if (side == Above)
+            box.moveBottom(label.anchor.top() - gap);
+        else
+            box.moveTop(label.anchor.bottom() + gap);
+        const bool meetsLast = !boxes.empty() && boxes.back().intersects(box);
+        if (meetsLast || !isFree(box, settings.constLast()))
+            return {};
+        boxes.push_back(box);
+    }
+    std::vector<PlacedLabel> placed;
+    for (int i = 0; i < row.size(); ++i)
+        placed.push_back(taken(boxes[std::size_t(i)], row.at(i), settings.at(i)));
+    return placed;
 }
 
 QSizeF LabelPlacement::sizeOf(const Label &label, const Setting &setting) const
@@ -214,7 +270,7 @@ std::optional<PlacedLabel> LabelPlacement::placeBeside(const Label &label, const
     for (const QPointF &corner : corners) {
         // A label on a line covers that line in any case.
         const bool isOnLine = label.isOnAnchor && corner == QPointF(middleX, middleY);
-        if (auto placed = placeAt(corner, label, setting, std::nullopt, isOnLine ? Nothing : avoidance))
+        if (auto placed = placeAt({corner, size}, label, setting, std::nullopt, isOnLine ? Nothing : avoidance))
             return placed;
     }
     return std::nullopt;
@@ -233,33 +289,36 @@ std::optional<PlacedLabel> LabelPlacement::placeWithLeader(const Label &label, c
                 label.anchor.center()
                 + QPointF(std::cos(angle) * (distance + (label.anchor.width() + size.width()) / 2),
                           std::sin(angle) * (distance + (label.anchor.height() + size.height()) / 2));
-            const QPointF corner = center - QPointF(size.width() / 2, size.height() / 2);
-            if (auto placed = placeAt(corner, label, setting, label.anchor.center(), Nothing))
+            QRectF box(QPointF(), size);
+            box.moveCenter(center);
+            if (auto placed = placeAt(box, label, setting, label.anchor.center(), Nothing))
                 return placed;
         }
     }
     return std::nullopt;
 }
 
-std::optional<PlacedLabel> LabelPlacement::placeAt(const QPointF &corner, const Label &label, const Setting &setting,
+std::optional<PlacedLabel> LabelPlacement::placeAt(const QRectF &box, const Label &label, const Setting &setting,
                                                    const std::optional<QPointF> &leaderFrom, Avoidance avoidance)
 {
-    const QSizeF size = sizeOf(label, setting);
-    const QRectF box(corner, size);
-    // Texts that follow each other stay apart.
-    const QRectF room = setting.isVertical ? box.adjusted(0.0, -clearance, 0.0, clearance)
-                                           : box.adjusted(-clearance, 0.0, clearance, 0.0);
-    if (!m_area.contains(box) || !m_boxes.isFree(room) || isAvoided(box, label.anchor.center(), avoidance))
+    if (!isFree(box, setting) || isAvoided(box, label.anchor.center(), avoidance))
         return std::nullopt;
+    if (!leaderFrom)
+        return taken(box, label, setting);
+    const QPointF end(std::clamp(leaderFrom->x(), box.left(), box.right()),
+                      std::clamp(leaderFrom->y(), box.top(), box.bottom()));
+    const QLineF leader(*leaderFrom, end);
+    if (!m_labels.isFree(leader))
+        return std::nullopt;
+    PlacedLabel placed = taken(box, label, setting);
+    placed.leader = leader;
+    m_lines.add(leader);
+    return placed;
+}
+
+PlacedLabel LabelPlacement::taken(const QRectF &box, const Label &label, const Setting &setting)
+{
     PlacedLabel placed;
-    if (leaderFrom) {
-        const QPointF end(std::clamp(leaderFrom->x(), box.left(), box.right()),
-                          std::clamp(leaderFrom->y(), box.top(), box.bottom()));
-        placed.leader = QLineF(*leaderFrom, end);
-        if (!m_labels.isFree(*placed.leader))
-            return std::nullopt;
-        m_lines.add(*placed.leader);
-    }
     SceneText &text = placed.text;
     text.text = setting.text;
     text.size = setting.size;
@@ -269,10 +328,18 @@ std::optional<PlacedLabel> LabelPlacement::placeAt(const QPointF &corner, const 
     text.background = Qt::white;
     m_measure.measure(&text);
     // The box of a text at the origin tells where its baseline is.
-    text.position = corner - boxOf(text).topLeft();
+    text.position = box.topLeft() - boxOf(text).topLeft();
     m_boxes.add(box);
     m_labels.add(box);
     return placed;
+}
+
+bool LabelPlacement::isFree(const QRectF &box, const Setting &setting) const
+{
+    // Texts that follow each other stay apart.
+    const QRectF room = setting.isVertical ? box.adjusted(0.0, -clearance, 0.0, clearance)
+                                           : box.adjusted(-clearance, 0.0, clearance, 0.0);
+    return m_area.contains(box) && m_boxes.isFree(room);
 }
 
 bool LabelPlacement::isAvoided(const QRectF &box, const QPointF &anchor, Avoidance avoidance) const

@@ -59,7 +59,6 @@ struct Label
     double size = 1.8;                  ///< size of the font
     bool isBold = false;                ///< whether the font is bold
     QColor color = QColor(Qt::black);   ///< colour of the text
-    bool isInRow = false;               ///< whether the anchor is a symbol that may be in a row of many
     bool isOnAnchor = false;            ///< whether the label stands on the middle of the anchor, as on a line
     std::optional<QPointF> corner = {}; ///< top left corner that is tried first
 };
@@ -88,6 +87,9 @@ public:
     void addWall(const QLineF &line) { m_walls.add(line); }
     /// Places a label. Its place is taken.
     PlacedLabel place(const Label &label);
+    /// Places the labels of small symbols that stand side by side, from left to right. If there is room, each has its
+    /// label, upright. Otherwise there is one label at an end of the row, with the text that stands for all of them.
+    std::vector<PlacedLabel> placeRow(const QVector<Label> &row, const QString &all);
 
 private:
     /// How a text is set.
@@ -98,9 +100,14 @@ private:
         bool isVertical;
     };
 
+    /// A row of labels above symbols, or below them.
+    enum Side { Above, Below };
+
     /// What a label does not cover beside symbols and labels.
     enum Avoidance { Nothing, Walls, WallsAndLines };
 
+    std::vector<PlacedLabel> placeUpright(const QVector<Label> &row, Side side);
+    std::optional<PlacedLabel> placeAtEnd(const Label &label, const Setting &setting, Avoidance avoidance);
     std::optional<PlacedLabel> placeBeside(const Label &label, const Setting &setting, Avoidance avoidance);
     std::optional<PlacedLabel> placeWithLeader(const Label &label, const Setting &setting,
                                                const std::vector<double> &distances);
@@ -108,8 +115,11 @@ private:
     PlacedLabel placeNumberInside(const Label &label);
     /// Returns the number that stands where a label wants to stand, or 0 if there is none.
     int numberAt(const QRectF &anchor) const;
-    std::optional<PlacedLabel> placeAt(const QPointF &corner, const Label &label, const Setting &setting,
+    std::optional<PlacedLabel> placeAt(const QRectF &box, const Label &label, const Setting &setting,
                                        const std::optional<QPointF> &leaderFrom, Avoidance avoidance);
+    /// Returns the label in a box, whose place is then taken.
+    PlacedLabel taken(const QRectF &box, const Label &label, const Setting &setting);
+    bool isFree(const QRectF &box, const Setting &setting) const;
     bool isAvoided(const QRectF &box, const QPointF &anchor, Avoidance avoidance) const;
     QSizeF sizeOf(const Label &label, const Setting &setting) const;
 

@@ -167,8 +167,7 @@ private:
 
     static double indent(const ColumnEntry &entry)
     {
-        const bool hasSample = entry.symbol || entry.line || !entry.mark.isEmpty();
-        return hasSample ? sampleWidth : 0.0;
+        return entry.sample.isEmpty() && entry.mark.isEmpty() ? 0.0 : sampleWidth;
     }
 
     void write(Scene *sheet, const ColumnEntry &entry, const QStringList &lines, const QPointF &corner) const
@@ -176,20 +175,18 @@ private:
         SheetPen pen(sheet, m_measure);
         const double middle = corner.y() + entryHeight / 2;
         constexpr double halfOfCapital = 0.36;
-        if (entry.symbol) {
-            SceneSymbol symbol = *entry.symbol;
-            constexpr double size = 3.4;
-            symbol.area = QRectF(corner.x() + 2.0, middle - size / 2, size, size);
-            pen.add(symbol);
+        for (const SceneShape &shape : entry.sample) {
+            SceneItem item{Layer::Sheet, ElementKind::None, {}, {}, shape};
+            moveBy(&item, {corner.x() + (sampleWidth - 1.5) / 2, middle});
+            pen.add(item.shape);
         }
-        if (entry.line)
-            pen.line({corner.x(), middle}, {corner.x() + sampleWidth - 1.5, middle}, *entry.line);
-        if (!entry.line && !entry.mark.isEmpty())
+        if (entry.sample.isEmpty() && !entry.mark.isEmpty())
             pen.text({corner.x(), middle + entrySize * halfOfCapital}, entry.mark, entrySize, true);
         const double size = entry.isHeading ? headingSize : entrySize;
         QPointF position(corner.x() + indent(entry), middle + size * halfOfCapital);
         for (const QString &line : lines) {
-            const QString shown = entry.line && !entry.mark.isEmpty() ? entry.mark + QLatin1Char(' ') + line : line;
+            const QString shown =
+                !entry.sample.isEmpty() && !entry.mark.isEmpty() ? entry.mark + QLatin1Char(' ') + line : line;
             pen.text(position, shown, size, entry.isHeading);
             position.ry() += entryHeight;
         }
