@@ -77,7 +77,7 @@ public:
         m_plan.name = m_floor.id;
     }
 
-    FloorPlan build()
+    PlanContent build()
     {
         addPicture();
         addRooms();
@@ -462,9 +462,6 @@ private:
 
     // What stands beside the plan
 
-    static ColumnEntry heading(const QString &text) { return {true, {}, {}, text}; }
-    static ColumnEntry entry(const QString &mark, const QString &text) { return {false, {}, mark, text}; }
-
     void addLegend()
     {
         QVector<ColumnEntry> &legend = m_plan.legend;
@@ -475,7 +472,8 @@ private:
             if (!m_uses.contains(use))
                 continue;
             const SceneSymbol symbol{SceneSymbol::PortUse, use, squareAround({}, sampleSize)};
-            legend.append({false, {symbol}, {}, QStringLiteral("%1 (%2)").arg(name).arg(m_uses.value(use))});
+            legend.append(
+                ColumnEntry::explaining({symbol}, QStringLiteral("%1 (%2)").arg(name).arg(m_uses.value(use))));
         }
         const QVector<ColorGroup> &groups = m_context.palette.groups();
         for (int i = 0; i < groups.size(); ++i) {
@@ -485,32 +483,26 @@ private:
                 legend.append({false, {line}, group.mark, DrawingText::tr("Cables: %1").arg(group.name)});
         }
         if (m_hasPoints)
-            legend.append({false, {pointShape({})}, {}, DrawingText::tr("Point on the way of cables")});
+            legend.append(ColumnEntry::explaining({pointShape({})}, DrawingText::tr("Point on the way of cables")));
         if (m_hasRuns)
-            legend.append({false, runShapes(squareAround({}, sampleSize)), {}, DrawingText::tr("Vertical run")});
+            legend.append(
+                ColumnEntry::explaining(runShapes(squareAround({}, sampleSize)), DrawingText::tr("Vertical run")));
         if (!legend.isEmpty())
-            legend.prepend(heading(DrawingText::tr("Legend")));
+            legend.prepend(ColumnEntry::heading(DrawingText::tr("Legend")));
     }
 
     void addLists()
     {
         if (!m_numbered.isEmpty())
-            m_plan.lists.append(heading(DrawingText::tr("Numbers on the plan")));
+            m_plan.lists.append(ColumnEntry::heading(DrawingText::tr("Numbers on the plan")));
         for (int i = 0; i < m_numbered.size(); ++i)
-            m_plan.lists.append(entry(QString::number(i + 1), m_numbered.at(i).join(QLatin1String(", "))));
-        addListWithoutPlace(DrawingText::tr("Rooms without a place"), m_roomsWithoutPlace);
-        addListWithoutPlace(DrawingText::tr("Ports without a place"), m_portsWithoutPlace);
-        addListWithoutPlace(DrawingText::tr("Vertical runs without a place"), m_runsWithoutPlace);
-        addListWithoutPlace(DrawingText::tr("Points without a place"), m_pointsWithoutPlace);
-        addListWithoutPlace(DrawingText::tr("Texts without a place"), m_textsWithoutPlace);
-    }
-
-    void addListWithoutPlace(const QString &title, const QStringList &names)
-    {
-        if (!names.isEmpty())
-            m_plan.lists.append(heading(title));
-        for (const QString &name : names)
-            m_plan.lists.append(entry({}, name));
+            m_plan.lists.append(
+                ColumnEntry::listed(QString::number(i + 1), m_numbered.at(i).join(QLatin1String(", "))));
+        addListWithoutPlace(&m_plan, DrawingText::tr("Rooms without a place"), m_roomsWithoutPlace);
+        addListWithoutPlace(&m_plan, DrawingText::tr("Ports without a place"), m_portsWithoutPlace);
+        addListWithoutPlace(&m_plan, DrawingText::tr("Vertical runs without a place"), m_runsWithoutPlace);
+        addListWithoutPlace(&m_plan, DrawingText::tr("Points without a place"), m_pointsWithoutPlace);
+        addListWithoutPlace(&m_plan, DrawingText::tr("Texts without a place"), m_textsWithoutPlace);
     }
 
     const PlanContext &m_context;
@@ -518,7 +510,7 @@ private:
     const int m_number;
     const snapshot::Floor &m_floor;
     const QVector<CableWay> m_ways;
-    FloorPlan m_plan;
+    PlanContent m_plan;
 
     // What labels have to avoid
     QVector<QRectF> m_obstacles;
@@ -546,7 +538,7 @@ private:
 
 } // namespace
 
-FloorPlan planOf(const PlanContext &context, int floor)
+PlanContent planOf(const PlanContext &context, int floor)
 {
     return FloorPlanBuilder(context, floor).build();
 }

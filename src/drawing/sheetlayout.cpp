@@ -1,6 +1,7 @@
 #include "sheetlayout.h"
 
 #include "drawingtext.h"
+#include "sheetpen.h"
 #include "units.h"
 
 #include <QtGui/QImage>
@@ -28,63 +29,8 @@ constexpr double padding = 3.0;
 
 constexpr int maximumTiles = 1000;
 
-const QColor dimColor(0x5a, 0x5a, 0x5a);
 const QColor tileColor(0xc6, 0x28, 0x28);
-const LineStyle thinLine{QColor(Qt::black), 0.2, LineStyle::Solid};
 const LineStyle frameLine{QColor(Qt::black), 0.5, LineStyle::Solid};
-
-/// Adds shapes to the layer of the sheet.
-class SheetPen
-{
-public:
-    SheetPen(Scene *sheet, const TextMeasure &measure)
-        : m_sheet(sheet)
-        , m_measure(measure)
-    {
-    }
-
-    void add(const SceneShape &shape) { addToSheet(m_sheet, shape); }
-
-    void line(const QPointF &from, const QPointF &to, const LineStyle &style = thinLine)
-    {
-        add(SceneLine{{from, to}, style});
-    }
-
-    /// Writes a text at the left end of its baseline. Returns its width.
-    double text(const QPointF &position, const QString &words, double size, bool isBold = false,
-                const QColor &color = Qt::black)
-    {
-        SceneText text;
-        text.text = words;
-        text.position = position;
-        text.size = size;
-        text.isBold = isBold;
-        text.color = color;
-        m_measure.measure(&text);
-        add(text);
-        return text.width;
-    }
-
-    /// Writes a text in the middle of a place.
-    void centeredText(const QPointF &center, const QString &words, double size, bool isBold = false,
-                      const QColor &color = Qt::black)
-    {
-        constexpr double halfOfCapital = 0.36;
-        const double width = m_measure.width(words, size, isBold);
-        text(center + QPointF(-width / 2, size * halfOfCapital), words, size, isBold, color);
-    }
-
-    /// Writes a text that is made smaller if it is wider than the given width.
-    void fittedText(const QPointF &position, const QString &words, double size, double width, bool isBold = false)
-    {
-        const double natural = m_measure.width(words, size, isBold);
-        text(position, words, natural > width ? size * width / natural : size, isBold);
-    }
-
-private:
-    Scene *m_sheet;
-    const TextMeasure &m_measure;
-};
 
 /// Divides a text into lines that are no wider than the given width, at blanks if there are any.
 QStringList wrapped(const TextMeasure &measure, const QString &text, double size, double width)
@@ -174,7 +120,6 @@ private:
     {
         SheetPen pen(sheet, m_measure);
         const double middle = corner.y() + entryHeight / 2;
-        constexpr double halfOfCapital = 0.36;
         for (const SceneShape &shape : entry.sample) {
             SceneItem item{Layer::Sheet, ElementKind::None, {}, {}, shape};
             moveBy(&item, {corner.x() + (sampleWidth - 1.5) / 2, middle});
@@ -263,7 +208,7 @@ void addNorthArrow(Scene *sheet, const QRectF &window, const SheetStyle &style)
 class SheetBuilder
 {
 public:
-    SheetBuilder(const FloorPlan &plan, const SheetStyle &style, int firstPage)
+    SheetBuilder(const PlanContent &plan, const SheetStyle &style, int firstPage)
         : m_plan(plan)
         , m_style(style)
         , m_firstPage(firstPage)
@@ -497,7 +442,7 @@ private:
         m_pages.append(sheet);
     }
 
-    const FloorPlan &m_plan;
+    const PlanContent &m_plan;
     const SheetStyle &m_style;
     const int m_firstPage;
     QSizeF m_paper = m_style.paper;
@@ -526,7 +471,7 @@ void addField(SheetPen *pen, const QRectF &area, const TitleField &field)
 
 void addSmallTitle(SheetPen *pen, const QRectF &area, const TitleBlock &block)
 {
-    const QStringList words{block.floor, block.scale, block.date, block.sheet};
+    const QStringList words{block.subject, block.scale, block.date, block.sheet};
     pen->fittedText(area.bottomLeft() + QPointF(1.0, -1.6), words.join(QStringLiteral(" \u00b7 ")), 2.4,
                     area.width() - 2.0);
     pen->line(area.topLeft(), area.topRight());
@@ -566,7 +511,7 @@ SheetParts::SheetParts(const QSizeF &size)
     list = window;
 }
 
-PlanSheets sheetsWith(const FloorPlan &plan, const SheetStyle &style, int firstPage)
+PlanSheets sheetsWith(const PlanContent &plan, const SheetStyle &style, int firstPage)
 {
     return SheetBuilder(plan, style, firstPage).build();
 }
@@ -590,7 +535,7 @@ void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &mea
     const double half = area.width() / 2;
     const QVector<QVector<TitleField>> rows{
         {{DrawingText::tr("Site"), block.site}},
-        {{DrawingText::tr("Floor"), block.floor}},
+        {{block.kind, block.subject}},
         {{DrawingText::tr("Scale"), block.scale}, {DrawingText::tr("Date"), block.date}},
         {{DrawingText::tr("Revision"), block.revision}, {DrawingText::tr("Sheet"), block.sheet}}};
     double y = head.bottom();

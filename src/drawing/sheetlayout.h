@@ -1,6 +1,8 @@
 #pragma once
 
-#include "floorplan.h"
+#include "drawingfonts.h"
+#include "plancontent.h"
+#include "plandrawing.h"
 
 namespace cabledoc {
 
@@ -34,7 +36,8 @@ struct TitleBlock
     QString contractor;
     QByteArray logo; ///< content of the picture file, or empty
     QString site;
-    QString floor;
+    QString kind;    ///< what the subject is, such as "Floor"
+    QString subject; ///< what the sheet shows
     QString scale;
     QString date;
     QString revision;
@@ -49,7 +52,7 @@ struct PlanSheets
 };
 
 /// Lays a plan out on sheets, without their title blocks. The first sheet is the page with the given number.
-PlanSheets sheetsWith(const FloorPlan &plan, const SheetStyle &style, int firstPage);
+PlanSheets sheetsWith(const PlanContent &plan, const SheetStyle &style, int firstPage);
 
 /// Adds a title block to a sheet.
 void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &measure);

@@ -12,10 +12,10 @@
 #include <algorithm>
 
 using cabledoc::CableColors;
+using cabledoc::DrawingResult;
 using cabledoc::DrawingScale;
 using cabledoc::JobSnapshot;
 using cabledoc::Layer;
-using cabledoc::PlanDrawing;
 using cabledoc::PlanOptions;
 
 namespace {
@@ -189,7 +189,7 @@ ExitCode runPlan(const CommandLine &line)
     const QString wrongFloor = chooseFloor(line, job, format, &options);
     if (!wrongFloor.isEmpty())
         return fail(WrongUsage, line.argument(0), wrongFloor);
-    const PlanDrawing plan = cabledoc::drawFloorPlans(job, options);
+    const DrawingResult plan = cabledoc::drawFloorPlans(job, options);
     for (const QString &warning : plan.warnings) {
         if (!isQuiet())
             printMessage(line.argument(0) + QLatin1String(": ") + warning);
