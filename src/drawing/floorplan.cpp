@@ -2,6 +2,7 @@
 
 #include "cableways.h"
 #include "drawingtext.h"
+#include "freetextlines.h"
 #include "labelplacement.h"
 #include "portrows.h"
 #include "symbolsizes.h"
@@ -32,19 +33,11 @@ constexpr double dimensionSize = 2.0;
 constexpr double margin = 25.0; // around the elements, for labels
 
 constexpr double maximumIconScale = 3.0;
-constexpr double pointsInAnInch = 72.0;
 
 const QColor wallColor(0x26, 0x26, 0x26);
 const QColor dimColor(0x5a, 0x5a, 0x5a);
 const QColor pointColor(0x40, 0x40, 0x40);
 const QColor leaderColor(0x80, 0x80, 0x80);
-
-QRectF squareAround(const QPointF &center, double size)
-{
-    QRectF area(0.0, 0.0, size, size);
-    area.moveCenter(center);
-    return area;
-}
 
 /// Returns the shape of a point: a small diamond.
 SceneArea pointShape(const QPointF &center)
@@ -324,26 +317,11 @@ private:
         }
     }
 
-    /// Adds a text, line by line. Its position is its top left corner.
     void addText(const snapshot::FreeText &text)
     {
-        constexpr double lineHeight = 1.2;
-        SceneText line;
-        line.size = std::clamp(text.fontSize, 1.0, 1000.0) / pointsInAnInch * millimetersInAnInch;
-        line.isBold = text.bold;
-        line.isItalic = text.italic;
-        line.family = text.fontFamily;
-        line.color.setNamedColor(text.color);
-        if (!line.color.isValid())
-            line.color = Qt::black;
-        line.position = inMillimeters(text.x, text.y) + QPointF(0.0, line.size);
-        const QStringList lines = text.text.split(QLatin1Char('\n'));
-        for (const QString &one : lines) {
-            line.text = one;
-            m_context.measure.measure(&line);
+        for (const SceneText &line : linesOf(text, inMillimeters(text.x, text.y), 1.0, m_context.measure)) {
             add(Layer::Texts, ElementKind::FloorFreeTexts, text.element, {}, line);
             m_obstacles.append(boxOf(line));
-            line.position.ry() += line.size * lineHeight;
         }
     }
 

@@ -96,7 +96,7 @@ PageSetup::PageSetup(const JobSnapshot &job, const DrawingOptions &options, cons
 }
 
 void PageSetup::complete(DrawingResult *result, const QString &kind, const QStringList &subjects,
-                         const QString &scale) const
+                         const QStringList &scales) const
 {
     const TextMeasure measure;
     QVector<Scene> &pages = result->drawing.pages;
@@ -106,12 +106,12 @@ void PageSetup::complete(DrawingResult *result, const QString &kind, const QStri
     block.logo = logo(&result->warnings);
     block.site = joined({site.company, site.address.fields().city, site.jobID});
     block.kind = kind;
-    block.scale = scale;
     block.date = (m_options.date.isValid() ? m_options.date : drawingTime().date()).toString(Qt::ISODate);
     block.revision = m_options.revision;
     for (int i = 0; i < pages.size(); ++i) {
         const QString number = QStringLiteral("%1/%2").arg(i + 1).arg(pages.size());
         block.subject = subjects.at(i);
+        block.scale = scales.at(i);
         block.sheet = m_options.sheetNumber.isEmpty() ? number
                       : pages.size() == 1             ? m_options.sheetNumber
                                                       : m_options.sheetNumber + QLatin1Char('-') + number;

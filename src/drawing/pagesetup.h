@@ -19,9 +19,10 @@ public:
     /// Returns why nothing can be drawn, or an empty string.
     const QString &problem() const { return m_problem; }
     const QSizeF &paper() const { return m_paper; }
-    /// Completes a drawing: adds the title blocks, the title and the author. There is a subject for each page. The kind
-    /// says what the subjects are, such as "Floor".
-    void complete(DrawingResult *result, const QString &kind, const QStringList &subjects, const QString &scale) const;
+    /// Completes a drawing: adds the title blocks, the title and the author. There is a subject and a scale
+    /// for each page. The kind says what the subjects are, such as "Floor".
+    void complete(DrawingResult *result, const QString &kind, const QStringList &subjects,
+                  const QStringList &scales) const;
 
 private:
     QByteArray logo(QStringList *warnings) const;

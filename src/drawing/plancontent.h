@@ -33,6 +33,14 @@ struct PlanContent
     QStringList warnings;
 };
 
+/// Returns a square with the given centre.
+inline QRectF squareAround(const QPointF &center, double size)
+{
+    QRectF area(0.0, 0.0, size, size);
+    area.moveCenter(center);
+    return area;
+}
+
 /// Adds a list of the elements that have no place on the plan, if there are any.
 inline void addListWithoutPlace(PlanContent *plan, const QString &title, const QStringList &names)
 {

@@ -40,8 +40,7 @@ public:
             return std::move(m_result);
         }
         m_result.drawing.title = titleOf(m_job, DrawingText::tr("Floor plans"));
-        m_setup.complete(&m_result, DrawingText::tr("Floor"), m_subjects,
-                         m_scale.exists() ? m_scale.text() : DrawingText::tr("None"));
+        m_setup.complete(&m_result, DrawingText::tr("Floor"), m_subjects, m_scales);
         return std::move(m_result);
     }
 
@@ -58,8 +57,10 @@ private:
         m_result.error = sheets.error;
         m_result.warnings += plan.warnings;
         m_result.drawing.pages += sheets.pages;
-        for (int i = 0; i < sheets.pages.size(); ++i)
+        for (int i = 0; i < sheets.pages.size(); ++i) {
             m_subjects.append(m_job.floors().at(floor).id);
+            m_scales.append(m_scale.exists() ? m_scale.text() : DrawingText::tr("None"));
+        }
     }
 
     const JobSnapshot &m_job;
@@ -71,6 +72,7 @@ private:
     const TextMeasure m_measure;
     DrawingResult m_result;
     QStringList m_subjects;
+    QStringList m_scales;
 };
 
 } // namespace

@@ -511,6 +511,11 @@ SheetParts::SheetParts(const QSizeF &size)
     list = window;
 }
 
+QSizeF roomForPlan(const QSizeF &paper)
+{
+    return SheetParts(paper).window.size() - QSizeF(2.0 * planMargin, 2.0 * planMargin);
+}
+
 PlanSheets sheetsWith(const PlanContent &plan, const SheetStyle &style, int firstPage)
 {
     return SheetBuilder(plan, style, firstPage).build();

@@ -20,6 +20,9 @@ struct SheetParts
     bool isSmall;
 };
 
+/// Returns the size of the largest plan that fits on a sheet of the given size.
+QSizeF roomForPlan(const QSizeF &paper);
+
 /// How sheets are laid out.
 struct SheetStyle
 {
