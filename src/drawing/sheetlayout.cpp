@@ -179,6 +179,7 @@ void addScaleBar(Scene *sheet, const QRectF &area, const SheetStyle &style)
         return;
     constexpr double millimetersInAMeter = 1000.0;
     SheetPen pen(sheet, style.measure);
+    pen.line(area.topLeft(), area.topRight());
     const double width = area.width() - 14.0;
     const QPointF corner = area.topLeft() + QPointF(padding, 4.0);
     addBar(&pen, corner, width, {QStringLiteral("m"), millimetersInAMeter / style.scale.factor});
@@ -222,6 +223,8 @@ public:
     {
         if (m_style.overflow == PlanOptions::Grow)
             grow();
+        if (!m_style.scale.exists())
+            m_parts.column.setBottom(m_parts.bar.bottom()); // no scale bar
         // Each sheet has the legend, unless it takes too much room for that.
         m_repeatsLegend =
             !m_parts.isSmall
@@ -281,7 +284,6 @@ private:
     /// Adds what belongs to a plan that is to scale.
     void addMeasures(Scene *sheet) const
     {
-        SheetPen(sheet, m_style.measure).line(m_parts.bar.topLeft(), m_parts.bar.topRight());
         addScaleBar(sheet, m_parts.bar, m_style);
         addNorthArrow(sheet, m_parts.window, m_style);
     }

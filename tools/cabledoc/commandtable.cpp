@@ -1,12 +1,13 @@
 #include "command.h"
+#include "drawingfiles.h"
 
 #include <cabledoc/tablekind.h>
 
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
-Run runCables, runCheck, runConvert, runCopy, runExport, runFind, runFree, runGet, runHelp, runImport, runInfo, runList,
-    runNew, runPlan, runResultsExport, runResultsImport, runResultsStatus, runScheduleExport, runScheduleImport, runSet,
-    runTableExport, runTableImport, runTotals, runTrace;
+Run runCables, runCheck, runConvert, runCopy, runCurves, runExport, runFind, runFree, runGet, runHelp, runImport,
+    runInfo, runList, runNew, runPlan, runResultsExport, runResultsImport, runResultsStatus, runScheduleExport,
+    runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -38,6 +39,9 @@ const QVector<Command> &commands()
                                      Program::tr("Save the changed job as this file, or to standard output if it is "
                                                  "\"-\". FILE.job stays as it is.")};
     static const Parameter overwrite{"[--overwrite]", Program::tr("Replace the file that is written if it exists.")};
+    static const Parameter drawing{"-o, --output NEW",
+                                   Program::tr("The drawing to write: a file whose name ends in .pdf, .svg or .png, or "
+                                               "\"-\" to write SVG to standard output.")};
     static const QString newFile = Program::tr("The file to write, or \"-\" for standard output.");
 
     static const Parameter file{"FILE",
@@ -226,34 +230,36 @@ const QVector<Command> &commands()
                      "Cables of unknown length and cables that are longer than a coil are listed apart."),
          runTotals},
         {"plan",
-         {jobFile,
-          {"-o, --output NEW",
-           Program::tr("The drawing to write: a file whose name ends in .pdf, .svg or .png, or \"-\" to write SVG to "
-                       "standard output.")},
-          {"[--floor FLOOR]", Program::tr("The floor to draw. By default, a PDF file has all floors.")},
-          {"[--scale SCALE]", Program::tr("The scale, such as 1:100 or 1in=20ft. By default, it is that of the job.")},
-          {"[--paper NAME]", Program::tr("The paper size, such as A1 or Tabloid. By default, it is that of the job.")},
-          {"[--orientation NAME]", Program::tr("How the paper lies: portrait or landscape.")},
-          {"[--layers NAMES]",
-           Program::tr("The layers to draw, separated by commas: background, rooms, cables, points, vertical-runs, "
-                       "ports, texts and labels. All of them by default.")},
-          {"[--color-by WHAT]",
-           Program::tr("What gives cables their colours: cable, type (the default), use, bundle or status.")},
-          {"[--dpi N]", Program::tr("The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.")},
-          {"[--north DEGREES]",
-           Program::tr("Draw a north arrow, turned clockwise from the top of the plan by these degrees.")},
-          {"[--revision TEXT]", Program::tr("The revision in the title block.")},
-          {"[--sheet-number TEXT]", Program::tr("The number of the sheet in the title block.")},
-          overwrite,
-          maximumSize},
-         Program::tr("Draw floor plans to scale."),
+         QVector<Parameter>{
+             jobFile,
+             drawing,
+             {"[--floor FLOOR]", Program::tr("The floor to draw. By default, a PDF file has all floors.")},
+             {"[--sheet SHEET]", Program::tr("Draw this sheet with its network devices.")},
+             {"[--sheets]", Program::tr("Draw all sheets with network devices, each on a page of its own.")},
+             {"[--riser]", Program::tr("Draw all floors above each other, with the cables in the vertical runs.")},
+             {"[--scale SCALE]",
+              Program::tr("The scale, such as 1:100 or 1in=20ft. By default, it is that of the job.")},
+             {"[--layers NAMES]",
+              Program::tr("The layers to draw, separated by commas: background, rooms, cables, points, "
+                          "vertical-runs, ports, texts and labels. All of them by default.")},
+             {"[--color-by WHAT]",
+              Program::tr("What gives cables their colours: cable, type (the default), use, bundle or status.")},
+             {"[--north DEGREES]",
+              Program::tr("Draw a north arrow, turned clockwise from the top of the plan by these degrees.")}}
+             + drawingParameters() + QVector<Parameter>{overwrite, maximumSize},
+         Program::tr("Draw floor plans, sheets or the riser."),
          Program::tr(
-             "The plan is never fitted to the paper. In a PDF file, a plan that is larger than the paper is "
+             "A floor plan is never fitted to the paper. In a PDF file, a plan that is larger than the paper is "
              "divided among several sheets that overlap, after one with an overview. In an SVG or PNG file, the "
              "sheet becomes larger than the paper. Labels that do not fit are shortened, moved away with a "
              "leader line, or replaced by a number in a list beside the plan. The environment variable "
              "SOURCE_DATE_EPOCH sets the date."),
          runPlan},
+        {"curves",
+         QVector<Parameter>{jobFile, {"CABLE", Program::tr("The cable, by its name.")}, drawing} + drawingParameters()
+             + QVector<Parameter>{overwrite, maximumSize},
+         Program::tr("Draw the response curves of a cable."),
+         Program::tr("The curves are those of the cable's test: near-end crosstalk, echo and channel."), runCurves},
         {"schedule import",
          {jobFile,
           {"FILE.csv", Program::tr("The cable schedule, a CSV file, or \"-\" for standard input.")},

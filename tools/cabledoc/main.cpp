@@ -75,7 +75,8 @@ ExitCode run(QStringList words)
 /// Returns whether the command line has the name of a command that draws.
 bool isDrawing(int argc, char *argv[])
 {
-    return std::any_of(argv + 1, argv + argc, [](const char *word) { return qstrcmp(word, "plan") == 0; });
+    return std::any_of(argv + 1, argv + argc,
+                       [](const char *word) { return qstrcmp(word, "plan") == 0 || qstrcmp(word, "curves") == 0; });
 }
 
 /// Suppresses warnings.

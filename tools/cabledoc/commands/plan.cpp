@@ -1,53 +1,22 @@
 #include "commandline.h"
 #include "documents.h"
-#include "output.h"
+#include "drawingfiles.h"
 #include "suggestion.h"
 
-#include <cabledoc/drawingwriters.h>
 #include <cabledoc/jobsnapshot.h>
+#include <cabledoc/networkdrawing.h>
 #include <cabledoc/plandrawing.h>
-
-#include <QtCore/QFileInfo>
-
-#include <algorithm>
+#include <cabledoc/riserdrawing.h>
 
 using cabledoc::CableColors;
-using cabledoc::DrawingResult;
+using cabledoc::DrawingOptions;
 using cabledoc::DrawingScale;
 using cabledoc::JobSnapshot;
 using cabledoc::Layer;
+using cabledoc::NetworkOptions;
 using cabledoc::PlanOptions;
 
 namespace {
-
-/// The kinds of files that can be written.
-enum class Format { Unknown, Svg, Pdf, Png };
-
-Format formatOf(const Output &output)
-{
-    static const QStringList extensions{QStringLiteral("svg"), QStringLiteral("pdf"), QStringLiteral("png")};
-    static const QVector<Format> formats{Format::Svg, Format::Pdf, Format::Png};
-    if (output.isStandard())
-        return Format::Svg;
-    const int number = int(extensions.indexOf(QFileInfo(output.fileName).suffix().toLower()));
-    return formats.value(number, Format::Unknown);
-}
-
-/// A value of an option that is one of several words.
-template <typename Value> struct Choice
-{
-    QString word;
-    Value value;
-};
-
-template <typename Value> std::optional<Value> chosen(const QVector<Choice<Value>> &choices, const QString &word)
-{
-    for (const Choice<Value> &choice : choices) {
-        if (choice.word == word)
-            return choice.value;
-    }
-    return std::nullopt;
-}
 
 // Each of these functions reads an option. It returns what is wrong with the option, or an empty text.
 
@@ -58,18 +27,6 @@ QString readScale(const CommandLine &line, PlanOptions *options)
     options->scale = DrawingScale::read(line.value("scale"));
     return options->scale ? QString()
                           : Program::tr("\"%1\" is not a scale such as 1:100 or 1in=20ft").arg(line.value("scale"));
-}
-
-QString readOrientation(const CommandLine &line, PlanOptions *options)
-{
-    static const QVector<Choice<PlanOptions::Orientation>> orientations{
-        {QStringLiteral("portrait"), PlanOptions::Portrait}, {QStringLiteral("landscape"), PlanOptions::Landscape}};
-    if (!line.isSet("orientation"))
-        return {};
-    options->orientation = chosen(orientations, line.value("orientation"));
-    return options->orientation
-               ? QString()
-               : Program::tr("\"%1\" is neither \"portrait\" nor \"landscape\"").arg(line.value("orientation"));
 }
 
 QString readLayers(const CommandLine &line, PlanOptions *options)
@@ -115,87 +72,112 @@ QString readNorth(const CommandLine &line, PlanOptions *options)
                : Program::tr("\"%1\" is not a direction in degrees").arg(line.value("north"));
 }
 
-QString readDpi(const CommandLine &line, int *dpi)
+/// Returns what is wrong with the options of floor plans, or an empty text.
+QString readPlanOptions(const CommandLine &line, PlanOptions *options)
 {
-    constexpr int usual = 150;
-    constexpr int least = 10;
-    constexpr int most = 1200;
-    bool isNumber = true;
-    *dpi = line.isSet("dpi") ? line.value("dpi").toInt(&isNumber) : usual;
-    return isNumber && *dpi >= least && *dpi <= most
-               ? QString()
-               : Program::tr("\"%1\" is not a number of dots to the inch from 10 to 1200").arg(line.value("dpi"));
-}
-
-/// Returns what is wrong with the options, or an empty text.
-QString readOptions(const CommandLine &line, PlanOptions *options, int *dpi)
-{
-    options->paper = line.value("paper");
-    options->revision = line.value("revision");
-    options->sheetNumber = line.value("sheet-number");
-    options->folder = QFileInfo(line.argument(0)).path();
-    for (const auto read : {readScale, readOrientation, readLayers, readColors, readNorth}) {
+    for (const auto read : {readScale, readLayers, readColors, readNorth}) {
         const QString problem = read(line, options);
         if (!problem.isEmpty())
             return problem;
     }
-    return readDpi(line, dpi);
-}
-
-/// Finds the floor that is drawn. Returns what is wrong with the choice, or an empty text.
-QString chooseFloor(const CommandLine &line, const JobSnapshot &job, Format format, PlanOptions *options)
-{
-    QStringList names;
-    for (const cabledoc::snapshot::Floor &floor : job.floors()) {
-        names.append(floor.id);
-        if (line.isSet("floor") && floor.id == line.value("floor"))
-            options->floor = floor.element;
-    }
-    if (line.isSet("floor") && options->floor.isEmpty())
-        return withSuggestion(Program::tr("there is no floor \"%1\"").arg(line.value("floor")),
-                              nearest(line.value("floor"), names));
-    if (job.floors().isEmpty())
-        return Program::tr("the job has no floors");
-    if (options->floor.isEmpty() && format != Format::Pdf && names.size() > 1)
-        return Program::tr("only a PDF file can have several floors; choose one with --floor: %1")
-            .arg(names.join(QLatin1String(", ")));
     return {};
 }
 
-QString write(const cabledoc::Drawing &drawing, Format format, int dpi, const QString &fileName)
+/// Returns which options cannot be used together, or an empty text.
+QString wrongCombination(const CommandLine &line)
 {
-    if (format == Format::Pdf)
-        return cabledoc::writePdf(drawing, fileName);
-    const cabledoc::Scene &page = drawing.pages.constFirst();
-    return format == Format::Svg ? cabledoc::writeSvg(page, fileName) : cabledoc::writePng(page, fileName, dpi);
+    const QVector<const char *> subjects{"floor", "sheet", "sheets", "riser"};
+    QStringList given;
+    for (const char *subject : subjects) {
+        if (line.isSet(subject))
+            given.append(QLatin1String("--") + QLatin1String(subject));
+    }
+    if (given.size() > 1)
+        return Program::tr("%1 and %2 do not go together").arg(given.at(0), given.at(1));
+    const bool isFloorPlan = given.isEmpty() || line.isSet("floor");
+    for (const char *option : {"scale", "layers", "color-by", "north"}) {
+        if (line.isSet(option) && !isFloorPlan)
+            return Program::tr("--%1 is for floor plans only").arg(QLatin1String(option));
+    }
+    return {};
+}
+
+/// Finds the floor or sheet with the name that an option has. Leaves the tag as it is without the option. Returns what
+/// is wrong with the choice, or an empty text.
+template <typename Element>
+QString choose(const CommandLine &line, const char *option, const QVector<Element> &elements, QString *tag)
+{
+    if (!line.isSet(option))
+        return {};
+    QStringList names;
+    for (const Element &element : elements) {
+        names.append(element.id);
+        if (element.id == line.value(option))
+            *tag = element.element;
+    }
+    return tag->isEmpty()
+               ? withSuggestion(Program::tr("there is no %1 \"%2\"").arg(QLatin1String(option), line.value(option)),
+                                nearest(line.value(option), names))
+               : QString();
+}
+
+/// Returns a message if a file that has one page would have to have several.
+template <typename Element>
+QString tooMany(const CommandLine &line, const QString &tag, const char *option, const QVector<Element> &elements)
+{
+    if (elements.isEmpty())
+        return Program::tr("the job has nothing to draw");
+    if (!tag.isEmpty() || elements.size() == 1 || formatOf(line.output()) == DrawingFormat::Pdf)
+        return {};
+    QStringList names;
+    for (const Element &element : elements)
+        names.append(element.id);
+    return Program::tr("only a PDF file can have several pages; choose one with --%1: %2")
+        .arg(QLatin1String(option), names.join(QLatin1String(", ")));
+}
+
+ExitCode drawFloors(const CommandLine &line, const JobSnapshot &job, PlanOptions options, int dpi)
+{
+    QString problem = choose(line, "floor", job.floors(), &options.floor);
+    if (problem.isEmpty())
+        problem = tooMany(line, options.floor, "floor", job.floors());
+    if (!problem.isEmpty())
+        return fail(WrongUsage, line.argument(0), problem);
+    return writeDrawing(line, cabledoc::drawFloorPlans(job, options), dpi);
+}
+
+ExitCode drawSheets(const CommandLine &line, const JobSnapshot &job, const DrawingOptions &general, int dpi)
+{
+    NetworkOptions options;
+    static_cast<DrawingOptions &>(options) = general;
+    QString problem = choose(line, "sheet", job.sheets(), &options.sheet);
+    if (problem.isEmpty())
+        problem = tooMany(line, options.sheet, "sheet", job.sheets());
+    if (!problem.isEmpty())
+        return fail(WrongUsage, line.argument(0), problem);
+    return writeDrawing(line, cabledoc::drawNetwork(job, options), dpi);
 }
 
 } // namespace
 
 ExitCode runPlan(const CommandLine &line)
 {
-    const Format format = formatOf(line.output());
-    if (format == Format::Unknown)
-        return line.usageError(Program::tr("the name of the drawing ends in .pdf, .svg or .png"));
     PlanOptions options;
-    options.overflow = format == Format::Pdf ? PlanOptions::Tile : PlanOptions::Grow;
     int dpi = 0;
-    const QString wrong = readOptions(line, &options, &dpi);
+    QString wrong = readDrawingOptions(line, &options, &dpi);
+    if (wrong.isEmpty())
+        wrong = readPlanOptions(line, &options);
+    if (wrong.isEmpty())
+        wrong = wrongCombination(line);
     if (!wrong.isEmpty())
         return line.usageError(wrong);
+    options.overflow = formatOf(line.output()) == DrawingFormat::Pdf ? PlanOptions::Tile : PlanOptions::Grow;
     JobSnapshot job;
     if (const ExitCode error = readJob(line, &job))
         return error;
-    const QString wrongFloor = chooseFloor(line, job, format, &options);
-    if (!wrongFloor.isEmpty())
-        return fail(WrongUsage, line.argument(0), wrongFloor);
-    const DrawingResult plan = cabledoc::drawFloorPlans(job, options);
-    for (const QString &warning : plan.warnings) {
-        if (!isQuiet())
-            printMessage(line.argument(0) + QLatin1String(": ") + warning);
-    }
-    if (!plan.error.isEmpty())
-        return fail(CannotSave, line.output().fileName, plan.error);
-    return saveDocument(line.output(),
-                        [&](const QString &fileName) { return write(plan.drawing, format, dpi, fileName); });
+    if (line.isSet("riser"))
+        return writeDrawing(line, cabledoc::drawRiser(job, options), dpi);
+    if (line.isSet("sheet") || line.isSet("sheets"))
+        return drawSheets(line, job, options, dpi);
+    return drawFloors(line, job, options, dpi);
 }

@@ -1,0 +1,97 @@
+#include "drawingfiles.h"
+
+#include "commandline.h"
+#include "documents.h"
+#include "output.h"
+
+#include <cabledoc/drawingwriters.h>
+
+#include <QtCore/QFileInfo>
+
+using cabledoc::DrawingOptions;
+using cabledoc::DrawingResult;
+
+namespace {
+
+// Each of these functions reads an option. It returns what is wrong with the option, or an empty text.
+
+QString readOrientation(const CommandLine &line, DrawingOptions *options)
+{
+    static const QVector<Choice<DrawingOptions::Orientation>> orientations{
+        {QStringLiteral("portrait"), DrawingOptions::Portrait},
+        {QStringLiteral("landscape"), DrawingOptions::Landscape}};
+    if (!line.isSet("orientation"))
+        return {};
+    options->orientation = chosen(orientations, line.value("orientation"));
+    return options->orientation
+               ? QString()
+               : Program::tr("\"%1\" is neither \"portrait\" nor \"landscape\"").arg(line.value("orientation"));
+}
+
+QString readDpi(const CommandLine &line, int *dpi)
+{
+    constexpr int usual = 150;
+    constexpr int least = 10;
+    constexpr int most = 1200;
+    bool isNumber = true;
+    *dpi = line.isSet("dpi") ? line.value("dpi").toInt(&isNumber) : usual;
+    return isNumber && *dpi >= least && *dpi <= most
+               ? QString()
+               : Program::tr("\"%1\" is not a number of dots to the inch from 10 to 1200").arg(line.value("dpi"));
+}
+
+QString write(const cabledoc::Drawing &drawing, DrawingFormat format, int dpi, const QString &fileName)
+{
+    if (format == DrawingFormat::Pdf)
+        return cabledoc::writePdf(drawing, fileName);
+    const cabledoc::Scene &page = drawing.pages.constFirst();
+    return format == DrawingFormat::Svg ? cabledoc::writeSvg(page, fileName) : cabledoc::writePng(page, fileName, dpi);
+}
+
+} // namespace
+
+DrawingFormat formatOf(const Output &output)
+{
+    static const QVector<Choice<DrawingFormat>> formats{{QStringLiteral("svg"), DrawingFormat::Svg},
+                                                        {QStringLiteral("pdf"), DrawingFormat::Pdf},
+                                                        {QStringLiteral("png"), DrawingFormat::Png}};
+    if (output.isStandard())
+        return DrawingFormat::Svg;
+    return chosen(formats, QFileInfo(output.fileName).suffix().toLower()).value_or(DrawingFormat::Unknown);
+}
+
+QString readDrawingOptions(const CommandLine &line, DrawingOptions *options, int *dpi)
+{
+    if (formatOf(line.output()) == DrawingFormat::Unknown)
+        return Program::tr("the name of the drawing ends in .pdf, .svg or .png");
+    options->paper = line.value("paper");
+    options->revision = line.value("revision");
+    options->sheetNumber = line.value("sheet-number");
+    options->folder = QFileInfo(line.argument(0)).path();
+    const QString problem = readOrientation(line, options);
+    return problem.isEmpty() ? readDpi(line, dpi) : problem;
+}
+
+ExitCode writeDrawing(const CommandLine &line, const DrawingResult &result, int dpi)
+{
+    for (const QString &warning : result.warnings) {
+        if (!isQuiet())
+            printMessage(line.argument(0) + QLatin1String(": ") + warning);
+    }
+    if (!result.error.isEmpty())
+        return fail(CannotSave, line.output().fileName, result.error);
+    return saveDocument(line.output(), [&](const QString &fileName) {
+        return write(result.drawing, formatOf(line.output()), dpi, fileName);
+    });
+}
+
+QVector<Parameter> drawingParameters()
+{
+    return {
+        {"[--paper NAME]", Program::tr("The paper size, such as A1 or Tabloid. By default, it is that of the job.")},
+        {"[--orientation NAME]", Program::tr("How the paper lies: portrait or landscape.")},
+        {"[--dpi N]", Program::tr("The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.")},
+        {"[--revision TEXT]", Program::tr("The revision in the title block.")},
+        {"[--sheet-number TEXT]", Program::tr("The number of the sheet in the title block.")},
+    };
+}
