@@ -59,7 +59,8 @@ private:
         m_result.drawing.pages += sheets.pages;
         for (int i = 0; i < sheets.pages.size(); ++i) {
             m_subjects.append(m_job.floors().at(floor).id);
-            m_scales.append(m_scale.exists() ? m_scale.text() : DrawingText::tr("None"));
+            const bool isToScale = m_scale.exists() && !(i == 0 && sheets.hasOverview);
+            m_scales.append(isToScale ? m_scale.text() : DrawingText::tr("None"));
         }
     }
 

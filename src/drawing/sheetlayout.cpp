@@ -234,14 +234,14 @@ public:
         const bool fits = m_bounds.width() <= m_parts.window.width() && m_bounds.height() <= m_parts.window.height();
         const QString error = fits ? QString() : divide();
         if (!error.isEmpty())
-            return {{}, error};
+            return {{}, error, false};
         if (fits)
             addWholePlan();
         else
             addTiles();
         while (!m_lists.isAtEnd())
             addListSheet();
-        return {std::move(m_pages), {}};
+        return {std::move(m_pages), {}, !fits};
     }
 
 private:
@@ -327,17 +327,12 @@ private:
         return {};
     }
 
-    /// Returns the part of the plan that a tile shows.
+    /// Returns the part of the plan that a tile shows. All tiles together have the plan in their middle.
     QRectF tile(int column, int row) const
     {
-        // In a direction in which there is one tile, it has the plan in its middle.
-        const QSizeF window = m_parts.window.size();
-        QPointF corner = m_bounds.topLeft();
-        if (m_columns == 1)
-            corner.setX(m_bounds.center().x() - window.width() / 2);
-        if (m_rows == 1)
-            corner.setY(m_bounds.center().y() - window.height() / 2);
-        return {corner + QPointF(step().width() * column, step().height() * row), window};
+        const QSizeF all(step().width() * m_columns + overlap, step().height() * m_rows + overlap);
+        const QPointF corner = m_bounds.center() - QPointF(all.width() / 2, all.height() / 2);
+        return {corner + QPointF(step().width() * column, step().height() * row), m_parts.window.size()};
     }
 
     int pageOfTile(int column, int row) const { return m_firstPage + 1 + row * m_columns + column; }

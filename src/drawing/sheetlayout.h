@@ -52,6 +52,7 @@ struct PlanSheets
 {
     QVector<Scene> pages;
     QString error;
+    bool hasOverview; ///< whether the first page is not to scale
 };
 
 /// Lays a plan out on sheets, without their title blocks. The first sheet is the page with the given number.
