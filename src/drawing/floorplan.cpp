@@ -403,7 +403,7 @@ private:
                 addLabel(placed[std::size_t(i)], names.at(i));
             return;
         }
-        addLabel(placed.front(), names.join(QLatin1String(", ")),
+        addLabel(placed.front(), names.join(QLatin1String("; ")),
                  DrawingText::tr("%1, from left to right: %2")
                      .arg(m_portNames.at(row.constFirst()).section(QLatin1Char('/'), 0, 0), shortList(ids)));
     }
