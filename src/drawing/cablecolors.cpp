@@ -1,6 +1,7 @@
 #include "cablecolors.h"
 
 #include "drawingtext.h"
+#include "qtcompat.h"
 #include "vocabulary.h"
 
 namespace cabledoc {
@@ -13,10 +14,9 @@ const QColor mixedColor(0x5b, 0x2a, 0x86);
 /// Returns the colour with the given name. A name that is no colour gives the colour of what is not known.
 QColor colorNamed(const QString &name)
 {
-    QColor color;
-    color.setNamedColor(name);
-    if (!color.isValid())
+    if (!qtcompat::isColorName(name))
         return unknownColor;
+    QColor color(name);
     color.setAlpha(255);
     return color;
 }

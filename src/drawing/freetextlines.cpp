@@ -1,5 +1,6 @@
 #include "freetextlines.h"
 
+#include "qtcompat.h"
 #include "units.h"
 
 #include <algorithm>
@@ -18,9 +19,8 @@ QVector<SceneText> linesOf(const snapshot::FreeText &text, const QPointF &corner
     line.isBold = text.bold;
     line.isItalic = text.italic;
     line.family = text.fontFamily;
-    line.color.setNamedColor(text.color);
-    if (!line.color.isValid())
-        line.color = Qt::black;
+    if (qtcompat::isColorName(text.color))
+        line.color = QColor(text.color);
     line.position = corner + QPointF(0.0, line.size);
     QVector<SceneText> lines;
     const QStringList words = text.text.split(QLatin1Char('\n'));

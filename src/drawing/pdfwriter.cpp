@@ -3,10 +3,12 @@
 #include "drawingtext.h"
 #include "drawingtime.h"
 #include "drawingwriters.h"
+#include "qtcompat.h"
 #include "scenepainter.h"
 #include "units.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QScopeGuard>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
@@ -35,6 +37,9 @@ QPageLayout layoutOf(const Scene &page)
 /// Returns the pages as a PDF file, or no data if they cannot be painted.
 QByteArray paintedPages(const Drawing &drawing)
 {
+    // QPdfWriter writes fonts in the order of a hash.
+    qtcompat::setHashesOrdered(true);
+    const auto restore = qScopeGuard([] { qtcompat::setHashesOrdered(false); });
     QBuffer content;
     content.open(QIODevice::WriteOnly);
     QPdfWriter writer(&content);

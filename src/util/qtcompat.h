@@ -2,6 +2,7 @@
 
 #include "xmlproblem.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QColor>
@@ -36,6 +37,20 @@ inline bool isColorName(const QString &text)
     return QColor::isValidColorName(text);
 #else
     return QColor::isValidColor(text);
+#endif
+}
+
+/// Makes the order of hashes the same in all processes, or leaves it to chance again. Hashes that exist keep their
+/// order.
+inline void setHashesOrdered(bool areOrdered)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 2, 0)
+    if (areOrdered)
+        QHashSeed::setDeterministicGlobalSeed();
+    else
+        QHashSeed::resetRandomGlobalSeed();
+#else
+    qSetGlobalQHashSeed(areOrdered ? 0 : -1);
 #endif
 }
 
