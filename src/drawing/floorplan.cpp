@@ -457,8 +457,9 @@ private:
         for (int i = 0; i < groups.size(); ++i) {
             const ColorGroup &group = groups.at(i);
             const SceneLine line{{{-sampleSize, 0.0}, {sampleSize, 0.0}}, {group.color, 0.5, group.pattern}};
+            const QString name = group.mark.isEmpty() ? group.name : group.mark + QLatin1Char(' ') + group.name;
             if (m_groups.contains(i))
-                legend.append({false, {line}, group.mark, DrawingText::tr("Cables: %1").arg(group.name)});
+                legend.append(ColumnEntry::explaining({line}, DrawingText::tr("Cables: %1").arg(name)));
         }
         if (m_hasPoints)
             legend.append(ColumnEntry::explaining({pointShape({})}, DrawingText::tr("Point on the way of cables")));

@@ -125,14 +125,12 @@ private:
             moveBy(&item, {corner.x() + (sampleWidth - 1.5) / 2, middle});
             pen.add(item.shape);
         }
-        if (entry.sample.isEmpty() && !entry.mark.isEmpty())
+        if (!entry.mark.isEmpty())
             pen.text({corner.x(), middle + entrySize * halfOfCapital}, entry.mark, entrySize, true);
         const double size = entry.isHeading ? headingSize : entrySize;
         QPointF position(corner.x() + indent(entry), middle + size * halfOfCapital);
         for (const QString &line : lines) {
-            const QString shown =
-                !entry.sample.isEmpty() && !entry.mark.isEmpty() ? entry.mark + QLatin1Char(' ') + line : line;
-            pen.text(position, shown, size, entry.isHeading);
+            pen.text(position, line, size, entry.isHeading);
             position.ry() += entryHeight;
         }
     }

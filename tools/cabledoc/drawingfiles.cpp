@@ -3,8 +3,10 @@
 #include "commandline.h"
 #include "documents.h"
 #include "output.h"
+#include "suggestion.h"
 
 #include <cabledoc/drawingwriters.h>
+#include <cabledoc/settingsstrings.h>
 
 #include <QtCore/QFileInfo>
 
@@ -26,6 +28,24 @@ QString readOrientation(const CommandLine &line, DrawingOptions *options)
     return options->orientation
                ? QString()
                : Program::tr("\"%1\" is neither \"portrait\" nor \"landscape\"").arg(line.value("orientation"));
+}
+
+QString readPaper(const CommandLine &line, DrawingOptions *options)
+{
+    options->paper = line.value("paper");
+    if (!line.isSet("paper"))
+        return {};
+    QStringList names;
+    for (const QString &paper : cabledoc::SettingsStrings::paperSizes()) {
+        const QString name = paper.section(QLatin1Char(':'), 0, 0);
+        for (const QString &known : {name, paper}) {
+            if (known.compare(options->paper, Qt::CaseInsensitive) == 0)
+                return {};
+        }
+        names.append(name);
+    }
+    return withSuggestion(Program::tr("there is no paper size \"%1\"").arg(options->paper),
+                          nearest(options->paper, names));
 }
 
 QString readDpi(const CommandLine &line, int *dpi)
@@ -64,12 +84,15 @@ QString readDrawingOptions(const CommandLine &line, DrawingOptions *options, int
 {
     if (formatOf(line.output()) == DrawingFormat::Unknown)
         return Program::tr("the name of the drawing ends in .pdf, .svg or .png");
-    options->paper = line.value("paper");
     options->revision = line.value("revision");
     options->sheetNumber = line.value("sheet-number");
     options->folder = QFileInfo(line.argument(0)).path();
-    const QString problem = readOrientation(line, options);
-    return problem.isEmpty() ? readDpi(line, dpi) : problem;
+    for (const auto read : {readPaper, readOrientation}) {
+        const QString problem = read(line, options);
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return readDpi(line, dpi);
 }
 
 ExitCode writeDrawing(const CommandLine &line, const DrawingResult &result, int dpi)
