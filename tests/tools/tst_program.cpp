@@ -37,7 +37,7 @@ private:
 private Q_SLOTS:
     void sessions_data()
     {
-        addCases({"cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt",
+        addCases({"cases/drawings.txt", "cases/program.txt", "cases/program-conventions.txt", "cases/program-csv.txt",
                   "cases/program-new.txt", "cases/results.txt", "cases/results-status.txt", "cases/tables.txt",
                   "cases/trace.txt"});
     }
