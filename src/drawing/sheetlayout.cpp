@@ -416,9 +416,12 @@ private:
         shrink.scale(factor, factor);
         shrink.translate(-all.center().x(), -all.center().y());
         for (const SceneItem &item : m_plan.items) {
-            if (const auto *area = std::get_if<SceneArea>(&item.shape); area != nullptr && item.layer == Layer::Rooms)
-                sheet.items.append({item.layer, item.kind, item.tag, item.title,
-                                    SceneArea{shrink.map(area->corners), area->fill, thinLine}});
+            if (item.layer != Layer::Rooms || !std::holds_alternative<SceneArea>(item.shape))
+                continue;
+            SceneItem room = item;
+            SceneArea &area = std::get<SceneArea>(room.shape);
+            area = {shrink.map(area.corners), area.fill, thinLine};
+            sheet.items.append(room);
         }
         SheetPen pen(&sheet, m_style.measure);
         pen.text(m_parts.window.topLeft() + QPointF(6.0, 8.0),
