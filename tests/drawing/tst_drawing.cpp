@@ -31,7 +31,8 @@ public:
     void handleObject(QPDFObjectHandle object) override
     {
         if (!object.isOperator()) {
-            m_operands.push_back(object.isNumber() ? object.getNumericValue() : 0.0);
+            // The number of qpdf would depend on the locale.
+            m_operands.push_back(QByteArray::fromStdString(object.unparse()).toDouble());
             return;
         }
         handleOperator(object.getOperatorValue());
@@ -198,6 +199,7 @@ private Q_SLOTS:
         shell.setWorkingDirectory(m_folder.path());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", CABLEDOC_PROGRAM_FOLDER ":" + environment.value("PATH"));
+        environment.insert("LANGUAGE", "en"); // the tables of the office are in English
         shell.setProcessEnvironment(environment);
         shell.start(CABLEDOC_EXAMPLES "/office/plan.sh", QStringList());
         constexpr int patience = 60000;
