@@ -230,6 +230,7 @@ std::vector<PlacedLabel> LabelPlacement::placeUpright(const QVector<Label> &row,
         boxes.push_back(box);
     }
     std::vector<PlacedLabel> placed;
+    placed.reserve(boxes.size());
     for (int i = 0; i < row.size(); ++i)
         placed.push_back(taken(boxes[std::size_t(i)], row.at(i), settings.at(i)));
     return placed;
