@@ -259,9 +259,16 @@ private:
             }
         }
         shrinkCrowdedSymbols(&symbols);
-        for (int i = 0; i < ports.size(); ++i)
+        const QVector<double> distances = distancesInRow(symbols, rooms);
+        QVector<bool> areCrowded;
+        for (int i = 0; i < ports.size(); ++i) {
             addPort(ports.at(i), symbols.at(i));
-        m_portRows = symbolRows(symbols, rooms);
+            Label &label = m_portLabels.last();
+            const std::optional<double> size = sizeBeside(label, distances.at(i));
+            label.size = size.value_or(label.size);
+            areCrowded.append(!size);
+        }
+        m_portRows = symbolRows(symbols, rooms, areCrowded);
     }
 
     QString fullName(const snapshot::Port &port) const
@@ -283,6 +290,18 @@ private:
         label.text = mark.isEmpty() ? port.id : mark + QLatin1Char(' ') + port.id;
         m_portLabels.append(label);
         m_portNames.append(mark.isEmpty() ? fullName(port) : mark + QLatin1Char(' ') + fullName(port));
+    }
+
+    /// Returns the size of a label that leaves room for the label of a neighbour at the given distance, or nothing if
+    /// labels cannot stand side by side.
+    std::optional<double> sizeBeside(const Label &label, double distance) const
+    {
+        constexpr double apart = 0.8;
+        for (const double size : {labelSize, 1.7, 1.4}) {
+            if (m_context.measure.width(label.text, size) + apart <= distance)
+                return size;
+        }
+        return std::nullopt;
     }
 
     /// Returns the mark of the cables that end at a port, and sets their colour. The mark is empty if their colours
@@ -434,8 +453,10 @@ private:
         if (label.number == 0)
             return;
         if (label.number > m_numbered.size())
-            m_numbered.resize(label.number);
-        m_numbered[label.number - 1].append(explanation.isEmpty() ? name : explanation);
+            m_numbered.append(Numbered{int(m_plan.items.size()) - 1, {}});
+        else
+            m_plan.items[m_numbered.at(label.number - 1).item].title += QLatin1String("; ") + name;
+        m_numbered[label.number - 1].names.append(explanation.isEmpty() ? name : explanation);
     }
 
     // What stands beside the plan
@@ -476,7 +497,7 @@ private:
             m_plan.lists.append(ColumnEntry::heading(DrawingText::tr("Numbers on the plan")));
         for (int i = 0; i < m_numbered.size(); ++i)
             m_plan.lists.append(
-                ColumnEntry::listed(QString::number(i + 1), m_numbered.at(i).join(QLatin1String(", "))));
+                ColumnEntry::listed(QString::number(i + 1), m_numbered.at(i).names.join(QLatin1String(", "))));
         addListWithoutPlace(&m_plan, DrawingText::tr("Rooms without a place"), m_roomsWithoutPlace);
         addListWithoutPlace(&m_plan, DrawingText::tr("Ports without a place"), m_portsWithoutPlace);
         addListWithoutPlace(&m_plan, DrawingText::tr("Vertical runs without a place"), m_runsWithoutPlace);
@@ -507,7 +528,13 @@ private:
     bool m_hasPoints = false;
     bool m_hasRuns = false;
 
-    QVector<QStringList> m_numbered; ///< what the numbers on the plan stand for
+    /// A number on the plan.
+    struct Numbered
+    {
+        int item;          ///< position of the label in the plan
+        QStringList names; ///< what it stands for
+    };
+    QVector<Numbered> m_numbered;
     QStringList m_roomsWithoutPlace;
     QStringList m_portsWithoutPlace;
     QStringList m_runsWithoutPlace;

@@ -78,7 +78,8 @@ QByteArray jobWith(const QByteArray &rooms, const QByteArray &rest = {})
              "height_units=\"1\" custom_height=\"100\"/></ScaleSettings_List></Settings_List></Job>";
 }
 
-/// A floor with 10,000 ports: offices with ports that have room for their labels, and panels with ports that have none.
+/// A floor with 10,000 ports. In each row of rooms, the ports stand closer together than in the row before. Those of the
+/// last row all stand at the same place.
 QByteArray bigFloor()
 {
     QByteArray rooms;
@@ -91,12 +92,12 @@ QByteArray bigFloor()
                      .arg(x)
                      .arg(y)
                      .toUtf8();
-        const int distance = room % 2 == 0 ? 27 : 7;
+        const int distance = QVector<int>{60, 27, 20, 14, 10, 7, 4, 2, 1, 0}.at(room / 10);
         for (int port = 0; port < 100; ++port)
             rooms += QStringLiteral("<Port%1 id=\"Jack %2\" use=\"data\" x=\"%3\" y=\"%4\"/>")
                          .arg(room * 100 + port)
                          .arg(port)
-                         .arg(x + 25 + port % 10 * distance)
+                         .arg(x + 2 + port % 10 * distance)
                          .arg(y + 40 + port / 10 * distance)
                          .toUtf8();
         rooms += QStringLiteral("</Port_List></Room%1>").arg(room).toUtf8();
