@@ -79,7 +79,12 @@ TextMeasure::TextMeasure()
 
 double TextMeasure::width(const QString &text, double size, bool isBold) const
 {
-    return (isBold ? m_bold : m_regular).horizontalAdvance(text) * size / fontPixels;
+    // At the size of fontPixels, the widths of long texts would leave the numbers that Qt reckons with.
+    constexpr int longest = 10000; // characters
+    double pixels = 0.0;
+    for (int i = 0; i < text.size(); i += longest)
+        pixels += (isBold ? m_bold : m_regular).horizontalAdvance(text.mid(i, longest));
+    return pixels * size / fontPixels;
 }
 
 void TextMeasure::measure(SceneText *text) const

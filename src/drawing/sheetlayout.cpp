@@ -32,21 +32,41 @@ constexpr int maximumTiles = 1000;
 const QColor tileColor(0xc6, 0x28, 0x28);
 const LineStyle frameLine{QColor(Qt::black), 0.5, LineStyle::Solid};
 
+/// Adds a word that is wider than a line to lines, as far as it fills them. Returns the rest of it.
+QString broken(const TextMeasure &measure, QString word, double size, double width, QStringList *lines)
+{
+    constexpr int longestLine = 500; // characters
+    while (word.size() > 1 && measure.width(word.left(longestLine), size) > width) {
+        int end = 1;
+        while (measure.width(word.left(end + 1), size) <= width)
+            ++end;
+        lines->append(word.left(end));
+        word.remove(0, end);
+    }
+    return word;
+}
+
 /// Divides a text into lines that are no wider than the given width, at blanks if there are any.
 QStringList wrapped(const TextMeasure &measure, const QString &text, double size, double width)
 {
     QStringList lines;
-    QString rest = text;
-    while (measure.width(rest, size) > width) {
-        int end = int(rest.size()) - 1;
-        while (end > 1 && measure.width(rest.left(end), size) > width)
-            --end;
-        const int blank = int(rest.lastIndexOf(QLatin1Char(' '), end));
-        const int cut = blank > 0 ? blank : end;
-        lines.append(rest.left(cut));
-        rest = rest.mid(cut).trimmed();
+    QString line;
+    double lineWidth = 0.0;
+    const double blank = measure.width(QStringLiteral(" "), size);
+    const QStringList words = text.split(QLatin1Char(' '));
+    for (const QString &word : words) {
+        const double wordWidth = measure.width(word, size);
+        if (!line.isEmpty() && lineWidth + blank + wordWidth <= width) {
+            line += QLatin1Char(' ') + word;
+            lineWidth += blank + wordWidth;
+            continue;
+        }
+        if (!line.isEmpty())
+            lines.append(line);
+        line = broken(measure, word, size, width, &lines);
+        lineWidth = measure.width(line, size);
     }
-    lines.append(rest);
+    lines.append(line);
     return lines;
 }
 
@@ -67,7 +87,7 @@ public:
     {
         double height = 0.0;
         for (const ColumnEntry &entry : m_entries)
-            height += heightOf(entry, linesOf(entry, width));
+            height += double(linesOf(entry, width).size()) * entryHeight + spaceBefore(entry);
         return height;
     }
 
@@ -88,21 +108,37 @@ private:
         double y = area.top();
         while (!isAtEnd()) {
             const ColumnEntry &entry = m_entries.at(m_next);
-            const QStringList lines = linesOf(entry, area.width());
-            const double height = heightOf(entry, lines);
-            // An entry that is higher than a whole column is cut off nowhere else.
-            if (y + height > area.bottom() && y > area.top())
+            if (m_lines.isEmpty())
+                m_lines = linesOf(entry, area.width());
+            const double space = spaceBefore(entry);
+            const int fitting = linesThatFit(area.bottom() - y - space, y == area.top());
+            if (fitting == 0)
                 return;
-            write(sheet, entry, lines, QPointF(area.left(), y + height - double(lines.size()) * entryHeight));
-            y += height;
+            y += space;
+            write(sheet, entry, m_lines.mid(m_nextLine, fitting), QPointF(area.left(), y));
+            y += fitting * entryHeight;
+            m_nextLine += fitting;
+            if (m_nextLine < m_lines.size())
+                return;
             ++m_next;
+            m_nextLine = 0;
+            m_lines.clear();
         }
     }
 
-    static double heightOf(const ColumnEntry &entry, const QStringList &lines)
+    /// Returns how many of the lines of the next entry are written into a column with the given height left. A short
+    /// entry is not divided unless the column has nothing else.
+    int linesThatFit(double height, bool isColumnEmpty) const
     {
-        return double(lines.size()) * entryHeight + (entry.isHeading ? padding : 0.0);
+        constexpr int shortEntry = 6;
+        const int left = int(m_lines.size()) - m_nextLine;
+        const int room = std::max(int(height / entryHeight), isColumnEmpty ? 1 : 0);
+        if (left <= room)
+            return left;
+        return left > shortEntry || isColumnEmpty ? room : 0;
     }
+
+    static double spaceBefore(const ColumnEntry &entry) { return entry.isHeading ? padding : 0.0; }
 
     QStringList linesOf(const ColumnEntry &entry, double width) const
     {
@@ -120,12 +156,13 @@ private:
     {
         SheetPen pen(sheet, m_measure);
         const double middle = corner.y() + entryHeight / 2;
-        for (const SceneShape &shape : entry.sample) {
+        const bool isBegin = m_nextLine == 0;
+        for (const SceneShape &shape : isBegin ? entry.sample : QVector<SceneShape>()) {
             SceneItem item{Layer::Sheet, ElementKind::None, {}, {}, shape};
             moveBy(&item, {corner.x() + (sampleWidth - 1.5) / 2, middle});
             pen.add(item.shape);
         }
-        if (!entry.mark.isEmpty())
+        if (isBegin && !entry.mark.isEmpty())
             pen.text({corner.x(), middle + entrySize * halfOfCapital}, entry.mark, entrySize, true);
         const double size = entry.isHeading ? headingSize : entrySize;
         QPointF position(corner.x() + indent(entry), middle + size * halfOfCapital);
@@ -138,6 +175,8 @@ private:
     QVector<ColumnEntry> m_entries;
     const TextMeasure &m_measure;
     int m_next = 0;
+    QStringList m_lines; ///< of the next entry, if it was begun
+    int m_nextLine = 0;
 };
 
 /// The lengths that a scale bar shows.

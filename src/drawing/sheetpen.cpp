@@ -9,6 +9,8 @@ void SheetPen::line(const QPointF &from, const QPointF &to, const LineStyle &sty
 
 double SheetPen::text(const QPointF &position, const QString &words, double size, bool isBold, const QColor &color)
 {
+    if (words.isEmpty())
+        return 0.0;
     SceneText text;
     text.text = words;
     text.position = position;

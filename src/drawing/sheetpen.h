@@ -21,7 +21,7 @@ public:
 
     void add(const SceneShape &shape) { addToSheet(m_sheet, shape); }
     void line(const QPointF &from, const QPointF &to, const LineStyle &style = thinLine);
-    /// Writes a text at the left end of its baseline. Returns its width.
+    /// Writes a text at the left end of its baseline. Returns its width. An empty text is not written.
     double text(const QPointF &position, const QString &words, double size, bool isBold = false,
                 const QColor &color = Qt::black);
     /// Writes a text in the middle of a place.

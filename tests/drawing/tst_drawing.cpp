@@ -78,8 +78,8 @@ QByteArray jobWith(const QByteArray &rooms, const QByteArray &rest = {})
              "height_units=\"1\" custom_height=\"100\"/></ScaleSettings_List></Settings_List></Job>";
 }
 
-/// A floor with 10,000 ports. In each row of rooms, the ports stand closer together than in the row before. Those of the
-/// last row all stand at the same place.
+/// A floor with 10,000 ports. In each row of rooms, the ports stand closer together than in the row before. Those of
+/// the last row all stand at the same place.
 QByteArray bigFloor()
 {
     QByteArray rooms;
@@ -344,6 +344,29 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(overlaps(drawing.pages.constFirst()), QString());
         QCOMPARE(unnamedPorts(job, 0, drawing).join("; "), QString());
+    }
+
+    void longListsGoOnOverSheets()
+    {
+        QByteArray ports;
+        constexpr int count = 10000;
+        for (int port = 0; port < count; ++port)
+            ports += QStringLiteral("<Port%1 id=\"Jack_%2\" x=\"20\" y=\"50\"/>").arg(port).arg(port * 2).toUtf8();
+        const JobSnapshot job =
+            jobOf(jobWith("<Room1 id=\"Lab\" x=\"0\" y=\"0\" width=\"300\" height=\"200\"><Port_List>" + ports
+                          + "</Port_List></Room1>"));
+        PlanOptions options;
+        options.paper = "A4";
+        QSet<QString> words;
+        for (const Scene &page : drawFloorPlans(job, options).drawing.pages) {
+            for (const auto &[item, text] : shapesOf<SceneText>(page, Layer::Sheet)) {
+                QVERIFY2(QRectF(QPointF(), page.size).contains(boxOf(*text)), qPrintable(text->text));
+                for (const QString &word : text->text.split(QRegularExpression("[ ,]+")))
+                    words.insert(word);
+            }
+        }
+        for (int port = 0; port < count; ++port)
+            QVERIFY2(words.contains(QString("Jack_%1").arg(port * 2)), qPrintable(QString::number(port)));
     }
 
     void roomsAreNamedWhereTheirFlagsSay_data()
