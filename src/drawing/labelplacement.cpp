@@ -8,7 +8,9 @@ namespace cabledoc {
 namespace {
 
 constexpr double smallestCell = 3.0; // millimetres
-constexpr std::size_t crowd = 64;
+// So many boxes or lines make a cell so crowded that nothing more is noted.
+constexpr std::size_t crowdOfBoxes = 64;
+constexpr std::size_t crowdOfLines = 16;
 constexpr double gap = 0.4;        // between an anchor and its label
 constexpr double clearance = 0.35; // between labels, which is less than the gap
 constexpr double smallSize = 1.4;  // of fonts where there is little room
@@ -91,7 +93,7 @@ void PlaceGrid::add(const QRectF &box)
     for (int y = row(box.top()); y <= row(box.bottom()); ++y) {
         for (int x = column(box.left()); x <= column(box.right()); ++x) {
             Cell &cell = cellAt(x, y);
-            cell.isFull = cell.isFull || cell.boxes.size() >= crowd;
+            cell.isFull = cell.isFull || cell.boxes.size() >= crowdOfBoxes;
             if (!cell.isFull)
                 cell.boxes.push_back(box);
         }
@@ -103,7 +105,8 @@ void PlaceGrid::add(const QLineF &line)
     const Cell *last = nullptr;
     walk(line, m_cellSize / 2, [&](const QPointF &place) {
         Cell &cell = cellAt(column(place.x()), row(place.y()));
-        if (&cell != last && cell.lines.size() < crowd)
+        cell.isFull = cell.isFull || cell.lines.size() >= crowdOfLines;
+        if (&cell != last && !cell.isFull)
             cell.lines.push_back(line);
         last = &cell;
     });
