@@ -235,6 +235,338 @@
     </message>
 </context>
 <context>
+    <name>Drawing</name>
+    <message>
+        <source>Passed</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Unknown result</source>
+        <translation>Unbekanntes Ergebnis</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Nicht bestanden</translation>
+    </message>
+    <message>
+        <source>No type</source>
+        <translation>Ohne Typ</translation>
+    </message>
+    <message>
+        <source>No use</source>
+        <translation>Ohne Nutzung</translation>
+    </message>
+    <message>
+        <source>No bundle</source>
+        <translation>Ohne Bündel</translation>
+    </message>
+    <message>
+        <source>Several of these</source>
+        <translation>Mehrere davon</translation>
+    </message>
+    <message>
+        <source>No samples</source>
+        <translation>Keine Messpunkte</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>First series</source>
+        <translation>Erste Reihe</translation>
+    </message>
+    <message>
+        <source>Second series</source>
+        <translation>Zweite Reihe</translation>
+    </message>
+    <message>
+        <source>Values of the tester over the numbers of the samples</source>
+        <translation>Werte des Messgeräts über den Nummern der Messpunkte</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>Time: %1</source>
+        <translation>Zeit: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>Stand: %1</translation>
+    </message>
+    <message>
+        <source>Tester: %1</source>
+        <translation>Messgerät: %1</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Version: %1</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Nahnebensprechen</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Echo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>The cable &quot;%1&quot; has no response curves.</source>
+        <translation>Das Kabel &quot;%1&quot; hat keine Messkurven.</translation>
+    </message>
+    <message>
+        <source>Response curves of %1</source>
+        <translation>Messkurven von %1</translation>
+    </message>
+    <message>
+        <source>Response curves</source>
+        <translation>Messkurven</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>Drawings need an application with fonts, which is a QGuiApplication.</source>
+        <translation>Zeichnungen brauchen eine Anwendung mit Schriften, also eine QGuiApplication.</translation>
+    </message>
+    <message>
+        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <translation>Es gibt keine brauchbare Schrift &quot;%1&quot;. Sie gehört zum Paket fonts-dejavu-core.</translation>
+    </message>
+    <message>
+        <source>%1: the background picture %2 cannot be read</source>
+        <translation>%1: das Hintergrundbild %2 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 cables</source>
+        <translation>%1 Kabel</translation>
+    </message>
+    <message>
+        <source>%1 (%2 cables)</source>
+        <translation>%1 (%2 Kabel)</translation>
+    </message>
+    <message>
+        <source>%1, from left to right: %2</source>
+        <translation>%1, von links nach rechts: %2</translation>
+    </message>
+    <message>
+        <source>Unknown use</source>
+        <translation>Unbekannte Nutzung</translation>
+    </message>
+    <message>
+        <source>Cables: %1</source>
+        <translation>Kabel: %1</translation>
+    </message>
+    <message>
+        <source>Point on the way of cables</source>
+        <translation>Punkt am Weg von Kabeln</translation>
+    </message>
+    <message>
+        <source>Vertical run</source>
+        <translation>Steigleitung</translation>
+    </message>
+    <message>
+        <source>Numbers on the plan</source>
+        <translation>Nummern im Plan</translation>
+    </message>
+    <message>
+        <source>Rooms without a place</source>
+        <translation>Räume ohne Platz</translation>
+    </message>
+    <message>
+        <source>Ports without a place</source>
+        <translation>Anschlüsse ohne Platz</translation>
+    </message>
+    <message>
+        <source>Vertical runs without a place</source>
+        <translation>Steigleitungen ohne Platz</translation>
+    </message>
+    <message>
+        <source>Points without a place</source>
+        <translation>Punkte ohne Platz</translation>
+    </message>
+    <message>
+        <source>Texts without a place</source>
+        <translation>Texte ohne Platz</translation>
+    </message>
+    <message>
+        <source>There is no sheet with the tag &quot;%1&quot;.</source>
+        <translation>Es gibt kein Blatt mit der Kennung &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>%1 is reduced to %2, because it is larger than the paper</source>
+        <translation>%1 ist auf %2 verkleinert, weil es größer als das Papier ist</translation>
+    </message>
+    <message>
+        <source>None (%1)</source>
+        <translation>Ohne (%1)</translation>
+    </message>
+    <message>
+        <source>Devices without a place</source>
+        <translation>Geräte ohne Platz</translation>
+    </message>
+    <message>
+        <source>Bends without a place</source>
+        <translation>Knickpunkte ohne Platz</translation>
+    </message>
+    <message>
+        <source>Connections without a way</source>
+        <translation>Verbindungen ohne Weg</translation>
+    </message>
+    <message>
+        <source>Connection of type %1</source>
+        <translation>Verbindung vom Typ %1</translation>
+    </message>
+    <message>
+        <source>There is no paper size &quot;%1&quot;.</source>
+        <translation>Es gibt kein Papierformat &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The page settings of the job give no sheet that can be drawn. Choose a paper.</source>
+        <translation>Die Seiteneinstellungen des Auftrags ergeben kein Blatt, das gezeichnet werden kann. Wählen Sie ein Papier.</translation>
+    </message>
+    <message>
+        <source>the logo %1 cannot be read</source>
+        <translation>das Logo %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The pages cannot be painted.</source>
+        <translation>Die Seiten können nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>There is no floor with the tag &quot;%1&quot;.</source>
+        <translation>Es gibt keine Etage mit der Kennung &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Floor plans</source>
+        <translation>Grundrisse</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>The picture is too large. Choose fewer dots to the inch.</source>
+        <translation>Das Bild ist zu groß. Wählen Sie weniger Punkte je Zoll.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture. Choose fewer dots to the inch.</source>
+        <translation>Für das Bild reicht der Speicher nicht. Wählen Sie weniger Punkte je Zoll.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written as PNG.</source>
+        <translation>Das Bild kann nicht als PNG geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Riser</source>
+        <translation>Steigschema</translation>
+    </message>
+    <message>
+        <source>Rooms: %1</source>
+        <translation>Räume: %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1</source>
+        <translation>Anschlüsse: %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1, cables: %2</source>
+        <translation>Anschlüsse: %1, Kabel: %2</translation>
+    </message>
+    <message>
+        <source>no type</source>
+        <translation>ohne Typ</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Steigleitungen</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 cables</source>
+        <translation>%1: höchstens %2 Kabel</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: %3 cables</source>
+        <translation>Von %1 nach %2: %3 Kabel</translation>
+    </message>
+    <message>
+        <source>Cables between floors without a vertical run: %1</source>
+        <translation>Kabel zwischen Etagen ohne Steigleitung: %1</translation>
+    </message>
+    <message>
+        <source>the riser does not fit on the paper, so the page is larger</source>
+        <translation>das Steigschema passt nicht auf das Papier, deshalb ist die Seite größer</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>%1: list</source>
+        <translation>%1: Liste</translation>
+    </message>
+    <message>
+        <source>%1 would need more than %2 sheets of this paper in this scale.</source>
+        <translation>%1 würde in diesem Maßstab mehr als %2 Blätter dieses Papiers brauchen.</translation>
+    </message>
+    <message>
+        <source>%1: part %2</source>
+        <translation>%1: Teil %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>Blatt %1</translation>
+    </message>
+    <message>
+        <source>Overview of %1, not to scale</source>
+        <translation>Übersicht über %1, nicht maßstäblich</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>Revision</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+</context>
+<context>
     <name>FileValidator</name>
     <message>
         <source>;&lt;&gt;|&amp;?$*&quot;</source>
@@ -1519,6 +1851,134 @@
     <message>
         <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
         <translation>&quot;check&quot; oder &quot;results status&quot; hat etwas gefunden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
+        <translation>&quot;%1&quot; ist kein Maßstab wie 1:100 oder 1in=20ft</translation>
+    </message>
+    <message>
+        <source>there is no layer &quot;%1&quot;</source>
+        <translation>es gibt keine Ebene &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives cables no colours: cable, type, use, bundle or status</source>
+        <translation>&quot;%1&quot; gibt Kabeln keine Farben: cable, type, use, bundle oder status</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a direction in degrees</source>
+        <translation>&quot;%1&quot; ist keine Richtung in Grad</translation>
+    </message>
+    <message>
+        <source>%1 and %2 do not go together</source>
+        <translation>%1 und %2 passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>--%1 is for floor plans only</source>
+        <translation>--%1 ist nur für Grundrisse</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>%1 &quot;%2&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the job has nothing to draw</source>
+        <translation>der Auftrag hat nichts zu zeichnen</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several pages; choose one with --%1: %2</source>
+        <translation>nur eine PDF-Datei kann mehrere Seiten haben; wählen Sie eine mit --%1: %2</translation>
+    </message>
+    <message>
+        <source>The drawing to write: a file whose name ends in .pdf, .svg or .png, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>Die Zeichnung, die geschrieben wird: eine Datei, deren Name auf .pdf, .svg oder .png endet, oder &quot;-&quot;, um SVG in die Standardausgabe zu schreiben.</translation>
+    </message>
+    <message>
+        <source>The floor to draw. By default, a PDF file has all floors.</source>
+        <translation>Die Etage, die gezeichnet wird. Eine PDF-Datei hat sonst alle Etagen.</translation>
+    </message>
+    <message>
+        <source>Draw this sheet with its network devices.</source>
+        <translation>Dieses Blatt mit seinen Netzwerkgeräten zeichnen.</translation>
+    </message>
+    <message>
+        <source>Draw all sheets with network devices, each on a page of its own.</source>
+        <translation>Alle Blätter mit Netzwerkgeräten zeichnen, jedes auf einer eigenen Seite.</translation>
+    </message>
+    <message>
+        <source>Draw all floors above each other, with the cables in the vertical runs.</source>
+        <translation>Alle Etagen übereinander zeichnen, mit den Kabeln in den Steigleitungen.</translation>
+    </message>
+    <message>
+        <source>The scale, such as 1:100 or 1in=20ft. By default, it is that of the job.</source>
+        <translation>Der Maßstab, etwa 1:100 oder 1in=20ft. Sonst gilt der des Auftrags.</translation>
+    </message>
+    <message>
+        <source>The layers to draw, separated by commas: background, rooms, cables, points, vertical-runs, ports, texts and labels. All of them by default.</source>
+        <translation>Die Ebenen, die gezeichnet werden, durch Kommas getrennt: background, rooms, cables, points, vertical-runs, ports, texts und labels. Sonst alle.</translation>
+    </message>
+    <message>
+        <source>What gives cables their colours: cable, type (the default), use, bundle or status.</source>
+        <translation>Was Kabeln ihre Farben gibt: cable (das Kabel selbst), type (der Typ, Vorgabe), use (die Nutzung), bundle (das Bündel) oder status (der Prüfstand).</translation>
+    </message>
+    <message>
+        <source>Draw a north arrow, turned clockwise from the top of the plan by these degrees.</source>
+        <translation>Einen Nordpfeil zeichnen, der um so viel Grad im Uhrzeigersinn von oben im Plan gedreht ist.</translation>
+    </message>
+    <message>
+        <source>Draw floor plans, sheets or the riser.</source>
+        <translation>Grundrisse, Blätter oder das Steigschema zeichnen.</translation>
+    </message>
+    <message>
+        <source>A floor plan is never fitted to the paper. In a PDF file, a plan that is larger than the paper is divided among several sheets that overlap, after one with an overview. In an SVG or PNG file, the sheet becomes larger than the paper. Labels that do not fit are shortened, moved away with a leader line, or replaced by a number in a list beside the plan. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>Ein Grundriss wird nie dem Papier angepasst. In einer PDF-Datei wird ein Plan, der größer als das Papier ist, auf mehrere Blätter verteilt, die sich überlappen, nach einem mit einer Übersicht. In einer SVG- oder PNG-Datei wird das Blatt größer als das Papier. Beschriftungen ohne Platz werden gekürzt, mit einer Bezugslinie versetzt oder durch eine Nummer in einer Liste neben dem Plan ersetzt. Die Umgebungsvariable SOURCE_DATE_EPOCH setzt das Datum.</translation>
+    </message>
+    <message>
+        <source>The cable, by its name.</source>
+        <translation>Das Kabel, mit seinem Namen.</translation>
+    </message>
+    <message>
+        <source>Draw the response curves of a cable.</source>
+        <translation>Die Messkurven eines Kabels zeichnen.</translation>
+    </message>
+    <message>
+        <source>The curves are those of the cable&apos;s test: near-end crosstalk, echo and channel.</source>
+        <translation>Die Kurven sind die der Prüfung des Kabels: Nahnebensprechen, Echo und Kanal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;portrait&quot; nor &quot;landscape&quot;</source>
+        <translation>&quot;%1&quot; ist weder &quot;portrait&quot; noch &quot;landscape&quot;</translation>
+    </message>
+    <message>
+        <source>there is no paper size &quot;%1&quot;</source>
+        <translation>es gibt kein Papierformat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of dots to the inch from 10 to 1200</source>
+        <translation>&quot;%1&quot; ist keine Zahl der Punkte je Zoll von 10 bis 1200</translation>
+    </message>
+    <message>
+        <source>the name of the drawing ends in .pdf, .svg or .png</source>
+        <translation>der Name der Zeichnung endet auf .pdf, .svg oder .png</translation>
+    </message>
+    <message>
+        <source>The paper size, such as A1 or Tabloid. By default, it is that of the job.</source>
+        <translation>Das Papierformat, etwa A1 oder Tabloid. Sonst gilt das des Auftrags.</translation>
+    </message>
+    <message>
+        <source>How the paper lies: portrait or landscape.</source>
+        <translation>Wie das Papier liegt: portrait (hoch) oder landscape (quer).</translation>
+    </message>
+    <message>
+        <source>The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.</source>
+        <translation>Die Punkte je Zoll einer PNG-Datei, von 10 bis 1200. Vorgabe ist 150.</translation>
+    </message>
+    <message>
+        <source>The revision in the title block.</source>
+        <translation>Die Revision im Schriftfeld.</translation>
+    </message>
+    <message>
+        <source>The number of the sheet in the title block.</source>
+        <translation>Die Nummer des Blatts im Schriftfeld.</translation>
     </message>
 </context>
 <context>

@@ -235,6 +235,338 @@
     </message>
 </context>
 <context>
+    <name>Drawing</name>
+    <message>
+        <source>Passed</source>
+        <translation>Superada</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Sin probar</translation>
+    </message>
+    <message>
+        <source>Unknown result</source>
+        <translation>Resultado desconocido</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>No superada</translation>
+    </message>
+    <message>
+        <source>No type</source>
+        <translation>Sin tipo</translation>
+    </message>
+    <message>
+        <source>No use</source>
+        <translation>Sin uso</translation>
+    </message>
+    <message>
+        <source>No bundle</source>
+        <translation>Sin haz</translation>
+    </message>
+    <message>
+        <source>Several of these</source>
+        <translation>Varios de estos</translation>
+    </message>
+    <message>
+        <source>No samples</source>
+        <translation>Sin muestras</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Leyenda</translation>
+    </message>
+    <message>
+        <source>First series</source>
+        <translation>Primera serie</translation>
+    </message>
+    <message>
+        <source>Second series</source>
+        <translation>Segunda serie</translation>
+    </message>
+    <message>
+        <source>Values of the tester over the numbers of the samples</source>
+        <translation>Valores del comprobador sobre los números de las muestras</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prueba</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Tipo: %1</translation>
+    </message>
+    <message>
+        <source>Time: %1</source>
+        <translation>Hora: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Tester: %1</source>
+        <translation>Comprobador: %1</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Versión: %1</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Paradiafonía</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Eco</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>The cable &quot;%1&quot; has no response curves.</source>
+        <translation>El cable &quot;%1&quot; no tiene curvas de respuesta.</translation>
+    </message>
+    <message>
+        <source>Response curves of %1</source>
+        <translation>Curvas de respuesta de %1</translation>
+    </message>
+    <message>
+        <source>Response curves</source>
+        <translation>Curvas de respuesta</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Drawings need an application with fonts, which is a QGuiApplication.</source>
+        <translation>Los dibujos necesitan una aplicación con fuentes, que es una QGuiApplication.</translation>
+    </message>
+    <message>
+        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <translation>No hay ninguna fuente utilizable &quot;%1&quot;. Es parte del paquete fonts-dejavu-core.</translation>
+    </message>
+    <message>
+        <source>%1: the background picture %2 cannot be read</source>
+        <translation>%1: no se puede leer la imagen de fondo %2</translation>
+    </message>
+    <message>
+        <source>%1 cables</source>
+        <translation>%1 cables</translation>
+    </message>
+    <message>
+        <source>%1 (%2 cables)</source>
+        <translation>%1 (%2 cables)</translation>
+    </message>
+    <message>
+        <source>%1, from left to right: %2</source>
+        <translation>%1, de izquierda a derecha: %2</translation>
+    </message>
+    <message>
+        <source>Unknown use</source>
+        <translation>Uso desconocido</translation>
+    </message>
+    <message>
+        <source>Cables: %1</source>
+        <translation>Cables: %1</translation>
+    </message>
+    <message>
+        <source>Point on the way of cables</source>
+        <translation>Punto en el camino de los cables</translation>
+    </message>
+    <message>
+        <source>Vertical run</source>
+        <translation>Montante</translation>
+    </message>
+    <message>
+        <source>Numbers on the plan</source>
+        <translation>Números en el plano</translation>
+    </message>
+    <message>
+        <source>Rooms without a place</source>
+        <translation>Salas sin sitio</translation>
+    </message>
+    <message>
+        <source>Ports without a place</source>
+        <translation>Tomas sin sitio</translation>
+    </message>
+    <message>
+        <source>Vertical runs without a place</source>
+        <translation>Montantes sin sitio</translation>
+    </message>
+    <message>
+        <source>Points without a place</source>
+        <translation>Puntos sin sitio</translation>
+    </message>
+    <message>
+        <source>Texts without a place</source>
+        <translation>Textos sin sitio</translation>
+    </message>
+    <message>
+        <source>There is no sheet with the tag &quot;%1&quot;.</source>
+        <translation>No hay ninguna hoja con la etiqueta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>%1 is reduced to %2, because it is larger than the paper</source>
+        <translation>%1 se reduce a %2 porque es mayor que el papel</translation>
+    </message>
+    <message>
+        <source>None (%1)</source>
+        <translation>Ninguna (%1)</translation>
+    </message>
+    <message>
+        <source>Devices without a place</source>
+        <translation>Dispositivos sin sitio</translation>
+    </message>
+    <message>
+        <source>Bends without a place</source>
+        <translation>Codos sin sitio</translation>
+    </message>
+    <message>
+        <source>Connections without a way</source>
+        <translation>Conexiones sin camino</translation>
+    </message>
+    <message>
+        <source>Connection of type %1</source>
+        <translation>Conexión de tipo %1</translation>
+    </message>
+    <message>
+        <source>There is no paper size &quot;%1&quot;.</source>
+        <translation>No hay ningún tamaño de papel &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The page settings of the job give no sheet that can be drawn. Choose a paper.</source>
+        <translation>Los ajustes de página del trabajo no dan una hoja que se pueda dibujar. Elija un papel.</translation>
+    </message>
+    <message>
+        <source>the logo %1 cannot be read</source>
+        <translation>no se puede leer el logotipo %1</translation>
+    </message>
+    <message>
+        <source>The pages cannot be painted.</source>
+        <translation>No se pueden pintar las páginas.</translation>
+    </message>
+    <message>
+        <source>There is no floor with the tag &quot;%1&quot;.</source>
+        <translation>No hay ninguna planta con la etiqueta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Floor plans</source>
+        <translation>Planos de planta</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Planta</translation>
+    </message>
+    <message>
+        <source>The picture is too large. Choose fewer dots to the inch.</source>
+        <translation>La imagen es demasiado grande. Elija menos puntos por pulgada.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture. Choose fewer dots to the inch.</source>
+        <translation>No hay bastante memoria para la imagen. Elija menos puntos por pulgada.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written as PNG.</source>
+        <translation>La imagen no se puede escribir como PNG.</translation>
+    </message>
+    <message>
+        <source>Riser</source>
+        <translation>Esquema de montantes</translation>
+    </message>
+    <message>
+        <source>Rooms: %1</source>
+        <translation>Salas: %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1</source>
+        <translation>Tomas: %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1, cables: %2</source>
+        <translation>Tomas: %1, cables: %2</translation>
+    </message>
+    <message>
+        <source>no type</source>
+        <translation>sin tipo</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Montantes</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 cables</source>
+        <translation>%1: %2 cables como máximo</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: %3 cables</source>
+        <translation>De %1 a %2: %3 cables</translation>
+    </message>
+    <message>
+        <source>Cables between floors without a vertical run: %1</source>
+        <translation>Cables entre plantas sin montante: %1</translation>
+    </message>
+    <message>
+        <source>the riser does not fit on the paper, so the page is larger</source>
+        <translation>el esquema de montantes no cabe en el papel, por eso la página es mayor</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujo</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>%1: list</source>
+        <translation>%1: lista</translation>
+    </message>
+    <message>
+        <source>%1 would need more than %2 sheets of this paper in this scale.</source>
+        <translation>%1 necesitaría más de %2 hojas de este papel a esta escala.</translation>
+    </message>
+    <message>
+        <source>%1: part %2</source>
+        <translation>%1: parte %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>Hoja %1</translation>
+    </message>
+    <message>
+        <source>Overview of %1, not to scale</source>
+        <translation>Vista general de %1, sin escala</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>Revisión</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+</context>
+<context>
     <name>FileValidator</name>
     <message>
         <source>;&lt;&gt;|&amp;?$*&quot;</source>
@@ -1519,6 +1851,134 @@
     <message>
         <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
         <translation>&quot;check&quot; o &quot;results status&quot; encontró algo mal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
+        <translation>&quot;%1&quot; no es una escala como 1:100 o 1in=20ft</translation>
+    </message>
+    <message>
+        <source>there is no layer &quot;%1&quot;</source>
+        <translation>no hay ninguna capa &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives cables no colours: cable, type, use, bundle or status</source>
+        <translation>&quot;%1&quot; no da colores a los cables: cable, type, use, bundle o status</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a direction in degrees</source>
+        <translation>&quot;%1&quot; no es una dirección en grados</translation>
+    </message>
+    <message>
+        <source>%1 and %2 do not go together</source>
+        <translation>%1 y %2 no van juntos</translation>
+    </message>
+    <message>
+        <source>--%1 is for floor plans only</source>
+        <translation>--%1 es solo para planos de planta</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>no existe %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the job has nothing to draw</source>
+        <translation>el trabajo no tiene nada que dibujar</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several pages; choose one with --%1: %2</source>
+        <translation>solo un archivo PDF puede tener varias páginas; elija una con --%1: %2</translation>
+    </message>
+    <message>
+        <source>The drawing to write: a file whose name ends in .pdf, .svg or .png, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>El dibujo que se escribe: un archivo cuyo nombre termina en .pdf, .svg o .png, o &quot;-&quot; para escribir SVG en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>The floor to draw. By default, a PDF file has all floors.</source>
+        <translation>La planta que se dibuja. Por omisión, un archivo PDF tiene todas las plantas.</translation>
+    </message>
+    <message>
+        <source>Draw this sheet with its network devices.</source>
+        <translation>Dibujar esta hoja con sus dispositivos de red.</translation>
+    </message>
+    <message>
+        <source>Draw all sheets with network devices, each on a page of its own.</source>
+        <translation>Dibujar todas las hojas con dispositivos de red, cada una en su propia página.</translation>
+    </message>
+    <message>
+        <source>Draw all floors above each other, with the cables in the vertical runs.</source>
+        <translation>Dibujar todas las plantas una sobre otra, con los cables de los montantes.</translation>
+    </message>
+    <message>
+        <source>The scale, such as 1:100 or 1in=20ft. By default, it is that of the job.</source>
+        <translation>La escala, como 1:100 o 1in=20ft. Por omisión, es la del trabajo.</translation>
+    </message>
+    <message>
+        <source>The layers to draw, separated by commas: background, rooms, cables, points, vertical-runs, ports, texts and labels. All of them by default.</source>
+        <translation>Las capas que se dibujan, separadas por comas: background, rooms, cables, points, vertical-runs, ports, texts y labels. Por omisión, todas.</translation>
+    </message>
+    <message>
+        <source>What gives cables their colours: cable, type (the default), use, bundle or status.</source>
+        <translation>Qué da color a los cables: cable (el propio cable), type (el tipo, por omisión), use (el uso), bundle (el haz) o status (el estado de la prueba).</translation>
+    </message>
+    <message>
+        <source>Draw a north arrow, turned clockwise from the top of the plan by these degrees.</source>
+        <translation>Dibujar una flecha del norte, girada estos grados en sentido horario desde la parte superior del plano.</translation>
+    </message>
+    <message>
+        <source>Draw floor plans, sheets or the riser.</source>
+        <translation>Dibujar planos de planta, hojas o el esquema de montantes.</translation>
+    </message>
+    <message>
+        <source>A floor plan is never fitted to the paper. In a PDF file, a plan that is larger than the paper is divided among several sheets that overlap, after one with an overview. In an SVG or PNG file, the sheet becomes larger than the paper. Labels that do not fit are shortened, moved away with a leader line, or replaced by a number in a list beside the plan. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>Un plano de planta nunca se ajusta al papel. En un archivo PDF, un plano mayor que el papel se divide en varias hojas que se solapan, tras una con una vista general. En un archivo SVG o PNG, la hoja se hace mayor que el papel. Los rótulos que no caben se acortan, se apartan con una línea de referencia o se sustituyen por un número en una lista junto al plano. La variable de entorno SOURCE_DATE_EPOCH fija la fecha.</translation>
+    </message>
+    <message>
+        <source>The cable, by its name.</source>
+        <translation>El cable, por su nombre.</translation>
+    </message>
+    <message>
+        <source>Draw the response curves of a cable.</source>
+        <translation>Dibujar las curvas de respuesta de un cable.</translation>
+    </message>
+    <message>
+        <source>The curves are those of the cable&apos;s test: near-end crosstalk, echo and channel.</source>
+        <translation>Las curvas son las de la prueba del cable: paradiafonía, eco y canal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;portrait&quot; nor &quot;landscape&quot;</source>
+        <translation>&quot;%1&quot; no es ni &quot;portrait&quot; ni &quot;landscape&quot;</translation>
+    </message>
+    <message>
+        <source>there is no paper size &quot;%1&quot;</source>
+        <translation>no hay ningún tamaño de papel &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of dots to the inch from 10 to 1200</source>
+        <translation>&quot;%1&quot; no es un número de puntos por pulgada de 10 a 1200</translation>
+    </message>
+    <message>
+        <source>the name of the drawing ends in .pdf, .svg or .png</source>
+        <translation>el nombre del dibujo termina en .pdf, .svg o .png</translation>
+    </message>
+    <message>
+        <source>The paper size, such as A1 or Tabloid. By default, it is that of the job.</source>
+        <translation>El tamaño de papel, como A1 o Tabloid. Por omisión, es el del trabajo.</translation>
+    </message>
+    <message>
+        <source>How the paper lies: portrait or landscape.</source>
+        <translation>Cómo está el papel: portrait (vertical) o landscape (horizontal).</translation>
+    </message>
+    <message>
+        <source>The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.</source>
+        <translation>Los puntos por pulgada de un archivo PNG, de 10 a 1200. Por omisión, son 150.</translation>
+    </message>
+    <message>
+        <source>The revision in the title block.</source>
+        <translation>La revisión del cajetín.</translation>
+    </message>
+    <message>
+        <source>The number of the sheet in the title block.</source>
+        <translation>El número de la hoja en el cajetín.</translation>
     </message>
 </context>
 <context>

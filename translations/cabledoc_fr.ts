@@ -235,6 +235,338 @@
     </message>
 </context>
 <context>
+    <name>Drawing</name>
+    <message>
+        <source>Passed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Untested</source>
+        <translation>Non testé</translation>
+    </message>
+    <message>
+        <source>Unknown result</source>
+        <translation>Résultat inconnu</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échoué</translation>
+    </message>
+    <message>
+        <source>No type</source>
+        <translation>Sans type</translation>
+    </message>
+    <message>
+        <source>No use</source>
+        <translation>Sans usage</translation>
+    </message>
+    <message>
+        <source>No bundle</source>
+        <translation>Sans faisceau</translation>
+    </message>
+    <message>
+        <source>Several of these</source>
+        <translation>Plusieurs de ceux-ci</translation>
+    </message>
+    <message>
+        <source>No samples</source>
+        <translation>Aucun échantillon</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>First series</source>
+        <translation>Première série</translation>
+    </message>
+    <message>
+        <source>Second series</source>
+        <translation>Deuxième série</translation>
+    </message>
+    <message>
+        <source>Values of the tester over the numbers of the samples</source>
+        <translation>Valeurs du testeur selon les numéros des échantillons</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Type : %1</translation>
+    </message>
+    <message>
+        <source>Time: %1</source>
+        <translation>Heure : %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>État : %1</translation>
+    </message>
+    <message>
+        <source>Tester: %1</source>
+        <translation>Testeur : %1</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Version : %1</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Paradiaphonie</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Écho</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>The cable &quot;%1&quot; has no response curves.</source>
+        <translation>Le câble &quot;%1&quot; n&apos;a pas de courbes de réponse.</translation>
+    </message>
+    <message>
+        <source>Response curves of %1</source>
+        <translation>Courbes de réponse de %1</translation>
+    </message>
+    <message>
+        <source>Response curves</source>
+        <translation>Courbes de réponse</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Drawings need an application with fonts, which is a QGuiApplication.</source>
+        <translation>Les dessins ont besoin d&apos;une application avec des polices, c&apos;est-à-dire une QGuiApplication.</translation>
+    </message>
+    <message>
+        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <translation>Il n&apos;y a pas de police utilisable &quot;%1&quot;. Elle fait partie du paquet fonts-dejavu-core.</translation>
+    </message>
+    <message>
+        <source>%1: the background picture %2 cannot be read</source>
+        <translation>%1 : l&apos;image de fond %2 est illisible</translation>
+    </message>
+    <message>
+        <source>%1 cables</source>
+        <translation>%1 câbles</translation>
+    </message>
+    <message>
+        <source>%1 (%2 cables)</source>
+        <translation>%1 (%2 câbles)</translation>
+    </message>
+    <message>
+        <source>%1, from left to right: %2</source>
+        <translation>%1, de gauche à droite : %2</translation>
+    </message>
+    <message>
+        <source>Unknown use</source>
+        <translation>Usage inconnu</translation>
+    </message>
+    <message>
+        <source>Cables: %1</source>
+        <translation>Câbles : %1</translation>
+    </message>
+    <message>
+        <source>Point on the way of cables</source>
+        <translation>Point sur le chemin des câbles</translation>
+    </message>
+    <message>
+        <source>Vertical run</source>
+        <translation>Colonne montante</translation>
+    </message>
+    <message>
+        <source>Numbers on the plan</source>
+        <translation>Numéros sur le plan</translation>
+    </message>
+    <message>
+        <source>Rooms without a place</source>
+        <translation>Pièces sans emplacement</translation>
+    </message>
+    <message>
+        <source>Ports without a place</source>
+        <translation>Prises sans emplacement</translation>
+    </message>
+    <message>
+        <source>Vertical runs without a place</source>
+        <translation>Colonnes montantes sans emplacement</translation>
+    </message>
+    <message>
+        <source>Points without a place</source>
+        <translation>Points sans emplacement</translation>
+    </message>
+    <message>
+        <source>Texts without a place</source>
+        <translation>Textes sans emplacement</translation>
+    </message>
+    <message>
+        <source>There is no sheet with the tag &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de feuille avec l&apos;étiquette &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>%1 is reduced to %2, because it is larger than the paper</source>
+        <translation>%1 est réduit à %2, car il est plus grand que le papier</translation>
+    </message>
+    <message>
+        <source>None (%1)</source>
+        <translation>Aucune (%1)</translation>
+    </message>
+    <message>
+        <source>Devices without a place</source>
+        <translation>Appareils sans emplacement</translation>
+    </message>
+    <message>
+        <source>Bends without a place</source>
+        <translation>Coudes sans emplacement</translation>
+    </message>
+    <message>
+        <source>Connections without a way</source>
+        <translation>Liaisons sans chemin</translation>
+    </message>
+    <message>
+        <source>Connection of type %1</source>
+        <translation>Liaison de type %1</translation>
+    </message>
+    <message>
+        <source>There is no paper size &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de format de papier &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The page settings of the job give no sheet that can be drawn. Choose a paper.</source>
+        <translation>Les réglages de page du projet ne donnent pas de feuille que l&apos;on puisse dessiner. Choisissez un papier.</translation>
+    </message>
+    <message>
+        <source>the logo %1 cannot be read</source>
+        <translation>le logo %1 est illisible</translation>
+    </message>
+    <message>
+        <source>The pages cannot be painted.</source>
+        <translation>Les pages ne peuvent pas être dessinées.</translation>
+    </message>
+    <message>
+        <source>There is no floor with the tag &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas d&apos;étage avec l&apos;étiquette &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Floor plans</source>
+        <translation>Plans d&apos;étage</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Étage</translation>
+    </message>
+    <message>
+        <source>The picture is too large. Choose fewer dots to the inch.</source>
+        <translation>L&apos;image est trop grande. Choisissez moins de points par pouce.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture. Choose fewer dots to the inch.</source>
+        <translation>La mémoire ne suffit pas pour l&apos;image. Choisissez moins de points par pouce.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written as PNG.</source>
+        <translation>L&apos;image ne peut pas être écrite en PNG.</translation>
+    </message>
+    <message>
+        <source>Riser</source>
+        <translation>Schéma des colonnes montantes</translation>
+    </message>
+    <message>
+        <source>Rooms: %1</source>
+        <translation>Pièces : %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1</source>
+        <translation>Prises : %1</translation>
+    </message>
+    <message>
+        <source>Ports: %1, cables: %2</source>
+        <translation>Prises : %1, câbles : %2</translation>
+    </message>
+    <message>
+        <source>no type</source>
+        <translation>sans type</translation>
+    </message>
+    <message>
+        <source>Vertical runs</source>
+        <translation>Colonnes montantes</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 cables</source>
+        <translation>%1 : %2 câbles au plus</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: %3 cables</source>
+        <translation>De %1 à %2 : %3 câbles</translation>
+    </message>
+    <message>
+        <source>Cables between floors without a vertical run: %1</source>
+        <translation>Câbles entre étages sans colonne montante : %1</translation>
+    </message>
+    <message>
+        <source>the riser does not fit on the paper, so the page is larger</source>
+        <translation>le schéma des colonnes montantes ne tient pas sur le papier, la page est donc plus grande</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dessin</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>%1: list</source>
+        <translation>%1 : liste</translation>
+    </message>
+    <message>
+        <source>%1 would need more than %2 sheets of this paper in this scale.</source>
+        <translation>%1 demanderait plus de %2 feuilles de ce papier à cette échelle.</translation>
+    </message>
+    <message>
+        <source>%1: part %2</source>
+        <translation>%1 : partie %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>Feuille %1</translation>
+    </message>
+    <message>
+        <source>Overview of %1, not to scale</source>
+        <translation>Vue d&apos;ensemble de %1, sans échelle</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>Révision</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+</context>
+<context>
     <name>FileValidator</name>
     <message>
         <source>;&lt;&gt;|&amp;?$*&quot;</source>
@@ -1519,6 +1851,134 @@
     <message>
         <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
         <translation>&quot;check&quot; ou &quot;results status&quot; a trouvé une anomalie.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
+        <translation>&quot;%1&quot; n&apos;est pas une échelle comme 1:100 ou 1in=20ft</translation>
+    </message>
+    <message>
+        <source>there is no layer &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de calque &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; gives cables no colours: cable, type, use, bundle or status</source>
+        <translation>&quot;%1&quot; ne donne pas de couleurs aux câbles : cable, type, use, bundle ou status</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a direction in degrees</source>
+        <translation>&quot;%1&quot; n&apos;est pas une direction en degrés</translation>
+    </message>
+    <message>
+        <source>%1 and %2 do not go together</source>
+        <translation>%1 et %2 ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>--%1 is for floor plans only</source>
+        <translation>--%1 est réservé aux plans d&apos;étage</translation>
+    </message>
+    <message>
+        <source>there is no %1 &quot;%2&quot;</source>
+        <translation>il n&apos;y a pas de %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the job has nothing to draw</source>
+        <translation>le projet n&apos;a rien à dessiner</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several pages; choose one with --%1: %2</source>
+        <translation>seul un fichier PDF peut avoir plusieurs pages ; choisissez-en une avec --%1 : %2</translation>
+    </message>
+    <message>
+        <source>The drawing to write: a file whose name ends in .pdf, .svg or .png, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>Le dessin à écrire : un fichier dont le nom se termine par .pdf, .svg ou .png, ou &quot;-&quot; pour écrire du SVG sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The floor to draw. By default, a PDF file has all floors.</source>
+        <translation>L&apos;étage à dessiner. Par défaut, un fichier PDF a tous les étages.</translation>
+    </message>
+    <message>
+        <source>Draw this sheet with its network devices.</source>
+        <translation>Dessiner cette feuille avec ses appareils réseau.</translation>
+    </message>
+    <message>
+        <source>Draw all sheets with network devices, each on a page of its own.</source>
+        <translation>Dessiner toutes les feuilles avec des appareils réseau, chacune sur sa propre page.</translation>
+    </message>
+    <message>
+        <source>Draw all floors above each other, with the cables in the vertical runs.</source>
+        <translation>Dessiner tous les étages les uns au-dessus des autres, avec les câbles des colonnes montantes.</translation>
+    </message>
+    <message>
+        <source>The scale, such as 1:100 or 1in=20ft. By default, it is that of the job.</source>
+        <translation>L&apos;échelle, comme 1:100 ou 1in=20ft. Par défaut, c&apos;est celle du projet.</translation>
+    </message>
+    <message>
+        <source>The layers to draw, separated by commas: background, rooms, cables, points, vertical-runs, ports, texts and labels. All of them by default.</source>
+        <translation>Les calques à dessiner, séparés par des virgules : background, rooms, cables, points, vertical-runs, ports, texts et labels. Tous par défaut.</translation>
+    </message>
+    <message>
+        <source>What gives cables their colours: cable, type (the default), use, bundle or status.</source>
+        <translation>Ce qui donne leurs couleurs aux câbles : cable (le câble lui-même), type (le type, par défaut), use (l&apos;usage), bundle (le faisceau) ou status (l&apos;état du test).</translation>
+    </message>
+    <message>
+        <source>Draw a north arrow, turned clockwise from the top of the plan by these degrees.</source>
+        <translation>Dessiner une flèche du nord, tournée de ces degrés dans le sens horaire depuis le haut du plan.</translation>
+    </message>
+    <message>
+        <source>Draw floor plans, sheets or the riser.</source>
+        <translation>Dessiner les plans d&apos;étage, les feuilles ou le schéma des colonnes montantes.</translation>
+    </message>
+    <message>
+        <source>A floor plan is never fitted to the paper. In a PDF file, a plan that is larger than the paper is divided among several sheets that overlap, after one with an overview. In an SVG or PNG file, the sheet becomes larger than the paper. Labels that do not fit are shortened, moved away with a leader line, or replaced by a number in a list beside the plan. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>Un plan d&apos;étage n&apos;est jamais ajusté au papier. Dans un fichier PDF, un plan plus grand que le papier est réparti sur plusieurs feuilles qui se recouvrent, après une vue d&apos;ensemble. Dans un fichier SVG ou PNG, la feuille devient plus grande que le papier. Les noms qui ne tiennent pas sont abrégés, déplacés avec une ligne de repère ou remplacés par un numéro dans une liste à côté du plan. La variable d&apos;environnement SOURCE_DATE_EPOCH fixe la date.</translation>
+    </message>
+    <message>
+        <source>The cable, by its name.</source>
+        <translation>Le câble, par son nom.</translation>
+    </message>
+    <message>
+        <source>Draw the response curves of a cable.</source>
+        <translation>Dessiner les courbes de réponse d&apos;un câble.</translation>
+    </message>
+    <message>
+        <source>The curves are those of the cable&apos;s test: near-end crosstalk, echo and channel.</source>
+        <translation>Les courbes sont celles du test du câble : paradiaphonie, écho et canal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;portrait&quot; nor &quot;landscape&quot;</source>
+        <translation>&quot;%1&quot; n&apos;est ni &quot;portrait&quot; ni &quot;landscape&quot;</translation>
+    </message>
+    <message>
+        <source>there is no paper size &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de format de papier &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of dots to the inch from 10 to 1200</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre de points par pouce de 10 à 1200</translation>
+    </message>
+    <message>
+        <source>the name of the drawing ends in .pdf, .svg or .png</source>
+        <translation>le nom du dessin se termine par .pdf, .svg ou .png</translation>
+    </message>
+    <message>
+        <source>The paper size, such as A1 or Tabloid. By default, it is that of the job.</source>
+        <translation>Le format du papier, comme A1 ou Tabloid. Par défaut, c&apos;est celui du projet.</translation>
+    </message>
+    <message>
+        <source>How the paper lies: portrait or landscape.</source>
+        <translation>L&apos;orientation du papier : portrait ou landscape (paysage).</translation>
+    </message>
+    <message>
+        <source>The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.</source>
+        <translation>Les points par pouce d&apos;un fichier PNG, de 10 à 1200. Par défaut, 150.</translation>
+    </message>
+    <message>
+        <source>The revision in the title block.</source>
+        <translation>La révision dans le cartouche.</translation>
+    </message>
+    <message>
+        <source>The number of the sheet in the title block.</source>
+        <translation>Le numéro de la feuille dans le cartouche.</translation>
     </message>
 </context>
 <context>
