@@ -2,6 +2,8 @@
 
 #include "drawingtext.h"
 #include "qtcompat.h"
+#include "texthash.h"
+#include "verdicts.h"
 #include "vocabulary.h"
 
 namespace cabledoc {
@@ -50,12 +52,12 @@ QVector<ColorGroup> statusGroups()
 Status statusOf(const snapshot::Cable &cable)
 {
     // A cable that has passed within the accuracy of the tester has passed.
-    static const QHash<QString, Status> known{{QStringLiteral("PASS"), Passed},
-                                              {QStringLiteral("PASS*"), Passed},
-                                              {QStringLiteral("FAIL"), Failed},
-                                              {QStringLiteral("UNTESTED"), Untested},
-                                              {QString(), Untested}};
-    return known.value(cable.test.status, Unknown);
+    const QString &status = cable.test.status;
+    if (status == verdicts::Pass || status == verdicts::PassWithinAccuracy)
+        return Passed;
+    if (status == verdicts::Untested || status.isEmpty())
+        return Untested;
+    return status == verdicts::Fail ? Failed : Unknown;
 }
 
 ColorGroup groupFor(const JobSnapshot &job, const snapshot::Cable &cable, CableColors colors)
@@ -82,19 +84,17 @@ CablePalette::CablePalette(const JobSnapshot &job, CableColors colors)
     m_groupOfCable.reserve(job.cables().size());
     if (m_worstCounts)
         m_groups = statusGroups();
-    QHash<QString, int> known;
+    TextMap<int> known;
     for (const snapshot::Cable &cable : job.cables()) {
         if (m_worstCounts) {
             m_groupOfCable.append(statusOf(cable));
             continue;
         }
         const ColorGroup group = groupFor(job, cable, colors);
-        auto found = known.find(group.name);
-        if (found == known.end()) {
-            found = known.insert(group.name, int(m_groups.size()));
+        const auto [found, isNew] = known.try_emplace(group.name, int(m_groups.size()));
+        if (isNew)
             m_groups.append(group);
-        }
-        m_groupOfCable.append(*found);
+        m_groupOfCable.append(found->second);
     }
     m_groups.append({DrawingText::tr("Several of these"), mixedColor});
 }

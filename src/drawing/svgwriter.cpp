@@ -2,9 +2,9 @@
 #include "drawingfonts.h"
 #include "drawingwriters.h"
 #include "scenepainter.h"
+#include "texthash.h"
 #include "vocabulary.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QXmlStreamReader>
 #include <QtCore/QXmlStreamWriter>
@@ -189,7 +189,7 @@ private:
         if (item.tag.isEmpty() || item.kind == ElementKind::None)
             return;
         const QString id = wordOf(item.kind) + QLatin1Char('-') + item.tag;
-        const int uses = ++m_ids[id];
+        const int uses = ++m_ids.try_emplace(id, 0).first.value();
         attribute("id", uses == 1 ? id : QStringLiteral("%1-%2").arg(id).arg(uses));
     }
 
@@ -300,7 +300,7 @@ private:
     const QVector<const SceneItem *> m_items;
     QByteArray m_content;
     QXmlStreamWriter m_svg;
-    QHash<QString, int> m_ids; ///< how often each id is used
+    TextMap<int> m_ids; ///< how often each id is used
 };
 
 } // namespace

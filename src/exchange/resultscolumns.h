@@ -1,6 +1,7 @@
 #pragma once
 
 #include "testdetails.h"
+#include "verdicts.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVector>
@@ -73,13 +74,5 @@ const QVector<ParameterColumn> &parameterColumns();
 
 /// What a table says if a test is not to become the current one.
 inline const QString earlierState = QStringLiteral("earlier");
-
-/// The verdicts that have a meaning.
-namespace verdicts {
-inline const QString Pass = QStringLiteral("PASS");
-inline const QString PassWithinAccuracy = QStringLiteral("PASS*");
-inline const QString Fail = QStringLiteral("FAIL");
-inline const QString Untested = QStringLiteral("UNTESTED");
-} // namespace verdicts
 
 } // namespace cabledoc

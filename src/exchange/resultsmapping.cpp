@@ -9,9 +9,8 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
-#include <QtCore/QSet>
-
 #include <algorithm>
+#include <set>
 
 namespace cabledoc {
 
@@ -74,9 +73,8 @@ private:
             });
         if (!isParameter && !resultsColumnOfName(key))
             return ResultsText::tr("%1: there is no such column").arg(place);
-        if (m_known.contains(heading))
+        if (!m_known.insert(heading).second)
             return ResultsText::tr("%1: another column has the heading \"%2\"").arg(place, excerpt(heading));
-        m_known.insert(heading);
         return insert(place, key, heading, &m_mapping.headings);
     }
 
@@ -97,7 +95,7 @@ private:
     }
 
     ResultsMapping &m_mapping;
-    QSet<QString> m_known; ///< the headings so far
+    std::set<QString> m_known; ///< the headings so far
 };
 
 } // namespace
