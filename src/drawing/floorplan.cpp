@@ -63,7 +63,6 @@ public:
     FloorPlanBuilder(const PlanContext &context, int number)
         : m_context(context)
         , m_job(context.job)
-        , m_number(number)
         , m_floor(context.job.floors().at(number))
         , m_ways(isShown(Layer::Cables) ? waysOnFloor(m_job, number, context.palette) : QVector<CableWay>())
     {
@@ -507,7 +506,6 @@ private:
 
     const PlanContext &m_context;
     const JobSnapshot &m_job;
-    const int m_number;
     const snapshot::Floor &m_floor;
     const QVector<CableWay> m_ways;
     PlanContent m_plan;
