@@ -198,7 +198,7 @@ bool import(JobEditor *job, const QByteArray &table, const ResultsOptions &optio
     for (int index = 0; index < plan.changes().size(); ++index)
         note(plan.changeText(index).toUtf8());
     expect(probe.text() == before, "a plan changes nothing");
-    expect(plan.attachments().isEmpty(), "there are no files in an empty folder");
+    expect(plan.attachments().isEmpty(), "the import names files of an empty folder");
     const bool isPossible = plan.error().isEmpty() && plan.problems().isEmpty();
     expect(isPossible || plan.changes().isEmpty(), "a table that is refused asks for nothing");
     plan.applyTo(*job);

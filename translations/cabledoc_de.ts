@@ -345,7 +345,7 @@
         <translation>Zeichnungen brauchen eine Anwendung mit Schriften, also eine QGuiApplication.</translation>
     </message>
     <message>
-        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <source>The font &quot;%1&quot; cannot be used. It is part of the package fonts-dejavu-core.</source>
         <translation>Es gibt keine brauchbare Schrift &quot;%1&quot;. Sie gehört zum Paket fonts-dejavu-core.</translation>
     </message>
     <message>

@@ -345,7 +345,7 @@
         <translation>Los dibujos necesitan una aplicación con fuentes, que es una QGuiApplication.</translation>
     </message>
     <message>
-        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <source>The font &quot;%1&quot; cannot be used. It is part of the package fonts-dejavu-core.</source>
         <translation>No hay ninguna fuente utilizable &quot;%1&quot;. Es parte del paquete fonts-dejavu-core.</translation>
     </message>
     <message>

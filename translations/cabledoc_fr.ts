@@ -345,7 +345,7 @@
         <translation>Les dessins ont besoin d&apos;une application avec des polices, c&apos;est-à-dire une QGuiApplication.</translation>
     </message>
     <message>
-        <source>There is no usable font &quot;%1&quot;. It is part of the package fonts-dejavu-core.</source>
+        <source>The font &quot;%1&quot; cannot be used. It is part of the package fonts-dejavu-core.</source>
         <translation>Il n&apos;y a pas de police utilisable &quot;%1&quot;. Elle fait partie du paquet fonts-dejavu-core.</translation>
     </message>
     <message>

@@ -13,7 +13,7 @@ namespace {
 const QColor unknownColor(0x8a, 0x8a, 0x8a);
 const QColor mixedColor(0x5b, 0x2a, 0x86);
 
-/// Returns the colour with the given name. A name that is no colour gives the colour of what is not known.
+/// Returns the colour with the given name, or grey if the name is not that of a colour.
 QColor colorNamed(const QString &name)
 {
     if (!qtcompat::isColorName(name))

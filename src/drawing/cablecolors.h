@@ -2,7 +2,6 @@
 
 #include "plandrawing.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QMap>
 
 namespace cabledoc {
@@ -24,9 +23,10 @@ public:
 
     /// Returns the group of the cable at the given position.
     int groupOf(int cable) const { return m_groupOfCable.at(cable); }
-    /// Returns the group that stands for cables of several groups.
+    /// Returns the group of a way that cables of different groups share.
     int mixedGroup() const { return int(m_groups.size()) - 1; }
-    /// Returns the group that stands for cables of the given groups. It is the worst one of test results.
+    /// Returns the group of a way whose cables are in the given groups, which are the keys of the map. This is the worst
+    /// of several groups of test results, and otherwise mixedGroup().
     int groupOfAll(const QMap<int, int> &groups) const;
     const QVector<ColorGroup> &groups() const { return m_groups; }
 

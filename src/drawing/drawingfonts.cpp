@@ -50,7 +50,7 @@ QString loadDrawingFonts()
     const QDir folder(fontFolder());
     for (const QString &name : {QStringLiteral("DejaVuSans.ttf"), QStringLiteral("DejaVuSans-Bold.ttf")}) {
         if (!load(folder.filePath(name)))
-            return DrawingText::tr("There is no usable font \"%1\". It is part of the package fonts-dejavu-core.")
+            return DrawingText::tr("The font \"%1\" cannot be used. It is part of the package fonts-dejavu-core.")
                 .arg(folder.filePath(name));
     }
     areLoaded = true;
@@ -85,6 +85,19 @@ double TextMeasure::width(const QString &text, double size, bool isBold) const
     for (int i = 0; i < text.size(); i += longest)
         pixels += (isBold ? m_bold : m_regular).horizontalAdvance(text.mid(i, longest));
     return pixels * size / fontPixels;
+}
+
+SceneText TextMeasure::text(const QPointF &position, const QString &words, double size, bool isBold,
+                            const QColor &color) const
+{
+    SceneText text;
+    text.text = words;
+    text.position = position;
+    text.size = size;
+    text.isBold = isBold;
+    text.color = color;
+    measure(&text);
+    return text;
 }
 
 void TextMeasure::measure(SceneText *text) const

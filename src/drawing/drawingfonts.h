@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QtCore/QHash>
+#include "scene.h"
+
 #include <QtCore/QString>
 #include <QtGui/QFont>
 #include <QtGui/QFontMetricsF>
 
 namespace cabledoc {
-
-struct SceneText;
 
 /// Size in pixels in which fonts are measured and painted. At this size the widths of texts are the same on all
 /// versions of Qt and at all resolutions.
@@ -33,6 +32,9 @@ public:
 
     /// Returns the width in millimetres of a text in a font of the given size.
     double width(const QString &text, double size, bool isBold = false) const;
+    /// Returns a text with its width.
+    SceneText text(const QPointF &position, const QString &words, double size, bool isBold = false,
+                   const QColor &color = Qt::black) const;
     /// Sets the width of a text.
     void measure(SceneText *text) const;
     /// Returns the text, or its beginning and an ellipsis if it is wider than the given width.

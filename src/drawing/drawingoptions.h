@@ -41,7 +41,7 @@ struct DrawingResult
 {
     /// The drawing. It has no pages if there is an error.
     Drawing drawing;
-    /// Why there is no drawing, or an empty string.
+    /// Why the job could not be drawn, or an empty string if it was drawn.
     QString error;
     /// What is missing in the drawing, such as a background picture that cannot be read.
     QStringList warnings;

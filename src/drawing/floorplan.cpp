@@ -3,8 +3,10 @@
 #include "cableways.h"
 #include "drawingtext.h"
 #include "freetextlines.h"
+#include "jobwords.h"
 #include "labelplacement.h"
 #include "portrows.h"
+#include "sheetpen.h"
 #include "symbolsizes.h"
 #include "units.h"
 #include "vocabulary.h"
@@ -35,7 +37,6 @@ constexpr double margin = 25.0; // around the elements, for labels
 constexpr double maximumIconScale = 3.0;
 
 const QColor wallColor(0x26, 0x26, 0x26);
-const QColor dimColor(0x5a, 0x5a, 0x5a);
 const QColor pointColor(0x40, 0x40, 0x40);
 const QColor leaderColor(0x80, 0x80, 0x80);
 
@@ -136,7 +137,7 @@ private:
         for (int room = m_floor.rooms.first; room < m_floor.rooms.end(); ++room) {
             if (hasPlace(m_job.rooms().at(room)))
                 rooms.append(room);
-            else if (m_job.rooms().at(room).id != QLatin1String("Undefined"))
+            else if (m_job.rooms().at(room).id != words::Undefined)
                 m_roomsWithoutPlace.append(m_job.rooms().at(room).id);
         }
         std::stable_sort(rooms.begin(), rooms.end(),

@@ -221,14 +221,8 @@ private:
     double addText(const QPointF &position, const QString &words, double size, bool isBold = false,
                    const QColor &color = Qt::black, const QColor &background = QColor())
     {
-        SceneText text;
-        text.text = words;
-        text.position = position;
-        text.size = size;
-        text.isBold = isBold;
-        text.color = color;
+        SceneText text = m_measure.text(position, words, size, isBold, color);
         text.background = background;
-        m_measure.measure(&text);
         add(Layer::Labels, ElementKind::None, {}, {}, text);
         return text.width;
     }

@@ -11,13 +11,7 @@ double SheetPen::text(const QPointF &position, const QString &words, double size
 {
     if (words.isEmpty())
         return 0.0;
-    SceneText text;
-    text.text = words;
-    text.position = position;
-    text.size = size;
-    text.isBold = isBold;
-    text.color = color;
-    m_measure.measure(&text);
+    const SceneText text = m_measure.text(position, words, size, isBold, color);
     add(text);
     return text.width;
 }

@@ -7,7 +7,6 @@
 #include "settingsstrings.h"
 #include "testfiles.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QXmlStreamReader>
@@ -337,11 +336,7 @@ private Q_SLOTS:
         const JobSnapshot job = jobOf(bigFloor());
         PlanOptions options;
         options.overflow = PlanOptions::Grow;
-        QElapsedTimer timer;
-        timer.start();
         const Drawing drawing = drawFloorPlans(job, options).drawing;
-        constexpr int patience = 5000; // milliseconds
-        QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(overlaps(drawing.pages.constFirst()), QString());
         QCOMPARE(unnamedPorts(job, 0, drawing).join("; "), QString());
     }

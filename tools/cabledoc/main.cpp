@@ -72,11 +72,12 @@ ExitCode run(QStringList words)
     return command->run(line);
 }
 
-/// Returns whether the command line has the name of a command that draws.
+/// Returns whether the command is one that draws. Only options without values come before its name.
 bool isDrawing(int argc, char *argv[])
 {
-    return std::any_of(argv + 1, argv + argc,
-                       [](const char *word) { return qstrcmp(word, "plan") == 0 || qstrcmp(word, "curves") == 0; });
+    char **const end = argv + argc;
+    char **const command = std::find_if(argv + 1, end, [](const char *word) { return word[0] != '-'; });
+    return command != end && (qstrcmp(*command, "plan") == 0 || qstrcmp(*command, "curves") == 0);
 }
 
 /// Suppresses warnings.

@@ -17,7 +17,7 @@ struct TestParameter
     QString name;
     /// Worst margin in dB.
     QString margin;
-    /// Worst value.
+    /// Worst value in the unit of the parameter, such as dB, or ns for a delay.
     QString value;
     /// Frequency of the worst value in MHz.
     QString frequency;
@@ -127,7 +127,7 @@ struct CableTest
     /// What is known of the test beyond what was measured.
     TestDetails details;
 
-    /// Returns whether nothing was measured: the status is "UNTESTED", and there are no measurements and no details.
+    /// Returns true if the status is "UNTESTED" and the test has no measurements and no details.
     CABLEDOC_EXPORT bool isEmpty() const;
 
     /// Returns true if the results and the details of both tests are equal.

@@ -58,6 +58,8 @@ public:
     {
         for (const QString &file : m_files)
             QFile::remove(file);
+        if (!m_files.isEmpty())
+            QDir().rmdir(QFileInfo(m_files.constFirst()).path()); // unless it has other files
     }
 
     ExitCode store(const QVector<TestAttachment> &attachments, const QString &folder)
@@ -138,7 +140,7 @@ ExitCode printCounts(const CommandLine &line, const ResultsPlan &plan)
         for (int index = 0; index < plan.changes().size(); ++index)
             text += printable(plan.changeText(index)) + QLatin1Char('\n');
     }
-    if (isQuiet() || isDocumentPrinted(line))
+    if (isQuiet() || isDocumentPrinted(line) || line.value("skip-unknown") == standardStream)
         return printText({}, text);
     const ResultsCounts &counts = plan.counts();
     text += Program::tr("passed %1, passed within accuracy %2, failed %3, others %4\n")
@@ -194,10 +196,11 @@ ExitCode runResultsImport(const CommandLine &line)
     }
     const bool isPossible = plan->problems().isEmpty();
     if (isPossible && !isDryRun) {
-        if (const ExitCode error = writeSkippedRows(line, *plan))
-            return error;
         if (!plan->attachments().isEmpty() && isDocumentPrinted(line))
             return line.usageError(Program::tr("the files of the tests cannot be stored beside standard output"));
+        // The job is only changed if it is known which rows are left out.
+        if (const ExitCode error = writeSkippedRows(line, *plan))
+            return error;
         if (!plan->changes().isEmpty() || line.isSet("output")) {
             if (const ExitCode error = apply(line, *plan))
                 return error;
