@@ -25,8 +25,8 @@ public:
     int groupOf(int cable) const { return m_groupOfCable.at(cable); }
     /// Returns the group of a way that cables of different groups share.
     int mixedGroup() const { return int(m_groups.size()) - 1; }
-    /// Returns the group of a way whose cables are in the given groups, which are the keys of the map. This is the worst
-    /// of several groups of test results, and otherwise mixedGroup().
+    /// Returns the group of a way whose cables are in the given groups, which are the keys of the map. This is the
+    /// worst of several groups of test results, and otherwise mixedGroup().
     int groupOfAll(const QMap<int, int> &groups) const;
     const QVector<ColorGroup> &groups() const { return m_groups; }
 

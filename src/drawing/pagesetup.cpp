@@ -3,7 +3,7 @@
 #include "drawingtext.h"
 #include "drawingtime.h"
 #include "papersizes.h"
-#include "sheetlayout.h"
+#include "titleblock.h"
 #include "units.h"
 
 #include <QtCore/QDir>

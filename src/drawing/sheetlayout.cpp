@@ -1,10 +1,10 @@
 #include "sheetlayout.h"
 
 #include "drawingtext.h"
+#include "entryflow.h"
 #include "sheetpen.h"
 #include "units.h"
 
-#include <QtGui/QImage>
 #include <QtGui/QTransform>
 
 #include <algorithm>
@@ -16,168 +16,15 @@ namespace {
 
 // Millimetres
 constexpr double smallSheet = 140.0; // the short side of sheets up to this size
-constexpr double columnWidth = 72.0;
 constexpr double titleHeight = 58.0;
 constexpr double barHeight = 24.0;
 constexpr double overlap = 10.0; // of tiles
 constexpr double planMargin = 3.0;
-constexpr double entrySize = 2.4;
-constexpr double entryHeight = 4.6;
-constexpr double headingSize = 3.0;
-constexpr double sampleWidth = 9.0; // of symbols, lines and numbers before the text of an entry
-constexpr double padding = 3.0;
 
 constexpr int maximumTiles = 1000;
 
 const QColor tileColor(0xc6, 0x28, 0x28);
 const LineStyle frameLine{QColor(Qt::black), 0.5, LineStyle::Solid};
-
-/// Adds a word that is wider than a line to lines, as far as it fills them. Returns the rest of it.
-QString broken(const TextMeasure &measure, QString word, double size, double width, QStringList *lines)
-{
-    constexpr int longestLine = 500; // characters
-    while (word.size() > 1 && measure.width(word.left(longestLine), size) > width) {
-        int end = 1;
-        while (measure.width(word.left(end + 1), size) <= width)
-            ++end;
-        lines->append(word.left(end));
-        word.remove(0, end);
-    }
-    return word;
-}
-
-/// Divides a text into lines that are no wider than the given width, at blanks if there are any.
-QStringList wrapped(const TextMeasure &measure, const QString &text, double size, double width)
-{
-    QStringList lines;
-    QString line;
-    double lineWidth = 0.0;
-    const double blank = measure.width(QStringLiteral(" "), size);
-    const QStringList words = text.split(QLatin1Char(' '));
-    for (const QString &word : words) {
-        const double wordWidth = measure.width(word, size);
-        if (!line.isEmpty() && lineWidth + blank + wordWidth <= width) {
-            line += QLatin1Char(' ') + word;
-            lineWidth += blank + wordWidth;
-            continue;
-        }
-        if (!line.isEmpty())
-            lines.append(line);
-        line = broken(measure, word, size, width, &lines);
-        lineWidth = measure.width(line, size);
-    }
-    lines.append(line);
-    return lines;
-}
-
-/// Writes entries one below the other into columns, as long as there is room. Goes on with the next area after that.
-class EntryFlow
-{
-public:
-    EntryFlow(const QVector<ColumnEntry> &entries, const TextMeasure &measure)
-        : m_entries(entries)
-        , m_measure(measure)
-    {
-    }
-
-    void prepend(const QVector<ColumnEntry> &entries) { m_entries = entries + m_entries; }
-
-    /// Returns the height of a column with all entries.
-    double height(double width) const
-    {
-        double height = 0.0;
-        for (const ColumnEntry &entry : m_entries)
-            height += double(linesOf(entry, width).size()) * entryHeight + spaceBefore(entry);
-        return height;
-    }
-
-    bool isAtEnd() const { return m_next >= m_entries.size(); }
-
-    /// Fills an area with columns of entries.
-    void fill(Scene *sheet, const QRectF &area)
-    {
-        const int columns = std::max(1, int(area.width() / columnWidth));
-        const double width = area.width() / columns;
-        for (int i = 0; i < columns; ++i)
-            fillColumn(sheet, QRectF(area.left() + i * width, area.top(), width, area.height()));
-    }
-
-private:
-    void fillColumn(Scene *sheet, const QRectF &area)
-    {
-        double y = area.top();
-        while (!isAtEnd()) {
-            const ColumnEntry &entry = m_entries.at(m_next);
-            if (m_lines.isEmpty())
-                m_lines = linesOf(entry, area.width());
-            const double space = spaceBefore(entry);
-            const int fitting = linesThatFit(area.bottom() - y - space, y == area.top());
-            if (fitting == 0)
-                return;
-            y += space;
-            write(sheet, entry, m_lines.mid(m_nextLine, fitting), QPointF(area.left(), y));
-            y += fitting * entryHeight;
-            m_nextLine += fitting;
-            if (m_nextLine < m_lines.size())
-                return;
-            ++m_next;
-            m_nextLine = 0;
-            m_lines.clear();
-        }
-    }
-
-    /// Returns how many of the lines of the next entry are written into a column with the given height left. A short
-    /// entry is not divided unless the column has nothing else.
-    int linesThatFit(double height, bool isColumnEmpty) const
-    {
-        constexpr int shortEntry = 6;
-        const int left = int(m_lines.size()) - m_nextLine;
-        const int room = std::max(int(height / entryHeight), isColumnEmpty ? 1 : 0);
-        if (left <= room)
-            return left;
-        return left > shortEntry || isColumnEmpty ? room : 0;
-    }
-
-    static double spaceBefore(const ColumnEntry &entry) { return entry.isHeading ? padding : 0.0; }
-
-    QStringList linesOf(const ColumnEntry &entry, double width) const
-    {
-        if (entry.isHeading)
-            return {entry.text};
-        return wrapped(m_measure, entry.text, entrySize, width - indent(entry) - padding);
-    }
-
-    static double indent(const ColumnEntry &entry)
-    {
-        return entry.sample.isEmpty() && entry.mark.isEmpty() ? 0.0 : sampleWidth;
-    }
-
-    void write(Scene *sheet, const ColumnEntry &entry, const QStringList &lines, const QPointF &corner) const
-    {
-        SheetPen pen(sheet, m_measure);
-        const double middle = corner.y() + entryHeight / 2;
-        const bool isBegin = m_nextLine == 0;
-        for (const SceneShape &shape : isBegin ? entry.sample : QVector<SceneShape>()) {
-            SceneItem item{Layer::Sheet, ElementKind::None, {}, {}, shape};
-            moveBy(&item, {corner.x() + (sampleWidth - 1.5) / 2, middle});
-            pen.add(item.shape);
-        }
-        if (isBegin && !entry.mark.isEmpty())
-            pen.text({corner.x(), middle + entrySize * halfOfCapital}, entry.mark, entrySize, true);
-        const double size = entry.isHeading ? headingSize : entrySize;
-        QPointF position(corner.x() + indent(entry), middle + size * halfOfCapital);
-        for (const QString &line : lines) {
-            pen.text(position, line, size, entry.isHeading);
-            position.ry() += entryHeight;
-        }
-    }
-
-    QVector<ColumnEntry> m_entries;
-    const TextMeasure &m_measure;
-    int m_next = 0;
-    QStringList m_lines; ///< of the next entry, if it was begun
-    int m_nextLine = 0;
-};
 
 /// The lengths that a scale bar shows.
 struct BarUnit
@@ -492,40 +339,6 @@ private:
     QVector<Scene> m_pages;
 };
 
-/// A field of a title block.
-struct TitleField
-{
-    QString name;
-    QString value;
-};
-
-void addField(SheetPen *pen, const QRectF &area, const TitleField &field)
-{
-    pen->add(rectangle(area, QColor(), thinLine));
-    pen->text(area.topLeft() + QPointF(1.5, 2.8), field.name, 1.7, false, dimColor);
-    pen->fittedText(area.topLeft() + QPointF(1.5, 7.2), field.value, 3.0, area.width() - 3.0);
-}
-
-void addSmallTitle(SheetPen *pen, const QRectF &area, const TitleBlock &block)
-{
-    const QStringList words{block.subject, block.scale, block.date, block.sheet};
-    pen->fittedText(area.bottomLeft() + QPointF(1.0, -1.6), words.join(QStringLiteral(" \u00b7 ")), 2.4,
-                    area.width() - 2.0);
-    pen->line(area.topLeft(), area.topRight());
-}
-
-/// Draws the logo at the right of an area, no higher than it. Returns the width that it takes.
-double addLogo(SheetPen *pen, const QRectF &area, const QByteArray &logo)
-{
-    const QSizeF natural = QImage::fromData(logo).size();
-    if (natural.isEmpty())
-        return 0.0;
-    const QSizeF size = natural.scaled({area.width() / 2, area.height()}, Qt::KeepAspectRatio);
-    pen->add(
-        ScenePicture{logo, QRectF(QPointF(area.right() - size.width(), area.center().y() - size.height() / 2), size)});
-    return size.width() + 2.0;
-}
-
 } // namespace
 
 SheetParts::SheetParts(const QSizeF &size)
@@ -556,38 +369,6 @@ QSizeF roomForPlan(const QSizeF &paper)
 PlanSheets sheetsWith(const PlanContent &plan, const SheetStyle &style, int firstPage)
 {
     return SheetBuilder(plan, style, firstPage).build();
-}
-
-void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &measure)
-{
-    const SheetParts parts(sheet->size);
-    SheetPen pen(sheet, measure);
-    if (parts.isSmall) {
-        addSmallTitle(&pen, parts.title, block);
-        return;
-    }
-    constexpr double headHeight = 12.0;
-    constexpr double rowHeight = 9.2;
-    const QRectF &area = parts.title;
-    pen.line(area.topLeft(), area.bottomLeft());
-    pen.line(area.topLeft(), area.topRight());
-    const QRectF head(area.topLeft(), QSizeF(area.width(), headHeight));
-    const double logoWidth = addLogo(&pen, head.marginsRemoved({1.5, 1.5, 1.5, 1.5}), block.logo);
-    pen.fittedText(head.topLeft() + QPointF(1.5, 7.8), block.contractor, 4.0, head.width() - logoWidth - 3.0, true);
-    const double half = area.width() / 2;
-    const QVector<QVector<TitleField>> rows{
-        {{DrawingText::tr("Site"), block.site}},
-        {{block.kind, block.subject}},
-        {{DrawingText::tr("Scale"), block.scale}, {DrawingText::tr("Date"), block.date}},
-        {{DrawingText::tr("Revision"), block.revision}, {DrawingText::tr("Sheet"), block.sheet}}};
-    double y = head.bottom();
-    const double height = std::max(rowHeight, (area.bottom() - y) / double(rows.size()));
-    for (const QVector<TitleField> &row : rows) {
-        const double width = row.size() == 1 ? area.width() : half;
-        for (int i = 0; i < row.size(); ++i)
-            addField(&pen, QRectF(area.left() + i * width, y, width, height), row.at(i));
-        y += height;
-    }
 }
 
 } // namespace cabledoc

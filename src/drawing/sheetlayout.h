@@ -33,20 +33,6 @@ struct SheetStyle
     std::optional<double> north;
 };
 
-/// What a title block says.
-struct TitleBlock
-{
-    QString contractor;
-    QByteArray logo; ///< content of the picture file, or empty
-    QString site;
-    QString kind;    ///< what the subject is, such as "Floor"
-    QString subject; ///< what the sheet shows
-    QString scale;
-    QString date;
-    QString revision;
-    QString sheet;
-};
-
 /// Sheets with a plan, or why there are none.
 struct PlanSheets
 {
@@ -57,8 +43,5 @@ struct PlanSheets
 
 /// Lays a plan out on sheets, without their title blocks. The first sheet is the page with the given number.
 PlanSheets sheetsWith(const PlanContent &plan, const SheetStyle &style, int firstPage);
-
-/// Adds a title block to a sheet.
-void addTitleBlock(Scene *sheet, const TitleBlock &block, const TextMeasure &measure);
 
 } // namespace cabledoc
