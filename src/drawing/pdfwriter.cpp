@@ -77,6 +77,8 @@ public:
             addLinks(i);
         addOutline();
         addInformation();
+        // Viewers offer to print the pages at their exact size.
+        m_pdf.getRoot().replaceKey("/ViewerPreferences", QPDFObjectHandle::parse("<< /PrintScaling /None >>"));
         QPDFWriter writer(m_pdf);
         writer.setOutputMemory();
         writer.setDeterministicID(true);
