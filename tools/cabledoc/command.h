@@ -11,7 +11,7 @@ class CommandLine;
 /// How the program ends. The numbers are part of its interface. Of several, the greatest is the worst.
 enum ExitCode {
     Done = 0,
-    HasFindings = 1, ///< "check" or "results status" found something wrong
+    HasFindings = 1, ///< "check", "labels" or "results status" found something wrong
     WrongUsage = 2,
     CannotLoad = 3,
     CannotSave = 4,

@@ -6,8 +6,8 @@
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runCopy, runCurves, runExport, runFind, runFree, runGet, runHelp, runImport,
-    runInfo, runList, runNew, runPlan, runResultsExport, runResultsImport, runResultsStatus, runScheduleExport,
-    runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
+    runInfo, runLabelFormats, runLabels, runList, runNew, runPlan, runResultsExport, runResultsImport, runResultsStatus,
+    runScheduleExport, runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -260,6 +260,51 @@ const QVector<Command> &commands()
              + QVector<Parameter>{overwrite, maximumSize},
          Program::tr("Draw the response curves of a cable."),
          Program::tr("The curves are those of the cable's test: near-end crosstalk, echo and channel."), runCurves},
+        {"labels",
+         {jobFile,
+          {"[KIND]",
+           Program::tr("The table with the elements to label, such as cables (the default), ports or rooms.")},
+          {"-o, --output NEW",
+           Program::tr("The labels to write: a file whose name ends in .pdf, .svg or .csv, or \"-\" to write SVG to "
+                       "standard output.")},
+          {"[--format NAME]",
+           Program::tr("The format of the labels; a4-5x13 by default. \"label formats\" lists them.")},
+          {"[--pattern TEXT]", Program::tr("The text of a label, such as \"{id}\\n{far_room|?}\".")},
+          {"[--code NAME]", Program::tr("The code beside the text: qr, code128 or none (the default).")},
+          {"[--code-pattern TEXT]", Program::tr("The text of the code. By default, it is the name of the element.")},
+          {"[--both-ends]", Program::tr("Make a label for each end of a cable.")},
+          {"[--copies N]", Program::tr("The number of equal labels; 1 by default.")},
+          {"[--start N]", Program::tr("The place of the first label on the first sheet, counted from 1 in rows.")},
+          {"[--check PATTERN]",
+           Program::tr("A regular expression that each text must match, such as \"^[0-9]+-[A-Z][0-9]+$\".")},
+          {"[--outlines]", Program::tr("Draw the edges of the labels, for a test on plain paper.")},
+          where,
+          sort,
+          {"[--columns NAMES]",
+           Program::tr("The columns of the table that a CSV file has, separated by commas. By default, it has all.")},
+          unit,
+          newDelimiter,
+          mark,
+          protect,
+          overwrite,
+          maximumSize},
+         Program::tr("Print labels."),
+         Program::tr(
+             "A pattern has the columns of \"list\" as fields. A text after \"|\" takes the place of an empty value, "
+             "\"\\n\" begins a new line, and \"{{\" and \"}}\" stand for braces. The fields near_floor, near_room and "
+             "near_port are those of the end of the cable for which the label is, and far_floor, far_room and far_port "
+             "those of the other end. Texts must differ from element to element. Lines that are too wide are set "
+             "smaller, down to 5 points. If a label has a problem, nothing is written, and the exit code is 1. Print "
+             "the file in its actual size."),
+         runLabels},
+        {"label formats",
+         {},
+         Program::tr("List the formats of labels."),
+         Program::tr("Lengths are in millimetres. The list has the sizes of the paper and of a label, the numbers of "
+                     "columns and rows, the left upper corner of the first label, the distance from one label to the "
+                     "next, and the height of the part that is printed. The rest of a label that is wound around a "
+                     "cable is transparent. A label on a tape is as long as its text needs."),
+         runLabelFormats},
         {"schedule import",
          {jobFile,
           {"FILE.csv", Program::tr("The cable schedule, a CSV file, or \"-\" for standard input.")},
@@ -395,7 +440,7 @@ const QVector<QPair<ExitCode, QString>> &exitCodes()
 {
     static const QVector<QPair<ExitCode, QString>> codes{
         {Done, Program::tr("The command did its work.")},
-        {HasFindings, Program::tr("\"check\" or \"results status\" found something wrong.")},
+        {HasFindings, Program::tr("\"check\", \"labels\" or \"results status\" found something wrong.")},
         {WrongUsage, Program::tr("The command line is wrong.")},
         {CannotLoad, Program::tr("A file could not be loaded.")},
         {CannotSave, Program::tr("A file could not be saved.")},

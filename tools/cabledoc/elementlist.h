@@ -15,6 +15,11 @@ public:
     ExitCode read(const CommandLine &line, cabledoc::TableKind kind);
     /// Keeps only the rows that have a text in a column.
     void keepOnly(const QString &column, const QString &text);
+    const cabledoc::ElementTable &table() const { return *m_table; }
+    /// Returns the columns of the table that are in the list.
+    const QVector<int> &columns() const { return m_columns; }
+    /// Returns the rows of the table that are in the list, in their order.
+    const QVector<int> &rows() const { return m_rows; }
     /// Prints the list as text, as CSV with --csv, or as JSON with --json in a form.
     ExitCode print(const CommandLine &line, const char *form) const;
 

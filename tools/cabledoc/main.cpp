@@ -75,9 +75,11 @@ ExitCode run(QStringList words)
 /// Returns whether the command is one that draws. Only options without values come before its name.
 bool isDrawing(int argc, char *argv[])
 {
+    const QVector<const char *> names{"plan", "curves", "labels"};
     char **const end = argv + argc;
     char **const command = std::find_if(argv + 1, end, [](const char *word) { return word[0] != '-'; });
-    return command != end && (qstrcmp(*command, "plan") == 0 || qstrcmp(*command, "curves") == 0);
+    return std::any_of(names.cbegin(), names.cend(),
+                       [&](const char *name) { return command != end && qstrcmp(*command, name) == 0; });
 }
 
 /// Suppresses warnings.
