@@ -1,6 +1,7 @@
 #include "entryflow.h"
 
 #include "sheetpen.h"
+#include "wrappedtext.h"
 
 #include <algorithm>
 
@@ -13,44 +14,6 @@ constexpr double entrySize = 2.4;
 constexpr double entryHeight = 4.6;
 constexpr double headingSize = 3.0;
 constexpr double sampleWidth = 9.0; // of symbols, lines and numbers before the text of an entry
-
-/// Adds a word that is wider than a line to lines, as far as it fills them. Returns the rest of it.
-QString broken(const TextMeasure &measure, QString word, double size, double width, QStringList *lines)
-{
-    constexpr int longestLine = 500; // characters
-    while (word.size() > 1 && measure.width(word.left(longestLine), size) > width) {
-        int end = 1;
-        while (measure.width(word.left(end + 1), size) <= width)
-            ++end;
-        lines->append(word.left(end));
-        word.remove(0, end);
-    }
-    return word;
-}
-
-/// Divides a text into lines that are no wider than the given width, at blanks if there are any.
-QStringList wrapped(const TextMeasure &measure, const QString &text, double size, double width)
-{
-    QStringList lines;
-    QString line;
-    double lineWidth = 0.0;
-    const double blank = measure.width(QStringLiteral(" "), size);
-    const QStringList words = text.split(QLatin1Char(' '));
-    for (const QString &word : words) {
-        const double wordWidth = measure.width(word, size);
-        if (!line.isEmpty() && lineWidth + blank + wordWidth <= width) {
-            line += QLatin1Char(' ') + word;
-            lineWidth += blank + wordWidth;
-            continue;
-        }
-        if (!line.isEmpty())
-            lines.append(line);
-        line = broken(measure, word, size, width, &lines);
-        lineWidth = measure.width(line, size);
-    }
-    lines.append(line);
-    return lines;
-}
 
 double spaceBefore(const ColumnEntry &entry)
 {
