@@ -4,7 +4,7 @@
 say() { printf '== %s\n' "$*" >&2; }
 
 # Debian packages that the tests need.
-test_packages=(fish groff-base locales pkgconf poppler-utils python3-jsonschema zbar-tools zsh)
+test_packages=(fish groff-base libqpdf-dev locales pkgconf poppler-utils python3-jsonschema zbar-tools zsh)
 
 # install_packages PACKAGE...: installs those Debian packages that are missing.
 install_packages() {
@@ -28,8 +28,8 @@ prepare_build() {
     shift 2
     [ "$preset" != sanitize ] || install_packages clang libclang-rt-dev
     case $qt in
-        6) install_packages g++ cmake ninja-build python3 qt6-l10n-tools fonts-dejavu-core libcsv-dev libqpdf-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev libzint-dev qt6-base-dev qt6-svg-dev ;;
-        5) install_packages g++ cmake ninja-build python3 qt6-l10n-tools fonts-dejavu-core libcsv-dev libqpdf-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev libzint-dev qtbase5-dev libqt5svg5-dev ;;
+        6) install_packages g++ cmake ninja-build python3 qt6-l10n-tools fonts-dejavu-core libcsv-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev libzint-dev qt6-base-dev qt6-svg-dev ;;
+        5) install_packages g++ cmake ninja-build python3 qt6-l10n-tools fonts-dejavu-core libcsv-dev libsimpleini-dev libtsl-ordered-map-dev libxxhash-dev libzint-dev qtbase5-dev libqt5svg5-dev ;;
         *) say "there is no Qt $qt for this project: 6 or 5"; return 2 ;;
     esac
     build_dir=build/$preset-qt$qt
