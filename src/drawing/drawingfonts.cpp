@@ -72,19 +72,31 @@ QFont fontOf(const SceneText &text)
 }
 
 TextMeasure::TextMeasure()
-    : m_regular(measuredFont(false))
-    , m_bold(measuredFont(true))
+    : m_regular{QFontMetricsF(measuredFont(false)), {}}
+    , m_bold{QFontMetricsF(measuredFont(true)), {}}
 {
+}
+
+double TextMeasure::Font::widthOf(const QString &text) const
+{
+    constexpr std::size_t mostWidths = 10000;
+    const auto known = widths.find(text);
+    if (known != widths.end())
+        return known->second;
+    if (widths.size() >= mostWidths)
+        widths.clear();
+    // At the size of fontPixels, the widths of long texts would leave the numbers that Qt reckons with.
+    constexpr int longest = 10000; // characters
+    double width = 0.0;
+    for (int i = 0; i < text.size(); i += longest)
+        width += metrics.horizontalAdvance(text.mid(i, longest));
+    widths.try_emplace(text, width);
+    return width;
 }
 
 double TextMeasure::width(const QString &text, double size, bool isBold) const
 {
-    // At the size of fontPixels, the widths of long texts would leave the numbers that Qt reckons with.
-    constexpr int longest = 10000; // characters
-    double pixels = 0.0;
-    for (int i = 0; i < text.size(); i += longest)
-        pixels += (isBold ? m_bold : m_regular).horizontalAdvance(text.mid(i, longest));
-    return pixels * size / fontPixels;
+    return (isBold ? m_bold : m_regular).widthOf(text) * size / fontPixels;
 }
 
 SceneText TextMeasure::text(const QPointF &position, const QString &words, double size, bool isBold,

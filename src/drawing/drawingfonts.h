@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scene.h"
+#include "texthash.h"
 
 #include <QtCore/QString>
 #include <QtGui/QFont>
@@ -24,7 +25,8 @@ QString drawingFontFamily();
 /// drawings.
 QFont fontOf(const SceneText &text);
 
-/// Measures texts in the fonts of drawings, which must be loaded.
+/// Measures texts in the fonts of drawings, which must be loaded. It remembers the widths of the texts that it measured
+/// last, because the same texts occur again and again.
 class TextMeasure
 {
 public:
@@ -41,8 +43,16 @@ public:
     QString elided(const QString &text, double size, double width) const;
 
 private:
-    QFontMetricsF m_regular;
-    QFontMetricsF m_bold;
+    struct Font
+    {
+        QFontMetricsF metrics;
+        mutable TextMap<double> widths;
+
+        double widthOf(const QString &text) const;
+    };
+
+    Font m_regular;
+    Font m_bold;
 };
 
 } // namespace cabledoc

@@ -24,9 +24,11 @@ public:
     void complete(DrawingResult *result, const QString &kind, const QStringList &subjects,
                   const QStringList &scales) const;
 
-private:
+    /// Returns the content of the file with the contractor's logo, or no data if there is none. Adds a warning if the
+    /// file cannot be read.
     QByteArray logo(QStringList *warnings) const;
 
+private:
     const JobSnapshot &m_job;
     const DrawingOptions &m_options;
     QSizeF m_paper;

@@ -5,15 +5,18 @@
 
 #include <QtGui/QPainter>
 
+#include <cmath>
+
 namespace cabledoc {
 
 namespace {
 
-QPen penOf(const LineStyle &style)
+/// Returns the pen for a line. The unit of the painter is given in millimetres.
+QPen penOf(const LineStyle &style, double unit = 1.0)
 {
     if (style.width <= 0.0)
         return QPen(Qt::NoPen);
-    QPen pen(style.color, style.width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    QPen pen(style.color, style.width / unit, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     const QVector<double> dashes = dashesOf(style);
     if (dashes.isEmpty())
         return pen;
@@ -25,11 +28,30 @@ QPen penOf(const LineStyle &style)
     return pen;
 }
 
+/// Returns a length in dots. Almost whole numbers become whole.
+double inDots(double millimeters)
+{
+    constexpr double tolerance = 1e-6;
+    const double dots = millimeters / dotSize;
+    const double rounded = std::round(dots);
+    return std::abs(dots - rounded) < tolerance ? rounded : dots;
+}
+
 void paintShape(QPainter *painter, const SceneLine &line)
 {
-    painter->setPen(penOf(line.style));
     painter->setBrush(Qt::NoBrush);
-    painter->drawPolyline(line.points.constData(), int(line.points.size()));
+    if (!isInDots(line)) {
+        painter->setPen(penOf(line.style));
+        painter->drawPolyline(line.points.constData(), int(line.points.size()));
+        return;
+    }
+    const QVector<QPointF> points = pointsInDots(line);
+    const QTransform before = painter->worldTransform();
+    painter->translate(line.points.constFirst());
+    painter->scale(dotSize, dotSize);
+    painter->setPen(penOf(line.style, dotSize));
+    painter->drawPolyline(points.constData(), int(points.size()));
+    painter->setWorldTransform(before);
 }
 
 void paintShape(QPainter *painter, const SceneArea &area)
@@ -94,6 +116,23 @@ QString nameOf(const SceneSymbol &symbol)
 {
     const QString word = vocabularyOf(symbol).contains(symbol.word) ? symbol.word : QStringLiteral("other");
     return (symbol.kind == SceneSymbol::PortUse ? QStringLiteral("use-") : QStringLiteral("device-")) + word;
+}
+
+bool isInDots(const SceneLine &line)
+{
+    constexpr int manyPoints = 16;
+    return line.points.size() > manyPoints;
+}
+
+QVector<QPointF> pointsInDots(const SceneLine &line)
+{
+    QVector<QPointF> points;
+    points.reserve(line.points.size());
+    for (const QPointF &point : line.points) {
+        const QPointF distance = point - line.points.constFirst();
+        points.append({inDots(distance.x()), inDots(distance.y())});
+    }
+    return points;
 }
 
 void paintScene(QPainter *painter, const Scene &scene)

@@ -1,12 +1,21 @@
 #pragma once
 
 #include "scene.h"
+#include "units.h"
 
 class QPainter;
 
 namespace cabledoc {
 
 class Vocabulary;
+
+/// A length in millimetres, 1/300 inch. Lines with many points are written in this unit, because whole numbers make
+/// files much smaller.
+constexpr double dotSize = millimetersInAnInch / 300.0;
+/// Returns whether a line is written in dots.
+bool isInDots(const SceneLine &line);
+/// Returns how far the points of a line are from the first one, in dots. Almost whole numbers are whole.
+QVector<QPointF> pointsInDots(const SceneLine &line);
 
 /// Paints a scene with a painter whose unit is the millimetre.
 void paintScene(QPainter *painter, const Scene &scene);

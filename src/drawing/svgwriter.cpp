@@ -2,6 +2,7 @@
 #include "drawingfonts.h"
 #include "drawingwriters.h"
 #include "scenepainter.h"
+#include "svgfigure.h"
 #include "texthash.h"
 #include "vocabulary.h"
 
@@ -36,6 +37,18 @@ QString path(const QVector<QPointF> &points)
     QString text;
     for (const QPointF &position : points)
         text += (text.isEmpty() ? QLatin1Char('M') : QLatin1Char('L')) + point(position);
+    return text;
+}
+
+/// Returns a path through points in which each step is written as its length.
+QString pathOfSteps(const QVector<QPointF> &points)
+{
+    QString text = QStringLiteral("m0 0l");
+    for (int i = 1; i < points.size(); ++i) {
+        const QPointF step = points.at(i) - points.at(i - 1);
+        text += (i > 1 && step.x() >= 0.0 ? QStringLiteral(" ") : QString()) + number(step.x())
+                + (step.y() >= 0.0 ? QStringLiteral(" ") : QString()) + number(step.y());
+    }
     return text;
 }
 
@@ -86,21 +99,18 @@ public:
         , m_items(inDrawingOrder(page))
         , m_svg(&m_content)
     {
-        m_svg.setAutoFormatting(true);
-        m_svg.setAutoFormattingIndent(1);
     }
 
+    /// Returns the page as an SVG file.
     QByteArray write()
     {
+        m_svg.setAutoFormatting(true);
+        m_svg.setAutoFormattingIndent(1);
         m_svg.writeStartDocument();
         m_svg.writeStartElement(QStringLiteral("svg"));
         attribute("xmlns", QStringLiteral("http://www.w3.org/2000/svg"));
         attribute("xmlns:xlink", QStringLiteral("http://www.w3.org/1999/xlink"));
-        attribute("width", number(m_page.size.width()) + QLatin1String("mm"));
-        attribute("height", number(m_page.size.height()) + QLatin1String("mm"));
-        attribute("viewBox",
-                  QStringLiteral("0 0 %1 %2").arg(number(m_page.size.width()), number(m_page.size.height())));
-        attribute("font-family", drawingFontFamily() + QLatin1String(", sans-serif"));
+        writeSize();
         m_svg.writeTextElement(QStringLiteral("title"), allowed(m_page.title));
         writeDefinitions();
         for (int i = 0; i < m_items.size();)
@@ -109,7 +119,27 @@ public:
         return m_content;
     }
 
+    /// Returns the page as an element of an HTML file. It has no ids, because the file has other pictures too.
+    QByteArray writeFigure()
+    {
+        m_svg.writeStartElement(QStringLiteral("svg"));
+        writeSize();
+        for (const SceneItem *item : m_items)
+            std::visit([this, item](const auto &shape) { write(*item, shape); }, item->shape);
+        m_svg.writeEndElement();
+        return m_content;
+    }
+
 private:
+    void writeSize()
+    {
+        attribute("width", number(m_page.size.width()) + QLatin1String("mm"));
+        attribute("height", number(m_page.size.height()) + QLatin1String("mm"));
+        attribute("viewBox",
+                  QStringLiteral("0 0 %1 %2").arg(number(m_page.size.width()), number(m_page.size.height())));
+        attribute("font-family", drawingFontFamily() + QLatin1String(", sans-serif"));
+    }
+
     void attribute(const char *name, const QString &value) { m_svg.writeAttribute(QLatin1String(name), value); }
     void attribute(const char *name, double value) { attribute(name, number(value)); }
 
@@ -200,15 +230,16 @@ private:
         m_svg.writeEndElement();
     }
 
-    void writeStyle(const LineStyle &style)
+    /// Writes how a line looks. The unit of its coordinates is given in millimetres.
+    void writeStyle(const LineStyle &style, double unit = 1.0)
     {
         if (style.width <= 0.0)
             return;
         attribute("stroke", style.color.name());
-        attribute("stroke-width", style.width);
+        attribute("stroke-width", style.width / unit);
         QStringList dashes;
         for (const double dash : dashesOf(style))
-            dashes.append(number(dash));
+            dashes.append(number(dash / unit));
         if (!dashes.isEmpty())
             attribute("stroke-dasharray", dashes.join(QLatin1Char(' ')));
     }
@@ -216,9 +247,13 @@ private:
     void write(const SceneItem &item, const SceneLine &line)
     {
         start("path", item);
-        attribute("d", path(line.points));
+        const double unit = isInDots(line) ? dotSize : 1.0;
+        attribute("d", isInDots(line) ? pathOfSteps(pointsInDots(line)) : path(line.points));
+        if (isInDots(line))
+            attribute("transform", QStringLiteral("translate(%1) scale(%2)")
+                                       .arg(point(line.points.constFirst()), QString::number(dotSize, 'g', 8)));
         attribute("fill", QStringLiteral("none"));
-        writeStyle(line.style);
+        writeStyle(line.style, unit);
         end(item);
     }
 
@@ -304,6 +339,11 @@ private:
 };
 
 } // namespace
+
+QByteArray svgFigure(const Scene &figure)
+{
+    return SvgWriter(figure).writeFigure();
+}
 
 QString writeSvg(const Scene &page, const QString &fileName)
 {
