@@ -7,8 +7,8 @@
 #include "tableparameters.h"
 
 #include <cabledoc/jobsnapshot.h>
+#include <cabledoc/naturalorder.h>
 
-#include <QtCore/QCollator>
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
@@ -68,21 +68,27 @@ ExitCode unknownColumn(const CommandLine &line, const ElementTable &table, const
 
 ExitCode ElementList::read(const CommandLine &line, cabledoc::TableKind kind)
 {
-    cabledoc::TableUnit unit = cabledoc::TableUnit::Pixels;
-    if (const ExitCode error = readTableUnit(line, &unit))
-        return error;
     cabledoc::JobSnapshot document;
     if (const ExitCode error = readDocument(line, &document))
+        return error;
+    return choose(line, document, kind);
+}
+
+ExitCode ElementList::choose(const CommandLine &line, const cabledoc::JobSnapshot &document, cabledoc::TableKind kind,
+                             const QString &usualOrder)
+{
+    cabledoc::TableUnit unit = cabledoc::TableUnit::Pixels;
+    if (const ExitCode error = readTableUnit(line, &unit))
         return error;
     m_kind = kind;
     m_table = std::make_unique<ElementTable>(document, kind, unit);
     m_rows.resize(m_table->rowCount());
     std::iota(m_rows.begin(), m_rows.end(), 0);
-    for (const auto select : {&ElementList::selectColumns, &ElementList::selectRows, &ElementList::sortRows}) {
+    for (const auto select : {&ElementList::selectColumns, &ElementList::selectRows}) {
         if (const ExitCode error = (this->*select)(line))
             return error;
     }
-    return Done;
+    return sortRows(line, line.isSet("sort") ? line.value("sort") : usualOrder);
 }
 
 ExitCode ElementList::selectColumns(const CommandLine &line)
@@ -121,27 +127,18 @@ ExitCode ElementList::selectRows(const CommandLine &line)
     return Done;
 }
 
-ExitCode ElementList::sortRows(const CommandLine &line)
+ExitCode ElementList::sortRows(const CommandLine &line, const QString &order)
 {
-    const QStringList names = line.isSet("sort") ? line.value("sort").split(QLatin1Char(',')) : QStringList();
-    // The order does not depend on the language of the environment.
-    QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
-    collator.setNumericMode(true);
+    const QStringList names = order.isEmpty() ? QStringList() : order.split(QLatin1Char(','));
     // The last column is the least important one, so that it is sorted first.
     for (auto name = names.crbegin(); name != names.crend(); ++name) {
         const bool isDescending = name->startsWith(QLatin1Char('-'));
         const int column = m_table->columnOf(isDescending ? name->mid(1) : *name);
         if (column < 0)
             return unknownColumn(line, *m_table, *name);
-        std::vector<std::pair<QCollatorSortKey, int>> keys;
-        keys.reserve(std::size_t(m_rows.size()));
-        for (const int row : std::as_const(m_rows))
-            keys.emplace_back(collator.sortKey(m_table->text(row, column)), row);
-        std::stable_sort(keys.begin(), keys.end(), [isDescending](const auto &a, const auto &b) {
-            const int order = a.first.compare(b.first);
-            return isDescending ? order > 0 : order < 0;
-        });
-        std::transform(keys.begin(), keys.end(), m_rows.begin(), [](const auto &key) { return key.second; });
+        cabledoc::sortByText(
+            &m_rows, [this, column](int row) { return m_table->text(row, column); },
+            isDescending ? cabledoc::SortOrder::Descending : cabledoc::SortOrder::Ascending);
     }
     return Done;
 }

@@ -13,6 +13,9 @@ public:
     /// Reads the file of the command line. The list has the columns of --columns, the rows that --where leaves, and the
     /// order of --sort. Returns Done, or prints a message and returns how the program ends.
     ExitCode read(const CommandLine &line, cabledoc::TableKind kind);
+    /// Does the same with a document that has been read. Without --sort, the rows are in the given order, such as "id".
+    ExitCode choose(const CommandLine &line, const cabledoc::JobSnapshot &document, cabledoc::TableKind kind,
+                    const QString &usualOrder = {});
     /// Keeps only the rows that have a text in a column.
     void keepOnly(const QString &column, const QString &text);
     const cabledoc::ElementTable &table() const { return *m_table; }
@@ -26,7 +29,7 @@ public:
 private:
     ExitCode selectColumns(const CommandLine &line);
     ExitCode selectRows(const CommandLine &line);
-    ExitCode sortRows(const CommandLine &line);
+    ExitCode sortRows(const CommandLine &line, const QString &order);
     QString text() const;
 
     cabledoc::TableKind m_kind = cabledoc::TableKind::Count;
