@@ -1,0 +1,447 @@
+#include "reportpages.h"
+
+#include "columnwidths.h"
+#include "reportcontent.h"
+#include "sheetpen.h"
+#include "wrappedtext.h"
+
+#include <QtGui/QImage>
+
+#include <algorithm>
+
+namespace cabledoc {
+
+namespace {
+
+// Millimetres
+constexpr double sideMargin = 15.0;
+constexpr double topMargin = 20.0;
+constexpr double bottomMargin = 17.0;
+constexpr double headBaseline = 13.0;
+constexpr double footBaseline = 10.0; // from the bottom
+constexpr double bodySize = 2.9;
+constexpr double tableSize = 2.7;
+constexpr double smallSize = 2.4;
+constexpr double lineHeight = 1.4; // in parts of the size
+constexpr double cellPadding = 1.6;
+constexpr double rowPadding = 0.7;
+constexpr double gap = 3.0; // between blocks
+constexpr double keptBelowHeading = 18.0;
+
+const QColor ruleColor(0xc8, 0xc8, 0xc8);
+const LineStyle rowLine{ruleColor, 0.12, LineStyle::Solid};
+const LineStyle headLine{QColor(0x40, 0x40, 0x40), 0.3, LineStyle::Solid};
+const QColor linkColor(0x1f, 0x4e, 0x8c);
+
+/// Something that is not divided, at the origin.
+struct Piece
+{
+    double height = 0.0;
+    QVector<SceneItem> items;
+    double keptHeight = 0.0;                    ///< what must fit below it on the same page
+    std::shared_ptr<const Piece> repeated = {}; ///< stands above it if it is the first on a page
+};
+
+using PieceSink = std::function<void(const Piece &piece)>;
+
+struct HeadingStyle
+{
+    double size;
+    double above;
+    double below;
+    bool hasRule;
+};
+
+HeadingStyle styleOf(HeadingBlock::Level level)
+{
+    switch (level) {
+    case HeadingBlock::Title:
+        return {8.0, 0.0, 5.0, false};
+    case HeadingBlock::Chapter:
+        return {5.0, 0.0, 3.0, false};
+    case HeadingBlock::Subject:
+        return {3.9, 4.0, 2.0, true};
+    default:
+        return {3.2, 2.0, 1.2, false};
+    }
+}
+
+void scaleLine(LineStyle *style, double factor)
+{
+    style->width *= factor;
+}
+
+QRectF scaledRectangle(const QRectF &area, double factor)
+{
+    return {area.topLeft() * factor, area.size() * factor};
+}
+
+void scale(SceneLine *line, double factor)
+{
+    for (QPointF &point : line->points)
+        point *= factor;
+    scaleLine(&line->style, factor);
+}
+
+void scale(SceneArea *area, double factor)
+{
+    for (QPointF &corner : area->corners)
+        corner *= factor;
+    scaleLine(&area->outline, factor);
+}
+
+void scale(SceneText *text, double factor)
+{
+    text->position *= factor;
+    text->size *= factor;
+    text->width *= factor;
+}
+
+template <typename Shape> void scale(Shape *shape, double factor)
+{
+    shape->area = scaledRectangle(shape->area, factor);
+}
+
+void scaleItems(QVector<SceneItem> *items, double factor)
+{
+    for (SceneItem &item : *items)
+        std::visit([factor](auto &shape) { scale(&shape, factor); }, item.shape);
+}
+
+/// Lays out blocks in a column of the given width.
+class BlockLayout
+{
+public:
+    BlockLayout(double width, const TextMeasure &measure, const PageNumbers &numbers)
+        : m_width(width)
+        , m_measure(measure)
+        , m_numbers(numbers)
+    {
+    }
+
+    void layOut(const ReportBlock &block, const PieceSink &sink) const
+    {
+        std::visit([this, &sink](const auto &actual) { pieces(actual, sink); }, block);
+    }
+
+private:
+    void pieces(const HeadingBlock &heading, const PieceSink &sink) const
+    {
+        const HeadingStyle style = styleOf(heading.level);
+        Scene scene;
+        SheetPen pen(&scene, m_measure);
+        double y = style.above;
+        if (style.hasRule)
+            pen.line({0.0, y - 1.5}, {m_width, y - 1.5}, headLine);
+        const double verdictWidth =
+            heading.verdict.isEmpty() ? 0.0 : m_measure.width(heading.verdict, style.size, true) + gap;
+        for (const QString &line : wrapped(m_measure, heading.text, style.size, m_width - verdictWidth, true)) {
+            y += style.size * lineHeight;
+            pen.text({0.0, y - style.size * 0.3}, line, style.size, true);
+        }
+        if (!heading.verdict.isEmpty())
+            pen.text({m_width - verdictWidth + gap, style.above + style.size * (lineHeight - 0.3)}, heading.verdict,
+                     style.size, true, verdictColor(heading.verdict));
+        sink({y + style.below, scene.items, keptBelowHeading});
+    }
+
+    void pieces(const ParagraphBlock &paragraph, const PieceSink &sink) const
+    {
+        for (const QString &line : wrapped(m_measure, paragraph.text, bodySize, m_width)) {
+            Scene scene;
+            SheetPen(&scene, m_measure).text({0.0, bodySize}, line, bodySize);
+            sink({bodySize * lineHeight, scene.items});
+        }
+        sink({bodySize * 0.5, {}});
+    }
+
+    void pieces(const FactsBlock &block, const PieceSink &sink) const
+    {
+        Scene scene;
+        const double pictureWidth = block.picture ? block.picture->size.width() + 2.0 * gap : 0.0;
+        const double columnWidth = (m_width - pictureWidth) / block.columns;
+        const int factsInColumn = int((block.facts.size() + block.columns - 1) / block.columns);
+        double height = block.picture ? block.picture->size.height() : 0.0;
+        for (int column = 0; column < block.columns; ++column) {
+            const auto facts = block.facts.mid(column * factsInColumn, factsInColumn);
+            height = std::max(height, addFacts(facts, column * columnWidth, columnWidth - gap, &scene));
+        }
+        if (block.picture) {
+            for (SceneItem item : block.picture->items) {
+                moveBy(&item, {m_width - block.picture->size.width(), 0.0});
+                scene.items.append(item);
+            }
+        }
+        sink({height + gap, scene.items});
+    }
+
+    /// Writes facts one below the other. Returns their height.
+    double addFacts(const QVector<QPair<QString, QString>> &facts, double left, double width, Scene *scene) const
+    {
+        SheetPen pen(scene, m_measure);
+        double nameWidth = 0.0;
+        for (const auto &fact : facts)
+            nameWidth = std::max(nameWidth, m_measure.width(fact.first, smallSize) + gap);
+        nameWidth = std::min(nameWidth, width / 2.0);
+        double y = 0.0;
+        for (const auto &[name, value] : facts) {
+            pen.text({left, y + bodySize}, m_measure.elided(name, smallSize, nameWidth), smallSize, false, dimColor);
+            for (const QString &line : wrapped(m_measure, value, bodySize, width - nameWidth)) {
+                pen.text({left + nameWidth, y + bodySize}, line, bodySize);
+                y += bodySize * lineHeight;
+            }
+        }
+        return y;
+    }
+
+    void pieces(const TableBlock &table, const PieceSink &sink) const
+    {
+        const QVector<double> widths = columnWidths(table, tableSize, 2.0 * cellPadding, m_width, m_measure);
+        ReportRow headings;
+        for (const ReportColumn &column : table.columns)
+            headings.append({column.heading});
+        const auto head = std::make_shared<const Piece>(rowPiece(table.columns, headings, widths, true));
+        Piece first = *head;
+        first.keptHeight = tableSize * lineHeight + 2.0 * rowPadding;
+        sink(first);
+        for (int row = 0; row < table.rowCount; ++row) {
+            Piece piece = rowPiece(table.columns, table.row(row), widths, false);
+            piece.repeated = head;
+            sink(piece);
+        }
+        sink({gap, {}});
+    }
+
+    Piece rowPiece(const QVector<ReportColumn> &columns, const ReportRow &cells, const QVector<double> &widths,
+                   bool isHead) const
+    {
+        Scene scene;
+        double left = 0.0;
+        double height = 0.0;
+        for (int i = 0; i < columns.size(); ++i) {
+            height = std::max(height, addCell(columns.at(i), cells.value(i), left, widths.at(i), isHead, &scene));
+            left += widths.at(i);
+        }
+        SheetPen(&scene, m_measure).line({0.0, height}, {left, height}, isHead ? headLine : rowLine);
+        if (!isHead)
+            addLinks(cells, widths, height, &scene);
+        return {height, scene.items};
+    }
+
+    /// Adds the links of a row. One covers all fields from the first one to the last one with the same target.
+    void addLinks(const ReportRow &cells, const QVector<double> &widths, double height, Scene *scene) const
+    {
+        QVector<SceneLink> links;
+        double left = 0.0;
+        for (int i = 0; i < cells.size(); ++i) {
+            const int page = m_numbers.pageOf(cells.at(i).target);
+            const bool isSame = !links.isEmpty() && links.constLast().page == page;
+            if (page >= 0 && isSame)
+                links.last().area.setRight(left + widths.at(i));
+            else if (page >= 0)
+                links.append({{left, 0.0, widths.at(i), height}, page});
+            left += widths.at(i);
+        }
+        for (const SceneLink &link : links)
+            addToSheet(scene, link);
+    }
+
+    /// Writes a field. Returns its height.
+    double addCell(const ReportColumn &column, const ReportCell &cell, double left, double width, bool isHead,
+                   Scene *scene) const
+    {
+        SheetPen pen(scene, m_measure);
+        const bool isRight = column.kind == ReportColumn::Number || column.kind == ReportColumn::Page;
+        const bool isVerdict = column.kind == ReportColumn::Verdict && !isHead;
+        const bool isBold = isHead || isVerdict;
+        const int page = m_numbers.pageOf(cell.target);
+        const QString text = column.kind == ReportColumn::Page && !isHead
+                                 ? (page < 0 ? QString() : QString::number(page + 1))
+                                 : cell.text;
+        const QColor color = isVerdict                                 ? verdictColor(text)
+                             : !isHead && page >= 0 && !text.isEmpty() ? linkColor
+                                                                       : QColor(Qt::black);
+        double y = rowPadding;
+        for (const QString &line : wrapped(m_measure, text, tableSize, width - 2.0 * cellPadding + 0.01, isBold)) {
+            const double x =
+                isRight ? left + width - cellPadding - m_measure.width(line, tableSize, isBold) : left + cellPadding;
+            y += tableSize * lineHeight;
+            if (!line.isEmpty())
+                pen.text({x, y - tableSize * 0.35}, line, tableSize, isBold, color);
+        }
+        return y + rowPadding;
+    }
+
+    void pieces(const FigureBlock &figure, const PieceSink &sink) const
+    {
+        const double factor = std::min(1.0, m_width / figure.scene.size.width());
+        QVector<SceneItem> items = figure.scene.items;
+        scaleItems(&items, factor);
+        sink({figure.scene.size.height() * factor + gap, items});
+    }
+
+    const double m_width;
+    const TextMeasure &m_measure;
+    const PageNumbers &m_numbers;
+};
+
+/// Returns the number of rows of all tables in a group.
+int rowCountOf(const ReportGroup &group)
+{
+    int count = 0;
+    for (const ReportBlock &block : group.blocks) {
+        if (const auto *table = std::get_if<TableBlock>(&block))
+            count += table->rowCount;
+    }
+    return count;
+}
+
+} // namespace
+
+struct ReportPages::Data
+{
+    Data(const PageStyle &pageStyle, const TextMeasure &textMeasure, PageNumbers knownNumbers, Output pageOutput)
+        : style(pageStyle)
+        , measure(textMeasure)
+        , known(std::move(knownNumbers))
+        , output(std::move(pageOutput))
+        , size(style.paper / style.zoom)
+        , layout(size.width() - 2.0 * sideMargin, measure, known)
+    {
+    }
+
+    double bottom() const { return size.height() - bottomMargin; }
+
+    void startPage()
+    {
+        endPage();
+        isOpen = true;
+        y = topMargin;
+        page = Scene();
+        page.size = style.paper;
+        page.window = QRectF(QPointF(), style.paper);
+    }
+
+    void endPage()
+    {
+        if (!isOpen)
+            return;
+        addFurniture();
+        scaleItems(&page.items, style.zoom);
+        output(page);
+        ++found.count;
+        isOpen = false;
+    }
+
+    /// Adds what stands at the top and at the bottom of a page.
+    void addFurniture()
+    {
+        SheetPen pen(&page, measure);
+        const double right = size.width() - sideMargin;
+        const auto toTheRight = [&](const QString &text, double baseline) {
+            pen.text({right - measure.width(text, smallSize), baseline}, text, smallSize, false, dimColor);
+        };
+        if (found.count > 0) {
+            const double subjectWidth = measure.width(style.subject, smallSize);
+            const double half = (right - sideMargin) / 2.0;
+            toTheRight(subjectWidth > half ? measure.elided(style.subject, smallSize, half) : style.subject,
+                       headBaseline);
+            pen.text({sideMargin, headBaseline}, measure.elided(style.contractor, smallSize, half - gap), smallSize,
+                     false, dimColor);
+            pen.line({sideMargin, headBaseline + 1.5}, {right, headBaseline + 1.5}, rowLine);
+        } else {
+            addLogo(&pen);
+        }
+        const double foot = size.height() - footBaseline;
+        pen.text({sideMargin, foot}, style.date, smallSize, false, dimColor);
+        toTheRight(ReportText::tr("Page %1 of %2").arg(found.count + 1).arg(known.count), foot);
+    }
+
+    void addLogo(SheetPen *pen)
+    {
+        const QSize pixels = QImage::fromData(style.logo).size();
+        if (pixels.isEmpty())
+            return;
+        const QSizeF logo = QSizeF(pixels).scaled(QSizeF(45.0, 18.0), Qt::KeepAspectRatio);
+        pen->add(ScenePicture{style.logo, {{size.width() - sideMargin - logo.width(), topMargin}, logo}});
+    }
+
+    void place(const Piece &piece)
+    {
+        if (!isOpen)
+            startPage();
+        if (y > topMargin && y + piece.height + piece.keptHeight > bottom()) {
+            startPage();
+            if (piece.repeated)
+                put(*piece.repeated);
+        }
+        if (piece.items.isEmpty() && y <= topMargin)
+            return; // no gap at the top of a page
+        put(piece);
+    }
+
+    void put(const Piece &piece)
+    {
+        if (!anchor.isEmpty())
+            found.ofAnchors.try_emplace(anchor, found.count);
+        anchor.clear();
+        for (SceneItem item : piece.items) {
+            moveBy(&item, {sideMargin, y});
+            page.items.append(item);
+        }
+        y += piece.height;
+    }
+
+    const PageStyle style;
+    const TextMeasure &measure;
+    const PageNumbers known; ///< of the first time
+    const Output output;
+    const QSizeF size; ///< of a page before the zoom
+    const BlockLayout layout;
+    PageNumbers found;
+    Scene page;
+    bool isOpen = false;
+    double y = 0.0;
+    QString anchor; ///< of a group that has nothing on a page yet
+};
+
+ReportPages::ReportPages(const PageStyle &style, const TextMeasure &measure, PageNumbers numbers, Output output)
+    : d(std::make_unique<Data>(style, measure, std::move(numbers), std::move(output)))
+{
+}
+
+ReportPages::~ReportPages() = default;
+
+void ReportPages::add(const ReportGroup &group)
+{
+    if (group.startsPage && d->y > topMargin)
+        d->startPage();
+    d->anchor = group.anchor;
+    constexpr int rowsOfOnePage = 60;
+    if (rowCountOf(group) > rowsOfOnePage) {
+        for (const ReportBlock &block : group.blocks)
+            d->layout.layOut(block, [this](const Piece &piece) { d->place(piece); });
+        return;
+    }
+    QVector<Piece> pieces;
+    double height = 0.0;
+    for (const ReportBlock &block : group.blocks) {
+        d->layout.layOut(block, [&pieces, &height](const Piece &piece) {
+            pieces.append(piece);
+            height += piece.height;
+        });
+    }
+    const bool fitsOnPage = topMargin + height <= d->bottom();
+    if (d->isOpen && fitsOnPage && d->y + height > d->bottom())
+        d->startPage();
+    for (const Piece &piece : pieces)
+        d->place(piece);
+}
+
+PageNumbers ReportPages::finish()
+{
+    d->endPage();
+    return d->found;
+}
+
+} // namespace cabledoc
