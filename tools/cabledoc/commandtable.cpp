@@ -6,8 +6,8 @@
 // The functions that run the commands. Each file of the folder commands/ has one.
 using Run = ExitCode(const CommandLine &line);
 Run runCables, runCheck, runConvert, runCopy, runCurves, runExport, runFind, runFree, runGet, runHelp, runImport,
-    runInfo, runLabelFormats, runLabels, runList, runNew, runPlan, runResultsExport, runResultsImport, runResultsStatus,
-    runScheduleExport, runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
+    runInfo, runLabelFormats, runLabels, runList, runNew, runPlan, runReport, runResultsExport, runResultsImport,
+    runResultsStatus, runScheduleExport, runScheduleImport, runSet, runTableExport, runTableImport, runTotals, runTrace;
 
 const QVector<Command> &commands()
 {
@@ -305,6 +305,34 @@ const QVector<Command> &commands()
                      "next, and the height of the part that is printed. The rest of a label that is wound around a "
                      "cable is transparent. A label on a tape is as long as its text needs."),
          runLabelFormats},
+        {"report",
+         QVector<Parameter>{
+             jobFile,
+             {"-o, --output NEW",
+              Program::tr("The report to write: a file whose name ends in .pdf or .html, or \"-\" to "
+                          "write HTML to standard output.")},
+             {"[--kind KIND]", Program::tr("The kind of report: test (the default), summary, inventory, schedule, "
+                                           "notes or active.")},
+             {"[--floor FLOOR]", Program::tr("Only the cables with an end on this floor.")},
+             {"[--room ROOM]", Program::tr("Only the cables with an end in this room.")},
+             where,
+             {"[--since DATE]",
+              Program::tr("Only the cables whose test is of this day, such as 2026-01-31, or later.")},
+             {"[--until DATE]", Program::tr("Only the cables whose test is of this day or earlier.")},
+             sort,
+             {"[--failures-first]", Program::tr("Begin with the cables that have failed.")},
+             metric}
+             + paperParameters()
+             + QVector<Parameter>{{"[--revision TEXT]", Program::tr("The revision at the bottom of each page.")},
+                                  overwrite,
+                                  maximumSize},
+         Program::tr("Write a report for the customer."),
+         Program::tr("The report of tests has a summary, the results of each cable, and an index from cables to "
+                     "pages. The cables are in the order of their names unless --sort asks for another one. Each kind "
+                     "of report has the paper, the orientation and the zoom of its print settings in the job. The "
+                     "options that choose cables are for the kinds test and schedule. The environment variable "
+                     "SOURCE_DATE_EPOCH sets the date."),
+         runReport},
         {"schedule import",
          {jobFile,
           {"FILE.csv", Program::tr("The cable schedule, a CSV file, or \"-\" for standard input.")},

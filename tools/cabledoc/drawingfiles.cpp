@@ -80,19 +80,21 @@ DrawingFormat formatOf(const Output &output)
     return chosen(formats, QFileInfo(output.fileName).suffix().toLower()).value_or(DrawingFormat::Unknown);
 }
 
+QString readPage(const CommandLine &line, DrawingOptions *options)
+{
+    options->revision = line.value("revision");
+    options->folder = QFileInfo(line.argument(0)).path();
+    const QString problem = readPaper(line, options);
+    return problem.isEmpty() ? readOrientation(line, options) : problem;
+}
+
 QString readDrawingOptions(const CommandLine &line, DrawingOptions *options, int *dpi)
 {
     if (formatOf(line.output()) == DrawingFormat::Unknown)
         return Program::tr("the name of the drawing ends in .pdf, .svg or .png");
-    options->revision = line.value("revision");
     options->sheetNumber = line.value("sheet-number");
-    options->folder = QFileInfo(line.argument(0)).path();
-    for (const auto read : {readPaper, readOrientation}) {
-        const QString problem = read(line, options);
-        if (!problem.isEmpty())
-            return problem;
-    }
-    return readDpi(line, dpi);
+    const QString problem = readPage(line, options);
+    return problem.isEmpty() ? readDpi(line, dpi) : problem;
 }
 
 ExitCode writeDrawing(const CommandLine &line, const DrawingResult &result, int dpi)
@@ -108,13 +110,21 @@ ExitCode writeDrawing(const CommandLine &line, const DrawingResult &result, int 
     });
 }
 
-QVector<Parameter> drawingParameters()
+QVector<Parameter> paperParameters()
 {
     return {
         {"[--paper NAME]", Program::tr("The paper size, such as A1 or Tabloid. By default, it is that of the job.")},
         {"[--orientation NAME]", Program::tr("How the paper lies: portrait or landscape.")},
-        {"[--dpi N]", Program::tr("The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.")},
-        {"[--revision TEXT]", Program::tr("The revision in the title block.")},
-        {"[--sheet-number TEXT]", Program::tr("The number of the sheet in the title block.")},
     };
+}
+
+QVector<Parameter> drawingParameters()
+{
+    return paperParameters()
+           + QVector<Parameter>{
+               {"[--dpi N]",
+                Program::tr("The dots to the inch of a PNG file, from 10 to 1200. By default, it is 150.")},
+               {"[--revision TEXT]", Program::tr("The revision in the title block.")},
+               {"[--sheet-number TEXT]", Program::tr("The number of the sheet in the title block.")},
+           };
 }

@@ -41,6 +41,9 @@ template <typename Value> std::optional<Value> chosen(const QVector<Choice<Value
     return std::nullopt;
 }
 
+/// Reads the options of the paper and the revision. Returns what is wrong with them, or an empty text.
+QString readPage(const CommandLine &line, cabledoc::DrawingOptions *options);
+
 /// Reads the options of the paper and the title block, and --dpi. Returns what is wrong with the options and the name
 /// of the output, or an empty text.
 QString readDrawingOptions(const CommandLine &line, cabledoc::DrawingOptions *options, int *dpi);
@@ -48,5 +51,7 @@ QString readDrawingOptions(const CommandLine &line, cabledoc::DrawingOptions *op
 /// Prints the warnings of a drawing and writes the drawing to the output. SVG and PNG files have its first page.
 ExitCode writeDrawing(const CommandLine &line, const cabledoc::DrawingResult &result, int dpi);
 
+/// The parameters of the paper.
+QVector<Parameter> paperParameters();
 /// The parameters that the commands that draw have in common.
 QVector<Parameter> drawingParameters();

@@ -75,7 +75,7 @@ ExitCode run(QStringList words)
 /// Returns whether the command is one that draws. Only options without values come before its name.
 bool isDrawing(int argc, char *argv[])
 {
-    const QVector<const char *> names{"plan", "curves", "labels"};
+    const QVector<const char *> names{"plan", "curves", "labels", "report"};
     char **const end = argv + argc;
     char **const command = std::find_if(argv + 1, end, [](const char *word) { return word[0] != '-'; });
     return std::any_of(names.cbegin(), names.cend(),
