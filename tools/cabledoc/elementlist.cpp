@@ -66,12 +66,12 @@ ExitCode unknownColumn(const CommandLine &line, const ElementTable &table, const
 
 } // namespace
 
-ExitCode ElementList::read(const CommandLine &line, cabledoc::TableKind kind)
+ExitCode ElementList::read(const CommandLine &line, cabledoc::TableKind kind, const QString &usualOrder)
 {
     cabledoc::JobSnapshot document;
     if (const ExitCode error = readDocument(line, &document))
         return error;
-    return choose(line, document, kind);
+    return choose(line, document, kind, usualOrder);
 }
 
 ExitCode ElementList::choose(const CommandLine &line, const cabledoc::JobSnapshot &document, cabledoc::TableKind kind,

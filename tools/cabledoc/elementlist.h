@@ -11,9 +11,10 @@ class ElementList
 {
 public:
     /// Reads the file of the command line. The list has the columns of --columns, the rows that --where leaves, and the
-    /// order of --sort. Returns Done, or prints a message and returns how the program ends.
-    ExitCode read(const CommandLine &line, cabledoc::TableKind kind);
-    /// Does the same with a document that has been read. Without --sort, the rows are in the given order, such as "id".
+    /// order of --sort. Without it, the order is the given one, such as "id", or that of the file. Returns Done, or
+    /// prints a message and returns how the program ends.
+    ExitCode read(const CommandLine &line, cabledoc::TableKind kind, const QString &usualOrder = {});
+    /// Does the same with a document that has been read.
     ExitCode choose(const CommandLine &line, const cabledoc::JobSnapshot &document, cabledoc::TableKind kind,
                     const QString &usualOrder = {});
     /// Keeps only the rows that have a text in a column.

@@ -133,7 +133,8 @@ ExitCode runLabels(const CommandLine &line)
             return error;
     }
     ElementList list;
-    if (const ExitCode error = list.read(line, kind))
+    const QString usualOrder = kind == TableKind::Cables ? QStringLiteral("id") : QString();
+    if (const ExitCode error = list.read(line, kind, usualOrder))
         return error;
     for (const QString &pattern : {options.pattern, options.codePattern}) {
         const QString wrong = wrongField(pattern, labelFields(list.table()));
