@@ -449,10 +449,6 @@
         <translation>das Logo %1 kann nicht gelesen werden</translation>
     </message>
     <message>
-        <source>The pages cannot be painted.</source>
-        <translation>Die Seiten können nicht gezeichnet werden.</translation>
-    </message>
-    <message>
         <source>There is no floor with the tag &quot;%1&quot;.</source>
         <translation>Es gibt keine Etage mit der Kennung &quot;%1&quot;.</translation>
     </message>
@@ -565,6 +561,10 @@
         <source>Sheet</source>
         <translation>Blatt</translation>
     </message>
+    <message>
+        <source>The pages cannot be written to a temporary file in %1.</source>
+        <translation>Die Seiten können nicht in eine temporäre Datei in %1 geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>
@@ -675,6 +675,85 @@
     <message>
         <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Das ist die Datei des Auftrags selbst. Eine Vorlage braucht einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>Labels</name>
+    <message>
+        <source>Code 128 only holds characters of ASCII, and not &quot;%1&quot;; a QR code can hold it</source>
+        <translation>Code 128 kann nur ASCII-Zeichen enthalten, nicht &quot;%1&quot;; ein QR-Code kann diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>the code is empty</source>
+        <translation>der Code ist leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long for a code</source>
+        <translation>&quot;%1&quot; ist zu lang für einen Code</translation>
+    </message>
+    <message>
+        <source>the code with its light zone needs %1 mm, and the label has room for %2 mm</source>
+        <translation>der Code braucht mit seiner Ruhezone %1 mm, und das Etikett hat Platz für %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 lines are %2 mm high at 5 points, and the label has room for %3 mm</source>
+        <translation>%1 Zeilen sind bei 5 Punkt %2 mm hoch, und das Etikett hat Platz für %3 mm</translation>
+    </message>
+    <message>
+        <source>no font has the character %1</source>
+        <translation>keine Schrift hat das Zeichen %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 mm wide at 5 points, and the label has room for %3 mm</source>
+        <translation>&quot;%1&quot; ist bei 5 Punkt %2 mm breit, und das Etikett hat Platz für %3 mm</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;}&quot; without a &quot;{&quot;; write &quot;}}&quot; for a brace</source>
+        <translation>das Muster hat eine &quot;}&quot; ohne &quot;{&quot;; schreiben Sie &quot;}}&quot; für eine geschweifte Klammer</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;{&quot; without a &quot;}&quot;; write &quot;{{&quot; for a brace</source>
+        <translation>das Muster hat eine &quot;{&quot; ohne &quot;}&quot;; schreiben Sie &quot;{{&quot; für eine geschweifte Klammer</translation>
+    </message>
+    <message>
+        <source>the pattern has a field without a name</source>
+        <translation>das Muster hat ein Feld ohne Namen</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>es gibt kein Feld &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; ist kein regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>only cables have two ends</source>
+        <translation>nur Kabel haben zwei Enden</translation>
+    </message>
+    <message>
+        <source>a sheet has the places 1 to %1</source>
+        <translation>ein Blatt hat die Plätze 1 bis %1</translation>
+    </message>
+    <message>
+        <source>the label has no text</source>
+        <translation>das Etikett hat keinen Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a label with the same text</source>
+        <translation>&quot;%1&quot; hat ein Etikett mit demselben Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the same code</source>
+        <translation>&quot;%1&quot; hat denselben Code</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form %2</source>
+        <translation>&quot;%1&quot; hat nicht die Form %2</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
     </message>
 </context>
 <context>
@@ -1849,10 +1928,6 @@
         <translation>Gezeigt werden Kabel, die nicht geprüft sind, nicht bestanden haben, ein unbekanntes Urteil haben oder mehr als einmal geprüft wurden, und solche, die außerhalb der Grenzen ihrer Prüfdefinition liegen: Höchstlänge, Laufzeitdifferenz und Beschaltung. Eine Grenze wird nur geprüft, wenn der Auftrag die Grenze und den Messwert enthält. Frühere Prüfungen werden gezählt, aber --fail-on beachtet nur die aktuellen. Die letzte Zeile nennt die Anzahlen der Kabel.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
-        <translation>&quot;check&quot; oder &quot;results status&quot; hat etwas gefunden.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
         <translation>&quot;%1&quot; ist kein Maßstab wie 1:100 oder 1in=20ft</translation>
     </message>
@@ -1979,6 +2054,182 @@
     <message>
         <source>The number of the sheet in the title block.</source>
         <translation>Die Nummer des Blatts im Schriftfeld.</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Erstes</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Printed height</source>
+        <translation>Druckhöhe</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; &quot;cabledoc label formats&quot; lists them</source>
+        <translation>ein Format &quot;%1&quot; gibt es nicht; &quot;cabledoc label formats&quot; listet die Formate auf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of qr, code128 and none</source>
+        <translation>&quot;%1&quot; ist keines von qr, code128 und none</translation>
+    </message>
+    <message>
+        <source>the name of the labels ends in .pdf, .svg or .csv</source>
+        <translation>der Name der Etikettendatei endet auf .pdf, .svg oder .csv</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>es gibt kein Feld &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several sheets, and these labels need %1</source>
+        <translation>nur eine PDF-Datei kann mehrere Blätter haben, und diese Etiketten brauchen %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to label</source>
+        <translation>es gibt nichts zu beschriften</translation>
+    </message>
+    <message>
+        <source>there is no report &quot;%1&quot;</source>
+        <translation>es gibt keinen Bericht &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 is only for the reports &quot;test&quot; and &quot;schedule&quot;</source>
+        <translation>--%1 ist nur für die Berichte &quot;test&quot; und &quot;schedule&quot;</translation>
+    </message>
+    <message>
+        <source>no cable fulfils the conditions</source>
+        <translation>kein Kabel erfüllt die Bedingungen</translation>
+    </message>
+    <message>
+        <source>the name of the report ends in .pdf or .html</source>
+        <translation>der Name des Berichts endet auf .pdf oder .html</translation>
+    </message>
+    <message>
+        <source>The table with the elements to label, such as cables (the default), ports or rooms.</source>
+        <translation>Die Tabelle mit den Elementen, die Etiketten bekommen, etwa cables (die Vorgabe), ports oder rooms.</translation>
+    </message>
+    <message>
+        <source>The labels to write: a file whose name ends in .pdf, .svg or .csv, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>Die Etiketten, die geschrieben werden: eine Datei, deren Name auf .pdf, .svg oder .csv endet, oder &quot;-&quot;, um SVG in die Standardausgabe zu schreiben.</translation>
+    </message>
+    <message>
+        <source>The format of the labels; a4-5x13 by default. &quot;label formats&quot; lists them.</source>
+        <translation>Das Format der Etiketten; Vorgabe ist a4-5x13. &quot;label formats&quot; listet die Formate auf.</translation>
+    </message>
+    <message>
+        <source>The text of a label, such as &quot;{id}\n{far_room|?}&quot;.</source>
+        <translation>Der Text eines Etiketts, etwa &quot;{id}\n{far_room|?}&quot;.</translation>
+    </message>
+    <message>
+        <source>The code beside the text: qr, code128 or none (the default).</source>
+        <translation>Der Code neben dem Text: qr, code128 oder none (kein Code, die Vorgabe).</translation>
+    </message>
+    <message>
+        <source>The text of the code. By default, it is the name of the element.</source>
+        <translation>Der Text des Codes. Sonst ist es der Name des Elements.</translation>
+    </message>
+    <message>
+        <source>Make a label for each end of a cable.</source>
+        <translation>Für jedes Ende eines Kabels ein Etikett machen.</translation>
+    </message>
+    <message>
+        <source>The number of equal labels; 1 by default.</source>
+        <translation>Die Zahl gleicher Etiketten; Vorgabe ist 1.</translation>
+    </message>
+    <message>
+        <source>The place of the first label on the first sheet, counted from 1 in rows.</source>
+        <translation>Der Platz des ersten Etiketts auf dem ersten Blatt, zeilenweise ab 1 gezählt.</translation>
+    </message>
+    <message>
+        <source>A regular expression that each text must match, such as &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</source>
+        <translation>Ein regulärer Ausdruck, dem jeder Text entsprechen muss, etwa &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</translation>
+    </message>
+    <message>
+        <source>Draw the edges of the labels, for a test on plain paper.</source>
+        <translation>Die Umrisse der Etiketten zeichnen, für einen Probedruck auf normalem Papier.</translation>
+    </message>
+    <message>
+        <source>The columns of the table that a CSV file has, separated by commas. By default, it has all.</source>
+        <translation>Die Spalten der Tabelle, die eine CSV-Datei hat, durch Kommas getrennt. Sonst hat sie alle.</translation>
+    </message>
+    <message>
+        <source>Print labels.</source>
+        <translation>Etiketten drucken.</translation>
+    </message>
+    <message>
+        <source>A pattern has the columns of &quot;list&quot; as fields. A text after &quot;|&quot; takes the place of an empty value, &quot;\n&quot; begins a new line, and &quot;{{&quot; and &quot;}}&quot; stand for braces. The fields near_floor, near_room and near_port are those of the end of the cable for which the label is, and far_floor, far_room and far_port those of the other end. Texts must differ from element to element. Lines that are too wide are set smaller, down to 5 points. If a label has a problem, nothing is written, and the exit code is 1. Print the file in its actual size.</source>
+        <translation>Ein Muster hat die Spalten von &quot;list&quot; als Felder. Ein Text nach &quot;|&quot; steht anstelle eines leeren Werts, &quot;\n&quot; beginnt eine neue Zeile, und &quot;{{&quot; und &quot;}}&quot; stehen für geschweifte Klammern. Die Felder near_floor, near_room und near_port sind die des Kabelendes, für das das Etikett ist, und far_floor, far_room und far_port die des anderen Endes. Texte müssen sich von Element zu Element unterscheiden. Zu breite Zeilen werden kleiner gesetzt, bis hinab zu 5 Punkt. Wenn ein Etikett einen Fehler hat, wird nichts geschrieben, und der Rückgabewert ist 1. Drucken Sie die Datei in Originalgröße.</translation>
+    </message>
+    <message>
+        <source>List the formats of labels.</source>
+        <translation>Die Formate der Etiketten auflisten.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres. The list has the sizes of the paper and of a label, the numbers of columns and rows, the left upper corner of the first label, the distance from one label to the next, and the height of the part that is printed. The rest of a label that is wound around a cable is transparent. A label on a tape is as long as its text needs.</source>
+        <translation>Längen sind in Millimetern. Die Liste nennt die Größen des Papiers und eines Etiketts, die Zahlen der Spalten und Zeilen, die linke obere Ecke des ersten Etiketts, den Abstand von einem Etikett zum nächsten und die Höhe des Teils, der bedruckt wird. Der Rest eines Etiketts, das um ein Kabel gewickelt wird, ist durchsichtig. Ein Etikett auf einem Band ist so lang, wie es sein Text erfordert.</translation>
+    </message>
+    <message>
+        <source>The report to write: a file whose name ends in .pdf or .html, or &quot;-&quot; to write HTML to standard output.</source>
+        <translation>Der Bericht, der geschrieben wird: eine Datei, deren Name auf .pdf oder .html endet, oder &quot;-&quot;, um HTML in die Standardausgabe zu schreiben.</translation>
+    </message>
+    <message>
+        <source>The kind of report: test (the default), summary, inventory, schedule, notes or active.</source>
+        <translation>Die Art des Berichts: test (die Vorgabe), summary, inventory, schedule, notes oder active.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end on this floor.</source>
+        <translation>Nur die Kabel mit einem Ende auf dieser Etage.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end in this room.</source>
+        <translation>Nur die Kabel mit einem Ende in diesem Raum.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day, such as 2026-01-31, or later.</source>
+        <translation>Nur die Kabel, deren Prüfung von diesem Tag, etwa 2026-01-31, oder später ist.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day or earlier.</source>
+        <translation>Nur die Kabel, deren Prüfung von diesem Tag oder früher ist.</translation>
+    </message>
+    <message>
+        <source>Begin with the cables that have failed.</source>
+        <translation>Mit den Kabeln beginnen, die nicht bestanden haben.</translation>
+    </message>
+    <message>
+        <source>The revision at the bottom of each page.</source>
+        <translation>Die Revision am Fuß jeder Seite.</translation>
+    </message>
+    <message>
+        <source>Write a report for the customer.</source>
+        <translation>Einen Bericht für den Kunden schreiben.</translation>
+    </message>
+    <message>
+        <source>The report of tests has a summary, the results of each cable, and an index from cables to pages. The cables are in the order of their names unless --sort asks for another one. Each kind of report has the paper, the orientation and the zoom of its print settings in the job. The options that choose cables are for the kinds test and schedule. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>Der Prüfbericht hat eine Zusammenfassung, die Ergebnisse jedes Kabels und einen Index von den Kabeln zu den Seiten. Die Kabel stehen in der Reihenfolge ihrer Namen, außer wenn --sort eine andere verlangt. Jede Art von Bericht hat das Papier, die Ausrichtung und den Zoom aus ihren Druckeinstellungen im Auftrag. Die Optionen, die Kabel auswählen, sind für die Arten test und schedule. Die Umgebungsvariable SOURCE_DATE_EPOCH setzt das Datum.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot;, &quot;labels&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot;, &quot;labels&quot; oder &quot;results status&quot; hat etwas gefunden.</translation>
     </message>
 </context>
 <context>
@@ -2125,6 +2376,421 @@
     <message>
         <source>Dec</source>
         <translation>Dez</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Cables</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>of cables</source>
+        <translation>bei Kabeln</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Geschätzt</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Etage</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Andere Etage</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Nutzung</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Anschlüsse</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Alle Kabel</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Kabel nach Typ</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Kabel nach Nutzung</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Kabel nach Etage</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Kabel nach Bündel</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Bündel</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Kabel nach Prüfstand</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Anschlüsse nach Nutzung</translation>
+    </message>
+    <message>
+        <source>Lengths from the plan, by type and bundle</source>
+        <translation>Längen nach dem Plan, je Typ und Bündel</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Längste</translation>
+    </message>
+    <message>
+        <source>Without a length</source>
+        <translation>Ohne Länge</translation>
+    </message>
+    <message>
+        <source>Network devices</source>
+        <translation>Netzwerkgeräte</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Räume</translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Raum</translation>
+    </message>
+    <message>
+        <source>Ends of cables</source>
+        <translation>Kabelenden</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>From floor</source>
+        <translation>Von Etage</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>To floor</source>
+        <translation>Nach Etage</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Not tested.</source>
+        <translation>Nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Tested</source>
+        <translation>Geprüft am</translation>
+    </message>
+    <message>
+        <source>Speed (Mbit/s)</source>
+        <translation>Datenrate (Mbit/s)</translation>
+    </message>
+    <message>
+        <source>Duplex</source>
+        <translation>Duplex</translation>
+    </message>
+    <message>
+        <source>Far end</source>
+        <translation>Gegenstelle</translation>
+    </message>
+    <message>
+        <source>Other values</source>
+        <translation>Weitere Werte</translation>
+    </message>
+    <message>
+        <source>Job information</source>
+        <translation>Angaben zum Auftrag</translation>
+    </message>
+    <message>
+        <source>Inventory</source>
+        <translation>Bestandsübersicht</translation>
+    </message>
+    <message>
+        <source>Cable schedule</source>
+        <translation>Kabelplan</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Tests in the working network</source>
+        <translation>Prüfungen im laufenden Netz</translation>
+    </message>
+    <message>
+        <source>Revision %1</source>
+        <translation>Revision %1</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Kontakt</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Contractor</source>
+        <translation>Auftragnehmer</translation>
+    </message>
+    <message>
+        <source>Tested by</source>
+        <translation>Geprüft von</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>From the tester</source>
+        <translation>Laut Messgerät</translation>
+    </message>
+    <message>
+        <source>Worst margin (dB)</source>
+        <translation>Kleinste Reserve (dB)</translation>
+    </message>
+    <message>
+        <source>Worst value (dB or ns)</source>
+        <translation>Schlechtester Wert (dB oder ns)</translation>
+    </message>
+    <message>
+        <source>Frequency (MHz)</source>
+        <translation>Frequenz (MHz)</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Paar</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>%1: %2 dB</source>
+        <translation>%1: %2 dB</translation>
+    </message>
+    <message>
+        <source>Earlier tests</source>
+        <translation>Frühere Prüfungen</translation>
+    </message>
+    <message>
+        <source>Tester</source>
+        <translation>Messgerät</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Prüfer</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Bemerkungen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Without a place</source>
+        <translation>Ohne Ort</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>What was tested</source>
+        <translation>Prüfumfang</translation>
+    </message>
+    <message>
+        <source>Limits and testers</source>
+        <translation>Grenzwerte und Messgeräte</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Nicht bestanden</translation>
+    </message>
+    <message>
+        <source>Not tested</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Cables in this report: %1. Tested: %2. Not tested: %3.</source>
+        <translation>Kabel in diesem Bericht: %1. Geprüft: %2. Nicht geprüft: %3.</translation>
+    </message>
+    <message>
+        <source>Day of the tests: %1.</source>
+        <translation>Tag der Prüfungen: %1.</translation>
+    </message>
+    <message>
+        <source>Days of the tests: %1 to %2.</source>
+        <translation>Tage der Prüfungen: %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>The job has further cables, which were not selected: %1.</source>
+        <translation>Weitere Kabel des Auftrags, die nicht ausgewählt wurden: %1.</translation>
+    </message>
+    <message>
+        <source>Cables that were tested more than once: %1. The last part of the page of such a cable lists its earlier tests.</source>
+        <translation>Kabel, die mehr als einmal geprüft wurden: %1. Der letzte Teil der Seite eines solchen Kabels führt seine früheren Prüfungen auf.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Norm</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>bestanden</translation>
+    </message>
+    <message>
+        <source>passed, but closer to the limit than the tester measures</source>
+        <translation>bestanden, aber die Reserve ist kleiner als die Messgenauigkeit des Geräts</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>nicht bestanden</translation>
+    </message>
+    <message>
+        <source>not tested</source>
+        <translation>nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Bedeutung</translation>
+    </message>
+    <message>
+        <source>as the tester says; does not count as passed</source>
+        <translation>laut Messgerät; zählt nicht als bestanden</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Tester software</source>
+        <translation>Gerätesoftware</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>NVP</source>
+        <translation>NVP</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>Bit errors</source>
+        <translation>Bitfehler</translation>
+    </message>
+    <message>
+        <source>Wire map</source>
+        <translation>Verdrahtung</translation>
+    </message>
+    <message>
+        <source>File of the tester</source>
+        <translation>Datei des Messgeräts</translation>
+    </message>
+    <message>
+        <source>Longest allowed</source>
+        <translation>Höchstlänge</translation>
+    </message>
+    <message>
+        <source>Without a room</source>
+        <translation>Ohne Raum</translation>
+    </message>
+    <message>
+        <source>Test report</source>
+        <translation>Prüfbericht</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Nahnebensprechen</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Echo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
     </message>
 </context>
 <context>

@@ -449,10 +449,6 @@
         <translation>no se puede leer el logotipo %1</translation>
     </message>
     <message>
-        <source>The pages cannot be painted.</source>
-        <translation>No se pueden pintar las páginas.</translation>
-    </message>
-    <message>
         <source>There is no floor with the tag &quot;%1&quot;.</source>
         <translation>No hay ninguna planta con la etiqueta &quot;%1&quot;.</translation>
     </message>
@@ -565,6 +561,10 @@
         <source>Sheet</source>
         <translation>Hoja</translation>
     </message>
+    <message>
+        <source>The pages cannot be written to a temporary file in %1.</source>
+        <translation>Las páginas no se pueden escribir en un archivo temporal en %1.</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>
@@ -675,6 +675,85 @@
     <message>
         <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>Este es el archivo del propio trabajo. Una plantilla necesita otro nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>Labels</name>
+    <message>
+        <source>Code 128 only holds characters of ASCII, and not &quot;%1&quot;; a QR code can hold it</source>
+        <translation>Code 128 solo admite caracteres ASCII, y no &quot;%1&quot;; un código QR admite este texto</translation>
+    </message>
+    <message>
+        <source>the code is empty</source>
+        <translation>el código está vacío</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long for a code</source>
+        <translation>&quot;%1&quot; es demasiado largo para un código</translation>
+    </message>
+    <message>
+        <source>the code with its light zone needs %1 mm, and the label has room for %2 mm</source>
+        <translation>el código con su zona de silencio necesita %1 mm, y la etiqueta tiene sitio para %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 lines are %2 mm high at 5 points, and the label has room for %3 mm</source>
+        <translation>%1 líneas miden %2 mm de alto a 5 puntos, y la etiqueta tiene sitio para %3 mm</translation>
+    </message>
+    <message>
+        <source>no font has the character %1</source>
+        <translation>ninguna fuente tiene el carácter %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 mm wide at 5 points, and the label has room for %3 mm</source>
+        <translation>&quot;%1&quot; mide %2 mm de ancho a 5 puntos, y la etiqueta tiene sitio para %3 mm</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;}&quot; without a &quot;{&quot;; write &quot;}}&quot; for a brace</source>
+        <translation>el patrón tiene una &quot;}&quot; sin &quot;{&quot;; escriba &quot;}}&quot; para una llave</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;{&quot; without a &quot;}&quot;; write &quot;{{&quot; for a brace</source>
+        <translation>el patrón tiene una &quot;{&quot; sin &quot;}&quot;; escriba &quot;{{&quot; para una llave</translation>
+    </message>
+    <message>
+        <source>the pattern has a field without a name</source>
+        <translation>el patrón tiene un campo sin nombre</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>no hay ningún campo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; no es una expresión regular</translation>
+    </message>
+    <message>
+        <source>only cables have two ends</source>
+        <translation>solo los cables tienen dos extremos</translation>
+    </message>
+    <message>
+        <source>a sheet has the places 1 to %1</source>
+        <translation>una hoja tiene las posiciones 1 a %1</translation>
+    </message>
+    <message>
+        <source>the label has no text</source>
+        <translation>la etiqueta no tiene texto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a label with the same text</source>
+        <translation>&quot;%1&quot; tiene una etiqueta con el mismo texto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the same code</source>
+        <translation>&quot;%1&quot; tiene el mismo código</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form %2</source>
+        <translation>&quot;%1&quot; no tiene la forma %2</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
     </message>
 </context>
 <context>
@@ -1849,10 +1928,6 @@
         <translation>Se muestran los cables que no se han probado, no han superado la prueba, tienen un veredicto desconocido o se han probado más de una vez, y los que están fuera de los límites de su definición de prueba: la longitud máxima, el desfase y el conexionado. Un límite solo se comprueba si el trabajo tiene el límite y la medida. Las pruebas anteriores se cuentan, pero --fail-on solo mira las actuales. La última línea tiene los números de cables.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
-        <translation>&quot;check&quot; o &quot;results status&quot; encontró algo mal.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
         <translation>&quot;%1&quot; no es una escala como 1:100 o 1in=20ft</translation>
     </message>
@@ -1979,6 +2054,182 @@
     <message>
         <source>The number of the sheet in the title block.</source>
         <translation>El número de la hoja en el cajetín.</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Primera</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Printed height</source>
+        <translation>Altura impresa</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; &quot;cabledoc label formats&quot; lists them</source>
+        <translation>no hay ningún formato &quot;%1&quot;; &quot;cabledoc label formats&quot; muestra los formatos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of qr, code128 and none</source>
+        <translation>&quot;%1&quot; no es qr, code128 ni none</translation>
+    </message>
+    <message>
+        <source>the name of the labels ends in .pdf, .svg or .csv</source>
+        <translation>el nombre del archivo de etiquetas termina en .pdf, .svg o .csv</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>no hay ningún campo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several sheets, and these labels need %1</source>
+        <translation>solo un archivo PDF puede tener varias hojas, y estas etiquetas necesitan %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to label</source>
+        <translation>no hay nada que etiquetar</translation>
+    </message>
+    <message>
+        <source>there is no report &quot;%1&quot;</source>
+        <translation>no hay ningún informe &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 is only for the reports &quot;test&quot; and &quot;schedule&quot;</source>
+        <translation>--%1 es solo para los informes &quot;test&quot; y &quot;schedule&quot;</translation>
+    </message>
+    <message>
+        <source>no cable fulfils the conditions</source>
+        <translation>ningún cable cumple las condiciones</translation>
+    </message>
+    <message>
+        <source>the name of the report ends in .pdf or .html</source>
+        <translation>el nombre del informe termina en .pdf o .html</translation>
+    </message>
+    <message>
+        <source>The table with the elements to label, such as cables (the default), ports or rooms.</source>
+        <translation>La tabla con los elementos que se etiquetan, como cables (por omisión), ports o rooms.</translation>
+    </message>
+    <message>
+        <source>The labels to write: a file whose name ends in .pdf, .svg or .csv, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>Las etiquetas que se escriben: un archivo cuyo nombre termina en .pdf, .svg o .csv, o &quot;-&quot; para escribir SVG en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>The format of the labels; a4-5x13 by default. &quot;label formats&quot; lists them.</source>
+        <translation>El formato de las etiquetas; por omisión, a4-5x13. &quot;label formats&quot; muestra los formatos.</translation>
+    </message>
+    <message>
+        <source>The text of a label, such as &quot;{id}\n{far_room|?}&quot;.</source>
+        <translation>El texto de una etiqueta, como &quot;{id}\n{far_room|?}&quot;.</translation>
+    </message>
+    <message>
+        <source>The code beside the text: qr, code128 or none (the default).</source>
+        <translation>El código junto al texto: qr, code128 o none (sin código, por omisión).</translation>
+    </message>
+    <message>
+        <source>The text of the code. By default, it is the name of the element.</source>
+        <translation>El texto del código. Por omisión, es el nombre del elemento.</translation>
+    </message>
+    <message>
+        <source>Make a label for each end of a cable.</source>
+        <translation>Hacer una etiqueta para cada extremo de un cable.</translation>
+    </message>
+    <message>
+        <source>The number of equal labels; 1 by default.</source>
+        <translation>El número de etiquetas iguales; por omisión, 1.</translation>
+    </message>
+    <message>
+        <source>The place of the first label on the first sheet, counted from 1 in rows.</source>
+        <translation>La posición de la primera etiqueta en la primera hoja, contada por filas a partir de 1.</translation>
+    </message>
+    <message>
+        <source>A regular expression that each text must match, such as &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</source>
+        <translation>Una expresión regular que debe cumplir cada texto, como &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</translation>
+    </message>
+    <message>
+        <source>Draw the edges of the labels, for a test on plain paper.</source>
+        <translation>Dibujar los bordes de las etiquetas, para una prueba en papel normal.</translation>
+    </message>
+    <message>
+        <source>The columns of the table that a CSV file has, separated by commas. By default, it has all.</source>
+        <translation>Las columnas de la tabla que tiene un archivo CSV, separadas por comas. Por omisión, las tiene todas.</translation>
+    </message>
+    <message>
+        <source>Print labels.</source>
+        <translation>Imprimir etiquetas.</translation>
+    </message>
+    <message>
+        <source>A pattern has the columns of &quot;list&quot; as fields. A text after &quot;|&quot; takes the place of an empty value, &quot;\n&quot; begins a new line, and &quot;{{&quot; and &quot;}}&quot; stand for braces. The fields near_floor, near_room and near_port are those of the end of the cable for which the label is, and far_floor, far_room and far_port those of the other end. Texts must differ from element to element. Lines that are too wide are set smaller, down to 5 points. If a label has a problem, nothing is written, and the exit code is 1. Print the file in its actual size.</source>
+        <translation>Un patrón tiene como campos las columnas de &quot;list&quot;. Un texto después de &quot;|&quot; ocupa el lugar de un valor vacío, &quot;\n&quot; empieza una línea nueva, y &quot;{{&quot; y &quot;}}&quot; representan llaves. Los campos near_floor, near_room y near_port son los del extremo del cable al que corresponde la etiqueta, y far_floor, far_room y far_port los del otro extremo. Los textos deben ser distintos de un elemento a otro. Las líneas demasiado anchas se componen con letra más pequeña, hasta 5 puntos. Si una etiqueta tiene un problema, no se escribe nada y el código de salida es 1. Imprima el archivo a tamaño real.</translation>
+    </message>
+    <message>
+        <source>List the formats of labels.</source>
+        <translation>Mostrar los formatos de las etiquetas.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres. The list has the sizes of the paper and of a label, the numbers of columns and rows, the left upper corner of the first label, the distance from one label to the next, and the height of the part that is printed. The rest of a label that is wound around a cable is transparent. A label on a tape is as long as its text needs.</source>
+        <translation>Las longitudes están en milímetros. La lista tiene los tamaños del papel y de una etiqueta, los números de columnas y filas, la esquina superior izquierda de la primera etiqueta, la distancia de una etiqueta a la siguiente y la altura de la parte que se imprime. El resto de una etiqueta que se enrolla en un cable es transparente. Una etiqueta en cinta es tan larga como necesita su texto.</translation>
+    </message>
+    <message>
+        <source>The report to write: a file whose name ends in .pdf or .html, or &quot;-&quot; to write HTML to standard output.</source>
+        <translation>El informe que se escribe: un archivo cuyo nombre termina en .pdf o .html, o &quot;-&quot; para escribir HTML en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>The kind of report: test (the default), summary, inventory, schedule, notes or active.</source>
+        <translation>La clase de informe: test (por omisión), summary, inventory, schedule, notes o active.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end on this floor.</source>
+        <translation>Solo los cables con un extremo en esta planta.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end in this room.</source>
+        <translation>Solo los cables con un extremo en esta sala.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day, such as 2026-01-31, or later.</source>
+        <translation>Solo los cables cuya prueba es de este día, como 2026-01-31, o posterior.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day or earlier.</source>
+        <translation>Solo los cables cuya prueba es de este día o anterior.</translation>
+    </message>
+    <message>
+        <source>Begin with the cables that have failed.</source>
+        <translation>Empezar por los cables que no han superado la prueba.</translation>
+    </message>
+    <message>
+        <source>The revision at the bottom of each page.</source>
+        <translation>La revisión al pie de cada página.</translation>
+    </message>
+    <message>
+        <source>Write a report for the customer.</source>
+        <translation>Escribir un informe para el cliente.</translation>
+    </message>
+    <message>
+        <source>The report of tests has a summary, the results of each cable, and an index from cables to pages. The cables are in the order of their names unless --sort asks for another one. Each kind of report has the paper, the orientation and the zoom of its print settings in the job. The options that choose cables are for the kinds test and schedule. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>El informe de pruebas tiene un resumen, los resultados de cada cable y un índice de cables con sus páginas. Los cables van en el orden de sus nombres si --sort no pide otro. Cada clase de informe tiene el papel, la orientación y el zoom de sus ajustes de impresión en el trabajo. Las opciones que eligen cables son para las clases test y schedule. La variable de entorno SOURCE_DATE_EPOCH fija la fecha.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot;, &quot;labels&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot;, &quot;labels&quot; o &quot;results status&quot; encontró algo mal.</translation>
     </message>
 </context>
 <context>
@@ -2125,6 +2376,421 @@
     <message>
         <source>Dec</source>
         <translation>dic</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Cables</source>
+        <translation>Cables</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Medida</translation>
+    </message>
+    <message>
+        <source>of cables</source>
+        <translation>en cables</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Estimada</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Planta</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Otra planta</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Uso</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Tomas</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Todos los cables</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Cables por tipo</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Cables por uso</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Cables por planta</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Cables por haz</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Haz</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Cables por estado de prueba</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Tomas por uso</translation>
+    </message>
+    <message>
+        <source>Lengths from the plan, by type and bundle</source>
+        <translation>Longitudes según el plano, por tipo y haz</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Tiradas</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Más larga</translation>
+    </message>
+    <message>
+        <source>Without a length</source>
+        <translation>Sin longitud</translation>
+    </message>
+    <message>
+        <source>Network devices</source>
+        <translation>Dispositivos de red</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Salas</translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Sala</translation>
+    </message>
+    <message>
+        <source>Ends of cables</source>
+        <translation>Extremos de cable</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Cable</translation>
+    </message>
+    <message>
+        <source>From floor</source>
+        <translation>De planta</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Toma</translation>
+    </message>
+    <message>
+        <source>To floor</source>
+        <translation>A planta</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Veredicto</translation>
+    </message>
+    <message>
+        <source>Not tested.</source>
+        <translation>Sin probar.</translation>
+    </message>
+    <message>
+        <source>Tested</source>
+        <translation>Probado el</translation>
+    </message>
+    <message>
+        <source>Speed (Mbit/s)</source>
+        <translation>Velocidad (Mbit/s)</translation>
+    </message>
+    <message>
+        <source>Duplex</source>
+        <translation>Dúplex</translation>
+    </message>
+    <message>
+        <source>Far end</source>
+        <translation>Extremo remoto</translation>
+    </message>
+    <message>
+        <source>Other values</source>
+        <translation>Otros valores</translation>
+    </message>
+    <message>
+        <source>Job information</source>
+        <translation>Información del trabajo</translation>
+    </message>
+    <message>
+        <source>Inventory</source>
+        <translation>Inventario</translation>
+    </message>
+    <message>
+        <source>Cable schedule</source>
+        <translation>Plan de cableado</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Tests in the working network</source>
+        <translation>Pruebas en la red en funcionamiento</translation>
+    </message>
+    <message>
+        <source>Revision %1</source>
+        <translation>Revisión %1</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Contacto</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Contractor</source>
+        <translation>Contratista</translation>
+    </message>
+    <message>
+        <source>Tested by</source>
+        <translation>Probado por</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>From the tester</source>
+        <translation>Según el comprobador</translation>
+    </message>
+    <message>
+        <source>Worst margin (dB)</source>
+        <translation>Peor margen (dB)</translation>
+    </message>
+    <message>
+        <source>Worst value (dB or ns)</source>
+        <translation>Peor valor (dB o ns)</translation>
+    </message>
+    <message>
+        <source>Frequency (MHz)</source>
+        <translation>Frecuencia (MHz)</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Par</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Extremo</translation>
+    </message>
+    <message>
+        <source>%1: %2 dB</source>
+        <translation>%1: %2 dB</translation>
+    </message>
+    <message>
+        <source>Earlier tests</source>
+        <translation>Pruebas anteriores</translation>
+    </message>
+    <message>
+        <source>Tester</source>
+        <translation>Comprobador</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Operador</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Observaciones</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Without a place</source>
+        <translation>Sin ubicación</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Índice</translation>
+    </message>
+    <message>
+        <source>What was tested</source>
+        <translation>Alcance de las pruebas</translation>
+    </message>
+    <message>
+        <source>Limits and testers</source>
+        <translation>Límites y comprobadores</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>No superados</translation>
+    </message>
+    <message>
+        <source>Not tested</source>
+        <translation>Sin probar</translation>
+    </message>
+    <message>
+        <source>Cables in this report: %1. Tested: %2. Not tested: %3.</source>
+        <translation>Cables en este informe: %1. Probados: %2. Sin probar: %3.</translation>
+    </message>
+    <message>
+        <source>Day of the tests: %1.</source>
+        <translation>Fecha de las pruebas: %1.</translation>
+    </message>
+    <message>
+        <source>Days of the tests: %1 to %2.</source>
+        <translation>Fechas de las pruebas: de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>The job has further cables, which were not selected: %1.</source>
+        <translation>Otros cables del trabajo, que no se seleccionaron: %1.</translation>
+    </message>
+    <message>
+        <source>Cables that were tested more than once: %1. The last part of the page of such a cable lists its earlier tests.</source>
+        <translation>Cables probados más de una vez: %1. La última parte de la página de cada uno de estos cables muestra sus pruebas anteriores.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Límite</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Norma</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>superada</translation>
+    </message>
+    <message>
+        <source>passed, but closer to the limit than the tester measures</source>
+        <translation>superada, pero más cerca del límite de lo que permite la precisión del comprobador</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>no superada</translation>
+    </message>
+    <message>
+        <source>not tested</source>
+        <translation>sin probar</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>as the tester says; does not count as passed</source>
+        <translation>según el comprobador; no cuenta como superada</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>Tester software</source>
+        <translation>Software del comprobador</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Enlace</translation>
+    </message>
+    <message>
+        <source>NVP</source>
+        <translation>NVP</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>Bit errors</source>
+        <translation>Errores de bit</translation>
+    </message>
+    <message>
+        <source>Wire map</source>
+        <translation>Mapa de cableado</translation>
+    </message>
+    <message>
+        <source>File of the tester</source>
+        <translation>Archivo del comprobador</translation>
+    </message>
+    <message>
+        <source>Longest allowed</source>
+        <translation>Máx. permitida</translation>
+    </message>
+    <message>
+        <source>Without a room</source>
+        <translation>Sin sala</translation>
+    </message>
+    <message>
+        <source>Test report</source>
+        <translation>Informe de pruebas</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Paradiafonía</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Eco</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
     </message>
 </context>
 <context>

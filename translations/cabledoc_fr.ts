@@ -449,10 +449,6 @@
         <translation>le logo %1 est illisible</translation>
     </message>
     <message>
-        <source>The pages cannot be painted.</source>
-        <translation>Les pages ne peuvent pas être dessinées.</translation>
-    </message>
-    <message>
         <source>There is no floor with the tag &quot;%1&quot;.</source>
         <translation>Il n&apos;y a pas d&apos;étage avec l&apos;étiquette &quot;%1&quot;.</translation>
     </message>
@@ -565,6 +561,10 @@
         <source>Sheet</source>
         <translation>Feuille</translation>
     </message>
+    <message>
+        <source>The pages cannot be written to a temporary file in %1.</source>
+        <translation>Les pages ne peuvent pas être écrites dans un fichier temporaire de %1.</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>
@@ -675,6 +675,85 @@
     <message>
         <source>This is the job&apos;s own file. Choose another name for the template.</source>
         <translation>C&apos;est le fichier du projet lui-même. Un modèle a besoin d&apos;un autre nom.</translation>
+    </message>
+</context>
+<context>
+    <name>Labels</name>
+    <message>
+        <source>Code 128 only holds characters of ASCII, and not &quot;%1&quot;; a QR code can hold it</source>
+        <translation>Code 128 n&apos;admet que des caractères ASCII, et non &quot;%1&quot; ; un code QR admet ce texte</translation>
+    </message>
+    <message>
+        <source>the code is empty</source>
+        <translation>le code est vide</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long for a code</source>
+        <translation>&quot;%1&quot; est trop long pour un code</translation>
+    </message>
+    <message>
+        <source>the code with its light zone needs %1 mm, and the label has room for %2 mm</source>
+        <translation>le code avec sa zone de silence demande %1 mm, et l&apos;étiquette a de la place pour %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 lines are %2 mm high at 5 points, and the label has room for %3 mm</source>
+        <translation>%1 lignes mesurent %2 mm de haut en corps 5, et l&apos;étiquette a de la place pour %3 mm</translation>
+    </message>
+    <message>
+        <source>no font has the character %1</source>
+        <translation>aucune police n&apos;a le caractère %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 mm wide at 5 points, and the label has room for %3 mm</source>
+        <translation>&quot;%1&quot; mesure %2 mm de large en corps 5, et l&apos;étiquette a de la place pour %3 mm</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;}&quot; without a &quot;{&quot;; write &quot;}}&quot; for a brace</source>
+        <translation>le motif a une &quot;}&quot; sans &quot;{&quot; ; écrivez &quot;}}&quot; pour une accolade</translation>
+    </message>
+    <message>
+        <source>the pattern has a &quot;{&quot; without a &quot;}&quot;; write &quot;{{&quot; for a brace</source>
+        <translation>le motif a une &quot;{&quot; sans &quot;}&quot; ; écrivez &quot;{{&quot; pour une accolade</translation>
+    </message>
+    <message>
+        <source>the pattern has a field without a name</source>
+        <translation>le motif a un champ sans nom</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de champ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular expression</source>
+        <translation>&quot;%1&quot; n&apos;est pas une expression régulière</translation>
+    </message>
+    <message>
+        <source>only cables have two ends</source>
+        <translation>seuls les câbles ont deux extrémités</translation>
+    </message>
+    <message>
+        <source>a sheet has the places 1 to %1</source>
+        <translation>une feuille a les emplacements 1 à %1</translation>
+    </message>
+    <message>
+        <source>the label has no text</source>
+        <translation>l&apos;étiquette n&apos;a pas de texte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a label with the same text</source>
+        <translation>&quot;%1&quot; a une étiquette avec le même texte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has the same code</source>
+        <translation>&quot;%1&quot; a le même code</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form %2</source>
+        <translation>&quot;%1&quot; n&apos;a pas la forme %2</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
     </message>
 </context>
 <context>
@@ -1849,10 +1928,6 @@
         <translation>Sont affichés les câbles qui ne sont pas testés, ont échoué, ont un verdict inconnu ou ont été testés plusieurs fois, et ceux qui sont hors des limites de leur définition de test : la longueur maximale, le décalage et le raccordement. Une limite n&apos;est vérifiée que si le projet contient la limite et la mesure. Les tests précédents sont comptés, mais --fail-on ne regarde que les tests actuels. La dernière ligne donne les nombres de câbles.</translation>
     </message>
     <message>
-        <source>&quot;check&quot; or &quot;results status&quot; found something wrong.</source>
-        <translation>&quot;check&quot; ou &quot;results status&quot; a trouvé une anomalie.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a scale such as 1:100 or 1in=20ft</source>
         <translation>&quot;%1&quot; n&apos;est pas une échelle comme 1:100 ou 1in=20ft</translation>
     </message>
@@ -1979,6 +2054,182 @@
     <message>
         <source>The number of the sheet in the title block.</source>
         <translation>Le numéro de la feuille dans le cartouche.</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Première</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Printed height</source>
+        <translation>Hauteur imprimée</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; &quot;cabledoc label formats&quot; lists them</source>
+        <translation>il n&apos;y a pas de format &quot;%1&quot; ; &quot;cabledoc label formats&quot; liste les formats</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of qr, code128 and none</source>
+        <translation>&quot;%1&quot; n&apos;est ni qr, ni code128, ni none</translation>
+    </message>
+    <message>
+        <source>the name of the labels ends in .pdf, .svg or .csv</source>
+        <translation>le nom du fichier d&apos;étiquettes se termine par .pdf, .svg ou .csv</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de champ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>only a PDF file can have several sheets, and these labels need %1</source>
+        <translation>seul un fichier PDF peut avoir plusieurs feuilles, et ces étiquettes en demandent %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to label</source>
+        <translation>il n&apos;y a rien à étiqueter</translation>
+    </message>
+    <message>
+        <source>there is no report &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de rapport &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 is only for the reports &quot;test&quot; and &quot;schedule&quot;</source>
+        <translation>--%1 est réservé aux rapports &quot;test&quot; et &quot;schedule&quot;</translation>
+    </message>
+    <message>
+        <source>no cable fulfils the conditions</source>
+        <translation>aucun câble ne remplit les conditions</translation>
+    </message>
+    <message>
+        <source>the name of the report ends in .pdf or .html</source>
+        <translation>le nom du rapport se termine par .pdf ou .html</translation>
+    </message>
+    <message>
+        <source>The table with the elements to label, such as cables (the default), ports or rooms.</source>
+        <translation>Le tableau des éléments à étiqueter, tel que cables (par défaut), ports ou rooms.</translation>
+    </message>
+    <message>
+        <source>The labels to write: a file whose name ends in .pdf, .svg or .csv, or &quot;-&quot; to write SVG to standard output.</source>
+        <translation>Les étiquettes à écrire : un fichier dont le nom se termine par .pdf, .svg ou .csv, ou &quot;-&quot; pour écrire du SVG sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The format of the labels; a4-5x13 by default. &quot;label formats&quot; lists them.</source>
+        <translation>Le format des étiquettes ; a4-5x13 par défaut. &quot;label formats&quot; liste les formats.</translation>
+    </message>
+    <message>
+        <source>The text of a label, such as &quot;{id}\n{far_room|?}&quot;.</source>
+        <translation>Le texte d&apos;une étiquette, tel que &quot;{id}\n{far_room|?}&quot;.</translation>
+    </message>
+    <message>
+        <source>The code beside the text: qr, code128 or none (the default).</source>
+        <translation>Le code à côté du texte : qr, code128 ou none (aucun, par défaut).</translation>
+    </message>
+    <message>
+        <source>The text of the code. By default, it is the name of the element.</source>
+        <translation>Le texte du code. Par défaut, c&apos;est le nom de l&apos;élément.</translation>
+    </message>
+    <message>
+        <source>Make a label for each end of a cable.</source>
+        <translation>Faire une étiquette pour chaque extrémité d&apos;un câble.</translation>
+    </message>
+    <message>
+        <source>The number of equal labels; 1 by default.</source>
+        <translation>Le nombre d&apos;étiquettes identiques ; 1 par défaut.</translation>
+    </message>
+    <message>
+        <source>The place of the first label on the first sheet, counted from 1 in rows.</source>
+        <translation>L&apos;emplacement de la première étiquette sur la première feuille, compté par rangées à partir de 1.</translation>
+    </message>
+    <message>
+        <source>A regular expression that each text must match, such as &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</source>
+        <translation>Une expression régulière à laquelle chaque texte doit correspondre, telle que &quot;^[0-9]+-[A-Z][0-9]+$&quot;.</translation>
+    </message>
+    <message>
+        <source>Draw the edges of the labels, for a test on plain paper.</source>
+        <translation>Dessiner les contours des étiquettes, pour un essai sur papier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The columns of the table that a CSV file has, separated by commas. By default, it has all.</source>
+        <translation>Les colonnes du tableau que contient un fichier CSV, séparées par des virgules. Par défaut, il les contient toutes.</translation>
+    </message>
+    <message>
+        <source>Print labels.</source>
+        <translation>Imprimer des étiquettes.</translation>
+    </message>
+    <message>
+        <source>A pattern has the columns of &quot;list&quot; as fields. A text after &quot;|&quot; takes the place of an empty value, &quot;\n&quot; begins a new line, and &quot;{{&quot; and &quot;}}&quot; stand for braces. The fields near_floor, near_room and near_port are those of the end of the cable for which the label is, and far_floor, far_room and far_port those of the other end. Texts must differ from element to element. Lines that are too wide are set smaller, down to 5 points. If a label has a problem, nothing is written, and the exit code is 1. Print the file in its actual size.</source>
+        <translation>Un motif a pour champs les colonnes de &quot;list&quot;. Un texte après &quot;|&quot; remplace une valeur vide, &quot;\n&quot; commence une nouvelle ligne, et &quot;{{&quot; et &quot;}}&quot; représentent des accolades. Les champs near_floor, near_room et near_port sont ceux de l&apos;extrémité du câble à laquelle l&apos;étiquette est destinée, et far_floor, far_room et far_port ceux de l&apos;autre extrémité. Les textes doivent différer d&apos;un élément à l&apos;autre. Les lignes trop larges sont composées plus petit, jusqu&apos;au corps 5. Si une étiquette a un problème, rien n&apos;est écrit et le code de sortie est 1. Imprimez le fichier en taille réelle.</translation>
+    </message>
+    <message>
+        <source>List the formats of labels.</source>
+        <translation>Lister les formats d&apos;étiquettes.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres. The list has the sizes of the paper and of a label, the numbers of columns and rows, the left upper corner of the first label, the distance from one label to the next, and the height of the part that is printed. The rest of a label that is wound around a cable is transparent. A label on a tape is as long as its text needs.</source>
+        <translation>Les longueurs sont en millimètres. La liste donne les tailles du papier et d&apos;une étiquette, les nombres de colonnes et de rangées, le coin supérieur gauche de la première étiquette, la distance d&apos;une étiquette à la suivante et la hauteur de la partie imprimée. Le reste d&apos;une étiquette enroulée autour d&apos;un câble est transparent. Une étiquette sur ruban est aussi longue que son texte le demande.</translation>
+    </message>
+    <message>
+        <source>The report to write: a file whose name ends in .pdf or .html, or &quot;-&quot; to write HTML to standard output.</source>
+        <translation>Le rapport à écrire : un fichier dont le nom se termine par .pdf ou .html, ou &quot;-&quot; pour écrire du HTML sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The kind of report: test (the default), summary, inventory, schedule, notes or active.</source>
+        <translation>La sorte de rapport : test (par défaut), summary, inventory, schedule, notes ou active.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end on this floor.</source>
+        <translation>Seulement les câbles avec une extrémité à cet étage.</translation>
+    </message>
+    <message>
+        <source>Only the cables with an end in this room.</source>
+        <translation>Seulement les câbles avec une extrémité dans cette pièce.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day, such as 2026-01-31, or later.</source>
+        <translation>Seulement les câbles dont le test est de ce jour, comme 2026-01-31, ou postérieur.</translation>
+    </message>
+    <message>
+        <source>Only the cables whose test is of this day or earlier.</source>
+        <translation>Seulement les câbles dont le test est de ce jour ou antérieur.</translation>
+    </message>
+    <message>
+        <source>Begin with the cables that have failed.</source>
+        <translation>Commencer par les câbles qui ont échoué.</translation>
+    </message>
+    <message>
+        <source>The revision at the bottom of each page.</source>
+        <translation>La révision au bas de chaque page.</translation>
+    </message>
+    <message>
+        <source>Write a report for the customer.</source>
+        <translation>Écrire un rapport pour le client.</translation>
+    </message>
+    <message>
+        <source>The report of tests has a summary, the results of each cable, and an index from cables to pages. The cables are in the order of their names unless --sort asks for another one. Each kind of report has the paper, the orientation and the zoom of its print settings in the job. The options that choose cables are for the kinds test and schedule. The environment variable SOURCE_DATE_EPOCH sets the date.</source>
+        <translation>Le rapport de tests a un résumé, les résultats de chaque câble et un index des câbles avec leurs pages. Les câbles sont dans l&apos;ordre de leurs noms, sauf si --sort en demande un autre. Chaque sorte de rapport a le papier, l&apos;orientation et le zoom de ses réglages d&apos;impression dans le projet. Les options qui choisissent des câbles sont réservées aux sortes test et schedule. La variable d&apos;environnement SOURCE_DATE_EPOCH fixe la date.</translation>
+    </message>
+    <message>
+        <source>&quot;check&quot;, &quot;labels&quot; or &quot;results status&quot; found something wrong.</source>
+        <translation>&quot;check&quot;, &quot;labels&quot; ou &quot;results status&quot; a trouvé une anomalie.</translation>
     </message>
 </context>
 <context>
@@ -2125,6 +2376,421 @@
     <message>
         <source>Dec</source>
         <translation>déc</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Cables</source>
+        <translation>Câbles</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurée</translation>
+    </message>
+    <message>
+        <source>of cables</source>
+        <translation>sur câbles</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Estimée</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Étage</translation>
+    </message>
+    <message>
+        <source>Other floor</source>
+        <translation>Autre étage</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Usage</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Prises</translation>
+    </message>
+    <message>
+        <source>All cables</source>
+        <translation>Tous les câbles</translation>
+    </message>
+    <message>
+        <source>Cables by type</source>
+        <translation>Câbles par type</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Cables by use</source>
+        <translation>Câbles par usage</translation>
+    </message>
+    <message>
+        <source>Cables by floor</source>
+        <translation>Câbles par étage</translation>
+    </message>
+    <message>
+        <source>Cables by bundle</source>
+        <translation>Câbles par faisceau</translation>
+    </message>
+    <message>
+        <source>Bundle</source>
+        <translation>Faisceau</translation>
+    </message>
+    <message>
+        <source>Cables by test status</source>
+        <translation>Câbles par état des tests</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Ports by use</source>
+        <translation>Prises par usage</translation>
+    </message>
+    <message>
+        <source>Lengths from the plan, by type and bundle</source>
+        <translation>Longueurs d&apos;après le plan, par type et faisceau</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Tirages</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Plus long</translation>
+    </message>
+    <message>
+        <source>Without a length</source>
+        <translation>Sans longueur</translation>
+    </message>
+    <message>
+        <source>Network devices</source>
+        <translation>Appareils réseau</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Rooms</source>
+        <translation>Pièces</translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Pièce</translation>
+    </message>
+    <message>
+        <source>Ends of cables</source>
+        <translation>Extrémités de câble</translation>
+    </message>
+    <message>
+        <source>Cable</source>
+        <translation>Câble</translation>
+    </message>
+    <message>
+        <source>From floor</source>
+        <translation>Étage départ</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Prise</translation>
+    </message>
+    <message>
+        <source>To floor</source>
+        <translation>Étage arrivée</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Not tested.</source>
+        <translation>Non testée.</translation>
+    </message>
+    <message>
+        <source>Tested</source>
+        <translation>Testé le</translation>
+    </message>
+    <message>
+        <source>Speed (Mbit/s)</source>
+        <translation>Débit (Mbit/s)</translation>
+    </message>
+    <message>
+        <source>Duplex</source>
+        <translation>Duplex</translation>
+    </message>
+    <message>
+        <source>Far end</source>
+        <translation>Extrémité distante</translation>
+    </message>
+    <message>
+        <source>Other values</source>
+        <translation>Autres valeurs</translation>
+    </message>
+    <message>
+        <source>Job information</source>
+        <translation>Informations sur le projet</translation>
+    </message>
+    <message>
+        <source>Inventory</source>
+        <translation>Inventaire</translation>
+    </message>
+    <message>
+        <source>Cable schedule</source>
+        <translation>Plan de câblage</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Tests in the working network</source>
+        <translation>Tests dans le réseau en service</translation>
+    </message>
+    <message>
+        <source>Revision %1</source>
+        <translation>Révision %1</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Contact</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>Contractor</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>Tested by</source>
+        <translation>Testé par</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>From the tester</source>
+        <translation>Selon le testeur</translation>
+    </message>
+    <message>
+        <source>Worst margin (dB)</source>
+        <translation>Pire marge (dB)</translation>
+    </message>
+    <message>
+        <source>Worst value (dB or ns)</source>
+        <translation>Pire valeur (dB ou ns)</translation>
+    </message>
+    <message>
+        <source>Frequency (MHz)</source>
+        <translation>Fréquence (MHz)</translation>
+    </message>
+    <message>
+        <source>Pair</source>
+        <translation>Paire</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Extrémité</translation>
+    </message>
+    <message>
+        <source>%1: %2 dB</source>
+        <translation>%1 : %2 dB</translation>
+    </message>
+    <message>
+        <source>Earlier tests</source>
+        <translation>Tests antérieurs</translation>
+    </message>
+    <message>
+        <source>Tester</source>
+        <translation>Testeur</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Without a place</source>
+        <translation>Sans emplacement</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>What was tested</source>
+        <translation>Périmètre des tests</translation>
+    </message>
+    <message>
+        <source>Limits and testers</source>
+        <translation>Limites et testeurs</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échoués</translation>
+    </message>
+    <message>
+        <source>Not tested</source>
+        <translation>Non testés</translation>
+    </message>
+    <message>
+        <source>Cables in this report: %1. Tested: %2. Not tested: %3.</source>
+        <translation>Câbles dans ce rapport : %1. Testés : %2. Non testés : %3.</translation>
+    </message>
+    <message>
+        <source>Day of the tests: %1.</source>
+        <translation>Date des tests : %1.</translation>
+    </message>
+    <message>
+        <source>Days of the tests: %1 to %2.</source>
+        <translation>Dates des tests : de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>The job has further cables, which were not selected: %1.</source>
+        <translation>Autres câbles du projet, qui n&apos;ont pas été sélectionnés : %1.</translation>
+    </message>
+    <message>
+        <source>Cables that were tested more than once: %1. The last part of the page of such a cable lists its earlier tests.</source>
+        <translation>Câbles testés plusieurs fois : %1. La dernière partie de la page d&apos;un tel câble donne la liste de ses tests antérieurs.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Norme</translation>
+    </message>
+    <message>
+        <source>passed</source>
+        <translation>réussi</translation>
+    </message>
+    <message>
+        <source>passed, but closer to the limit than the tester measures</source>
+        <translation>réussi, mais la marge est inférieure à la précision du testeur</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échoué</translation>
+    </message>
+    <message>
+        <source>not tested</source>
+        <translation>non testé</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Signification</translation>
+    </message>
+    <message>
+        <source>as the tester says; does not count as passed</source>
+        <translation>selon le testeur ; ne compte pas comme réussi</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Tester software</source>
+        <translation>Logiciel du testeur</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lien</translation>
+    </message>
+    <message>
+        <source>NVP</source>
+        <translation>NVP</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>Bit errors</source>
+        <translation>Erreurs binaires</translation>
+    </message>
+    <message>
+        <source>Wire map</source>
+        <translation>Schéma de câblage</translation>
+    </message>
+    <message>
+        <source>File of the tester</source>
+        <translation>Fichier du testeur</translation>
+    </message>
+    <message>
+        <source>Longest allowed</source>
+        <translation>Maximum permis</translation>
+    </message>
+    <message>
+        <source>Without a room</source>
+        <translation>Sans pièce</translation>
+    </message>
+    <message>
+        <source>Test report</source>
+        <translation>Rapport de tests</translation>
+    </message>
+    <message>
+        <source>Near-end crosstalk</source>
+        <translation>Paradiaphonie</translation>
+    </message>
+    <message>
+        <source>Echo</source>
+        <translation>Écho</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
     </message>
 </context>
 <context>
