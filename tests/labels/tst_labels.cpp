@@ -3,9 +3,10 @@
 #include "jobsnapshot.h"
 #include "labelpattern.h"
 #include "labels.h"
+#include "programs.h"
+#include "strangeids.h"
 #include "testfiles.h"
 
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QImage>
@@ -16,32 +17,6 @@ using namespace cabledoc;
 Q_DECLARE_METATYPE(cabledoc::LabelCode)
 
 namespace {
-
-/// Names in scripts that labels have to bear: all characters of Latin-1, from right to left, and a long one.
-QStringList strangeIds()
-{
-    QStringList ids;
-    constexpr int charactersOfAnId = 16;
-    for (int first = 0x20; first < 0x100; first += charactersOfAnId) {
-        QString id("x");
-        for (int character = first; character < first + charactersOfAnId; ++character) {
-            if (QChar(character).isPrint())
-                id += QChar(character);
-        }
-        ids.append(id + 'x');
-    }
-    ids.removeAll("xx"); // control characters only
-    return ids + QStringList{QString::fromUtf8("קומה 2/חדר 7"), QString::fromUtf8("غرفة ٣"), QString(120, 'L')};
-}
-
-/// Returns a text as a value in a job file.
-QByteArray escaped(const QString &text)
-{
-    QByteArray value;
-    for (const uint character : text.toUcs4())
-        value += "&#" + QByteArray::number(character) + ';';
-    return value;
-}
 
 QStringList sorted(QStringList texts)
 {
@@ -99,24 +74,13 @@ private:
         return makeLabels(table, rows, options);
     }
 
-    /// Runs a program. Returns what it prints.
-    QString printedBy(const QString &program, const QStringList &arguments) const
-    {
-        QProcess process;
-        process.start(program, arguments);
-        constexpr int patience = 60000;
-        if (!process.waitForFinished(patience) || process.exitCode() != 0)
-            qFatal("%s fails: %s", qPrintable(program), process.readAllStandardError().constData());
-        return QString::fromUtf8(process.readAllStandardOutput());
-    }
-
     /// Returns the texts of the codes on a page.
     QStringList decoded(const Scene &page) const
     {
         constexpr double dpi = 300.0;
         if (!writePng(page, path("codes.png"), dpi).isEmpty())
             qFatal("there is no picture");
-        return printedBy(CABLEDOC_ZBARIMG, {"-q", "--raw", "--nodbus", path("codes.png")})
+        return QString::fromUtf8(printedBy(CABLEDOC_ZBARIMG, {"-q", "--raw", "--nodbus", path("codes.png")}))
             .split('\n', Qt::SkipEmptyParts);
     }
 
