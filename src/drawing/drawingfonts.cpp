@@ -66,6 +66,9 @@ QFont fontOf(const SceneText &text)
 {
     QFont font = measuredFont(text.isBold);
     font.setItalic(text.isItalic);
+    // Qt forms no ligatures in spaced texts. PDF files would have "\ufb01" in place of "fi".
+    constexpr double tooSmallToSee = 0.02; // pixels
+    font.setLetterSpacing(QFont::AbsoluteSpacing, tooSmallToSee);
     if (!text.family.isEmpty() && isInstalled(text.family))
         font.setFamily(text.family);
     return font;
