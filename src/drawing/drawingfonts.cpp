@@ -125,9 +125,12 @@ QString TextMeasure::elided(const QString &text, double size, double width) cons
     if (this->width(text, size) <= width)
         return text;
     const QString ellipsis(QChar(0x2026));
-    int kept = int(text.size()) - 1;
-    while (kept > 0 && this->width(text.left(kept) + ellipsis, size) > width)
-        --kept;
+    int kept = 0;
+    int tooMany = int(text.size());
+    while (kept + 1 < tooMany) {
+        const int middle = (kept + tooMany) / 2;
+        (this->width(text.left(middle) + ellipsis, size) > width ? tooMany : kept) = middle;
+    }
     return text.left(kept) + ellipsis;
 }
 
