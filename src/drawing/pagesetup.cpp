@@ -127,9 +127,10 @@ QByteArray PageSetup::logo(QStringList *warnings) const
     if (name.isEmpty())
         return {};
     const QByteArray data = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (QImage::fromData(data).isNull())
-        warnings->append(DrawingText::tr("the logo %1 cannot be read").arg(name));
-    return data;
+    if (!QImage::fromData(data).isNull())
+        return data;
+    warnings->append(DrawingText::tr("the logo %1 cannot be read").arg(name));
+    return {};
 }
 
 } // namespace cabledoc
