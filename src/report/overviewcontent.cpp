@@ -267,8 +267,9 @@ void ActiveContent::writeTo(const ReportSink &sink) const
         ReportGroup group{QString(),
                           false,
                           {HeadingBlock{port.id, HeadingBlock::Subject,
-                                        port.results.isEmpty() ? QString() : port.results.constLast().status()},
-                           FactsBlock{{{ReportText::tr("Port"), joined(parts, QStringLiteral(" / "))}}}}};
+                                        port.results.isEmpty() ? QString() : port.results.constLast().status()}}};
+        if (!parts.isEmpty())
+            group.blocks.append(FactsBlock{{{ReportText::tr("Port"), joined(parts, QStringLiteral(" / "))}}});
         if (rows.isEmpty())
             group.blocks.append(ParagraphBlock{ReportText::tr("Not tested.")});
         else
