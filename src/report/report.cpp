@@ -87,10 +87,12 @@ double zoomOf(const ReportContent &content, const PrintSettingsFields &settings,
 {
     constexpr int fitToPages = 1; // the style of the settings; 0 is a zoom in percent
     constexpr double smallest = 0.25;
-    constexpr double largest = 4.0;
+    constexpr double narrowestPage = 105.0; // millimetres at 100 %
+    const double largest = std::min(4.0, std::min(style.paper.width(), style.paper.height()) / narrowestPage);
     if (settings.printZoomStyle != fitToPages)
         return std::clamp(settings.printZoom / 100.0, smallest, largest);
-    return fittingZoom(content, style, std::max(1, settings.fitToAcross) * std::max(1, settings.fitToDown));
+    const int pageCount = std::max(1, settings.fitToAcross) * std::max(1, settings.fitToDown);
+    return std::min(largest, fittingZoom(content, style, pageCount));
 }
 
 } // namespace

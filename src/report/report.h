@@ -51,6 +51,7 @@ CABLEDOC_EXPORT void moveFailuresToFront(const JobSnapshot &job, QVector<int> *c
 /// Writes a report of a job as a PDF file, with an outline and links. What is not known is not shown, and a status that
 /// is not known stands as it is. The paper, its orientation and the zoom are those of the print settings: either the
 /// zoom in percent (style 0), or the largest zoom up to 100 % with which the report fits on the number of pages. The
+/// zoom is so small that the short side of the paper has room for 105 mm at 100 %, so that columns stay readable. The
 /// file is written whole or not at all, and replaces a file of the same name. With the environment variable
 /// SOURCE_DATE_EPOCH, the same job gives the same bytes with the same version of Qt. The program must have a
 /// QGuiApplication, but needs no display.
