@@ -130,19 +130,23 @@ private:
         const HeadingStyle style = styleOf(heading.level);
         Scene scene;
         SheetPen pen(&scene, m_measure);
-        double y = style.above;
         if (style.hasRule)
-            pen.line({0.0, y - 1.5}, {m_width, y - 1.5}, headLine);
-        const double verdictWidth =
-            heading.verdict.isEmpty() ? 0.0 : m_measure.width(heading.verdict, style.size, true) + gap;
-        for (const QString &line : wrapped(m_measure, heading.text, style.size, m_width - verdictWidth, true)) {
-            y += style.size * lineHeight;
-            pen.text({0.0, y - style.size * 0.3}, line, style.size, true);
-        }
+            pen.line({0.0, style.above - 1.5}, {m_width, style.above - 1.5}, headLine);
+        QStringList verdict;
         if (!heading.verdict.isEmpty())
-            pen.text({m_width - verdictWidth + gap, style.above + style.size * (lineHeight - 0.3)}, heading.verdict,
+            verdict = wrapped(m_measure, heading.verdict, style.size, m_width / 2.0, true);
+        double verdictWidth = 0.0;
+        for (const QString &line : verdict)
+            verdictWidth = std::max(verdictWidth, m_measure.width(line, style.size, true) + gap);
+        const QStringList lines = wrapped(m_measure, heading.text, style.size, m_width - verdictWidth, true);
+        const auto baseline = [&style](int line) { return style.above + style.size * ((line + 1) * lineHeight - 0.3); };
+        for (int i = 0; i < lines.size(); ++i)
+            pen.text({0.0, baseline(i)}, lines.at(i), style.size, true);
+        for (int i = 0; i < verdict.size(); ++i)
+            pen.text({m_width - m_measure.width(verdict.at(i), style.size, true), baseline(i)}, verdict.at(i),
                      style.size, true, verdictColor(heading.verdict));
-        sink({y + style.below, scene.items, keptBelowHeading});
+        const double textHeight = double(std::max(lines.size(), verdict.size())) * style.size * lineHeight;
+        sink({style.above + textHeight + style.below, scene.items, keptBelowHeading});
     }
 
     void pieces(const ParagraphBlock &paragraph, const PieceSink &sink) const
@@ -285,6 +289,41 @@ private:
     const PageNumbers &m_numbers;
 };
 
+/// Returns where the part of a piece ends that begins at the given height, so that no text is divided.
+double endOfPart(const Piece &piece, double top, double furthestEnd)
+{
+    double end = furthestEnd;
+    for (const SceneItem &item : piece.items) {
+        const QRectF bounds = boundsOf(item);
+        if (std::holds_alternative<SceneText>(item.shape) && bounds.top() > top && bounds.bottom() > furthestEnd)
+            end = std::min(end, bounds.top());
+    }
+    return end;
+}
+
+/// Returns the part of a piece between two heights. Links are divided, and all else is where it begins.
+Piece partOf(const Piece &piece, double top, double end)
+{
+    Piece part;
+    part.height = end - top;
+    const bool isLast = end >= piece.height;
+    for (SceneItem item : piece.items) {
+        const QRectF bounds = boundsOf(item);
+        auto *link = std::get_if<SceneLink>(&item.shape);
+        const bool isInside = link == nullptr ? bounds.top() >= top && (bounds.top() < end || isLast)
+                                              : bounds.bottom() > top && bounds.top() < end;
+        if (!isInside)
+            continue;
+        if (link != nullptr) {
+            link->area.setTop(std::max(link->area.top(), top));
+            link->area.setBottom(std::min(link->area.bottom(), end));
+        }
+        moveBy(&item, {0.0, -top});
+        part.items.append(item);
+    }
+    return part;
+}
+
 /// Returns the number of rows of all tables in a group.
 int rowCountOf(const ReportGroup &group)
 {
@@ -370,14 +409,36 @@ struct ReportPages::Data
     {
         if (!isOpen)
             startPage();
-        if (y > topMargin && y + piece.height + piece.keptHeight > bottom()) {
-            startPage();
-            if (piece.repeated)
-                put(*piece.repeated);
-        }
+        if (y > topMargin && y + piece.height + piece.keptHeight > bottom())
+            startPageFor(piece);
         if (piece.items.isEmpty() && y <= topMargin)
             return; // no gap at the top of a page
-        put(piece);
+        if (y + piece.height > bottom())
+            putInParts(piece);
+        else
+            put(piece);
+    }
+
+    /// Starts a page with what is repeated above a piece.
+    void startPageFor(const Piece &piece)
+    {
+        startPage();
+        if (piece.repeated)
+            put(*piece.repeated);
+    }
+
+    /// Puts a piece that is higher than a page on several pages.
+    void putInParts(const Piece &piece)
+    {
+        constexpr double leastHeight = 5.0; // of a part, even if the page is full
+        for (double top = 0.0; top < piece.height;) {
+            if (top > 0.0)
+                startPageFor(piece);
+            const double room = std::max(leastHeight, bottom() - y);
+            const double end = endOfPart(piece, top, std::min(piece.height, top + room));
+            put(partOf(piece, top, end));
+            top = end;
+        }
     }
 
     void put(const Piece &piece)
