@@ -108,12 +108,13 @@ void scaleItems(QVector<SceneItem> *items, double factor)
         std::visit([factor](auto &shape) { scale(&shape, factor); }, item.shape);
 }
 
-/// Lays out blocks in a column of the given width.
+/// Lays out blocks in a column of the given width. The height is that of a page.
 class BlockLayout
 {
 public:
-    BlockLayout(double width, const TextMeasure &measure, const PageNumbers &numbers)
-        : m_width(width)
+    BlockLayout(const QSizeF &size, const TextMeasure &measure, const PageNumbers &numbers)
+        : m_width(size.width())
+        , m_height(size.height())
         , m_measure(measure)
         , m_numbers(numbers)
     {
@@ -278,13 +279,15 @@ private:
 
     void pieces(const FigureBlock &figure, const PieceSink &sink) const
     {
-        const double factor = std::min(1.0, m_width / figure.scene.size.width());
+        const QSizeF &size = figure.scene.size;
+        const double factor = std::min({1.0, m_width / size.width(), (m_height - gap) / size.height()});
         QVector<SceneItem> items = figure.scene.items;
         scaleItems(&items, factor);
-        sink({figure.scene.size.height() * factor + gap, items});
+        sink({size.height() * factor + gap, items});
     }
 
     const double m_width;
+    const double m_height;
     const TextMeasure &m_measure;
     const PageNumbers &m_numbers;
 };
@@ -345,7 +348,7 @@ struct ReportPages::Data
         , known(std::move(knownNumbers))
         , output(std::move(pageOutput))
         , size(style.paper / style.zoom)
-        , layout(size.width() - 2.0 * sideMargin, measure, known)
+        , layout({size.width() - 2.0 * sideMargin, bottom() - topMargin}, measure, known)
     {
     }
 
