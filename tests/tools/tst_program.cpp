@@ -37,9 +37,9 @@ private:
 private Q_SLOTS:
     void sessions_data()
     {
-        addCases({"cases/drawings.txt", "cases/labels.txt", "cases/program.txt", "cases/program-conventions.txt",
-                  "cases/program-csv.txt", "cases/program-new.txt", "cases/results.txt", "cases/results-status.txt",
-                  "cases/tables.txt", "cases/trace.txt"});
+        addCases({"cases/drawings.txt", "cases/labels.txt", "cases/report.txt", "cases/program.txt",
+                  "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt",
+                  "cases/results.txt", "cases/results-status.txt", "cases/tables.txt", "cases/trace.txt"});
     }
 
     void sessions()
