@@ -15,7 +15,9 @@ QVector<SceneText> linesOf(const snapshot::FreeText &text, const QPointF &corner
     constexpr double largest = 1000.0;
     constexpr double lineHeight = 1.2;
     SceneText line;
-    line.size = std::clamp(text.fontSize, smallest, largest) / pointsInAnInch * millimetersInAnInch * factor;
+    // A size that is not a number becomes the smallest.
+    const double points = text.fontSize > smallest ? std::min(text.fontSize, largest) : smallest;
+    line.size = points / pointsInAnInch * millimetersInAnInch * factor;
     line.isBold = text.bold;
     line.isItalic = text.italic;
     line.family = text.fontFamily;
