@@ -73,9 +73,9 @@ QString problemOf(const QSizeF &paper, const DrawingOptions &options)
         return DrawingText::tr("There is no paper size \"%1\".").arg(options.paper);
     constexpr double smallest = 30.0;
     constexpr double largest = 5000.0;
-    const double shortSide = std::min(paper.width(), paper.height());
-    const double longSide = std::max(paper.width(), paper.height());
-    if (!(shortSide >= smallest && longSide <= largest))
+    // A side that is not a number is not within the limits.
+    const auto isPossible = [](double side) { return side >= smallest && side <= largest; };
+    if (!isPossible(paper.width()) || !isPossible(paper.height()))
         return DrawingText::tr("The page settings of the job give no sheet that can be drawn. Choose a paper.");
     return {};
 }
