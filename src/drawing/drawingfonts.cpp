@@ -2,6 +2,7 @@
 
 #include "drawingtext.h"
 #include "scene.h"
+#include "wholecharacters.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QFontDatabase>
@@ -129,9 +130,9 @@ QString TextMeasure::elided(const QString &text, double size, double width) cons
     int tooMany = int(text.size());
     while (kept + 1 < tooMany) {
         const int middle = (kept + tooMany) / 2;
-        (this->width(text.left(middle) + ellipsis, size) > width ? tooMany : kept) = middle;
+        (this->width(beginOf(text, middle) + ellipsis, size) > width ? tooMany : kept) = middle;
     }
-    return text.left(kept) + ellipsis;
+    return beginOf(text, kept) + ellipsis;
 }
 
 } // namespace cabledoc

@@ -1,5 +1,7 @@
 #include "labelplacement.h"
 
+#include "wholecharacters.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -45,7 +47,7 @@ QString shortened(const QString &text)
 {
     constexpr int begin = 2;
     constexpr int end = 5;
-    return text.size() <= begin + end + 1 ? text : text.left(begin) + QChar(0x2026) + text.right(end);
+    return text.size() <= begin + end + 1 ? text : beginOf(text, begin) + QChar(0x2026) + endOf(text, end);
 }
 
 /// Returns the size of a font whose lines are no higher than the anchor, and not larger than the given size.

@@ -1,5 +1,7 @@
 #include "wrappedtext.h"
 
+#include "wholecharacters.h"
+
 namespace cabledoc {
 
 namespace {
@@ -18,8 +20,8 @@ int fittingLength(const TextMeasure &measure, const QString &text, double size, 
         else
             high = middle - 1;
     }
-    // Both halves of a pair of surrogates stay together.
-    return low < text.size() && text.at(low).isLowSurrogate() ? low + 1 : low;
+    const int whole = int(beginOf(text, low).size());
+    return whole > 0 ? whole : 2;
 }
 
 /// Adds a word that is wider than a line to lines, as far as it fills them. Returns the rest of it.
@@ -29,7 +31,7 @@ QString broken(const TextMeasure &measure, const QString &word, double size, dou
     constexpr int longestLine = 500; // characters
     int begin = 0;
     while (begin < word.size()) {
-        const QString part = word.mid(begin, longestLine);
+        const QString part = beginOf(word.mid(begin, longestLine + 1), longestLine);
         const int length = fittingLength(measure, part, size, width, isBold);
         if (begin + length == word.size())
             break;

@@ -9,7 +9,9 @@ QString excerpt(const QString &value)
     for (const QChar character : value) {
         const bool isControl = character.category() == QChar::Other_Control;
         constexpr int escapeLength = 4;
-        if (text.size() + (isControl ? escapeLength : 1) > maximumLength)
+        // A character of two units is not divided.
+        const int length = isControl ? escapeLength : character.isHighSurrogate() ? 2 : 1;
+        if (text.size() + length > maximumLength)
             return text + QStringLiteral("...");
         if (isControl)
             text += QStringLiteral("\\x%1").arg(int(character.unicode()), 2, 16, QLatin1Char('0'));
