@@ -6,9 +6,11 @@
 #include "texthash.h"
 #include "vocabulary.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QMap>
 #include <QtCore/QXmlStreamReader>
 #include <QtCore/QXmlStreamWriter>
+#include <QtGui/QImage>
 
 #include <cmath>
 
@@ -83,11 +85,23 @@ QString allowed(QString text)
     return text;
 }
 
-QString mimeTypeOf(const QByteArray &picture)
+/// Returns a picture as an address that has all of its data. Programs that show SVG files know three formats. A picture
+/// in another format becomes a PNG file.
+QString dataAddress(const QByteArray &picture)
 {
+    const auto address = [](const char *type, const QByteArray &data) {
+        return QStringLiteral("data:%1;base64,%2").arg(QLatin1String(type), QString::fromLatin1(data.toBase64()));
+    };
+    if (picture.startsWith("\xFF\xD8"))
+        return address("image/jpeg", picture);
+    if (picture.trimmed().startsWith('<'))
+        return address("image/svg+xml", picture);
     if (picture.startsWith("\x89PNG"))
-        return QStringLiteral("image/png");
-    return picture.startsWith("\xFF\xD8") ? QStringLiteral("image/jpeg") : QStringLiteral("image/svg+xml");
+        return address("image/png", picture);
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    QImage::fromData(picture).save(&png, "PNG");
+    return address("image/png", png.data());
 }
 
 /// Writes a page as SVG. The unit of the file is the millimetre.
@@ -321,8 +335,7 @@ private:
         start("image", item);
         writeRectangle(picture.area);
         attribute("preserveAspectRatio", QStringLiteral("none"));
-        attribute("xlink:href", QStringLiteral("data:%1;base64,%2")
-                                    .arg(mimeTypeOf(picture.data), QString::fromLatin1(picture.data.toBase64())));
+        attribute("xlink:href", dataAddress(picture.data));
         end(item);
     }
 
