@@ -1,6 +1,7 @@
 #include "documentvalues.h"
 
 #include "bkteditor.h"
+#include "document.h"
 #include "documentattributes.h"
 #include "jobattributes.h"
 #include "jobeditor.h"
@@ -247,6 +248,9 @@ public:
     /// Sets a value that jobs and templates have.
     void setShared(BKXMLEditor *document)
     {
+        addMissingSettings(document);
+        if (isBelow(QStringLiteral("contractor.")))
+            addInfo(document, words::ContractorInfo, contractorInfoAttributes());
         if (ContractorDataFields fields = document->getContractorData().fields();
             setInfo(QStringLiteral("contractor."), contractorInfoAttributes(), &fields))
             document->setContractorData(ContractorData(fields));
@@ -266,6 +270,8 @@ public:
     /// Sets a value that only jobs have.
     void setOfJob(JobEditor *job)
     {
+        if (isBelow(QStringLiteral("site.")))
+            addInfo(job, words::SiteInfo, siteInfoAttributes());
         if (SiteDataFields fields = job->getSiteData().fields();
             setInfo(QStringLiteral("site."), siteInfoAttributes(), &fields))
             job->setSiteData(SiteData(fields));
@@ -277,6 +283,30 @@ public:
 
 private:
     bool isBelow(const QString &prefix) const { return m_name.startsWith(prefix); }
+
+    // Files of other programs may lack what holds a value.
+
+    static void addInfo(BKXMLEditor *document, const QString &tagName, const AttributeList &attributes)
+    {
+        Document &inside = Document::of(*document);
+        inside.addInfo(tagName, attributes, inside.tree().root());
+    }
+
+    void addMissingSettings(BKXMLEditor *document) const
+    {
+        const QDomElement lists = Document::of(*document).tree().child(words::SettingsList);
+        const auto isMissing = [&](const char *prefix, const QString &list, const QVector<Entry> &entries) {
+            return isBelow(QLatin1String(prefix))
+                   && std::any_of(entries.cbegin(), entries.cend(), [&](const Entry &entry) {
+                          return lists.firstChildElement(list).firstChildElement(entry.element).isNull();
+                      });
+        };
+        QDomElement root = Document::of(*document).tree().root();
+        if (isMissing("print.", words::PrintSettingsList, printEntries())
+            || isMissing("page.", words::PageSettingsList, drawingEntries())
+            || isMissing("scale.", words::ScaleSettingsList, drawingEntries()))
+            document->addSettingsList(&root);
+    }
 
     /// Notes the problem with the text of the value. Returns whether there is none.
     bool takes(const QString &problem)

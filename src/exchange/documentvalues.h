@@ -45,10 +45,10 @@ CABLEDOC_EXPORT QVector<DocumentValue> valuesOfJob(const JobSnapshot &job);
 CABLEDOC_EXPORT QVector<DocumentValue> valuesOfTemplate(const JobSnapshot &bkt);
 
 /// Sets the value of a job with the given name. Returns why this cannot be done, or an empty text. If it cannot be
-/// done, the job only gets the settings that it lacks.
+/// done, the job only gets what it lacks: settings, or the elements that hold the contractor or the site.
 CABLEDOC_EXPORT QString setValue(JobEditor &job, const QString &name, const QString &text);
 /// Sets the value of a template with the given name. Returns why this cannot be done, or an empty text. If it cannot
-/// be done, the template only gets the settings that it lacks.
+/// be done, the template only gets what it lacks: settings, or the element that holds the contractor.
 CABLEDOC_EXPORT QString setValue(BktEditor &bkt, const QString &name, const QString &text);
 
 } // namespace cabledoc
