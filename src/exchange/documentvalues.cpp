@@ -111,7 +111,7 @@ QString pageText(const PageSettingsFields &fields)
 
 QString readPage(const QString &text, PageSettingsFields *fields)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d+(?:\\.\\d+)?)\\s*x\\s*(\\d+(?:\\.\\d+)?)$"));
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,6}(?:\\.\\d+)?)\\s*x\\s*(\\d{1,6}(?:\\.\\d+)?)$"));
     const QRegularExpressionMatch match = form.match(text.trimmed());
     const QString size = paperSizeNamed(text.trimmed());
     if (text.trimmed() == none()) {
