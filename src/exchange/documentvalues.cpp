@@ -4,7 +4,7 @@
 #include "document.h"
 #include "documentattributes.h"
 #include "jobattributes.h"
-#include "jobeditor.h"
+#include "jobeditor_p.h"
 #include "jobsnapshot.h"
 #include "jobwords.h"
 #include "messagetext.h"
@@ -377,7 +377,8 @@ private:
         else if (m_name == prefix + pictureFields().at(1) && takes(numberProblem))
             job->setFloorBackgroundPic(tag, picture, number, place.y());
         else if (m_name == prefix + pictureFields().at(2) && takes(numberProblem))
-            job->setFloorBackgroundPic(tag, picture, place.x(), number);
+            // setFloorBackgroundPic() does not change the vertical position that a floor has.
+            JobEditorPrivate::of(*job).tree.set(ElementKind::Floors, tag, words::PictureY, toText(number));
         else if (m_name == prefix + pictureFields().at(3) && takes(checkText(m_text)))
             job->setBackgroundOption(tag, m_text);
     }
