@@ -319,6 +319,9 @@ void makeReleases(JobEditor *job, const std::vector<ElementChange> &changes)
         if (change.action != TableAction::Add && !values.contains(change.id()))
             job->removeRelease(change.id());
     }
+    JobTree &tree = JobEditorPrivate::of(*job).tree;
+    if (!values.isEmpty())
+        tree.ensure(words::Release, tree.root()); // a damaged file may lack it
     for (auto release = values.cbegin(); release != values.cend(); ++release)
         job->addRelease(release.key(), release.value());
 }
