@@ -1,4 +1,5 @@
 #include "curvedrawing.h"
+#include "drawings.h"
 #include "drawingwriters.h"
 #include "jobsnapshot.h"
 #include "networkdrawing.h"
@@ -6,7 +7,6 @@
 #include "riserdrawing.h"
 #include "sampleoffice.h"
 #include "settingsstrings.h"
-#include "testfiles.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QXmlStreamReader>
@@ -68,15 +68,6 @@ private:
     QPolygonF m_path;
 };
 
-/// A job with one floor. The scale of its plans is 1:100.
-QByteArray jobWith(const QByteArray &rooms, const QByteArray &rest = {})
-{
-    return "<Job><Version number=\"3.0\"/><Cable_List/><Floor_List><FFloor_1 id=\"Ground\" pic=\"\"><Room_List>" + rooms
-           + "</Room_List>" + rest
-           + "</FFloor_1></Floor_List><Settings_List><ScaleSettings_List><FloorPlan_Settings style=\"2\" "
-             "height_units=\"1\" custom_height=\"100\"/></ScaleSettings_List></Settings_List></Job>";
-}
-
 /// A floor with 10,000 ports. In each row of rooms, the ports stand closer together than in the row before. Those of
 /// the last row all stand at the same place.
 QByteArray bigFloor()
@@ -102,17 +93,6 @@ QByteArray bigFloor()
         rooms += QStringLiteral("</Port_List></Room%1>").arg(room).toUtf8();
     }
     return jobWith(rooms);
-}
-
-template <typename Shape> QVector<QPair<const SceneItem *, const Shape *>> shapesOf(const Scene &scene, Layer layer)
-{
-    QVector<QPair<const SceneItem *, const Shape *>> shapes;
-    for (const SceneItem &item : scene.items) {
-        const auto *shape = std::get_if<Shape>(&item.shape);
-        if (shape != nullptr && item.layer == layer)
-            shapes.append({&item, shape});
-    }
-    return shapes;
 }
 
 /// Returns whether a tile has a mark of a join from its top to its bottom.
