@@ -9,6 +9,7 @@
 
 #include <QtCore/QTemporaryDir>
 
+#include <functional>
 #include <random>
 
 using namespace cabledoc;
@@ -411,6 +412,85 @@ private Q_SLOTS:
         QVERIFY2(imported > runs / 10 && imported < runs, qPrintable(QString::number(imported)));
     }
 
+    void problems_data() { addCases({"cases/table-problems.txt"}); }
+
+    /// A case is the kind of a table, and the table. It expects the places of the problems. The other rows would change
+    /// the job.
+    void problems()
+    {
+        QFETCH(TestCase, testCase);
+        JobEditor &job = openJob(testData("trace.job"));
+        const QByteArray before = JobEditorProbe(job).text();
+        const auto endOfKind = testCase.given.indexOf('\n');
+        const std::optional<TableKind> kind = tableOfName(testCase.given.left(endOfKind));
+        const TablePlan plan(JobSnapshot(job), *kind, testCase.given.mid(endOfKind + 1));
+        QCOMPARE(placesOf(plan.problems()).join(' '), testCase.expectedText());
+        for (const CsvProblem &problem : plan.problems())
+            QVERIFY(!problem.message.isEmpty());
+        QVERIFY(plan.changes().isEmpty());
+        plan.applyTo(job);
+        QCOMPARE(JobEditorProbe(job).text(), before);
+        QVERIFY(!job.fileChanged());
+    }
+
+    /// The tables of a changed job make the same changes in a job that is as it was before.
+    void tablesCarryChanges()
+    {
+        std::mt19937 random(5); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same changes in each run
+        const auto number = [&random](int below) { return int(random() % unsigned(below)); };
+        const auto one = [&number](const QStringList &names) { return names.at(number(int(names.size()))); };
+        const QStringList ends{"P1", "P5", "P7", "P11", "V1", "V2", ""};
+        const QStringList words{"data", "voice", "CAT6", "CAT5E", "Duo", "Ann's \"desk\"", "1,5", ""};
+        const std::function<void(JobEditor &)> changes[] = {
+            [&](JobEditor &job) { job.setCableFrom(one(job.getCables(true)), one(ends)); },
+            [&](JobEditor &job) { job.setCableTo(one(job.getCables(true)), one(ends)); },
+            [&](JobEditor &job) {
+                job.setCablePath(one(job.getCables(true)), {one({"Point1", "V1", "P4"}), "V2"});
+            },
+            [&](JobEditor &job) { job.setCableType(one(job.getCables(true)), one(words)); },
+            [&](JobEditor &job) { job.setCableUse(one(job.getCables(true)), one(words)); },
+            [&](JobEditor &job) { job.setCableBundleName(one(job.getCables(true)), one(words)); },
+            [&](JobEditor &job) { job.setCableBundleNum(one(job.getCables(true)), one(words)); },
+            [&](JobEditor &job) { job.setCableColor(one(job.getCables(true)), "#12345" + QString::number(number(9))); },
+            [&](JobEditor &job) { job.setCableID(one(job.getCables(true)), "Renamed " + QString::number(number(99))); },
+            [&](JobEditor &job) {
+                job.setConnectionTo(one(job.getConnections(true)), one({"Device1", "Vertice2", ""}));
+            },
+            [&](JobEditor &job) {
+                job.setConnectionFrom(one(job.getConnections(true)), one({"Device2", "Vertice1"}));
+            },
+            [&](JobEditor &job) { job.setPortPos(one(ends.mid(0, 4)), number(900), number(900) / 8.0); },
+            [&](JobEditor &job) { job.setPortUse(one(ends.mid(0, 4)), one(words)); },
+            [&](JobEditor &job) { job.setPortDropHeight(one(ends.mid(0, 4)), number(90) / 8.0); },
+            [&](JobEditor &job) {
+                job.setVertRunConnected("V1", {one(job.getCables(true)), "Cable3"});
+            },
+            [&](JobEditor &job) { job.setFloorCeilingHeight("FFloor_1", 5 + number(9) / 4.0); },
+            [&](JobEditor &job) { job.setRoomPos("FFloor_2", "Room2", number(99), number(99), 10 + number(9), 20); },
+            [&](JobEditor &job) { job.setDeviceType("Device1", one(words)); },
+            [&](JobEditor &job) { job.setDeviceInfo("Device2", one(words)); },
+        };
+        TableExportOptions options;
+        options.tags = true;
+        for (int round = 0; round < 25; ++round) {
+            JobEditor &job = openJob(testData("trace.job"));
+            for (int change = 1 + number(6); change > 0; --change)
+                changes[number(int(std::size(changes)))](job);
+            QMap<TableKind, QByteArray> tables;
+            for (const TableKind kind : tableKinds())
+                tables.insert(kind, exported(job, kind, options));
+            JobEditor &copy = openJob(testData("trace.job"));
+            for (const TableKind kind : tableKinds()) {
+                const bool isEqual = exported(copy, kind, options) == tables.value(kind);
+                const QString changed = import(copy, kind, tables.value(kind));
+                QVERIFY2(changed == "0" ? isEqual : !isEqual && !changed.contains(':'), qPrintable(changed));
+            }
+            for (const TableKind kind : tableKinds())
+                COMPARE_TEXTS(QString(exported(copy, kind, options)), QString(tables.value(kind)), tableName(kind));
+            QVERIFY(JobEditorProbe(copy).indexesMatchTheTree());
+        }
+    }
+
     void releases()
     {
         JobEditor &job = openJob();
@@ -463,6 +543,46 @@ private Q_SLOTS:
         QCOMPARE(valuesOfTemplate(JobSnapshot(bkt)).constFirst().name, QString("contractor.tester"));
     }
 
+    /// Setting a value changes nothing else. A text that is refused changes no value.
+    void eachValueIsSetAlone()
+    {
+        const QStringList texts{"Other",
+                                "7",
+                                "portrait",
+                                "landscape",
+                                "a5",
+                                "tabloid",
+                                "1:250",
+                                QString(400, '9') + " x 1",
+                                QString("a") + QChar(1)};
+        JobEditor &job = openJob(testData("trace.job"));
+        QVector<DocumentValue> before = valuesOfJob(JobSnapshot(job));
+        QVERIFY(before.size() > 100);
+        for (const DocumentValue &value : QVector<DocumentValue>(before)) {
+            int changes = 0;
+            for (const QString &text : texts) {
+                job.setDirty(false);
+                const bool isSet = setValue(job, value.name, text).isEmpty();
+                if (!isSet && !job.fileChanged())
+                    continue;
+                const QVector<DocumentValue> after = valuesOfJob(JobSnapshot(job));
+                QCOMPARE(after.size(), before.size());
+                for (int i = 0; i < after.size(); ++i) {
+                    const QString change = value.name + '=' + text + " changes " + after.at(i).name;
+                    // A page and a scale have parts with values of their own.
+                    const bool isPart = after.at(i).name.section('.', 0, 1) == value.name.section('.', 0, 1)
+                                        && QRegularExpression("^(page|scale)\\.").match(value.name).hasMatch();
+                    const bool isEqual = after.at(i).text == before.at(i).text;
+                    QVERIFY2(isEqual || (isSet && (isPart || after.at(i).name == value.name)), qPrintable(change));
+                    QVERIFY2(!after.at(i).text.contains("inf"), qPrintable(change));
+                    changes += isEqual ? 0 : 1;
+                }
+                before = after;
+            }
+            QVERIFY2(changes > 0, qPrintable(value.name));
+        }
+    }
+
     /// A job that lacks its lists, as other programs may write it, gets them.
     void jobsWithoutLists()
     {
@@ -477,6 +597,15 @@ private Q_SLOTS:
         QCOMPARE(import(job, TableKind::Cables, "id,from_floor,from_room,from_port\nA,Ground,,1\n"), QString("1"));
         QCOMPARE(import(job, TableKind::TestDefinitions, "id\nCAT6\n"), QString("1"));
         QCOMPARE(import(job, TableKind::ActivePorts, "id,floor,room,port\nL,Ground,,1\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::Releases, "id,value\nOne,1\n"), QString("1"));
+        QCOMPARE(job.getRelease("One"), QString("1"));
+        QCOMPARE(import(job, TableKind::Bundles, "id,types\nDuo,CAT6\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::Sheets, "id\nNet\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::Devices, "sheet,id\nNet,Core\nNet,Edge\n"), QString("2"));
+        QCOMPARE(import(job, TableKind::Connections, "id,from_sheet,from\nUp,Net,Core\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::VerticalRuns, "floor,room,id\nGround,,Shaft\n"), QString("1"));
+        QCOMPARE(import(job, TableKind::FloorTexts, "floor,id,text\nGround,T,x\n"), QString("1"));
+        QCOMPARE(job.getBundledCableTypeIds() + job.getConnections(false), QStringList({"Duo", "Up"}));
         QVERIFY(JobEditorProbe(job).indexesMatchTheTree());
         QCOMPARE(job.getCablesByPort(job.getPortTagById("1")).size(), 1);
     }
