@@ -1,3 +1,4 @@
+#include "csvtext.h"
 #include "jobeditorprobe.h"
 #include "jobsnapshot.h"
 #include "measurementtext.h"
@@ -301,6 +302,117 @@ private Q_SLOTS:
         job.setCableTestResults("B", TestResults("May 3rd", "FAIL", "", "", cable_struct::untested(), 4));
         QCOMPARE(import(job, heading + "B,2020-01-01,PASS,,,\nC,2020-01-01,UNTESTED,,,\n"), QString("1"));
         QCOMPARE(job.getCableTestHistory("B").constFirst().results.status(), QString("FAIL"));
+    }
+
+    void problems_data() { addCases({"cases/results-problems.txt"}); }
+
+    /// A case is a table whose first row could be imported. It expects the places of the problems.
+    void problems()
+    {
+        QFETCH(TestCase, testCase);
+        JobEditor &job = openJob("a.job");
+        job.addActivePort("", "", "Live", addmode::GivenId);
+        writeFile(m_directory.filePath("short.txt"), "1 2 3");
+        QFile big(m_directory.filePath("big.txt"));
+        QVERIFY(big.open(QIODevice::WriteOnly) && big.resize((64 << 20) + 1)); // without data on the disk
+        ResultsOptions options;
+        options.folder = m_directory.path();
+        const QByteArray before = JobEditorProbe(job).text();
+        job.setDirty(false);
+        const ResultsPlan plan(JobSnapshot(job), testCase.given, options);
+        QStringList places;
+        for (const CsvProblem &problem : plan.problems()) {
+            places.append(QString("%1:%2").arg(problem.row).arg(problem.column));
+            QVERIFY(!problem.message.isEmpty());
+        }
+        QCOMPARE(places.join(' '), testCase.expectedText());
+        QVERIFY(plan.changes().isEmpty() && plan.attachments().isEmpty());
+        plan.applyTo(job);
+        QCOMPARE(JobEditorProbe(job).text(), before);
+        QVERIFY(!job.fileChanged());
+        const QByteArray firstRows = testCase.given.split('\n').mid(0, 2).join('\n');
+        const ResultsPlan good(JobSnapshot(job), firstRows, options);
+        QCOMPARE(int(good.changes().size()), testCase.expected.startsWith("1:") ? 0 : 1);
+    }
+
+    /// What is exported from active ports makes the same job again.
+    void testsOfActivePortsComeBack()
+    {
+        const QStringList fields{"PASS", "FAIL", "1000", "full", "\u0141, \"x\"", "10.0.0.1", "", "-3", "a\nb"};
+        const auto fresh = [this]() -> JobEditor & {
+            JobEditor &job = openJob("a.job");
+            for (const char *id : {"Live", "Link 2"})
+                job.addActivePort("", "", id, addmode::GivenId);
+            return job;
+        };
+        for (int round = 0; round < 30; ++round) {
+            JobEditor &job = fresh();
+            QByteArray csv = "active_port,tested_at,verdict,link_speed,duplex,peer_address,v:VLAN,v:DHCP\n";
+            const int rows = 1 + number(8);
+            for (int row = 0; row < rows; ++row) {
+                QStringList texts{number(2) == 0 ? "Live" : "Link 2", QString("2026-01-01T10:00:0%1").arg(row),
+                                  fields.at(number(2)), QString::number(number(3) * 500)};
+                while (texts.size() < 8)
+                    texts.append(fields.at(number(int(fields.size()))));
+                csv += csvLine(texts);
+            }
+            QCOMPARE(import(job, csv), QString::number(rows));
+            QCOMPARE(import(job, csv), QString("0"));
+            const QByteArray text = JobEditorProbe(job).text();
+            const QByteArray exported = exportActiveResults(JobSnapshot(job));
+            JobEditor &copy = fresh();
+            QCOMPARE(import(copy, exported), QString::number(rows));
+            COMPARE_TEXTS(QString(JobEditorProbe(copy).text()), QString(text), QString(exported));
+        }
+    }
+
+    /// A table with other headings, verdicts and decimal marks is the same table with a mapping.
+    void mappedTables()
+    {
+        const QStringList columns = QString(headingOfRows()).trimmed().split(',');
+        QByteArray ini = "[format]\ndecimal_mark = ,\ndate_format = dd.MM.yyyy HH:mm:ss\n[verdicts]\n";
+        const QMap<QString, QString> words{{"PASS", "gut"}, {"PASS*", "knapp"}, {"FAIL", "schlecht"}};
+        for (auto word = words.cbegin(); word != words.cend(); ++word)
+            ini += (*word + '=' + word.key() + '\n').toUtf8();
+        QStringList headings;
+        ini += "[columns]\n";
+        for (const QString &column : columns) {
+            headings.append(QString("\u00dc %1 \"x\"").arg(headings.size()));
+            ini += (column + '=' + headings.constLast() + '\n').toUtf8();
+        }
+        ResultsOptions mapped;
+        const ResultsMappingReport report = readResultsMapping(ini);
+        QCOMPARE(report.error, QString());
+        mapped.mapping = report.mapping;
+        int imported = 0;
+        for (int round = 0; round < 40; ++round) {
+            const QByteArray table = randomTable(1 + number(6));
+            QVector<QStringList> rows;
+            (void)CsvText(table, {}).read([&rows](const CsvRow &row) { rows.append(row.fields); });
+            CsvStyle style;
+            style.delimiter = ';';
+            QByteArray other = csvLine(headings + QStringList("Unknown"), style);
+            QByteArray plain = csvLine(columns);
+            for (QStringList row : rows.mid(1)) {
+                row[0] = QString("ABC").mid(number(3), 1);
+                const QDateTime time = QDateTime::fromString(row.at(1), Qt::ISODate);
+                // With a mapping, times are stored in the usual form.
+                row[1] = time.toString("yyyy-MM-ddTHH:mm:ss");
+                plain += csvLine(row);
+                row[1] = time.toString("dd.MM.yyyy HH:mm:ss");
+                row[2] = words.value(row.at(2), row.at(2));
+                for (const char *column : {"length_12", "length_36", "length_45", "length_78", "m:RL", "v:NEXT"})
+                    row[int(columns.indexOf(column))].replace('.', ',');
+                other += csvLine(row + QStringList("ignored"), style);
+            }
+            JobEditor &job = openJob("a.job");
+            const QString changes = import(job, plain);
+            const QByteArray text = JobEditorProbe(job).text();
+            QCOMPARE(import(openJob("a.job"), other, mapped), changes);
+            COMPARE_TEXTS(QString(JobEditorProbe(JobEditor::Instance()).text()), QString(text), QString(other));
+            imported += changes.toInt();
+        }
+        QVERIFY2(imported > 40, qPrintable(QString::number(imported)));
     }
 
     /// What a file cannot hold, or an export cannot give, is refused.
