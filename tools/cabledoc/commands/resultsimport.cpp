@@ -70,9 +70,11 @@ public:
             if (QFileInfo::exists(name))
                 continue;
             QFile source(attachment.source);
-            const bool isCopied = QDir().mkpath(folder) && source.copy(name);
-            if (!isCopied)
-                return fail(CannotSave, name, Program::tr("the file cannot be written: %1").arg(source.errorString()));
+            const bool hasFolder = QFileInfo(folder).isDir() || QDir().mkdir(folder);
+            if (!hasFolder || !source.copy(name))
+                return fail(CannotSave, name,
+                            Program::tr("the file cannot be written: %1")
+                                .arg(hasFolder ? source.errorString() : qt_error_string()));
             m_files.append(name);
         }
         return Done;
