@@ -39,7 +39,8 @@ private Q_SLOTS:
     {
         addCases({"cases/drawings.txt", "cases/labels.txt", "cases/report.txt", "cases/program.txt",
                   "cases/program-conventions.txt", "cases/program-csv.txt", "cases/program-new.txt",
-                  "cases/results.txt", "cases/results-status.txt", "cases/tables.txt", "cases/trace.txt"});
+                  "cases/program-options.txt", "cases/results.txt", "cases/results-status.txt", "cases/tables.txt",
+                  "cases/trace.txt"});
     }
 
     void sessions()
