@@ -123,6 +123,34 @@ private Q_SLOTS:
         }
     }
 
+    /// Connections keep the numbers of types that applications give them as texts.
+    void numberedTypesOfConnections()
+    {
+        open("<Job><Version number='3.0'/><Connection_List/></Job>");
+        JobEditor &job = JobEditor::Instance();
+        const QString tag = job.getConnectionTagById(job.addConnection("", "Up", "", "", 7, 1));
+        QCOMPARE(job.getConnectionType(tag), 7);
+        job.setConnectionType(tag, -3);
+        QCOMPARE(job.getConnectionType(tag), -3);
+    }
+
+    /// A file with more attributes in an element could not be loaded.
+    void mostReleases()
+    {
+        open("<Job><Version number='3.0'/><Release/></Job>");
+        JobEditor &job = JobEditor::Instance();
+        int added = 0;
+        for (; job.error().isEmpty(); ++added)
+            job.addRelease('R' + QString::number(added), "1");
+        QCOMPARE(job.getRelease('R' + QString::number(added - 1)), QString());
+        QCOMPARE(job.getRelease('R' + QString::number(added - 2)), QString("1"));
+        job.addRelease("R0", "2");
+        QCOMPARE(job.getRelease("R0"), QString("2"));
+        QVERIFY(job.save());
+        QVERIFY2(job.Load(QString(job.filename())), qPrintable(job.error()));
+        QCOMPARE(job.getRelease('R' + QString::number(added - 2)), QString("1"));
+    }
+
     void floorsInBetween()
     {
         open("<Job><Version number='3.0'/><Floor_List><FFloor_8/><FFloor_9/><FFloor_10/>"

@@ -16,13 +16,15 @@ class JobSnapshotTest : public QObject
 private:
     QTemporaryDir m_directory;
 
-    /// Returns the sample job with a test definition and a bundle.
+    /// Returns the sample job with what it lacks.
     static QByteArray site()
     {
         return testData("site.job")
             .replace(" <Sheet_List>",
                      "<TestDef_List><D1 id=\"CAT5\"/><D2 id=\"CAT6\" length_constant=\"1500\"/></TestDef_List>"
-                     "<BundledCable_List><B1 id=\"HTheatre\"/></BundledCable_List><Sheet_List>");
+                     "<BundledCable_List><B1 id=\"HTheatre\"/></BundledCable_List><Contractor_Info/><Site_Info/>"
+                     "<Settings_List><PrintSettings_List/><PageSettings_List/><ScaleSettings_List/></Settings_List>"
+                     "<Sheet_List>");
     }
 
     QString write(const QByteArray &content)
@@ -106,6 +108,25 @@ private Q_SLOTS:
             [&] { job.setCableColor("Cable1", "#123456"); },
             [&] { job.renameTestDef("CAT6", "CAT7"); },
             [&] { job.setFloorBackgroundPic("FFloor_1", "", 7, 8); },
+            [&] { job.setRoomName("FFloor_1", "Lab", "Hall"); },
+            [&] { job.setVertRunPos("V1", 5, 6); },
+            [&] { job.setPointPos("Point1", 5, 6); },
+            [&] { job.setFloorFreeTextPos("TText1", 5, 6); },
+            [&] { job.setBackgroundOption("FFloor_1", "Left"); },
+            [&] { job.setDeviceInfo("Device1", "new"); },
+            [&] { job.setVerticePos("Vertice1", 5, 6); },
+            [&] { job.setFreeTextPos("Text1", 5, 6); },
+            [&] { job.addConnection("", "Second", "", "", QString(), 1); },
+            [&] { job.addActiveTestResult("ActivePort1", ActiveTestResult("now", "PASS", 100, "", "", {})); },
+            [&] { job.renameBundledCableType("HTheatre", "Home"); },
+            [&] { job.setContractorTester("Ann"); },
+            [&] { job.setSiteCompany("Firm"); },
+            [&] { job.setPrintSettings(PrintSettings("A4", 1, 50, 1, 1, 0), "JobInfo_Settings"); },
+            [&] { job.setPageSettings(PageSettings("A4", "", 1, 1, 0, 0, 0), "NetView_Settings"); },
+            [&] { job.setScaleSettings(ScaleSettings("", "", 1, 1, 5, 5, 2), "NetView_Settings"); },
+            [&] {
+                job.addEarlierCableTest("Cable1", {TestResults("", "FAIL", cable_struct::untested(), 3), {}});
+            },
             [&] { job.removeSheet("SSheet_1"); },
         };
         for (const auto &change : changes) {

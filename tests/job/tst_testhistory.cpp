@@ -83,6 +83,30 @@ private Q_SLOTS:
         QVERIFY(!JobEditorProbe(job).text().contains("Earlier_Test"));
     }
 
+    void changedDetails()
+    {
+        const QTemporaryDir directory;
+        JobEditor &job = JobEditor::Instance();
+        QVERIFY(job.New(directory.filePath("a.job")));
+        job.addCable("", "A", 1);
+        const QString cable = job.getCables(true).constFirst();
+        job.setCurrentCableTest(cable, testAt("first", "PASS"));
+        TestDetailsFields details = testAt("first", "PASS").details.fields();
+        details.parameters.removeLast();
+        details.operatorName = "Ann";
+        QVERIFY(job.save());
+        job.setCableTestDetails(cable, TestDetails(details));
+        QVERIFY(job.fileChanged());
+        QVERIFY(job.getCableTestDetails(cable) == TestDetails(details));
+        QVERIFY(job.getCableTestResults(cable) == stored(testAt("first", "PASS")).results);
+        QVERIFY(job.save() && job.Load(QString(job.filename())));
+        job.setCableTestDetails(cable, TestDetails(details));
+        QVERIFY(!job.fileChanged());
+        QVERIFY(job.getCableTestDetails(cable) == TestDetails(details));
+        job.setCableTestDetails(cable, TestDetails());
+        QVERIFY(!JobEditorProbe(job).text().contains("Test_Details"));
+    }
+
     void detailsOfAnotherTest()
     {
         JobEditor &job = JobEditor::Instance();

@@ -168,6 +168,64 @@ private Q_SLOTS:
             QVERIFY2(PrintSettings(paper, 0, 100, 1, 1, 0).getPageWidthDimension() > 0, qPrintable(paper));
     }
 
+    void everyScaleIsKnown()
+    {
+        static const QRegularExpression factor("^1(\" = | : )(\\d+)('0\")?$");
+        for (const QString &scale : cabledoc::SettingsStrings::predefinedScales()) {
+            ScaleSettings settings;
+            settings.setStyle(1);
+            settings.setPredefinedScale(scale);
+            QVERIFY2(factor.match(scale).hasMatch(), qPrintable(scale));
+            QCOMPARE(settings.scale(), factor.match(scale).captured(2).toInt());
+        }
+    }
+
+    /// Constructors with all parts, and the functions that set them, make the same records.
+    void partsOfRecords()
+    {
+        const cable_struct block = BKXMLEditor::stringToData(QString("0123456789ABCDEF").repeated(6));
+        const bool flags[] = {false, true, true, false};
+        TestDef definition("CAT6");
+        definition.setExpected(block);
+        definition.setPairInUse(flags);
+        definition.setDataRate(100);
+        definition.setSNR(250);
+        definition.setSkew(400);
+        definition.setShield(true);
+        definition.setLengthConstant(1420);
+        definition.setMaxLength(300);
+        definition.setComment("good");
+        definition.setCableCategory(6);
+        definition.setDefaultType(true);
+        definition.setColor("#123456");
+        QVERIFY(definition
+                == TestDef("CAT6", block, flags, 100, 250, 400, true, 1420, 300, "good", 6, true, "#123456"));
+        QVERIFY(!definition.pair_in_use()[3] && definition.pair_in_use()[2]);
+
+        TRUEPHY_PLOT_DATA curves[3] = {};
+        for (int i = 0; i < 3; ++i)
+            curves[i].plot_a[i] = i + 1;
+        TestResults results("noon", "FAIL", "2.1", "SN", block, 3);
+        results.setNEXT(curves[0]);
+        results.setEcho(curves[1]);
+        results.setChannel(curves[2]);
+        QVERIFY(results == TestResults("noon", "2.1", "SN", "FAIL", 3, block, curves[0], curves[1], curves[2]));
+    }
+
+    void responseCurves()
+    {
+        TRUEPHY_PLOT_DATA curve{};
+        curve.count = TRUEPHY_PLOT_DATA::sampleCount;
+        for (const auto set : {&TestResults::setNEXT, &TestResults::setEcho, &TestResults::setChannel}) {
+            Cable cable;
+            QVERIFY(!cable.hasResponseData());
+            TestResults results;
+            (results.*set)(curve);
+            cable.setTestResults(results);
+            QVERIFY(cable.hasResponseData());
+        }
+    }
+
     void recordsAreValues()
     {
         QObject parent;

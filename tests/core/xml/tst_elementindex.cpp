@@ -3,6 +3,7 @@
 #include <QtTest/QtTest>
 #include <QtXml/QDomDocument>
 
+#include <map>
 #include <random>
 #include <set>
 
@@ -43,6 +44,55 @@ private Q_SLOTS:
             while (plain.count(expected) != 0)
                 ++expected;
             QCOMPARE(numbers.firstFree(from), expected);
+        }
+    }
+
+    /// Compares the last name with that of a plain set. There are more names than are known, and the last ones go.
+    void lastNameAgainstPlainSet()
+    {
+        std::mt19937 random(2);
+        LastName names;
+        std::set<QString> plain;
+        const auto forEachName = [&plain](const auto &use) { std::for_each(plain.begin(), plain.end(), use); };
+        for (int step = 0; step < 8000; ++step) {
+            const bool isGrowing = step < 4000 || random() % 5 == 0;
+            const QString name = isGrowing           ? QString::number(random() % 100000)
+                                 : random() % 8 == 0 ? *plain.begin()
+                                                     : *plain.rbegin();
+            if (isGrowing && plain.insert(name).second)
+                names.insert(name);
+            else if (!isGrowing && plain.erase(name) != 0)
+                names.remove(name);
+            QCOMPARE(names.last(forEachName), plain.empty() ? QString() : *plain.rbegin());
+            if (plain.size() > 1)
+                QCOMPARE(names.last(forEachName, *plain.rbegin()), *std::next(plain.rbegin()));
+        }
+    }
+
+    /// Compares the last tag of numbered ids with that of a plain map, for the prefixes of two languages.
+    void lastTagsOfNumberedIds()
+    {
+        std::mt19937 random(3);
+        TagsById ids("Cable", 3);
+        std::map<QString, QString> idOfTag;
+        for (int step = 0; step < 600; ++step) {
+            const QString tag = 'T' + QString::number(random() % 40);
+            if (const auto known = idOfTag.find(tag); known != idOfTag.end()) {
+                ids.remove(known->second, tag);
+                idOfTag.erase(known);
+            } else {
+                const QString prefix = QStringList{"Cable", "Kabel", "Kabel 7", ""}.at(int(random() % 4));
+                const QString id = prefix + QString::number(random() % 12).rightJustified(int(random() % 4), '0');
+                ids.insert(id, tag);
+                idOfTag.emplace(tag, id);
+            }
+            const QString prefix = step % 100 < 50 ? "Cable" : "Kabel";
+            QString expected;
+            for (const auto &[known, id] : idOfTag) {
+                if (QRegularExpression(QRegularExpression::anchoredPattern(prefix + "[0-9]{3}")).match(id).hasMatch())
+                    expected = known;
+            }
+            QCOMPARE(ids.lastTagWithNumber(prefix), expected);
         }
     }
 
