@@ -229,6 +229,31 @@ private Q_SLOTS:
         QVERIFY(!job.save());
     }
 
+    /// Some file systems cannot rename a file and see to it in the same step that the new name is free.
+    void newFilesOnOtherFileSystems()
+    {
+        forBoth([&](const QString &root, Document &document) {
+            document.editor.setReplacesUnknownFiles(false);
+            for (const int error : {EINVAL, ENOSYS, EIO}) {
+                const bool isPossible = error != EIO;
+                const QString fresh = path(QString("%1.%2").arg(error).arg(root.toLower()));
+                const QString there = path("there." + fresh.section('.', 1));
+                writeFile(there, "precious");
+                const QStringList before = QDir(m_directory->path()).entryList(QDir::Files);
+                failingcalls::fail(failingcalls::Rename, 1, error);
+                QCOMPARE(document.saveAs(fresh), isPossible);
+                QCOMPARE(failingcalls::made(failingcalls::Rename), 1);
+                document.editor.setFilename(path("a." + root.toLower()));
+                QVERIFY(!document.saveAs(there));
+                failingcalls::fail(failingcalls::Rename, 0, 0);
+                QCOMPARE(readFile(there), QByteArray("precious"));
+                QCOMPARE(QFile::exists(fresh) && readFile(fresh).contains("Eve"), isPossible);
+                // No copies are left.
+                QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files).size(), before.size() + (isPossible ? 1 : 0));
+            }
+        });
+    }
+
     void exportToTheFileOfTheJob()
     {
         const QString name = path("site.bkt"); // a job may have any name
@@ -281,6 +306,8 @@ private Q_SLOTS:
             QVERIFY(document.save());
             QVERIFY(!QFile::exists(name) && readFile(path(name)).contains("Zoe"));
             const QString withNul = QString("x") + QChar(0) + ".job";
+            QVERIFY(!(root == "Job" ? JobEditor::Instance().New(withNul) : BktEditor::Instance().New(withNul)));
+            QCOMPARE(document.editor.filename(), name);
             QVERIFY(!document.saveAs(withNul) && !document.load(withNul));
             QCOMPARE(document.editor.error(), BKXMLEditor::tr("The file name contains a NUL character."));
             QVERIFY(!QFile::exists("x"));
