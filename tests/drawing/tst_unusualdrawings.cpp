@@ -258,6 +258,18 @@ private Q_SLOTS:
         QCOMPARE(drawFloorPlans(job, options).drawing.pages.at(0).size, QSizeF(210, 297));
     }
 
+    void numbersOfSheets()
+    {
+        const JobSnapshot one = jobOf(wholeJob);
+        const JobSnapshot two =
+            jobOf(QByteArray(wholeJob).replace("</Floor_List>", "<FFloor_2 id=\"Upper\"/></Floor_List>"));
+        PlanOptions options;
+        QVERIFY(textsOf(drawFloorPlans(two, options).drawing, Layer::Sheet).contains("2/2"));
+        options.sheetNumber = "S7";
+        QVERIFY(textsOf(drawFloorPlans(one, options).drawing, Layer::Sheet).contains("S7"));
+        QVERIFY(textsOf(drawFloorPlans(two, options).drawing, Layer::Sheet).contains("S7-2/2"));
+    }
+
     void tooLarge()
     {
         const JobSnapshot job = jobOf(jobWith("<R1 id=\"Lab\" x=\"0\" y=\"0\" width=\"90000\" height=\"90000\"/>"));

@@ -390,7 +390,7 @@ private Q_SLOTS:
             QVector<QStringList> rows;
             (void)CsvText(table, {}).read([&rows](const CsvRow &row) { rows.append(row.fields); });
             CsvStyle style;
-            style.delimiter = ';';
+            style.delimiter = number(2) == 0 ? ';' : ',';
             QByteArray other = csvLine(headings + QStringList("Unknown"), style);
             QByteArray plain = csvLine(columns);
             for (QStringList row : rows.mid(1)) {
