@@ -85,25 +85,6 @@ QString allowed(QString text)
     return text;
 }
 
-/// Returns a picture as an address that has all of its data. Programs that show SVG files know three formats. A picture
-/// in another format becomes a PNG file.
-QString dataAddress(const QByteArray &picture)
-{
-    const auto address = [](const char *type, const QByteArray &data) {
-        return QStringLiteral("data:%1;base64,%2").arg(QLatin1String(type), QString::fromLatin1(data.toBase64()));
-    };
-    if (picture.startsWith("\xFF\xD8"))
-        return address("image/jpeg", picture);
-    if (picture.trimmed().startsWith('<'))
-        return address("image/svg+xml", picture);
-    if (picture.startsWith("\x89PNG"))
-        return address("image/png", picture);
-    QBuffer png;
-    png.open(QIODevice::WriteOnly);
-    QImage::fromData(picture).save(&png, "PNG");
-    return address("image/png", png.data());
-}
-
 /// Writes a page as SVG. The unit of the file is the millimetre.
 class SvgWriter
 {
@@ -352,6 +333,23 @@ private:
 };
 
 } // namespace
+
+QString dataAddress(const QByteArray &picture)
+{
+    const auto address = [](const char *type, const QByteArray &data) {
+        return QStringLiteral("data:%1;base64,%2").arg(QLatin1String(type), QString::fromLatin1(data.toBase64()));
+    };
+    if (picture.startsWith("\xFF\xD8"))
+        return address("image/jpeg", picture);
+    if (picture.trimmed().startsWith('<'))
+        return address("image/svg+xml", picture);
+    if (picture.startsWith("\x89PNG"))
+        return address("image/png", picture);
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    QImage::fromData(picture).save(&png, "PNG");
+    return address("image/png", png.data());
+}
 
 QByteArray svgFigure(const Scene &figure)
 {

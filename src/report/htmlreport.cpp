@@ -139,11 +139,6 @@ footer { color: #5a5a5a; margin-top: 2em; font-size: 0.85em; }
         .arg(paper.height());
 }
 
-QString mimeTypeOf(const QByteArray &picture)
-{
-    return picture.startsWith("\x89PNG") ? QStringLiteral("image/png") : QStringLiteral("image/jpeg");
-}
-
 } // namespace
 
 HtmlReport::HtmlReport(const HtmlStyle &style, Output output)
@@ -157,8 +152,7 @@ HtmlReport::HtmlReport(const HtmlStyle &style, Output output)
     write(element(QStringLiteral("title"), m_style.subject) + QStringLiteral("\n<style>") + styleSheet(m_style.paper)
           + QStringLiteral("</style>\n</head>\n<body>\n"));
     if (!m_style.logo.isEmpty())
-        write(QStringLiteral("<img class=\"logo\" alt=\"\" src=\"data:%1;base64,%2\">\n")
-                  .arg(mimeTypeOf(m_style.logo), QString::fromLatin1(m_style.logo.toBase64())));
+        write(QStringLiteral("<img class=\"logo\" alt=\"\" src=\"%1\">\n").arg(dataAddress(m_style.logo)));
 }
 
 void HtmlReport::add(const ReportGroup &group)
