@@ -69,6 +69,23 @@ function(cabledoc_install_library target name)
   install(TARGETS ${target} EXPORT cabledocTargets)
 endfunction()
 
+# Headers that most sources read in the end. They are compiled once. Sources include what they need all the same.
+set(CABLEDOC_PRECOMPILED_HEADERS
+  <QtCore/QCoreApplication>
+  <QtCore/QHash>
+  <QtCore/QLocale>
+  <QtCore/QMap>
+  <QtCore/QStringList>
+  <QtCore/QVector>
+  <QtXml/QDomDocument>
+  <algorithm>
+  <functional>
+  <memory>
+  <optional>
+  <set>
+  <tsl/ordered_map.h>
+  <vector>)
+
 # cabledoc_layer(NAME SOURCES ... HEADERS ... USES ...)
 # One folder of src/ as a set of objects. It finds the headers of the folders it uses and of no
 # others, so the compiler keeps the order of the folders. The test "layers" keeps it for symbols.
@@ -85,6 +102,13 @@ function(cabledoc_layer name)
   target_link_libraries(cabledoc_${name}
     PUBLIC Qt${CABLEDOC_QT_MAJOR}::Core Qt${CABLEDOC_QT_MAJOR}::Gui Qt${CABLEDOC_QT_MAJOR}::Xml ${layer_USES}
     PRIVATE cabledoc_strict)
+  get_property(layers GLOBAL PROPERTY CABLEDOC_LAYERS)
+  if(layers)
+    list(GET layers 0 first)
+    target_precompile_headers(cabledoc_${name} REUSE_FROM ${first})
+  else()
+    target_precompile_headers(cabledoc_${name} PRIVATE ${CABLEDOC_PRECOMPILED_HEADERS})
+  endif()
   cabledoc_public_headers(${layer_HEADERS})
   target_sources(cabledoc PRIVATE $<TARGET_OBJECTS:cabledoc_${name}>)
   set_property(GLOBAL APPEND PROPERTY CABLEDOC_LAYERS cabledoc_${name})
