@@ -565,6 +565,10 @@
         <source>The pages cannot be written to a temporary file in %1.</source>
         <translation>Die Seiten können nicht in eine temporäre Datei in %1 geschrieben werden.</translation>
     </message>
+    <message>
+        <source>no font has these characters, so they are missing: %1</source>
+        <translation>keine Schrift hat diese Zeichen, daher fehlen sie: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

@@ -565,6 +565,10 @@
         <source>The pages cannot be written to a temporary file in %1.</source>
         <translation>Las páginas no se pueden escribir en un archivo temporal en %1.</translation>
     </message>
+    <message>
+        <source>no font has these characters, so they are missing: %1</source>
+        <translation>ninguna fuente tiene estos caracteres, por lo que faltan: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

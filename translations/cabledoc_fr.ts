@@ -565,6 +565,10 @@
         <source>The pages cannot be written to a temporary file in %1.</source>
         <translation>Les pages ne peuvent pas être écrites dans un fichier temporaire de %1.</translation>
     </message>
+    <message>
+        <source>no font has these characters, so they are missing: %1</source>
+        <translation>aucune police n&apos;a ces caractères, qui manquent donc : %1</translation>
+    </message>
 </context>
 <context>
     <name>FileValidator</name>

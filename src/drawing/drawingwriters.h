@@ -3,6 +3,8 @@
 #include "cabledoc_export.h"
 #include "scene.h"
 
+#include <QtCore/QStringList>
+
 namespace cabledoc {
 
 // Each of these functions writes a file whole or not at all, and replaces a file of the same name. It returns an empty
@@ -17,10 +19,13 @@ namespace cabledoc {
 CABLEDOC_EXPORT QString writeSvg(const Scene &page, const QString &fileName);
 
 /// Writes a drawing as PDF, at its exact size. The pages with a title are in the outline. With the environment variable
-/// SOURCE_DATE_EPOCH, the same drawing gives the same bytes with the same version of Qt.
-CABLEDOC_EXPORT QString writePdf(const Drawing &drawing, const QString &fileName);
+/// SOURCE_DATE_EPOCH, the same drawing gives the same bytes with the same version of Qt. Adds a warning if characters
+/// are not seen because no font has them.
+CABLEDOC_EXPORT QString writePdf(const Drawing &drawing, const QString &fileName, QStringList *warnings = nullptr);
 
-/// Writes a page as a PNG picture with the given number of dots to the inch.
-CABLEDOC_EXPORT QString writePng(const Scene &page, const QString &fileName, double dpi);
+/// Writes a page as a PNG picture with the given number of dots to the inch. Adds a warning if characters are not seen
+/// because no font has them.
+CABLEDOC_EXPORT QString writePng(const Scene &page, const QString &fileName, double dpi,
+                                 QStringList *warnings = nullptr);
 
 } // namespace cabledoc

@@ -1,6 +1,7 @@
 #include "pdffile.h"
 
 #include "filereplacement.h"
+#include "missingcharacters.h"
 #include "pdfcompletion.h"
 #include "qtcompat.h"
 #include "scenepainter.h"
@@ -41,6 +42,7 @@ PdfLink linkOf(const SceneLink &link, const Scene &page, int number)
 struct PdfFile::Data
 {
     PdfAdditions additions;
+    MissingCharacters missing;
     QTemporaryFile pages;
     std::unique_ptr<QPdfWriter> writer;
     QPainter painter;
@@ -81,12 +83,18 @@ void PdfFile::addPage(const Scene &page)
     d->painter.resetTransform();
     d->painter.scale(resolution / millimetersInAnInch, resolution / millimetersInAnInch);
     paintScene(&d->painter, page);
+    d->missing.collect(page);
     for (const SceneItem &item : page.items) {
         if (const auto *link = std::get_if<SceneLink>(&item.shape))
             d->additions.links.push_back(linkOf(*link, page, d->pageCount));
     }
     ++d->pageCount;
     d->hasFailed = d->pages.error() != QFileDevice::NoError;
+}
+
+void PdfFile::warn(QStringList *warnings) const
+{
+    d->missing.warn(warnings);
 }
 
 QString PdfFile::save(const QString &fileName, const QVector<OutlineEntry> &outline)

@@ -4,7 +4,7 @@
 
 namespace cabledoc {
 
-QString writePdf(const Drawing &drawing, const QString &fileName)
+QString writePdf(const Drawing &drawing, const QString &fileName, QStringList *warnings)
 {
     const QString fontError = loadDrawingFonts();
     if (!fontError.isEmpty())
@@ -16,6 +16,8 @@ QString writePdf(const Drawing &drawing, const QString &fileName)
         if (!drawing.pages.at(page).title.isEmpty())
             outline.append({drawing.pages.at(page).title, page, 0});
     }
+    if (warnings != nullptr)
+        file.warn(warnings);
     return file.save(fileName, outline);
 }
 

@@ -2,6 +2,7 @@
 #include "drawingfonts.h"
 #include "drawingtext.h"
 #include "drawingwriters.h"
+#include "missingcharacters.h"
 #include "scenepainter.h"
 #include "units.h"
 
@@ -12,7 +13,7 @@
 
 namespace cabledoc {
 
-QString writePng(const Scene &page, const QString &fileName, double dpi)
+QString writePng(const Scene &page, const QString &fileName, double dpi, QStringList *warnings)
 {
     const QString fontError = loadDrawingFonts();
     if (!fontError.isEmpty())
@@ -33,6 +34,11 @@ QString writePng(const Scene &page, const QString &fileName, double dpi)
     painter.scale(dotsInAMillimeter, dotsInAMillimeter);
     paintScene(&painter, page);
     painter.end();
+    if (warnings != nullptr) {
+        MissingCharacters missing;
+        missing.collect(page);
+        missing.warn(warnings);
+    }
     QBuffer content;
     content.open(QIODevice::WriteOnly);
     if (!image.save(&content, "PNG"))

@@ -67,7 +67,6 @@ LabelFaces::LabelFaces(const LabelFormat &format, LabelCode code)
     , m_code(code)
     , m_white(format.isTape() ? QRectF(QPointF(), format.label) : format.printedPart())
     , m_content(contentOf(format))
-    , m_font(fontOf(SceneText()))
 {
 }
 
@@ -200,7 +199,7 @@ void LabelFaces::alignSizes(Layout *layout)
 /// Makes a line smaller if it is wider than its room. Returns what is wrong with it, or an empty string.
 QString LabelFaces::fitLine(SceneText *line, double width) const
 {
-    const QString missing = missingCharacter(line->text);
+    const QString missing = m_missing.firstOf(line->text);
     if (!missing.isEmpty())
         return LabelText::tr("no font has the character %1").arg(missing);
     m_measure.measure(line);
@@ -212,21 +211,6 @@ QString LabelFaces::fitLine(SceneText *line, double width) const
         return {};
     return LabelText::tr("\"%1\" is %2 mm wide at 5 points, and the label has room for %3 mm")
         .arg(line->text, needed(width * smallestText / line->size), available(width));
-}
-
-/// Returns a character that cannot be drawn, with its number, or an empty string.
-QString LabelFaces::missingCharacter(const QString &text) const
-{
-    for (const uint character : text.toUcs4()) {
-        // Marks of the direction of a text are not seen.
-        if (m_font.inFontUcs4(character) || QChar::category(character) == QChar::Other_Format)
-            continue;
-        const QString number = QStringLiteral("U+%1").arg(character, 4, 16, QLatin1Char('0')).toUpper();
-        const char32_t whole = character;
-        return QChar::isPrint(character) ? QStringLiteral("\"%1\" (%2)").arg(QString::fromUcs4(&whole, 1), number)
-                                         : number;
-    }
-    return {};
 }
 
 /// Ends a label of a tape where its text and code end.

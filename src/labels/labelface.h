@@ -2,9 +2,8 @@
 
 #include "drawingfonts.h"
 #include "labels.h"
+#include "missingcharacters.h"
 #include "scene.h"
-
-#include <QtGui/QFontMetricsF>
 
 namespace cabledoc {
 
@@ -44,7 +43,6 @@ private:
     QStringList fitLines(const QStringList &lines, Layout *layout) const;
     static void alignSizes(Layout *layout);
     QString fitLine(SceneText *line, double width) const;
-    QString missingCharacter(const QString &text) const;
     void shortenTape(Layout *layout, LabelFace *face) const;
     QVector<SceneShape> shapesOf(const CodeGrid &grid, const Layout &layout) const;
 
@@ -53,7 +51,7 @@ private:
     QRectF m_white;   ///< part of the label that is white, which the light zone of a code needs
     QRectF m_content; ///< part of the label for text and code
     TextMeasure m_measure;
-    QFontMetricsF m_font;
+    MissingCharacters m_missing;
 };
 
 } // namespace cabledoc

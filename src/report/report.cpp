@@ -132,6 +132,7 @@ ReportResult writePdfReport(const JobSnapshot &job, const ReportOptions &options
     QVector<OutlineEntry> outline;
     for (const ReportOutlineEntry &entry : content->outline())
         outline.append({entry.title, std::max(0, numbers.pageOf(entry.anchor)), entry.level});
+    file.warn(&result.warnings);
     result.error = file.save(fileName, outline);
     result.pages = numbers.count;
     return result;

@@ -39,7 +39,7 @@ struct ReportResult
 {
     /// Why the file could not be written, or an empty string.
     QString error;
-    /// What the report lacks, such as a logo that cannot be read.
+    /// What the report lacks, such as a logo that cannot be read, or characters that no font has.
     QStringList warnings;
     /// Number of pages. An HTML file has none.
     int pages = 0;

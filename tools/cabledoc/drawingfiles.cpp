@@ -60,12 +60,14 @@ QString readDpi(const CommandLine &line, int *dpi)
                : Program::tr("\"%1\" is not a number of dots to the inch from 10 to 1200").arg(line.value("dpi"));
 }
 
-QString write(const cabledoc::Drawing &drawing, DrawingFormat format, int dpi, const QString &fileName)
+QString write(const cabledoc::Drawing &drawing, DrawingFormat format, int dpi, const QString &fileName,
+              QStringList *warnings)
 {
     if (format == DrawingFormat::Pdf)
-        return cabledoc::writePdf(drawing, fileName);
+        return cabledoc::writePdf(drawing, fileName, warnings);
     const cabledoc::Scene &page = drawing.pages.constFirst();
-    return format == DrawingFormat::Svg ? cabledoc::writeSvg(page, fileName) : cabledoc::writePng(page, fileName, dpi);
+    return format == DrawingFormat::Svg ? cabledoc::writeSvg(page, fileName)
+                                        : cabledoc::writePng(page, fileName, dpi, warnings);
 }
 
 } // namespace
@@ -99,15 +101,22 @@ QString readDrawingOptions(const CommandLine &line, DrawingOptions *options, int
 
 ExitCode writeDrawing(const CommandLine &line, const DrawingResult &result, int dpi)
 {
-    for (const QString &warning : result.warnings) {
-        if (!isQuiet())
-            printMessage(line.argument(0) + QLatin1String(": ") + warning);
-    }
     if (!result.error.isEmpty())
         return fail(CannotSave, line.output().fileName, result.error);
-    return saveDocument(line.output(), [&](const QString &fileName) {
-        return write(result.drawing, formatOf(line.output()), dpi, fileName);
+    QStringList warnings = result.warnings;
+    const ExitCode written = saveDocument(line.output(), [&](const QString &fileName) {
+        return write(result.drawing, formatOf(line.output()), dpi, fileName, &warnings);
     });
+    printWarnings(line, warnings);
+    return written;
+}
+
+void printWarnings(const CommandLine &line, const QStringList &warnings)
+{
+    if (isQuiet())
+        return;
+    for (const QString &warning : warnings)
+        printMessage(line.argument(0) + QLatin1String(": ") + warning);
 }
 
 QVector<Parameter> paperParameters()

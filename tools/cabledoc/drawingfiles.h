@@ -48,8 +48,10 @@ QString readPage(const CommandLine &line, cabledoc::DrawingOptions *options);
 /// of the output, or an empty text.
 QString readDrawingOptions(const CommandLine &line, cabledoc::DrawingOptions *options, int *dpi);
 
-/// Prints the warnings of a drawing and writes the drawing to the output. SVG and PNG files have its first page.
+/// Writes a drawing to the output and prints its warnings. SVG and PNG files have its first page.
 ExitCode writeDrawing(const CommandLine &line, const cabledoc::DrawingResult &result, int dpi);
+/// Prints warnings about a file that was made from the first argument, except with --quiet.
+void printWarnings(const CommandLine &line, const QStringList &warnings);
 
 /// The parameters of the paper.
 QVector<Parameter> paperParameters();

@@ -139,9 +139,6 @@ ExitCode runReport(const CommandLine &line)
         result = (isHtml ? cabledoc::writeHtmlReport : cabledoc::writePdfReport)(job, options, fileName);
         return result.error;
     });
-    for (const QString &warning : result.warnings) {
-        if (!isQuiet())
-            printMessage(line.argument(0) + QLatin1String(": ") + warning);
-    }
+    printWarnings(line, result.warnings);
     return written;
 }
