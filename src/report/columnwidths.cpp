@@ -1,25 +1,26 @@
 #include "columnwidths.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace cabledoc {
 
 namespace {
 
-/// Returns the natural width of each column.
-QVector<double> naturalWidths(const TableBlock &table, double size, double padding, const TextMeasure &measure)
+/// Returns the widths of the texts in each column at the size 1.
+QVector<double> textWidths(const TableBlock &table, const TextMeasure &measure)
 {
     constexpr int measuredRows = 2000; // later rows that are wider are broken into lines
     QVector<double> widths;
     for (const ReportColumn &column : table.columns)
-        widths.append(measure.width(column.heading, size, true) + padding);
-    const double pageWidth = measure.width(QStringLiteral("00000"), size) + padding;
+        widths.append(measure.width(column.heading, 1.0, true));
+    const double pageWidth = measure.width(QStringLiteral("00000"), 1.0);
     for (int row = 0; row < std::min(table.rowCount, measuredRows); ++row) {
         const ReportRow cells = table.row(row);
         for (int i = 0; i < widths.size(); ++i) {
             const bool isPage = table.columns.at(i).kind == ReportColumn::Page;
             const bool isBold = table.columns.at(i).kind == ReportColumn::Verdict;
-            const double needed = isPage ? pageWidth : measure.width(cells.value(i).text, size, isBold) + padding;
+            const double needed = isPage ? pageWidth : measure.width(cells.value(i).text, 1.0, isBold);
             widths[i] = std::max(widths.at(i), needed);
         }
     }
@@ -28,10 +29,16 @@ QVector<double> naturalWidths(const TableBlock &table, double size, double paddi
 
 } // namespace
 
-QVector<double> columnWidths(const TableBlock &table, double size, double padding, double width,
-                             const TextMeasure &measure)
+TableMeasures measuresOf(const TableBlock &table, double size, double smallestSize, double padding, double width,
+                         const TextMeasure &measure)
 {
-    QVector<double> widths = naturalWidths(table, size, padding, measure);
+    QVector<double> widths = textWidths(table, measure);
+    const double sum = std::accumulate(widths.cbegin(), widths.cend(), 0.0);
+    const double room = width - double(widths.size()) * padding;
+    if (sum * size > room)
+        size = std::max(smallestSize, room / sum);
+    for (double &column : widths)
+        column = column * size + padding;
     QVector<int> order(widths.size());
     for (int i = 0; i < order.size(); ++i)
         order[i] = i;
@@ -43,7 +50,7 @@ QVector<double> columnWidths(const TableBlock &table, double size, double paddin
         column = std::min(column, share);
         left -= column;
     }
-    return widths;
+    return {size, widths};
 }
 
 } // namespace cabledoc

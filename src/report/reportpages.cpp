@@ -21,6 +21,7 @@ constexpr double headBaseline = 13.0;
 constexpr double footBaseline = 10.0; // from the bottom
 constexpr double bodySize = 2.9;
 constexpr double tableSize = 2.7;
+constexpr double smallestTable = 2.4;
 constexpr double smallSize = 2.4;
 constexpr double lineHeight = 1.4; // in parts of the size
 constexpr double cellPadding = 1.6;
@@ -201,35 +202,37 @@ private:
 
     void pieces(const TableBlock &table, const PieceSink &sink) const
     {
-        const QVector<double> widths = columnWidths(table, tableSize, 2.0 * cellPadding, m_width, m_measure);
+        const TableMeasures measures =
+            measuresOf(table, tableSize, smallestTable, 2.0 * cellPadding, m_width, m_measure);
         ReportRow headings;
         for (const ReportColumn &column : table.columns)
             headings.append({column.heading});
-        const auto head = std::make_shared<const Piece>(rowPiece(table.columns, headings, widths, true));
+        const auto head = std::make_shared<const Piece>(rowPiece(table.columns, headings, measures, true));
         Piece first = *head;
-        first.keptHeight = tableSize * lineHeight + 2.0 * rowPadding;
+        first.keptHeight = measures.size * lineHeight + 2.0 * rowPadding;
         sink(first);
         for (int row = 0; row < table.rowCount; ++row) {
-            Piece piece = rowPiece(table.columns, table.row(row), widths, false);
+            Piece piece = rowPiece(table.columns, table.row(row), measures, false);
             piece.repeated = head;
             sink(piece);
         }
         sink({gap, {}});
     }
 
-    Piece rowPiece(const QVector<ReportColumn> &columns, const ReportRow &cells, const QVector<double> &widths,
+    Piece rowPiece(const QVector<ReportColumn> &columns, const ReportRow &cells, const TableMeasures &measures,
                    bool isHead) const
     {
         Scene scene;
         double left = 0.0;
         double height = 0.0;
         for (int i = 0; i < columns.size(); ++i) {
-            height = std::max(height, addCell(columns.at(i), cells.value(i), left, widths.at(i), isHead, &scene));
-            left += widths.at(i);
+            const CellPlace place{left, measures.widths.at(i), measures.size};
+            height = std::max(height, addCell(columns.at(i), cells.value(i), place, isHead, &scene));
+            left += place.width;
         }
         SheetPen(&scene, m_measure).line({0.0, height}, {left, height}, isHead ? headLine : rowLine);
         if (!isHead)
-            addLinks(cells, widths, height, &scene);
+            addLinks(cells, measures.widths, height, &scene);
         return {height, scene.items};
     }
 
@@ -251,8 +254,15 @@ private:
             addToSheet(scene, link);
     }
 
+    struct CellPlace
+    {
+        double left;
+        double width;
+        double size; ///< of the letters
+    };
+
     /// Writes a field. Returns its height.
-    double addCell(const ReportColumn &column, const ReportCell &cell, double left, double width, bool isHead,
+    double addCell(const ReportColumn &column, const ReportCell &cell, const CellPlace &place, bool isHead,
                    Scene *scene) const
     {
         SheetPen pen(scene, m_measure);
@@ -267,12 +277,13 @@ private:
                              : !isHead && page >= 0 && !text.isEmpty() ? linkColor
                                                                        : QColor(Qt::black);
         double y = rowPadding;
-        for (const QString &line : wrapped(m_measure, text, tableSize, width - 2.0 * cellPadding + 0.01, isBold)) {
-            const double x =
-                isRight ? left + width - cellPadding - m_measure.width(line, tableSize, isBold) : left + cellPadding;
-            y += tableSize * lineHeight;
+        const double left = place.left + cellPadding;
+        const double room = place.width - 2.0 * cellPadding;
+        for (const QString &line : wrapped(m_measure, text, place.size, room + 0.01, isBold)) {
+            const double x = isRight ? left + room - m_measure.width(line, place.size, isBold) : left;
+            y += place.size * lineHeight;
             if (!line.isEmpty())
-                pen.text({x, y - tableSize * 0.35}, line, tableSize, isBold, color);
+                pen.text({x, y - place.size * 0.35}, line, place.size, isBold, color);
         }
         return y + rowPadding;
     }
