@@ -95,6 +95,22 @@ double zoomOf(const ReportContent &content, const PrintSettingsFields &settings,
     return std::min(largest, fittingZoom(content, style, pageCount));
 }
 
+/// Has a report written by a function with the signature
+/// QString write(const ReportContent &content, const PageSetup &setup, ReportResult *result). It returns what is wrong.
+template <typename Write>
+ReportResult writtenReport(const JobSnapshot &job, const ReportOptions &options, const Write &write)
+{
+    ReportResult result;
+    result.error = loadDrawingFonts();
+    if (!result.error.isEmpty())
+        return result;
+    const PageSetup setup(job, options.page, settingsOf(options.kind));
+    result.error = setup.problem();
+    if (result.error.isEmpty())
+        result.error = write(*contentOf(job, options), setup, &result);
+    return result;
+}
+
 } // namespace
 
 void moveFailuresToFront(const JobSnapshot &job, QVector<int> *cables)
@@ -112,57 +128,40 @@ void moveFailuresToFront(const JobSnapshot &job, QVector<int> *cables)
 
 ReportResult writePdfReport(const JobSnapshot &job, const ReportOptions &options, const QString &fileName)
 {
-    ReportResult result;
-    result.error = loadDrawingFonts();
-    if (!result.error.isEmpty())
-        return result;
-    const PageSetup setup(job, options.page, settingsOf(options.kind));
-    result.error = setup.problem();
-    if (!result.error.isEmpty())
-        return result;
-    const std::unique_ptr<ReportContent> content = contentOf(job, options);
-    const QString subject = titleOf(job, content->title());
-    PageStyle style{
-        setup.paper(), 1.0, job.contractor().company, subject, dateOf(options.page), setup.logo(&result.warnings)};
-    const PrintSettingsFields settings = job.printSettings().value(settingsOf(options.kind));
-    style.zoom = zoomOf(*content, settings, style);
-    const PageNumbers numbers = layOut(*content, style, {}, [](const Scene &) {});
-    PdfFile file(subject, job.contractor().company);
-    layOut(*content, style, numbers, [&file](const Scene &page) { file.addPage(page); });
-    QVector<OutlineEntry> outline;
-    for (const ReportOutlineEntry &entry : content->outline())
-        outline.append({entry.title, std::max(0, numbers.pageOf(entry.anchor)), entry.level});
-    file.warn(&result.warnings);
-    result.error = file.save(fileName, outline);
-    result.pages = numbers.count;
-    return result;
+    return writtenReport(job, options, [&](const ReportContent &content, const PageSetup &setup, ReportResult *result) {
+        const QString subject = titleOf(job, content.title());
+        PageStyle style{
+            setup.paper(), 1.0, job.contractor().company, subject, dateOf(options.page), setup.logo(&result->warnings)};
+        style.zoom = zoomOf(content, job.printSettings().value(settingsOf(options.kind)), style);
+        const PageNumbers numbers = layOut(content, style, {}, [](const Scene &) {});
+        PdfFile file(subject, job.contractor().company);
+        layOut(content, style, numbers, [&file](const Scene &page) { file.addPage(page); });
+        QVector<OutlineEntry> outline;
+        for (const ReportOutlineEntry &entry : content.outline())
+            outline.append({entry.title, std::max(0, numbers.pageOf(entry.anchor)), entry.level});
+        file.warn(&result->warnings);
+        result->pages = numbers.count;
+        return file.save(fileName, outline);
+    });
 }
 
 ReportResult writeHtmlReport(const JobSnapshot &job, const ReportOptions &options, const QString &fileName)
 {
-    ReportResult result;
-    result.error = loadDrawingFonts();
-    if (!result.error.isEmpty())
-        return result;
-    const PageSetup setup(job, options.page, settingsOf(options.kind));
-    result.error = setup.problem();
-    if (!result.error.isEmpty())
-        return result;
-    const std::unique_ptr<ReportContent> content = contentOf(job, options);
-    FileReplacement file(fileName);
-    result.error = file.open();
-    if (!result.error.isEmpty())
-        return result;
-    HtmlReport html({titleOf(job, content->title()), dateOf(options.page), setup.paper(), setup.logo(&result.warnings)},
-                    [&file, &result](const QByteArray &piece) {
-                        if (result.error.isEmpty())
-                            result.error = file.write(piece);
-                    });
-    content->writeTo([&html](const ReportGroup &group) { html.add(group); });
-    html.finish();
-    if (result.error.isEmpty())
-        result.error = file.commit({});
-    return result;
+    return writtenReport(job, options, [&](const ReportContent &content, const PageSetup &setup, ReportResult *result) {
+        FileReplacement file(fileName);
+        QString error = file.open();
+        if (!error.isEmpty())
+            return error;
+        const HtmlStyle style{titleOf(job, content.title()), dateOf(options.page), setup.paper(),
+                              setup.logo(&result->warnings)};
+        HtmlReport html(style, [&file, &error](const QByteArray &piece) {
+            if (error.isEmpty())
+                error = file.write(piece);
+        });
+        content.writeTo([&html](const ReportGroup &group) { html.add(group); });
+        html.finish();
+        return error.isEmpty() ? file.commit({}) : error;
+    });
 }
 
 } // namespace cabledoc
