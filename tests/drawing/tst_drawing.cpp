@@ -7,6 +7,7 @@
 #include "riserdrawing.h"
 #include "sampleoffice.h"
 #include "settingsstrings.h"
+#include "snapshots.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QXmlStreamReader>
@@ -160,14 +161,7 @@ private:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    JobSnapshot jobOf(const QByteArray &content) const
-    {
-        writeFile(path("drawing.job"), content);
-        const JobSnapshot job = JobSnapshot::read(path("drawing.job"));
-        if (!job.error().isEmpty())
-            qFatal("%s", qPrintable(job.error()));
-        return job;
-    }
+    JobSnapshot jobOf(const QByteArray &content) const { return writtenJob(path("drawing.job"), content); }
 
     JobSnapshot office() const { return JobSnapshot::read(path("office.job")); }
 

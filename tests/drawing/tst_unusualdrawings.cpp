@@ -9,6 +9,7 @@
 #include "networkdrawing.h"
 #include "plandrawing.h"
 #include "riserdrawing.h"
+#include "snapshots.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QTemporaryDir>
@@ -114,14 +115,7 @@ private:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    JobSnapshot jobOf(const QByteArray &content) const
-    {
-        writeFile(path("drawing.job"), content);
-        const JobSnapshot job = JobSnapshot::read(path("drawing.job"));
-        if (!job.error().isEmpty())
-            qFatal("%s", qPrintable(job.error()));
-        return job;
-    }
+    JobSnapshot jobOf(const QByteArray &content) const { return writtenJob(path("drawing.job"), content); }
 
     /// Writes a page as SVG. Returns the values of an attribute of all elements with the given name.
     QStringList attributesInSvg(const Scene &page, const QString &name, const QString &attribute) const

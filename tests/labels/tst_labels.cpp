@@ -4,6 +4,7 @@
 #include "labelpattern.h"
 #include "labels.h"
 #include "programs.h"
+#include "snapshots.h"
 #include "strangeids.h"
 #include "testfiles.h"
 
@@ -56,11 +57,7 @@ private:
         for (int i = 0; i < ids.size(); ++i)
             job += "<Cable" + QByteArray::number(i) + " id=\"" + escaped(ids.at(i)) + "\" type=\"T"
                    + QByteArray::number(i) + "\"/>";
-        writeFile(path("labels.job"), job + "</Cable_List></Job>");
-        const JobSnapshot read = JobSnapshot::read(path("labels.job"));
-        if (!read.error().isEmpty())
-            qFatal("%s", qPrintable(read.error()));
-        return read;
+        return writtenJob(path("labels.job"), job + "</Cable_List></Job>");
     }
 
     /// Makes labels for all cables of a job.

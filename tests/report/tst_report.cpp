@@ -3,6 +3,7 @@
 #include "pdfcontent.h"
 #include "report.h"
 #include "sampleoffice.h"
+#include "snapshots.h"
 #include "strangeids.h"
 #include "testfiles.h"
 #include "vocabulary.h"
@@ -171,14 +172,7 @@ private:
         return printedBy(CABLEDOC_PROGRAM_FOLDER "/cabledoc", arguments, m_folder.path(), programEnvironment());
     }
 
-    JobSnapshot jobOf(const QByteArray &content) const
-    {
-        writeFile(path("a.job"), content);
-        const JobSnapshot job = JobSnapshot::read(path("a.job"));
-        if (!job.error().isEmpty())
-            qFatal("%s", qPrintable(job.error()));
-        return job;
-    }
+    JobSnapshot jobOf(const QByteArray &content) const { return writtenJob(path("a.job"), content); }
 
     JobSnapshot office() const { return JobSnapshot::read(path("office.job")); }
 
