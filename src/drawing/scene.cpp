@@ -62,6 +62,32 @@ template <typename Shape> void move(Shape *shape, const QPointF &distance)
     shape->area.translate(distance);
 }
 
+void scale(SceneLine *line, double factor)
+{
+    for (QPointF &point : line->points)
+        point *= factor;
+    line->style.width *= factor;
+}
+
+void scale(SceneArea *area, double factor)
+{
+    for (QPointF &corner : area->corners)
+        corner *= factor;
+    area->outline.width *= factor;
+}
+
+void scale(SceneText *text, double factor)
+{
+    text->position *= factor;
+    text->size *= factor;
+    text->width *= factor;
+}
+
+template <typename Shape> void scale(Shape *shape, double factor)
+{
+    shape->area = {shape->area.topLeft() * factor, shape->area.size() * factor};
+}
+
 } // namespace
 
 QString layerWord(Layer layer)
@@ -103,6 +129,11 @@ QRectF boundsOf(const SceneItem &item)
 void moveBy(SceneItem *item, const QPointF &distance)
 {
     std::visit([&distance](auto &shape) { move(&shape, distance); }, item->shape);
+}
+
+void scaleBy(SceneItem *item, double factor)
+{
+    std::visit([factor](auto &shape) { scale(&shape, factor); }, item->shape);
 }
 
 QVector<const SceneItem *> inDrawingOrder(const Scene &scene)

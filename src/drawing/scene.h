@@ -163,6 +163,8 @@ CABLEDOC_EXPORT QRectF boxOf(const SceneText &text);
 CABLEDOC_EXPORT QRectF boundsOf(const SceneItem &item);
 /// Moves an item.
 CABLEDOC_EXPORT void moveBy(SceneItem *item, const QPointF &distance);
+/// Makes an item larger or smaller, with its lines and letters. The origin of the page stays where it is.
+CABLEDOC_EXPORT void scaleBy(SceneItem *item, double factor);
 /// Returns the items in the order in which they are drawn: layer by layer.
 CABLEDOC_EXPORT QVector<const SceneItem *> inDrawingOrder(const Scene &scene);
 

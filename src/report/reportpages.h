@@ -1,8 +1,6 @@
 #pragma once
 
-#include "drawingfonts.h"
-#include "reportblocks.h"
-#include "texthash.h"
+#include "blocklayout.h"
 
 #include <functional>
 #include <memory>
@@ -18,20 +16,6 @@ struct PageStyle
     QString subject;      ///< what the report is, at the top of each page but the first
     QString date;         ///< stands at the bottom of each page
     QByteArray logo = {}; ///< content of a picture file for the first page, or empty
-};
-
-/// Where the groups of a report are.
-struct PageNumbers
-{
-    TextMap<int> ofAnchors; ///< numbers of the pages, counted from 0
-    int count = 0;          ///< number of pages
-
-    /// Returns the page of an anchor, or -1 if it is not known.
-    int pageOf(const QString &anchor) const
-    {
-        const auto found = ofAnchors.find(anchor);
-        return found == ofAnchors.end() ? -1 : found->second;
-    }
 };
 
 /// Divides a report among pages. A table is divided between rows, and its heading stands on each page.
