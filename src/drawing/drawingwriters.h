@@ -19,12 +19,12 @@ namespace cabledoc {
 CABLEDOC_EXPORT QString writeSvg(const Scene &page, const QString &fileName);
 
 /// Writes a drawing as PDF, at its exact size. The pages with a title are in the outline. With the environment variable
-/// SOURCE_DATE_EPOCH, the same drawing gives the same bytes with the same version of Qt. Adds a warning if characters
-/// are not seen because no font has them.
+/// SOURCE_DATE_EPOCH, the same drawing gives the same bytes with the same version of Qt. Adds a warning to the list, if
+/// there is one, if no font has some of the characters, which are then missing.
 CABLEDOC_EXPORT QString writePdf(const Drawing &drawing, const QString &fileName, QStringList *warnings = nullptr);
 
-/// Writes a page as a PNG picture with the given number of dots to the inch. Adds a warning if characters are not seen
-/// because no font has them.
+/// Writes a page as a PNG picture with the given number of dots to the inch. Adds a warning to the list, if there is
+/// one, if no font has some of the characters, which are then missing.
 CABLEDOC_EXPORT QString writePng(const Scene &page, const QString &fileName, double dpi,
                                  QStringList *warnings = nullptr);
 

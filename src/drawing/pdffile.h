@@ -25,7 +25,7 @@ public:
 
     /// Adds a page at its exact size.
     void addPage(const Scene &page);
-    /// Adds a warning if characters on the pages are not seen because no font has them.
+    /// Adds a warning if no font has some of the characters of the pages, which are then missing.
     void warn(QStringList *warnings) const;
     /// Writes the file whole or not at all, and replaces a file of the same name. Returns an empty string, or why the
     /// file could not be written. Nothing can be added afterwards.

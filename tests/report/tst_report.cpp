@@ -477,7 +477,7 @@ private Q_SLOTS:
             const QDomElement heading = parts.value(QString::number(i + 1)).firstChildElement("h3");
             QCOMPARE(heading.firstChildElement("span").text(), job.cables().at(i).test.status);
         }
-        // Nothing else is known about these cables.
+        // The job has only these facts about the cables.
         QCOMPARE(textsIn(parts.value("7"), "dd"), QStringList("T"));
         QCOMPARE(textsIn(parts.value("11"), {}).mid(2).join(QString()), QString());
     }
