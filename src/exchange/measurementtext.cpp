@@ -18,6 +18,8 @@ namespace {
 /// The pins of the pairs.
 constexpr std::array<const char *, 4> pairNames{"12", "36", "45", "78"};
 
+constexpr int notMeasured = 60000; ///< the least reading of a pair that was not measured
+
 int pairOfName(const QString &name)
 {
     const auto *const found = std::find_if(pairNames.begin(), pairNames.end(),
@@ -35,9 +37,13 @@ bool isUsableLengthConstant(int lengthConstant)
     return lengthConstant >= lowest && lengthConstant <= highest;
 }
 
+bool isLengthReading(int reading)
+{
+    return reading > 0 && reading < notMeasured;
+}
+
 std::optional<int> readingOf(double feet, int lengthConstant)
 {
-    constexpr double notMeasured = 60000.0;
     const double reading = std::round(feet * (lengthConstant / 100.0));
     return reading >= 1.0 && reading < notMeasured ? std::make_optional(int(reading)) : std::nullopt;
 }

@@ -11,6 +11,8 @@ namespace cabledoc {
 
 /// Returns whether lengths can be calculated with a length constant, in hundredths of pF per foot.
 bool isUsableLengthConstant(int lengthConstant);
+/// Returns whether a length reading is that of a pair that was measured: above 0 and below 60000.
+bool isLengthReading(int reading);
 /// Returns the reading for a length in feet, or nothing if no reading stands for that length.
 std::optional<int> readingOf(double feet, int lengthConstant);
 /// Returns the shortest number from which readingOf() gives the reading again, in metres or feet.

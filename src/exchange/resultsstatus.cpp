@@ -1,6 +1,7 @@
 #include "resultsstatus.h"
 
 #include "cablelength.h"
+#include "measurementtext.h"
 #include "messagetext.h"
 #include "resultscolumns.h"
 #include "testdef.h"
@@ -175,12 +176,11 @@ private:
 
     void checkLength(const Limits &limits, const cable_struct &results)
     {
-        constexpr int notMeasured = 60000;
         int longest = 0;
         int longestPair = 0;
         for (const int pair : limits.pairs) {
             const int reading = results.pair_length[pair];
-            if (reading > longest && reading < notMeasured) {
+            if (isLengthReading(reading) && reading > longest) {
                 longest = reading;
                 longestPair = pair;
             }

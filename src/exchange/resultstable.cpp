@@ -29,7 +29,7 @@ bool isPlain(const cable_struct &block, int lengthConstant)
 {
     cable_struct rest = block;
     for (qint32 &length : rest.pair_length) {
-        const bool isMeasured = length >= 1 && length < 60000 && isUsableLengthConstant(lengthConstant);
+        const bool isMeasured = isLengthReading(length) && isUsableLengthConstant(lengthConstant);
         length = isMeasured ? 0xFFFF : length;
     }
     for (int pair = 1; pair <= 4; ++pair)

@@ -27,12 +27,6 @@ QString pinsOf(int pair)
     return pins.at(std::size_t(pair));
 }
 
-bool isLength(int reading)
-{
-    constexpr int notMeasured = 60000; // and above
-    return reading > 0 && reading < notMeasured;
-}
-
 /// Returns the day of a time.
 QString dayOf(const QString &time)
 {
@@ -371,7 +365,7 @@ TableBlock TestContent::lengthTable(const snapshot::Cable &cable) const
     table.columns = {{ReportText::tr("Pair"), ReportColumn::Text}};
     for (int pair = 0; pair < pairCount; ++pair) {
         const int reading = cable.test.results.pair_length[pair];
-        if (!isLength(reading))
+        if (!isLengthReading(reading))
             continue;
         table.columns.append({pinsOf(pair), ReportColumn::Number});
         row.append({lengthText(double(correctedLength(reading, definition.length_constant())))});
